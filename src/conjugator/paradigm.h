@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "conjugator/grammar.h"
+
+#include <array>
+
+namespace lumora::conjugator {
+
+/// Every simple form of one verb.
+struct Paradigm {
+    Forms infinitive;
+    PersonForms present;
+    PersonForms imperfect;
+    PersonForms past;
+    PersonForms future;
+    PersonForms conditional;
+    PersonForms subjunctive;
+    PersonForms pastSubjunctive;
+    std::array<Forms, 3> imperative;
+    Forms gerund;
+    /// Masculine and feminine singular, masculine and feminine plural.
+    std::array<Forms, 4> participle;
+};
+
+} // namespace lumora::conjugator

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/swipe_action.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace lumora::platform {
+
+struct AlertAction {
+    std::string title;
+    ActionStyle style = ActionStyle::Normal;
+    /// May be empty: the action only dismisses.
+    std::function<void()> handler;
+};
+
+/// A message that waits for an answer.
+struct Alert {
+    std::optional<std::string> title;
+    std::string message;
+    std::vector<AlertAction> actions;
+};
+
+/// A choice that rises from what was tapped.
+struct ActionSheet {
+    std::optional<std::string> title;
+    std::vector<AlertAction> actions;
+};
+
+} // namespace lumora::platform

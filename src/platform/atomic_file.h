@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/error.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace lumora::platform {
+
+/// Writes `content` under a temporary name in the same folder, syncs it,
+/// renames it over `file` and syncs the folder: after any interruption the
+/// file holds its old content or the new one, whole. On failure the temporary
+/// file is removed.
+Result<void> writeFileAtomically(const std::filesystem::path& file, std::string_view content);
+
+/// Copies the bytes of `from` to `temporary` and syncs them; a copy that failed
+/// is removed.
+Result<void> copyFileDurably(const std::filesystem::path& from,
+                             const std::filesystem::path& temporary);
+
+/// Renames and syncs the folder.
+Result<void> renameDurably(const std::filesystem::path& from, const std::filesystem::path& to);
+
+/// Removes and syncs the folder; a file that is not there is no failure.
+Result<void> removeDurably(const std::filesystem::path& file);
+
+/// The file's bytes; files over `maximumBytes` are refused.
+Result<std::string> readFile(const std::filesystem::path& file,
+                             std::uintmax_t maximumBytes = 64 * 1024 * 1024);
+
+} // namespace lumora::platform

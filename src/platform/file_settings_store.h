@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/settings_store.h"
+
+#include <filesystem>
+
+namespace lumora::platform {
+
+/// Settings in one JSON file, written whole under a temporary name, synced and
+/// renamed, so that it is always one old or one new version.
+///
+/// A file that cannot be read as a flat object of booleans, numbers and texts
+/// is renamed to `<name>.damaged` (over an older one) and the store starts
+/// empty; single values of another kind are dropped. 1 and 1.0 stay apart.
+/// The folder is made when missing. Pending values are written at the end.
+class FileSettingsStore final : public SettingsStore {
+public:
+    explicit FileSettingsStore(std::filesystem::path file);
+    ~FileSettingsStore() override;
+
+    Result<void> synchronize() override;
+
+    /// Whether the file was found damaged and put aside.
+    bool wasDamaged() const { return damaged_; }
+
+private:
+    std::filesystem::path file_;
+    bool damaged_ = false;
+};
+
+} // namespace lumora::platform

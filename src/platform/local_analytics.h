@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/analytics.h"
+#include "platform/clock.h"
+
+#include <filesystem>
+
+namespace lumora::platform {
+
+/// One line of JSON an event ("time", "event", "parameters") in
+/// "analytics.jsonl", at most kMaximumBytes (the oldest half goes first), and
+/// the collection flag in "analytics.json" beside it. A folder that cannot be
+/// written, or a damaged flag file, loses events and nothing else.
+class LocalAnalytics final : public Analytics {
+public:
+    LocalAnalytics(std::filesystem::path folder, const Clock& clock);
+
+    void logEvent(std::string_view name,
+                  const std::map<std::string, std::string>& parameters) override;
+    void setAnalyticsCollectionEnabled(bool enabled) override;
+    bool isCollectionEnabled() const { return enabled_; }
+
+    static constexpr std::size_t kMaximumBytes = 256 * 1024;
+
+private:
+    std::filesystem::path folder_;
+    const Clock& clock_;
+    bool enabled_ = true;
+};
+
+} // namespace lumora::platform

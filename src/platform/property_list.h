@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace lumora::platform {
+
+/// A scalar of a property list: a number (booleans are numbers there) or a
+/// text. Every other kind reads as monostate.
+using PropertyListValue = std::variant<std::monostate, double, std::string>;
+using PropertyListDictionary = std::map<std::string, PropertyListValue, std::less<>>;
+
+/// Reads a property list, XML or binary, whose root is a dictionary; none for
+/// anything else.
+std::optional<PropertyListDictionary> readPropertyListDictionary(std::string_view bytes);
+
+} // namespace lumora::platform

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <iosfwd>
+
+namespace lumora::platform {
+
+class Analytics;
+class Bundle;
+class Clock;
+class CrashReporter;
+class Device;
+class NotificationCenter;
+class Presenter;
+class SettingsStore;
+class Storyboard;
+class ViewFactory;
+
+/// What every screen may ask of the machine. The composition root owns all of
+/// it and keeps it longer than any screen.
+struct Services {
+    NotificationCenter& notifications;
+    SettingsStore& settings;
+    const Bundle& bundle;
+    const Device& device;
+    Clock& clock;
+    CrashReporter& crashReporter;
+    Analytics& analytics;
+    /// Diagnostic lines for whoever started the program on a console.
+    std::ostream& console;
+    ViewFactory& views;
+    Presenter& presenter;
+    Storyboard& storyboard;
+};
+
+} // namespace lumora::platform

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Unicode operations on UTF-8 texts. Malformed bytes become U+FFFD.
+namespace lumora::platform {
+
+/// Upper case by the full mapping, independent of any language (ß becomes SS).
+std::string upperCased(std::string_view text);
+
+/// The canonically composed form (NFC).
+std::string composed(std::string_view text);
+
+/// Orders by the scalar values of the composed forms, no collation.
+bool scalarLess(std::string_view left, std::string_view right);
+
+/// Well-formed UTF-8 with each malformed sequence replaced.
+std::string wellFormed(std::string_view text);
+
+} // namespace lumora::platform
