@@ -484,9 +484,10 @@ Paradigm ModelTable::conjugate(std::string_view model, std::string_view infiniti
         },
         nothing);
 
-    if (const auto* persons = find("persons")) {
+    if (const auto* persons = find("persons"); persons != nullptr && !persons->missing) {
         for (std::size_t person = 0; person < kPersons; ++person) {
-            if (!persons->cells[person].empty()) {
+            verb.persons[person] = !persons->cells[person].empty();
+            if (verb.persons[person]) {
                 continue;
             }
             for (auto* tense : {&verb.present, &verb.imperfect, &verb.past, &verb.future,
@@ -496,7 +497,7 @@ Paradigm ModelTable::conjugate(std::string_view model, std::string_view infiniti
         }
         const std::array<std::size_t, 3> commanded{1, 3, 4};
         for (std::size_t form = 0; form < commanded.size(); ++form) {
-            if (persons->cells[commanded[form]].empty()) {
+            if (!verb.persons[commanded[form]]) {
                 verb.imperative[form].clear();
             }
         }

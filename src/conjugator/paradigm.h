@@ -11,6 +11,8 @@ namespace lumora::conjugator {
 
 /// Every simple form of one verb.
 struct Paradigm {
+    /// The persons in which the verb is used at all.
+    std::array<bool, kPersons> persons{true, true, true, true, true, true};
     Forms infinitive;
     PersonForms present;
     PersonForms imperfect;

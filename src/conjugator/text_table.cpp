@@ -6,7 +6,7 @@
 #include <unicode/bytestream.h>
 #include <unicode/normalizer2.h>
 #include <unicode/stringpiece.h>
-#include <unicode/utf8.h>
+#include <unicode/ustring.h>
 
 #include <cstdint>
 #include <fstream>
@@ -18,15 +18,9 @@ namespace {
 
 bool isUtf8(std::string_view text)
 {
-    const auto length = static_cast<int32_t>(text.size());
-    for (int32_t at = 0; at < length;) {
-        UChar32 c = 0;
-        U8_NEXT(text.data(), at, length, c);
-        if (c < 0) {
-            return false;
-        }
-    }
-    return true;
+    UErrorCode error = U_ZERO_ERROR;
+    u_strFromUTF8(nullptr, 0, nullptr, text.data(), static_cast<int32_t>(text.size()), &error);
+    return error != U_INVALID_CHAR_FOUND;
 }
 
 bool isComposed(std::string_view text)
@@ -37,7 +31,7 @@ bool isComposed(std::string_view text)
            && nfc->isNormalizedUTF8({text.data(), static_cast<int32_t>(text.size())}, error) != 0;
 }
 
-std::string quoted(const std::vector<std::string>& names)
+std::string listed(const std::vector<std::string>& names)
 {
     std::string text;
     for (const auto& name : names) {
@@ -94,7 +88,7 @@ TextTable TextTable::parse(std::string_view text, const std::string& file,
         Record record{number, split(line, "\t")};
         if (!headerSeen) {
             if (record.fields != header) {
-                throw TableError(file, number, "the header must be " + quoted(header));
+                throw TableError(file, number, "the header must be " + listed(header));
             }
             headerSeen = true;
             continue;
@@ -106,7 +100,7 @@ TextTable TextTable::parse(std::string_view text, const std::string& file,
         table.records_.push_back(std::move(record));
     }
     if (!headerSeen) {
-        throw TableError(file, number, "the header must be " + quoted(header));
+        throw TableError(file, number, "the header must be " + listed(header));
     }
     return table;
 }

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "conjugator/grammar.h"
+#include "conjugator/model_table.h"
+#include "conjugator/paradigm.h"
+#include "conjugator/verb_entry.h"
+
+#include <string>
+#include <vector>
+
+namespace lumora::conjugator {
+
+/// One form as it stands under its tense, or serves the search alone.
+struct Row {
+    Tense tense = Tense::Infinitif;
+    std::string pronoun;
+    std::string verb;
+    bool shown = true;
+};
+
+/// Turns a verb's entry into its rows: pronouns, elision, compound tenses,
+/// agreement.
+class Conjugator {
+public:
+    /// The table must have the models "avoir" and "être".
+    explicit Conjugator(ModelTable models);
+
+    const ModelTable& models() const { return models_; }
+
+    /// As dictionaries file it: "aimer", "évanouir (s')", "méfier (se)".
+    std::string headword(const VerbEntry& entry) const;
+
+    /// The shown rows in the order of the blocks and persons, then the others.
+    std::vector<Row> rows(const VerbEntry& entry) const;
+
+private:
+    ModelTable models_;
+    Paradigm avoir_;
+    Paradigm etre_;
+};
+
+} // namespace lumora::conjugator

@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "verbdb/content.h"
+
+#include "conjugator/model_table.h"
+#include "conjugator/text_table.h"
+
+#include <algorithm>
+#include <charconv>
+#include <map>
+#include <utility>
+
+namespace lumora::verbdb {
+
+namespace {
+
+using conjugator::Auxiliary;
+using conjugator::ModelTable;
+using conjugator::TextTable;
+
+enum Column : std::size_t { Id, Infinitive, Model, AuxiliaryVerb, Traits, Participle, English };
+
+constexpr std::size_t kMaximalSenses = 3;
+
+const std::vector<std::string>& verbHeader()
+{
+    static const std::vector<std::string> header = [] {
+        std::vector<std::string> names{"id",        "infinitive", "model",
+                                       "auxiliary", "traits",     "participle"};
+        names.insert(names.end(), kLanguages.begin(), kLanguages.end());
+        return names;
+    }();
+    return header;
+}
+
+std::string inQuotes(const std::string& text)
+{
+    return "\"" + text + "\"";
+}
+
+std::int64_t readId(const TextTable& table, const TextTable::Record& record)
+{
+    const auto& text = record.fields[Id];
+    std::int64_t id = 0;
+    const auto* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, id);
+    if (error != std::errc() || stop != end || id <= 0) {
+        table.refuse(record, "the id " + inQuotes(text) + " is not a positive whole number");
+    }
+    return id;
+}
+
+Auxiliary readAuxiliary(const TextTable& table, const TextTable::Record& record)
+{
+    static const std::map<std::string, Auxiliary> names{
+        {"avoir", Auxiliary::Avoir},
+        {"être", Auxiliary::Etre},
+        {"avoir+être", Auxiliary::AvoirThenEtre},
+        {"être+avoir", Auxiliary::EtreThenAvoir},
+    };
+    const auto found = names.find(record.fields[AuxiliaryVerb]);
+    if (found == names.end()) {
+        table.refuse(record, "unknown auxiliary " + inQuotes(record.fields[AuxiliaryVerb]));
+    }
+    return found->second;
+}
+
+void readTraits(const TextTable& table, const TextTable::Record& record,
+                conjugator::VerbEntry& entry)
+{
+    const std::map<std::string, bool*> names{
+        {"aspirated", &entry.aspirated},
+        {"impersonal", &entry.impersonal},
+        {"pronominal", &entry.pronominal},
+        {"defective", &entry.defective},
+    };
+    if (record.fields[Traits] != "-") {
+        for (const auto& trait : conjugator::split(record.fields[Traits], ",")) {
+            const auto found = names.find(trait);
+            if (found == names.end()) {
+                table.refuse(record, "unknown trait " + inQuotes(trait));
+            }
+            *found->second = true;
+        }
+    }
+    if (entry.pronominal && entry.auxiliary != Auxiliary::Etre) {
+        table.refuse(record, "a pronominal verb takes \"être\"");
+    }
+
+    const auto& participle = record.fields[Participle];
+    entry.invariableParticiple = participle == "invariable";
+    if (!entry.invariableParticiple && participle != "-") {
+        table.refuse(record, "unknown participle " + inQuotes(participle));
+    }
+}
+
+std::string readTranslation(const TextTable& table, const TextTable::Record& record,
+                            std::size_t language)
+{
+    const auto& text = record.fields[English + language];
+    const std::string name(kLanguages[language]);
+    const auto senses = conjugator::split(text, ", ");
+    if (text.empty() || text == "-") {
+        table.refuse(record, "the " + name + " translation is missing");
+    }
+    if (senses.size() > kMaximalSenses) {
+        table.refuse(record, "more than three senses in " + name);
+    }
+    for (const auto& sense : senses) {
+        if (sense.empty() || sense.starts_with(' ') || sense.ends_with(' ')
+            || sense.find(',') != std::string::npos) {
+            table.refuse(record, "the " + name + " senses are not divided by \", \"");
+        }
+    }
+    return text;
+}
+
+Verb readVerb(const TextTable& table, const TextTable::Record& record, const ModelTable& models)
+{
+    Verb verb;
+    verb.id = readId(table, record);
+    auto& entry = verb.entry;
+    entry.infinitive = record.fields[Infinitive];
+    entry.model = record.fields[Model];
+    if (!models.contains(entry.model)) {
+        table.refuse(record, "unknown model " + inQuotes(entry.model));
+    }
+    if (const auto misfit = models.misfit(entry.model, entry.infinitive); !misfit.empty()) {
+        table.refuse(record, misfit);
+    }
+    entry.auxiliary = readAuxiliary(table, record);
+    readTraits(table, record, entry);
+    for (std::size_t language = 0; language < kLanguages.size(); ++language) {
+        verb.translations[language] = readTranslation(table, record, language);
+    }
+    return verb;
+}
+
+} // namespace
+
+Content readContent(const std::filesystem::path& folder)
+{
+    const auto modelTable = TextTable::read(folder / "models.tsv", ModelTable::header());
+    ModelTable models(modelTable);
+    for (const auto* auxiliary : {"avoir", "être"}) {
+        if (!models.contains(auxiliary)) {
+            throw conjugator::TableError(modelTable.file(), 1,
+                                         std::string("there is no model \"") + auxiliary + "\"");
+        }
+    }
+
+    const auto retiredTable =
+        TextTable::read(folder / "retired_ids.tsv", {"id", "infinitive", "reason"});
+    std::map<std::int64_t, std::string> retired;
+    for (const auto& record : retiredTable.records()) {
+        retired.emplace(readId(retiredTable, record), record.fields[Infinitive]);
+    }
+
+    const auto verbTable = TextTable::read(folder / "verbs.tsv", verbHeader());
+    std::vector<Verb> verbs;
+    std::map<std::int64_t, std::size_t> lineOfId;
+    std::map<std::pair<std::string, std::string>, std::size_t> lineOfVerb;
+    for (const auto& record : verbTable.records()) {
+        auto verb = readVerb(verbTable, record, models);
+        if (const auto [at, fresh] = lineOfId.emplace(verb.id, record.line); !fresh) {
+            verbTable.refuse(record, "the id " + std::to_string(verb.id)
+                                         + " stands already in line " + std::to_string(at->second));
+        }
+        if (const auto gone = retired.find(verb.id); gone != retired.end()) {
+            verbTable.refuse(record, "the id " + std::to_string(verb.id) + " is retired; it was "
+                                         + inQuotes(gone->second));
+        }
+        const auto [at, fresh] = lineOfVerb.emplace(
+            std::pair(verb.entry.infinitive, verb.entry.model), record.line);
+        if (!fresh) {
+            verbTable.refuse(record, inQuotes(verb.entry.infinitive) + " with model "
+                                         + inQuotes(verb.entry.model) + " stands already in line "
+                                         + std::to_string(at->second));
+        }
+        verbs.push_back(std::move(verb));
+    }
+    if (verbs.empty()) {
+        throw conjugator::TableError(verbTable.file(), 1, "there are no verbs");
+    }
+    std::sort(verbs.begin(), verbs.end(),
+              [](const Verb& a, const Verb& b) { return a.id < b.id; });
+    return {conjugator::Conjugator(std::move(models)), std::move(verbs)};
+}
+
+} // namespace lumora::verbdb

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "conjugator/conjugator.h"
+#include "conjugator/verb_entry.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lumora::verbdb {
+
+/// The order of the columns of content/verbs.tsv.
+inline constexpr std::array<std::string_view, 6> kLanguages{"english", "german",  "dutch",
+                                                            "spanish", "italian", "portuguese"};
+
+struct Verb {
+    std::int64_t id = 0;
+    conjugator::VerbEntry entry;
+    /// By kLanguages.
+    std::array<std::string, kLanguages.size()> translations;
+};
+
+/// The tables of a content folder, read and found right.
+struct Content {
+    conjugator::Conjugator conjugator;
+    /// In the order of their ids.
+    std::vector<Verb> verbs;
+};
+
+/// Throws conjugator::TableError at the first bad line.
+Content readContent(const std::filesystem::path& folder);
+
+} // namespace lumora::verbdb

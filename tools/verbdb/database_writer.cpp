@@ -1,0 +1,185 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "verbdb/database_writer.h"
+
+#include "verbdb/simplify.h"
+
+#include <sqlite3.h>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace lumora::verbdb {
+
+namespace {
+
+// Fixed pages and rows written in the order of their keys make the file a
+// function of the tables. Without a rowid a verb's forms lie together and the
+// text is not kept a second time in an index.
+constexpr auto kSchema = R"(
+PRAGMA page_size = 4096;
+PRAGMA encoding = 'UTF-8';
+PRAGMA auto_vacuum = NONE;
+PRAGMA journal_mode = OFF;
+PRAGMA synchronous = OFF;
+BEGIN;
+CREATE TABLE verb (
+    _id INTEGER PRIMARY KEY,
+    french TEXT NOT NULL,
+    english TEXT NOT NULL,
+    german TEXT NOT NULL,
+    dutch TEXT NOT NULL,
+    spanish TEXT NOT NULL,
+    italian TEXT NOT NULL,
+    portuguese TEXT NOT NULL,
+    simplified_french TEXT NOT NULL,
+    simplified_german TEXT NOT NULL,
+    simplified_dutch TEXT NOT NULL,
+    simplified_spanish TEXT NOT NULL,
+    simplified_italian TEXT NOT NULL,
+    simplified_portuguese TEXT NOT NULL
+);
+CREATE TABLE conjugation (
+    _id INTEGER NOT NULL,
+    verbid INTEGER NOT NULL REFERENCES verb (_id),
+    pronoun TEXT NOT NULL,
+    verb TEXT NOT NULL,
+    type TEXT NOT NULL,
+    conj_order INTEGER NOT NULL,
+    display INTEGER NOT NULL,
+    PRIMARY KEY (verbid, conj_order)
+) WITHOUT ROWID;
+CREATE TABLE favourite (_id INTEGER PRIMARY KEY, verbid INTEGER);
+CREATE TABLE history (_id INTEGER PRIMARY KEY, verbid INTEGER, timestamp REAL);
+CREATE INDEX favourite_verbid ON favourite (verbid);
+CREATE INDEX history_verbid ON history (verbid);
+)";
+
+constexpr auto kInsertVerb =
+    "INSERT INTO verb VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14)";
+constexpr auto kInsertForm = "INSERT INTO conjugation VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7)";
+
+struct Closer {
+    void operator()(sqlite3* database) const { sqlite3_close(database); }
+    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+};
+
+class Output {
+public:
+    explicit Output(const std::filesystem::path& path)
+    {
+        sqlite3* opened = nullptr;
+        const int code = sqlite3_open(path.c_str(), &opened);
+        database_.reset(opened);
+        check(code);
+    }
+
+    void run(const char* sql) { check(sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr)); }
+
+    void check(int code)
+    {
+        if (code != SQLITE_OK && code != SQLITE_DONE) {
+            throw std::runtime_error(sqlite3_errmsg(database_.get()));
+        }
+    }
+
+    sqlite3* get() { return database_.get(); }
+
+private:
+    std::unique_ptr<sqlite3, Closer> database_;
+};
+
+/// An INSERT run once a row; bound texts must live until run().
+class Insertion {
+public:
+    Insertion(Output& output, const char* sql) : output_(output)
+    {
+        sqlite3_stmt* prepared = nullptr;
+        output.check(sqlite3_prepare_v2(output.get(), sql, -1, &prepared, nullptr));
+        statement_.reset(prepared);
+    }
+
+    Insertion& operator<<(std::int64_t number)
+    {
+        output_.check(sqlite3_bind_int64(statement_.get(), ++bound_, number));
+        return *this;
+    }
+
+    Insertion& operator<<(std::string_view text)
+    {
+        output_.check(sqlite3_bind_text(statement_.get(), ++bound_, text.data(),
+                                        static_cast<int>(text.size()), SQLITE_STATIC));
+        return *this;
+    }
+
+    void run()
+    {
+        output_.check(sqlite3_step(statement_.get()));
+        output_.check(sqlite3_reset(statement_.get()));
+        bound_ = 0;
+    }
+
+private:
+    Output& output_;
+    std::unique_ptr<sqlite3_stmt, Closer> statement_;
+    int bound_ = 0;
+};
+
+void writeRows(const Content& content, Output& output)
+{
+    Insertion insertVerb(output, kInsertVerb);
+    Insertion insertForm(output, kInsertForm);
+    std::int64_t formId = 0;
+    for (const auto& verb : content.verbs) {
+        const auto headword = content.conjugator.headword(verb.entry);
+        const auto simplifiedHeadword = simplified(headword);
+        std::array<std::string, kLanguages.size()> simplifiedTranslations;
+        insertVerb << verb.id << std::string_view(headword);
+        for (const auto& text : verb.translations) {
+            insertVerb << std::string_view(text);
+        }
+        insertVerb << std::string_view(simplifiedHeadword);
+        // English has no simplified column.
+        for (std::size_t language = 1; language < kLanguages.size(); ++language) {
+            simplifiedTranslations[language] = simplified(verb.translations[language]);
+            insertVerb << std::string_view(simplifiedTranslations[language]);
+        }
+        insertVerb.run();
+
+        std::int64_t order = 0;
+        for (const auto& row : content.conjugator.rows(verb.entry)) {
+            insertForm << ++formId << verb.id << std::string_view(row.pronoun)
+                       << std::string_view(row.verb) << conjugator::name(row.tense) << ++order
+                       << std::int64_t{row.shown};
+            insertForm.run();
+        }
+    }
+}
+
+} // namespace
+
+void writeDatabase(const Content& content, const std::filesystem::path& path)
+{
+    auto temporary = path;
+    temporary += ".part";
+    std::error_code ignored;
+    std::filesystem::remove(temporary, ignored);
+    try {
+        {
+            Output output(temporary);
+            output.run(kSchema);
+            writeRows(content, output);
+            output.run("COMMIT");
+        }
+        std::filesystem::rename(temporary, path);
+    } catch (const std::exception& error) {
+        std::filesystem::remove(temporary, ignored);
+        throw std::runtime_error(path.string() + ": " + error.what());
+    }
+}
+
+} // namespace lumora::verbdb
