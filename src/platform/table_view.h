@@ -45,6 +45,9 @@ public:
 
     virtual bool canEditRow(IndexPath path);
     virtual std::vector<SwipeAction> trailingSwipeActions(IndexPath path);
+    /// A finger on the row: the view calls this, the controller decides what
+    /// else than `didSelectRow` a tap does.
+    virtual void rowTapped(IndexPath path);
     virtual void didSelectRow(IndexPath path);
     virtual void accessoryButtonTapped(IndexPath path);
     virtual void switchToggled(IndexPath path, bool on);

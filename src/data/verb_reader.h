@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "data/conjugation.h"
+#include "data/verb.h"
+
+namespace lumora::platform {
+class ResultSet;
+}
+
+namespace lumora::data {
+
+/// Turns the rows of one statement into records. Looks the columns up once;
+/// NULL and columns that the statement does not select read as empty.
+class VerbReader {
+public:
+    /// Whether the simplified spellings are read too.
+    enum class Spellings { Plain, WithSimplified };
+
+    VerbReader(const platform::ResultSet& rows, Spellings spellings);
+
+    /// The verb of the row that `rows` stands on.
+    VerbPtr readVerb(const platform::ResultSet& rows) const;
+
+private:
+    struct TextColumn {
+        std::string Verb::*field;
+        int column;
+    };
+
+    int id_;
+    int favouriteAvailable_;
+    std::vector<TextColumn> texts_;
+};
+
+class ConjugationReader {
+public:
+    explicit ConjugationReader(const platform::ResultSet& rows);
+
+    std::shared_ptr<const Conjugation> readConjugation(const platform::ResultSet& rows) const;
+
+private:
+    int pronoun_;
+    int verb_;
+    int type_;
+    int pid_;
+};
+
+} // namespace lumora::data

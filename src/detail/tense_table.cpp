@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "detail/tense_table.h"
+
+#include "platform/bundle.h"
+#include "platform/settings_store.h"
+#include "settings/setting_keys.h"
+
+namespace lumora::detail {
+
+using data::Verb;
+
+const std::array<TenseField, 18> kTenses{{
+    {"conditionnelPasse1reForme", &Verb::conditionnelPasse1reForme},
+    {"conditionnelPasse2eForme", &Verb::conditionnelPasse2eForme},
+    {"conditionnelPresent", &Verb::conditionnelPresent},
+    {"imperatif", &Verb::imperatif},
+    {"indicatifFuturAnterieur", &Verb::indicatifFuturAnterieur},
+    {"indicatifFuturSimple", &Verb::indicatifFuturSimple},
+    {"indicatifImparfait", &Verb::indicatifImparfait},
+    {"indicatifPasseAnterieur", &Verb::indicatifPasseAnterieur},
+    {"indicatifPasseCompose", &Verb::indicatifPasseCompose},
+    {"indicatifPasseSimple", &Verb::indicatifPasseSimple},
+    {"indicatifPlusQueParfait", &Verb::indicatifPlusQueParfait},
+    {"indicatifPresent", &Verb::indicatifPresent},
+    {"infinitif", &Verb::infinitif},
+    {"participe", &Verb::participe},
+    {"subjonctifImparfait", &Verb::subjonctifImparfait},
+    {"subjonctifPasse", &Verb::subjonctifPasse},
+    {"subjonctifPlusqueParfait", &Verb::subjonctifPlusqueParfait},
+    {"subjonctifPresent", &Verb::subjonctifPresent},
+}};
+
+const std::array<std::string_view, kMoodCount> kMoodTitleKeys{
+    "type.indicative.full", "type.subjunctive.full", "type.conditional.full", "type.other.full"};
+
+namespace {
+
+constexpr TenseBlock kIndicative[] = {
+    {{"indicatifPresent", &Verb::indicatifPresent}, "tense.ind.present"},
+    {{"indicatifPasseCompose", &Verb::indicatifPasseCompose}, "tense.ind.presentperfect"},
+    {{"indicatifImparfait", &Verb::indicatifImparfait}, "tense.ind.imperfect"},
+    {{"indicatifPlusQueParfait", &Verb::indicatifPlusQueParfait}, "tense.ind.pluperfect"},
+    {{"indicatifFuturSimple", &Verb::indicatifFuturSimple}, "tense.ind.future"},
+    {{"indicatifFuturAnterieur", &Verb::indicatifFuturAnterieur}, "tense.ind.pastfuture"},
+    {{"indicatifPasseSimple", &Verb::indicatifPasseSimple}, "tense.ind.simplepast"},
+    {{"indicatifPasseAnterieur", &Verb::indicatifPasseAnterieur}, "tense.ind.pastperfect"},
+};
+
+constexpr TenseBlock kSubjunctive[] = {
+    {{"subjonctifPresent", &Verb::subjonctifPresent}, "tense.sub.present"},
+    {{"subjonctifPasse", &Verb::subjonctifPasse}, "tense.sub.past"},
+    {{"subjonctifImparfait", &Verb::subjonctifImparfait}, "tense.sub.imperfect"},
+    {{"subjonctifPlusqueParfait", &Verb::subjonctifPlusqueParfait}, "tense.sub.pluperfect"},
+};
+
+constexpr TenseBlock kConditional[] = {
+    {{"conditionnelPresent", &Verb::conditionnelPresent}, "tense.con.present"},
+    {{"conditionnelPasse1reForme", &Verb::conditionnelPasse1reForme}, "tense.con.firstpast"},
+    {{"conditionnelPasse2eForme", &Verb::conditionnelPasse2eForme}, "tense.con.secondpast"},
+};
+
+constexpr TenseBlock kOther[] = {
+    {{"imperatif", &Verb::imperatif}, "tense.other.imperative"},
+    {{"participe", &Verb::participe}, "tense.other.participle"},
+};
+
+} // namespace
+
+std::span<const TenseBlock> blocksOfSegment(int segment)
+{
+    switch (segment) {
+    case static_cast<int>(Mood::Indicative):
+        return kIndicative;
+    case static_cast<int>(Mood::Subjunctive):
+        return kSubjunctive;
+    case static_cast<int>(Mood::Conditional):
+        return kConditional;
+    case static_cast<int>(Mood::Other):
+        return kOther;
+    default:
+        return {};
+    }
+}
+
+std::string_view analyticsNameOfSegment(int segment)
+{
+    static constexpr std::string_view kNames[] = {"CONJUGATIONS_IND", "CONJUGATIONS_SUB",
+                                                  "CONJUGATIONS_CON", "CONJUGATIONS_OTHER"};
+    return segment >= 0 && segment < kMoodCount ? kNames[segment] : "CONJUGATIONS_NA";
+}
+
+std::string tenseTitle(std::string_view titleKey, const platform::Bundle& bundle,
+                       const platform::SettingsStore& settings)
+{
+    if (settings.boolForKey(settings::kShowTranslated)) {
+        return platform::localizedString(bundle, std::string{titleKey} + "_french");
+    }
+    return platform::localizedString(bundle, titleKey);
+}
+
+} // namespace lumora::detail

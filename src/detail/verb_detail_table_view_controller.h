@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "data/verb.h"
+#include "detail/verb_collection_view_cell.h"
+#include "platform/collection_view.h"
+#include "platform/notification_center.h"
+#include "platform/services.h"
+#include "platform/table_view.h"
+#include "platform/view_controller.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace lumora::platform {
+class Database;
+class DatabaseQueue;
+} // namespace lumora::platform
+
+namespace lumora::detail {
+
+/// The centred text of a detail screen without a verb.
+struct SelectVerbLabel {
+    std::string text;
+    bool hidden = false;
+    platform::Color backgroundColor{0.99, 0.99, 0.99, 1};
+    platform::Color borderColor{0.8, 0.8, 0.8, 1};
+    double cornerRadius = 5;
+    double borderWidth = 1;
+};
+
+struct VerbTypeSegmentedControl {
+    std::vector<std::string> titles;
+    int selected = 0;
+    bool hidden = false;
+};
+
+struct Toolbar {
+    bool hidden = false;
+};
+
+/// One verb: its conjugations by mood, as a table and as a collection of the
+/// same data, the favourite toggle, and the record of having been seen.
+///
+/// The verb is handed over before the screen is built; a screen shows one verb
+/// for its life. GUI thread only.
+class VerbDetailTableViewController final : public platform::ViewController,
+                                            public platform::TableDataSource,
+                                            public platform::CollectionDataSource {
+public:
+    explicit VerbDetailTableViewController(const platform::Services& services);
+    ~VerbDetailTableViewController() override;
+
+    // The members of the screen's interface description. Views read them and
+    // are told by the outlet listener when one changed.
+    double cellSpacingCollectionView = 20.0;
+    int numberOfColumnsCollectionView = 2;
+    VerbTypeSegmentedControl verbTypeSegmentedControl;
+    std::unique_ptr<platform::TableView> tableView;
+    std::unique_ptr<platform::CollectionView> collectionView;
+    platform::BarButton favouriteBarButton;
+    Toolbar toolbar;
+    /// Points.
+    double toolbarHeightConstaint = 44;
+    std::optional<double> defaultToolbarHeight;
+    SelectVerbLabel selectVerbLabel;
+
+    /// The shared queue. Not owned.
+    platform::DatabaseQueue* queue = nullptr;
+    data::VerbPtr selectedVerb;
+    /// Whether the screen is shown as a preview.
+    bool isPeeking = false;
+
+    void setOutletListener(std::function<void()> listener);
+
+    /// Puts the split view's button on the left, beside the way back.
+    void offerDisplayModeButton(platform::SplitViewController* splitView);
+
+    void viewWillAppear() override;
+    void viewDidAppear() override;
+
+    void toggleFavourite();
+    /// The mood control's value changed to `segment`.
+    void selectVerbTypes(int segment);
+
+    int numberOfSections() override;
+    int numberOfRowsInSection(int section) override;
+    std::optional<std::string> titleForHeaderInSection(int section) override;
+    platform::TableCell cellForRow(platform::IndexPath path) override;
+
+    int numberOfItems() override;
+    platform::CollectionCell cellForItem(int item) override;
+    std::string headerText() override;
+    platform::CollectionLayout layout() override;
+    void accessoryButtonTapped(platform::IndexPath path) override;
+    void audioTapped(int item, int row) override;
+
+protected:
+    void viewDidLoad() override;
+
+private:
+    /// A tense's forms and title, as a mood shows them at a position.
+    struct Block {
+        const data::ConjugationList* forms = nullptr;
+        std::optional<std::string> title;
+    };
+
+    Block blockAt(int segment, int position) const;
+    void showVerb();
+    void countView();
+    void loadConjugations(platform::Database& database);
+    void recordHistory(platform::Database& database);
+    void refreshConjugations();
+    void verbFavouriteToggled(const platform::Notification& notification);
+    void updateFavouriteIcon();
+    void updateNavigationItem();
+    void updateEmptyState(double toolbarHeight);
+    void outletsChanged();
+    void logReadingError(const platform::Database& database);
+    platform::PlayControl playControlFor(platform::IndexPath path);
+
+    platform::Services services_;
+    std::vector<VerbCollectionViewCell> cells_;
+    std::vector<std::vector<std::shared_ptr<CERoundProgressView>>> rowIndicators_;
+    std::function<void()> outletListener_;
+    bool buttonsEnabled_ = false;
+    platform::NotificationCenter::Subscription refresh_;
+    platform::NotificationCenter::Subscription favouriteToggled_;
+};
+
+} // namespace lumora::detail

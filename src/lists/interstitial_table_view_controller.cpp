@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "lists/interstitial_table_view_controller.h"
+
+#include "detail/verb_detail_table_view_controller.h"
+#include "platform/navigation_controller.h"
+#include "platform/presenter.h"
+#include "platform/split_view_controller.h"
+
+#include <cstdlib>
+
+namespace lumora::lists {
+
+void InterstitialTableViewController::viewDidLoad()
+{
+    TableViewController::viewDidLoad();
+}
+
+void InterstitialTableViewController::rowTapped(platform::IndexPath path)
+{
+    services().presenter.performSegue(*this, "showDetail", path);
+    didSelectRow(path);
+}
+
+void InterstitialTableViewController::didSelectRow(platform::IndexPath path)
+{
+    tableView().deselectRow(path);
+}
+
+bool InterstitialTableViewController::shouldPerformSegue(std::string_view /*identifier*/)
+{
+    return true;
+}
+
+void InterstitialTableViewController::prepareForSegue(const platform::Segue& segue)
+{
+    if (segue.identifier != "showDetail") {
+        return;
+    }
+    auto& stack = dynamic_cast<platform::NavigationController&>(segue.destination);
+    auto& detail =
+        dynamic_cast<detail::VerbDetailTableViewController&>(*stack.topViewController());
+
+    detail.offerDisplayModeButton(splitViewController());
+    const auto selected = tableView().indexPathForSelectedRow();
+    const auto path = selected ? selected : segue.sender;
+    if (path) {
+        detail.selectedVerb = verbAt(*path);
+    }
+    detail.queue = queue;
+}
+
+} // namespace lumora::lists

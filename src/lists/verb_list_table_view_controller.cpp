@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "lists/verb_list_table_view_controller.h"
+
+#include "data/favourite_statements.h"
+#include "data/verb_reader.h"
+#include "lists/sort_column.h"
+#include "lists/verb_cell.h"
+#include "platform/analytics.h"
+#include "platform/bundle.h"
+#include "platform/crash_reporter.h"
+#include "platform/database_queue.h"
+#include "platform/text.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace lumora::lists {
+
+namespace {
+
+std::string listStatement(std::string_view sortColumn)
+{
+    std::string statement =
+        "SELECT distinct verb._id, english, portuguese, simplified_portuguese, german, "
+        "simplified_german, french, simplified_french, dutch, simplified_dutch, spanish, "
+        "simplified_spanish, italian, simplified_italian, substr(";
+    statement += sortColumn;
+    statement += ", 1, 1) as index_letter, favourite._id as favourite_available\n"
+                 "FROM verb LEFT OUTER JOIN favourite ON verb._id = favourite.verbid\n"
+                 "ORDER BY ";
+    statement += sortColumn;
+    return statement;
+}
+
+} // namespace
+
+void VerbListTableViewController::viewDidLoad()
+{
+    InterstitialTableViewController::viewDidLoad();
+    favouriteToggled_ = services().notifications.addObserver(
+        "VerbFavouriteToggled",
+        [this](const platform::Notification& notification) { verbFavouriteToggled(notification); });
+    reloadVerbs();
+}
+
+void VerbListTableViewController::viewWillAppear()
+{
+    if (const auto selected = tableView().indexPathForSelectedRow()) {
+        tableView().deselectRow(*selected);
+    }
+}
+
+void VerbListTableViewController::viewDidAppear()
+{
+    services().analytics.logEvent("verb_list", {});
+    isVisible = true;
+}
+
+void VerbListTableViewController::viewDidDisappear()
+{
+    isVisible = false;
+}
+
+void VerbListTableViewController::verbFavouriteToggled(const platform::Notification& notification)
+{
+    const auto* sender = std::get_if<const platform::ViewController*>(&notification.object);
+    if (sender != nullptr && *sender == this) {
+        return;
+    }
+    reloadVerbs();
+}
+
+void VerbListTableViewController::reloadVerbs()
+{
+    const auto sortColumn = listSortColumn(services().settings, services().device);
+    verbs.clear();
+    if (queue == nullptr) {
+        return;
+    }
+    readVerbs(*queue, sortColumn);
+}
+
+void VerbListTableViewController::readVerbs(platform::DatabaseQueue& database,
+                                            std::string_view sortColumn)
+{
+    database.inDatabase([&](platform::Database& connection) {
+        auto rows = connection.executeQuery(listStatement(sortColumn), {});
+        bool failed = !rows;
+        if (rows) {
+            const data::VerbReader reader{*rows, data::VerbReader::Spellings::WithSimplified};
+            const int indexLetter = rows->columnIndex("index_letter");
+            // Neighbouring rows mostly share their letter.
+            std::string lastLetter;
+            std::vector<data::VerbPtr>* section = nullptr;
+            while (rows->next()) {
+                auto letter = rows->stringForColumn(indexLetter);
+                if (section == nullptr || letter != lastLetter) {
+                    section = &verbs[platform::upperCased(letter)];
+                    lastLetter = std::move(letter);
+                }
+                section->push_back(reader.readVerb(*rows));
+            }
+            failed = rows->failed();
+        }
+        if (failed) {
+            services().crashReporter.logWithFormat(
+                "An error occurred when reading list of verbs: %@ (%d)",
+                {connection.lastErrorMessage(), connection.lastErrorCode()});
+        }
+        if (!failed || !verbs.empty()) {
+            keys.clear();
+            for (const auto& [letter, section_] : verbs) {
+                keys.push_back(letter);
+            }
+            std::sort(keys.begin(), keys.end(), platform::scalarLess);
+        }
+        tableView().reloadData();
+        connection.close();
+    });
+}
+
+const std::string& VerbListTableViewController::keyOfSection(int section) const
+{
+    if (section < 0 || static_cast<std::size_t>(section) >= keys.size()) {
+        std::abort();
+    }
+    return keys[static_cast<std::size_t>(section)];
+}
+
+int VerbListTableViewController::numberOfSections()
+{
+    return static_cast<int>(keys.size());
+}
+
+int VerbListTableViewController::numberOfRowsInSection(int section)
+{
+    const auto found = verbs.find(keyOfSection(section));
+    return found == verbs.end() ? 0 : static_cast<int>(found->second.size());
+}
+
+std::optional<std::string> VerbListTableViewController::titleForHeaderInSection(int section)
+{
+    return keyOfSection(section);
+}
+
+std::vector<std::string> VerbListTableViewController::sectionIndexTitles()
+{
+    return keys;
+}
+
+int VerbListTableViewController::sectionForSectionIndexTitle(std::string_view title, int /*index*/)
+{
+    const auto found = std::find(keys.begin(), keys.end(), title);
+    return found == keys.end() ? -1 : static_cast<int>(found - keys.begin());
+}
+
+data::VerbPtr VerbListTableViewController::verbAt(platform::IndexPath path) const
+{
+    const auto found = verbs.find(keyOfSection(path.section));
+    if (found == verbs.end() || path.row < 0 ||
+        static_cast<std::size_t>(path.row) >= found->second.size()) {
+        return nullptr;
+    }
+    return found->second[static_cast<std::size_t>(path.row)];
+}
+
+platform::TableCell VerbListTableViewController::cellForRow(platform::IndexPath path)
+{
+    const auto verb = verbAt(path);
+    return verb ? verbCell(*verb, services()) : platform::TableCell{};
+}
+
+bool VerbListTableViewController::canEditRow(platform::IndexPath /*path*/)
+{
+    return true;
+}
+
+std::vector<platform::SwipeAction>
+VerbListTableViewController::trailingSwipeActions(platform::IndexPath path)
+{
+    const auto verb = verbAt(path);
+    if (!verb) {
+        return {};
+    }
+    platform::SwipeAction action;
+    const bool favourite = verb->isFavourite;
+    action.title = platform::localizedString(
+        services().bundle, favourite ? "action.favourite.remove" : "action.favourite");
+    action.backgroundColor = favourite ? platform::kRedColor : platform::kLightGrayColor;
+    action.image = favourite ? "remove" : "favourite";
+    action.handler = [this, verb, path](const std::function<void(bool)>& completed) {
+        toggleFavourite(verb, path);
+        completed(true);
+    };
+    return {action};
+}
+
+void VerbListTableViewController::toggleFavourite(const data::VerbPtr& verb,
+                                                  platform::IndexPath path)
+{
+    verb->isFavourite = !verb->isFavourite;
+    tableView().reloadRow(path);
+    if (queue == nullptr) {
+        std::abort();
+    }
+    queue->inDatabase([&](platform::Database& connection) {
+        data::updateFavourite(connection, *verb, services().console);
+        connection.close();
+    });
+    services().notifications.post({"VerbFavouriteToggled", this, {{"verb", verb}}});
+}
+
+} // namespace lumora::lists
