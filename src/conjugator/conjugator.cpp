@@ -68,7 +68,10 @@ enum class Number { Singular, Plural, Either };
 /// The ways in which a participle agrees with the subject of être.
 class Agreement {
 public:
-    Agreement(const Paradigm& verb, bool agrees) : forms_(verb.participle), agrees_(agrees) {}
+    Agreement(const Paradigm& verb, bool agrees)
+        : forms_(verb.participle), agrees_(agrees && !verb.participle[1].empty())
+    {
+    }
 
     /// "allé(e)s", "épris(es)": one text for every gender.
     Forms bracketed(Number number) const
