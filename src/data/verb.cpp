@@ -18,9 +18,9 @@ namespace {
 using Text = std::string Verb::*;
 
 constexpr std::pair<std::string_view, Text> kByCode[] = {
-    {"en", &Verb::english},    {"fr", &Verb::french},  {"de", &Verb::german},
-    {"es", &Verb::spanish},    {"pt", &Verb::portuguese}, {"it", &Verb::italian},
-    {"nl", &Verb::dutch},      {"tr", &Verb::turkish},
+    {"en", &Verb::english}, {"fr", &Verb::french},     {"de", &Verb::german},
+    {"es", &Verb::spanish}, {"pt", &Verb::portuguese}, {"it", &Verb::italian},
+    {"nl", &Verb::dutch},   {"tr", &Verb::turkish},
 };
 
 // A device set to Turkish gets English: there is nothing Turkish to show.

@@ -15,8 +15,8 @@ namespace {
 using TextField = std::pair<std::string_view, std::string Verb::*>;
 
 constexpr TextField kPlain[] = {
-    {"english", &Verb::english}, {"german", &Verb::german},   {"french", &Verb::french},
-    {"spanish", &Verb::spanish}, {"dutch", &Verb::dutch},     {"italian", &Verb::italian},
+    {"english", &Verb::english},       {"german", &Verb::german}, {"french", &Verb::french},
+    {"spanish", &Verb::spanish},       {"dutch", &Verb::dutch},   {"italian", &Verb::italian},
     {"portuguese", &Verb::portuguese},
 };
 
@@ -56,10 +56,11 @@ VerbPtr VerbReader::readVerb(const platform::ResultSet& rows) const
 }
 
 ConjugationReader::ConjugationReader(const platform::ResultSet& rows)
-    : pronoun_{rows.columnIndex("pronoun")}, verb_{rows.columnIndex("verb")},
-      type_{rows.columnIndex("type")}, pid_{rows.columnIndex("pid")}
-{
-}
+    : pronoun_{rows.columnIndex("pronoun")},
+      verb_{rows.columnIndex("verb")},
+      type_{rows.columnIndex("type")},
+      pid_{rows.columnIndex("pid")}
+{}
 
 std::shared_ptr<const Conjugation>
 ConjugationReader::readConjugation(const platform::ResultSet& rows) const

@@ -97,7 +97,6 @@ public:
     platform::CollectionCell cellForItem(int item) override;
     std::string headerText() override;
     platform::CollectionLayout layout() override;
-    void accessoryButtonTapped(platform::IndexPath path) override;
     void audioTapped(int item, int row) override;
 
 protected:

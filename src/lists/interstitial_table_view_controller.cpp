@@ -39,8 +39,7 @@ void InterstitialTableViewController::prepareForSegue(const platform::Segue& seg
         return;
     }
     auto& stack = dynamic_cast<platform::NavigationController&>(segue.destination);
-    auto& detail =
-        dynamic_cast<detail::VerbDetailTableViewController&>(*stack.topViewController());
+    auto& detail = dynamic_cast<detail::VerbDetailTableViewController&>(*stack.topViewController());
 
     detail.offerDisplayModeButton(splitViewController());
     const auto selected = tableView().indexPathForSelectedRow();

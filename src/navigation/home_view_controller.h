@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "data/verb.h"
+#include "lists/search_results_table_view_controller.h"
 #include "platform/notification_center.h"
 #include "platform/services.h"
 #include "platform/view_controller.h"
@@ -10,12 +12,19 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lumora::lists {
+class FavouritesTableViewController;
+class HistoryTableViewController;
 class InterstitialTableViewController;
 class VerbListTableViewController;
 } // namespace lumora::lists
+
+namespace lumora::detail {
+class VerbDetailTableViewController;
+}
 
 namespace lumora::platform {
 class DatabaseQueue;
@@ -37,28 +46,61 @@ struct TabBar {
     Tab selectedItem = Tab::List;
 };
 
-/// The first screen: the list screens behind a tab bar.
+/// The search field in the navigation bar.
+struct SearchBar {
+    std::string placeholder;
+    std::string text;
+    std::string accessibilityIdentifier;
+    /// Whether the field is to have the keyboard; the view keeps it true to
+    /// what the user did since.
+    bool isFirstResponder = false;
+};
+
+/// The first screen: three lists behind a tab bar and the search over them.
 ///
-/// A list screen is made when it is first shown and kept. GUI thread only.
-class HomeViewController final : public platform::ViewController {
+/// A list screen is made when it is first shown and kept, as are the search
+/// results. GUI thread only.
+class HomeViewController final : public platform::ViewController,
+                                 public lists::SearchResultsTableViewControllerDelegate {
 public:
     explicit HomeViewController(const platform::Services& services);
     ~HomeViewController() override;
 
-    /// The shared queue, handed on to every list. Not owned; null when the
-    /// database could not be opened.
+    /// The verb detail screen of a split layout when this screen was built;
+    /// empty otherwise.
+    std::weak_ptr<platform::ViewController> detailViewController;
+    /// The shared queue, handed on to every screen made here. Not owned; null
+    /// when the database could not be opened.
     platform::DatabaseQueue* queue = nullptr;
 
     TabBar tabBar;
+    SearchBar searchBar;
+    /// The verb last chosen among the search results.
+    data::VerbPtr selectedSearchResult;
+
     /// The list on show; null before the screen is built.
     const std::shared_ptr<platform::ViewController>& currentChild() const { return currentChild_; }
+    /// Null before the screen is built.
+    const std::shared_ptr<lists::SearchResultsTableViewController>& searchResultsController() const
+    {
+        return searchResultsController_;
+    }
 
-    /// The view's wish to hear of a changed tab bar or child; one listener.
+    /// The view's wish to hear of a changed tab bar, search bar or child; one
+    /// listener.
     void setOutletListener(std::function<void()> listener);
 
     void didSelectItem(Tab tag);
+    /// The user changed the text of the search field.
+    void searchTextChanged(std::string text);
+    void updateSearchResults();
+    /// Puts the cursor into the search field.
+    void focusSearchBar();
+
+    void didSelectSearchResult(const data::VerbPtr& verb) override;
 
     void viewWillAppear() override;
+    void prepareForSegue(const platform::Segue& segue) override;
     void setSplitViewController(platform::SplitViewController* splitView) override;
 
 protected:
@@ -66,17 +108,23 @@ protected:
 
 private:
     void openTab(const platform::Notification& notification);
+    void makeSearchResultsController();
+    void findDetailViewController();
     void showTab(Tab tab);
     void buildTabBarItems();
-    std::shared_ptr<lists::InterstitialTableViewController> listScreen();
+    std::shared_ptr<lists::InterstitialTableViewController> listFor(Tab tab);
     void sendCrashReportValues();
     void outletsChanged();
 
     platform::Services services_;
     TabBarItem listTabBarItem_;
-    std::shared_ptr<lists::InterstitialTableViewController> list_;
+    TabBarItem favouritesTabBarItem_;
+    TabBarItem historyTabBarItem_;
+    std::shared_ptr<lists::SearchResultsTableViewController> searchResultsController_;
+    std::vector<std::shared_ptr<lists::InterstitialTableViewController>> children_;
     std::shared_ptr<platform::ViewController> currentChild_;
     std::function<void()> outletListener_;
+    platform::NotificationCenter::Subscription historyFeature_;
     platform::NotificationCenter::Subscription tabOpen_;
 };
 

@@ -32,9 +32,9 @@ std::string effectiveTranslationLanguage(const platform::SettingsStore& settings
 TranslationColumn columnForLanguage(std::string_view language)
 {
     static constexpr std::pair<std::string_view, TranslationColumn> kByPrefix[] = {
-        {"de", TranslationColumn::German},     {"es", TranslationColumn::Spanish},
-        {"nl", TranslationColumn::Dutch},      {"pt", TranslationColumn::Portuguese},
-        {"it", TranslationColumn::Italian},    {"fr", TranslationColumn::French},
+        {"de", TranslationColumn::German},  {"es", TranslationColumn::Spanish},
+        {"nl", TranslationColumn::Dutch},   {"pt", TranslationColumn::Portuguese},
+        {"it", TranslationColumn::Italian}, {"fr", TranslationColumn::French},
     };
     for (const auto& [prefix, column] : kByPrefix) {
         if (language.starts_with(prefix)) {

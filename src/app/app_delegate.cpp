@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/app_delegate.h"
+
+#include "app/database_preparation.h"
+#include "app/old_settings_file.h"
+#include "detail/verb_detail_table_view_controller.h"
+#include "navigation/home_view_controller.h"
+#include "platform/clock.h"
+#include "platform/notification_center.h"
+#include "platform/settings_store.h"
+#include "settings/default_settings.h"
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <ostream>
+#include <utility>
+
+namespace lumora::app {
+
+namespace {
+
+constexpr std::string_view kSearchShortcut = "com.brindle.shortcut.search";
+constexpr std::pair<std::string_view, const char*> kTabShortcuts[] = {
+    {"com.brindle.shortcut.favourite", "Favourites"},
+    {"com.brindle.shortcut.history", "History"},
+    {"com.brindle.shortcut.list", "List"},
+};
+
+[[noreturn]] void stop(const char* why)
+{
+    std::fprintf(stderr, "lumora: %s\n", why);
+    std::abort();
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(const platform::Services& services, UserFolders folders,
+                         platform::Color accentPrimary)
+    : services_{services}, folders_{std::move(folders)}, accentPrimary_{accentPrimary}
+{}
+
+bool AppDelegate::didFinishLaunching(const LaunchOptions& options)
+{
+    openDatabase();
+    setAppearance();
+    wirePanes();
+    settings::seedDefaultSettings(services_.settings);
+    // After the seeding, so that carried values win.
+    carryOverOldSettings(folders_.firstDocuments, services_.settings, services_.crashReporter);
+    if (options.shortcutItem) {
+        handleShortcutItem(*options.shortcutItem);
+        return false;
+    }
+    return true;
+}
+
+void AppDelegate::openDatabase()
+{
+    const auto fail = [this](std::string_view why) {
+        services_.console << "Unable to initialise database " << why << std::endl;
+    };
+    if (!folders_.documents) {
+        fail("The documents directory cannot be located.");
+        return;
+    }
+    const auto prepared = prepareDatabase(*folders_.documents, services_.bundle, services_.settings,
+                                          services_.crashReporter);
+    if (!prepared) {
+        fail(prepared.error().message);
+        return;
+    }
+    queue = platform::DatabaseQueue::open(platform::fileUrl(workingDatabase(*folders_.documents)));
+}
+
+void AppDelegate::setAppearance()
+{
+    appearance_ = {platform::kWhiteColor, accentPrimary_, platform::kWhiteColor, accentPrimary_,
+                   platform::kDarkGrayColor};
+}
+
+platform::SplitViewController& AppDelegate::splitView()
+{
+    auto* split = dynamic_cast<platform::SplitViewController*>(window.rootViewController.get());
+    if (split == nullptr) {
+        stop("the root screen is not a split view");
+    }
+    return *split;
+}
+
+void AppDelegate::wirePanes()
+{
+    auto& split = splitView();
+    const auto panes = split.viewControllers();
+    auto* lists = dynamic_cast<platform::NavigationController*>(panes.front());
+    auto* details = dynamic_cast<platform::NavigationController*>(panes.back());
+    if (lists == nullptr || details == nullptr || details->topViewController() == nullptr) {
+        stop("the panes are not navigation stacks");
+    }
+    auto item = details->topViewController()->navigationItem();
+    item.leftBarButton = split.displayModeButtonItem();
+    details->topViewController()->setNavigationItem(std::move(item));
+    split.setDelegate(this);
+
+    auto* home = dynamic_cast<navigation::HomeViewController*>(lists->topViewController());
+    if (home == nullptr) {
+        stop("the first screen is not the home screen");
+    }
+    home->queue = queue.get();
+}
+
+void AppDelegate::performActionForShortcutItem(const ShortcutItem& item,
+                                               const std::function<void(bool)>& completed)
+{
+    handleShortcutItem(item);
+    completed(true);
+}
+
+void AppDelegate::handleShortcutItem(const ShortcutItem& item)
+{
+    if (item.type == kSearchShortcut) {
+        openSearch();
+        return;
+    }
+    for (const auto& [type, tab] : kTabShortcuts) {
+        if (item.type == type) {
+            services_.notifications.post({"TabOpenEvent", {}, {{"SelectedTab", std::string{tab}}}});
+            return;
+        }
+    }
+}
+
+void AppDelegate::openSearch()
+{
+    auto& split = splitView();
+    if (!split.isCollapsed()) {
+        return;
+    }
+    auto* stack = dynamic_cast<platform::NavigationController*>(split.viewControllers().front());
+    if (stack == nullptr) {
+        return;
+    }
+    if (dynamic_cast<navigation::HomeViewController*>(stack->topViewController()) == nullptr) {
+        stack->popToRootViewController();
+    }
+    services_.clock.runLater(std::chrono::milliseconds{100}, [stack] {
+        auto* home = dynamic_cast<navigation::HomeViewController*>(stack->topViewController());
+        if (home != nullptr) {
+            home->focusSearchBar();
+        }
+    });
+}
+
+bool AppDelegate::collapseSecondaryViewControllerOntoPrimary(platform::ViewController& secondary,
+                                                             platform::ViewController& /*primary*/)
+{
+    auto* stack = dynamic_cast<platform::NavigationController*>(&secondary);
+    if (stack == nullptr) {
+        return false;
+    }
+    const auto* detail =
+        dynamic_cast<detail::VerbDetailTableViewController*>(stack->topViewController());
+    return detail != nullptr && detail->selectedVerb == nullptr;
+}
+
+} // namespace lumora::app

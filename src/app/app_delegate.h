@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/color.h"
+#include "platform/database_queue.h"
+#include "platform/services.h"
+#include "platform/split_view_controller.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lumora::app {
+
+/// A way into the program from the home screen, by its fixed type text.
+struct ShortcutItem {
+    std::string type;
+};
+
+struct LaunchOptions {
+    std::optional<ShortcutItem> shortcutItem;
+};
+
+/// The window and its root screen.
+struct Window {
+    std::shared_ptr<platform::ViewController> rootViewController;
+};
+
+/// Where the user's files are.
+struct UserFolders {
+    /// Of the user domain; none when it cannot be located.
+    std::optional<std::filesystem::path> documents;
+    /// The first over all domains with the tilde expanded, as text.
+    std::optional<std::string> firstDocuments;
+};
+
+/// The colours that all bars share.
+struct BarAppearance {
+    platform::Color navigationBarTint;
+    platform::Color navigationBarBackground;
+    platform::Color navigationBarTitle;
+    platform::Color tabBarTint;
+    platform::Color segmentedControlTint;
+};
+
+/// Runs the launch: database, appearance, panes, settings, shortcut; and
+/// decides what a narrow window shows. GUI thread only; lives as long as the
+/// program.
+class AppDelegate final : public platform::SplitViewControllerDelegate {
+public:
+    /// `crashReporter` and `analytics` of the services run already, so that
+    /// everything from here on may log.
+    AppDelegate(const platform::Services& services, UserFolders folders,
+                platform::Color accentPrimary);
+
+    Window window;
+    /// Empty when the database could not be prepared or opened.
+    std::unique_ptr<platform::DatabaseQueue> queue;
+    /// Not used by anything yet.
+    bool hasInternetConnection = false;
+
+    /// The window must hold its root screen by now. False when the launch came
+    /// through a shortcut, which has been handled then.
+    bool didFinishLaunching(const LaunchOptions& options);
+
+    /// `completed` is always told true.
+    void performActionForShortcutItem(const ShortcutItem& item,
+                                      const std::function<void(bool)>& completed);
+
+    const BarAppearance& appearance() const { return appearance_; }
+
+    bool collapseSecondaryViewControllerOntoPrimary(platform::ViewController& secondary,
+                                                    platform::ViewController& primary) override;
+
+private:
+    void openDatabase();
+    void setAppearance();
+    void wirePanes();
+    void handleShortcutItem(const ShortcutItem& item);
+    void openSearch();
+    platform::SplitViewController& splitView();
+
+    platform::Services services_;
+    UserFolders folders_;
+    platform::Color accentPrimary_;
+    BarAppearance appearance_;
+};
+
+} // namespace lumora::app

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/error.h"
+
+#include <filesystem>
+
+namespace lumora::platform {
+class Bundle;
+class CrashReporter;
+class SettingsStore;
+} // namespace lumora::platform
+
+namespace lumora::app {
+
+/// The working database in a documents directory.
+std::filesystem::path workingDatabase(const std::filesystem::path& documents);
+
+/// Brings the working database to the program's version and carries favourites
+/// and history over; records the version in the settings.
+///
+/// An interruption at any instant, or a disk that fills, loses none of the
+/// user's rows: they are in the old file, in the rescue file beside it, or in
+/// the new file, and the next start goes on from there. A database that could
+/// not be read to its end is kept as "verbs.db.damaged".
+///
+/// A failure leaves the recorded version as it was. A program without a
+/// version or without its database resource is broken and stops.
+platform::Result<void> prepareDatabase(const std::filesystem::path& documents,
+                                       const platform::Bundle& bundle,
+                                       platform::SettingsStore& settings,
+                                       platform::CrashReporter& crashReporter);
+
+} // namespace lumora::app

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/main_storyboard.h"
+
+#include "detail/verb_detail_table_view_controller.h"
+#include "lists/favourites_table_view_controller.h"
+#include "lists/history_table_view_controller.h"
+#include "lists/search_results_table_view_controller.h"
+#include "lists/verb_list_table_view_controller.h"
+#include "navigation/home_view_controller.h"
+#include "platform/navigation_controller.h"
+#include "platform/split_view_controller.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+namespace lumora::app {
+
+using platform::NavigationController;
+
+namespace {
+
+[[noreturn]] void stopUnknown(std::string_view identifier)
+{
+    std::fprintf(stderr, "lumora: no screen is called %s\n", std::string{identifier}.c_str());
+    std::abort();
+}
+
+} // namespace
+
+void MainStoryboard::setServices(const platform::Services& services)
+{
+    services_ = std::make_unique<platform::Services>(services);
+}
+
+std::shared_ptr<platform::SplitViewController> MainStoryboard::instantiateInitialViewController()
+{
+    auto home = std::make_shared<NavigationController>(
+        std::make_shared<navigation::HomeViewController>(*services_));
+    return std::make_shared<platform::SplitViewController>(std::move(home),
+                                                           instantiateDestination("showDetail"));
+}
+
+std::shared_ptr<platform::ViewController>
+MainStoryboard::instantiateViewController(std::string_view identifier)
+{
+    if (identifier == "VerbListTableViewController") {
+        return std::make_shared<lists::VerbListTableViewController>(*services_);
+    }
+    if (identifier == "FavouritesTableViewController") {
+        return std::make_shared<lists::FavouritesTableViewController>(*services_);
+    }
+    if (identifier == "HistoryTableViewController") {
+        return std::make_shared<lists::HistoryTableViewController>(*services_);
+    }
+    if (identifier == "TableSearchResultsNavController") {
+        return std::make_shared<NavigationController>(
+            std::make_shared<lists::SearchResultsTableViewController>(*services_));
+    }
+    stopUnknown(identifier);
+}
+
+std::shared_ptr<platform::ViewController>
+MainStoryboard::instantiateDestination(std::string_view segueIdentifier)
+{
+    if (segueIdentifier == "showDetail" || segueIdentifier == "showSearchResult") {
+        return std::make_shared<NavigationController>(
+            std::make_shared<detail::VerbDetailTableViewController>(*services_));
+    }
+    stopUnknown(segueIdentifier);
+}
+
+} // namespace lumora::app

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/services.h"
+#include "platform/storyboard.h"
+
+#include <memory>
+
+namespace lumora::platform {
+class SplitViewController;
+}
+
+namespace lumora::app {
+
+/// The interface description: which screens there are and where steps lead.
+class MainStoryboard final : public platform::Storyboard {
+public:
+    /// The services name this storyboard, so they come after it. Must be
+    /// called before a screen is asked for.
+    void setServices(const platform::Services& services);
+
+    /// The window's root: list and detail side by side, the home screen and an
+    /// empty detail screen in them.
+    std::shared_ptr<platform::SplitViewController> instantiateInitialViewController();
+
+    std::shared_ptr<platform::ViewController>
+    instantiateViewController(std::string_view identifier) override;
+    std::shared_ptr<platform::ViewController>
+    instantiateDestination(std::string_view segueIdentifier) override;
+
+private:
+    std::unique_ptr<platform::Services> services_;
+};
+
+} // namespace lumora::app

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "detail/history_record.h"
+
+#include "platform/database.h"
+
+namespace lumora::detail {
+
+namespace {
+
+// The row of this number, counted from the newest, is the first to go.
+constexpr int kFirstRowTooMany = 52;
+
+platform::Result<void> trimHistory(platform::Database& database)
+{
+    double cutOff = 0;
+    {
+        auto rows =
+            database.executeQuery("SELECT _id, timestamp FROM history ORDER BY timestamp DESC", {});
+        if (!rows) {
+            return tl::make_unexpected(rows.error());
+        }
+        for (int row = 0; row < kFirstRowTooMany; ++row) {
+            if (!rows->next()) {
+                if (rows->failed()) {
+                    return tl::make_unexpected(
+                        platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+                }
+                return {};
+            }
+        }
+        cutOff = rows->doubleForColumn(rows->columnIndex("timestamp"));
+    }
+    return database.executeUpdate("DELETE FROM history WHERE timestamp <= ?", {cutOff});
+}
+
+} // namespace
+
+platform::Result<void> recordInHistory(platform::Database& database, std::int64_t verbId,
+                                       double timestamp)
+{
+    return database.executeUpdate("DELETE FROM history WHERE verbid=?", {verbId})
+        .and_then([&] {
+            return database.executeUpdate("INSERT INTO history(verbid, timestamp) VALUES(?, ?)",
+                                          {verbId, timestamp});
+        })
+        .and_then([&] { return trimHistory(database); });
+}
+
+} // namespace lumora::detail

@@ -1,0 +1,421 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "detail/verb_detail_table_view_controller.h"
+
+#include "data/favourite_statements.h"
+#include "data/verb_reader.h"
+#include "detail/history_record.h"
+#include "detail/tense_table.h"
+#include "platform/analytics.h"
+#include "platform/bundle.h"
+#include "platform/clock.h"
+#include "platform/crash_reporter.h"
+#include "platform/database_queue.h"
+#include "platform/device.h"
+#include "platform/settings_store.h"
+#include "platform/split_view_controller.h"
+#include "platform/view_factory.h"
+#include "settings/setting_keys.h"
+
+#include <algorithm>
+#include <any>
+#include <array>
+#include <utility>
+
+namespace lumora::detail {
+
+namespace {
+
+constexpr std::string_view kConjugationsOfVerb =
+    "SELECT _id, pronoun, verb, type, conj_order as pid FROM conjugation WHERE verbid = ? AND "
+    "display=1 ORDER BY conj_order";
+
+// The "other" table keeps a third, empty section.
+constexpr std::array<int, kMoodCount> kTableSections{9, 5, 4, 4};
+constexpr std::array<int, kMoodCount> kCollectionItems{8, 4, 3, 2};
+
+constexpr platform::Color kPlayTint{1.0 / 255, 85.0 / 255, 179.0 / 255, 1};
+constexpr double kAudioPadding = 8;
+constexpr double kAudioWidth = 30;
+
+template <typename Counts>
+int countForSegment(const Counts& counts, int segment)
+{
+    return segment >= 0 && segment < kMoodCount ? counts[static_cast<std::size_t>(segment)] : 0;
+}
+
+std::shared_ptr<CERoundProgressView> makePlayIndicator()
+{
+    auto indicator = std::make_shared<CERoundProgressView>();
+    indicator->setTintColor(kPlayTint);
+    return indicator;
+}
+
+} // namespace
+
+VerbDetailTableViewController::VerbDetailTableViewController(const platform::Services& services)
+    : tableView{services.views.makeTableView(*this)},
+      collectionView{services.views.makeCollectionView(*this)},
+      services_{services}
+{}
+
+VerbDetailTableViewController::~VerbDetailTableViewController() = default;
+
+void VerbDetailTableViewController::setOutletListener(std::function<void()> listener)
+{
+    outletListener_ = std::move(listener);
+}
+
+void VerbDetailTableViewController::outletsChanged()
+{
+    if (outletListener_) {
+        outletListener_();
+    }
+}
+
+void VerbDetailTableViewController::offerDisplayModeButton(platform::SplitViewController* splitView)
+{
+    if (splitView == nullptr) {
+        return;
+    }
+    auto item = navigationItem();
+    item.leftBarButton = splitView->displayModeButtonItem();
+    item.leftItemsSupplementBackButton = true;
+    setNavigationItem(std::move(item));
+}
+
+void VerbDetailTableViewController::viewDidLoad()
+{
+    if (services_.device.isTablet()) {
+        auto item = navigationItem();
+        if (item.leftBarButton) {
+            item.leftBarButton->title = localizedString(services_.bundle, "verb.list");
+            setNavigationItem(std::move(item));
+        }
+    }
+    favouriteBarButton.identifier = "favourite";
+    favouriteBarButton.action = [this] { toggleFavourite(); };
+    updateNavigationItem();
+    updateFavouriteIcon();
+
+    verbTypeSegmentedControl.titles.clear();
+    for (const auto key : kMoodTitleKeys) {
+        verbTypeSegmentedControl.titles.push_back(localizedString(services_.bundle, key));
+    }
+    selectVerbLabel.text = localizedString(services_.bundle, "select");
+    defaultToolbarHeight = toolbarHeightConstaint;
+
+    showVerb();
+
+    refresh_ = services_.notifications.addObserver(
+        "RefreshConjugations", [this](const platform::Notification&) { refreshConjugations(); });
+    favouriteToggled_ = services_.notifications.addObserver(
+        "VerbFavouriteToggled",
+        [this](const platform::Notification& notification) { verbFavouriteToggled(notification); });
+    outletsChanged();
+}
+
+void VerbDetailTableViewController::updateNavigationItem()
+{
+    auto item = navigationItem();
+    item.title = selectedVerb ? selectedVerb->french : std::string{};
+    favouriteBarButton.enabled = buttonsEnabled_;
+    item.rightBarButtons = {favouriteBarButton};
+    setNavigationItem(std::move(item));
+}
+
+void VerbDetailTableViewController::updateFavouriteIcon()
+{
+    favouriteBarButton.image = selectedVerb && selectedVerb->isFavourite
+                                   ? "ic_favorite_toolbar"
+                                   : "ic_favorite_toolbar_border";
+    updateNavigationItem();
+}
+
+void VerbDetailTableViewController::viewWillAppear()
+{
+    toolbarHeightConstaint = isPeeking ? 0 : defaultToolbarHeight.value_or(0);
+    verbTypeSegmentedControl.hidden = isPeeking;
+    toolbar.hidden = isPeeking;
+    tableView->reloadData();
+    buttonsEnabled_ = selectedVerb != nullptr;
+    updateNavigationItem();
+    outletsChanged();
+}
+
+void VerbDetailTableViewController::viewDidAppear()
+{
+    if (selectedVerb) {
+        services_.analytics.logEvent(
+            "select_content",
+            {{"item_id", std::to_string(selectedVerb->id)}, {"item_name", selectedVerb->french}});
+    }
+}
+
+void VerbDetailTableViewController::showVerb()
+{
+    if (!selectedVerb || selectedVerb->loaded) {
+        return;
+    }
+    countView();
+    if (queue != nullptr) {
+        queue->inDatabase([this](platform::Database& database) {
+            loadConjugations(database);
+            recordHistory(database);
+        });
+    }
+    services_.notifications.post({"VerbViewed", {}, {{"verb", selectedVerb}}});
+}
+
+void VerbDetailTableViewController::countView()
+{
+    const auto arguments = services_.device.launchArguments();
+    if (std::find(arguments.begin(), arguments.end(), "ui_test") != arguments.end()) {
+        return;
+    }
+    const auto count = services_.settings.integerForKey(settings::kNumberOfVerbsViewed) + 1;
+    services_.settings.setValue(count, settings::kNumberOfVerbsViewed);
+}
+
+void VerbDetailTableViewController::loadConjugations(platform::Database& database)
+{
+    auto rows = database.executeQuery(kConjugationsOfVerb, {selectedVerb->id});
+    if (!rows) {
+        logReadingError(database);
+        return;
+    }
+    data::ConjugationList forms;
+    const data::ConjugationReader reader{*rows};
+    while (rows->next()) {
+        forms.push_back(reader.readConjugation(*rows));
+    }
+    const bool failed = rows->failed();
+    for (const auto& tense : kTenses) {
+        auto& list = (*selectedVerb).*tense.forms;
+        list.clear();
+        std::copy_if(forms.begin(), forms.end(), std::back_inserter(list),
+                     [&](const auto& form) { return form->type == tense.identifier; });
+    }
+    if (failed) {
+        logReadingError(database);
+    }
+}
+
+void VerbDetailTableViewController::recordHistory(platform::Database& database)
+{
+    if (!platform::boolObjectForKey(services_.settings, settings::kUseHistory).value_or(true)) {
+        return;
+    }
+    const double now = services_.clock.secondsSince1970() - platform::kReferenceDate;
+    if (!recordInHistory(database, selectedVerb->id, now)) {
+        logReadingError(database);
+    }
+}
+
+void VerbDetailTableViewController::logReadingError(const platform::Database& database)
+{
+    services_.crashReporter.logWithFormat(
+        "An error occurred when reading verb conjugation: %@ (%d)",
+        {database.lastErrorMessage(), database.lastErrorCode()});
+}
+
+void VerbDetailTableViewController::toggleFavourite()
+{
+    if (!selectedVerb) {
+        return;
+    }
+    selectedVerb->isFavourite = !selectedVerb->isFavourite;
+    updateFavouriteIcon();
+    if (queue != nullptr) {
+        queue->inDatabase([this](platform::Database& database) {
+            data::updateFavourite(database, *selectedVerb, services_.console);
+        });
+    }
+    services_.notifications.post({"VerbFavouriteToggled", this, {{"verb", selectedVerb}}});
+}
+
+void VerbDetailTableViewController::verbFavouriteToggled(const platform::Notification& notification)
+{
+    if (const auto* sender = std::get_if<const platform::ViewController*>(&notification.object);
+        sender != nullptr &&
+        dynamic_cast<const VerbDetailTableViewController*>(*sender) != nullptr) {
+        return;
+    }
+    const auto found = notification.userInfo.find("verb");
+    if (found == notification.userInfo.end() || !selectedVerb) {
+        return;
+    }
+    const auto* verb = std::any_cast<data::VerbPtr>(&found->second);
+    if (verb != nullptr && *verb && (*verb)->id == selectedVerb->id) {
+        selectedVerb->isFavourite = (*verb)->isFavourite;
+        updateFavouriteIcon();
+    }
+}
+
+void VerbDetailTableViewController::refreshConjugations()
+{
+    tableView->reloadData();
+    collectionView->reloadData();
+}
+
+void VerbDetailTableViewController::selectVerbTypes(int segment)
+{
+    verbTypeSegmentedControl.selected = segment;
+    refreshConjugations();
+    services_.analytics.logEvent("conjugation_tab",
+                                 {{"name", std::string{analyticsNameOfSegment(segment)}}});
+    outletsChanged();
+}
+
+VerbDetailTableViewController::Block VerbDetailTableViewController::blockAt(int segment,
+                                                                            int position) const
+{
+    const auto blocks = blocksOfSegment(segment);
+    if (!selectedVerb || position < 0 || static_cast<std::size_t>(position) >= blocks.size()) {
+        return {};
+    }
+    const auto& block = blocks[static_cast<std::size_t>(position)];
+    return {&((*selectedVerb).*block.tense.forms),
+            tenseTitle(block.titleKey, services_.bundle, services_.settings)};
+}
+
+void VerbDetailTableViewController::updateEmptyState(double toolbarHeight)
+{
+    const bool hasVerb = selectedVerb != nullptr;
+    const double height = hasVerb ? toolbarHeight : 0;
+    if (selectVerbLabel.hidden == hasVerb && toolbar.hidden == !hasVerb &&
+        toolbarHeightConstaint == height) {
+        return;
+    }
+    selectVerbLabel.hidden = hasVerb;
+    toolbar.hidden = !hasVerb;
+    toolbarHeightConstaint = height;
+    outletsChanged();
+}
+
+int VerbDetailTableViewController::numberOfSections()
+{
+    // Only the table knows of previews; the collection always shows the toolbar.
+    updateEmptyState(isPeeking ? 0 : defaultToolbarHeight.value_or(0));
+    if (!selectedVerb) {
+        return 0;
+    }
+    return countForSegment(kTableSections, verbTypeSegmentedControl.selected);
+}
+
+int VerbDetailTableViewController::numberOfRowsInSection(int section)
+{
+    if (section == 0) {
+        return 1;
+    }
+    const auto block = blockAt(verbTypeSegmentedControl.selected, section - 1);
+    return block.forms == nullptr ? 0 : static_cast<int>(block.forms->size());
+}
+
+std::optional<std::string> VerbDetailTableViewController::titleForHeaderInSection(int section)
+{
+    if (section == 0) {
+        return std::nullopt;
+    }
+    return blockAt(verbTypeSegmentedControl.selected, section - 1).title;
+}
+
+platform::TableCell VerbDetailTableViewController::cellForRow(platform::IndexPath path)
+{
+    platform::TableCell cell;
+    cell.selectable = false;
+    if (path.section == 0) {
+        cell.reuseIdentifier = "CellVerb";
+        cell.text = selectedVerb ? selectedVerb->translation(services_.settings, services_.device)
+                                 : std::string{};
+        return cell;
+    }
+    cell.reuseIdentifier = "CellConjugation";
+    const auto block = blockAt(verbTypeSegmentedControl.selected, path.section - 1);
+    if (block.forms == nullptr || path.row < 0 ||
+        static_cast<std::size_t>(path.row) >= block.forms->size()) {
+        services_.crashReporter.logWithFormat(
+            "Unable to find conjugation for table row %@",
+            {"[" + std::to_string(path.section) + ", " + std::to_string(path.row) + "]"});
+        return cell;
+    }
+    const auto& form = *(*block.forms)[static_cast<std::size_t>(path.row)];
+    cell.text = form.pronoun;
+    cell.detailText = form.verb;
+    cell.control = playControlFor(path);
+    return cell;
+}
+
+platform::PlayControl VerbDetailTableViewController::playControlFor(platform::IndexPath path)
+{
+    // Kept for the row, so that a redrawn row shows the ring it had.
+    const auto section = static_cast<std::size_t>(path.section);
+    const auto row = static_cast<std::size_t>(path.row);
+    if (rowIndicators_.size() <= section) {
+        rowIndicators_.resize(section + 1);
+    }
+    auto& indicators = rowIndicators_[section];
+    while (indicators.size() <= row) {
+        indicators.push_back(makePlayIndicator());
+    }
+    return {indicators[row]};
+}
+
+int VerbDetailTableViewController::numberOfItems()
+{
+    updateEmptyState(defaultToolbarHeight.value_or(0));
+    if (!selectedVerb) {
+        return 0;
+    }
+    return countForSegment(kCollectionItems, verbTypeSegmentedControl.selected);
+}
+
+platform::CollectionCell VerbDetailTableViewController::cellForItem(int item)
+{
+    const auto index = static_cast<std::size_t>(std::max(item, 0));
+    if (cells_.size() <= index) {
+        cells_.resize(index + 1);
+    }
+    auto& cell = cells_[index];
+    const auto block = blockAt(verbTypeSegmentedControl.selected, item);
+
+    cell.audioWidthConstraint.fill(0);
+    cell.audioPaddingConstraint.fill(0);
+    cell.titleLabel = block.title.value_or(std::string{});
+    for (auto& indicator : cell.progressView) {
+        if (!indicator) {
+            indicator = makePlayIndicator();
+        }
+    }
+    const std::size_t count = block.forms == nullptr ? 0 : block.forms->size();
+    for (std::size_t line = 0; line < VerbCollectionViewCell::kLines; ++line) {
+        const bool filled = line < count;
+        cell.pronounLabel[line] = filled ? (*block.forms)[line]->pronoun : " ";
+        cell.verbLabel[line] = filled ? (*block.forms)[line]->verb : " ";
+        cell.progressViewPlaceholderHidden[line] = !filled;
+        if (filled) {
+            cell.audioPaddingConstraint[line] = kAudioPadding;
+            cell.audioWidthConstraint[line] = kAudioWidth;
+        }
+    }
+    return cell.content();
+}
+
+std::string VerbDetailTableViewController::headerText()
+{
+    if (!selectedVerb) {
+        return {};
+    }
+    return selectedVerb->french + " (" +
+           selectedVerb->translation(services_.settings, services_.device) + ")";
+}
+
+platform::CollectionLayout VerbDetailTableViewController::layout()
+{
+    return {300, 300, 20, 20};
+}
+
+void VerbDetailTableViewController::audioTapped(int /*item*/, int /*row*/) {}
+
+} // namespace lumora::detail

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "lists/removable_verb_list_controller.h"
+#include "platform/notification_center.h"
+
+namespace lumora::lists {
+
+/// The verbs marked as favourites, in the order of the sort column.
+class FavouritesTableViewController final : public RemovableVerbListController {
+public:
+    using RemovableVerbListController::RemovableVerbListController;
+
+    void reloadFavourites();
+
+    void viewDidAppear() override;
+    void viewDidDisappear() override;
+
+protected:
+    void viewDidLoad() override;
+    RemoveAction removeAction() const override;
+    void verbRemoved(const data::VerbPtr& verb) override;
+
+private:
+    void verbFavouriteToggled(const platform::Notification& notification);
+
+    platform::NotificationCenter::Subscription favouriteToggled_;
+};
+
+} // namespace lumora::lists

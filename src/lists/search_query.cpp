@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "lists/search_query.h"
+
+#include "lists/sort_column.h"
+#include "platform/settings_store.h"
+#include "settings/setting_keys.h"
+#include "settings/translation_language.h"
+
+#include <utility>
+#include <variant>
+
+namespace lumora::lists {
+
+namespace {
+
+/// A translation's column and the one with its simplified spelling.
+std::pair<std::string_view, std::string_view> columnsFor(settings::TranslationColumn column)
+{
+    using settings::TranslationColumn;
+    switch (column) {
+    case TranslationColumn::German:
+        return {"german", "simplified_german"};
+    case TranslationColumn::Spanish:
+        return {"spanish", "simplified_spanish"};
+    case TranslationColumn::Dutch:
+        return {"dutch", "simplified_dutch"};
+    case TranslationColumn::Portuguese:
+        return {"portuguese", "simplified_portuguese"};
+    case TranslationColumn::Italian:
+        return {"italian", "simplified_italian"};
+    case TranslationColumn::French:
+        return {"french", "simplified_french"};
+    case TranslationColumn::English:
+        break;
+    }
+    return {"english", "english"};
+}
+
+/// Anything but a text counts as missing here, and missing as "S".
+bool matchesFromStart(const platform::SettingsStore& settings)
+{
+    const auto stored = settings.objectForKey(settings::kSearchFrom);
+    const auto* text = stored ? std::get_if<std::string>(&*stored) : nullptr;
+    return text == nullptr || *text == "S";
+}
+
+std::string withPlainApostrophes(std::string_view text)
+{
+    constexpr std::string_view kTypographic = "\u2019";
+    std::string plain{text};
+    for (auto at = plain.find(kTypographic); at != std::string::npos;
+         at = plain.find(kTypographic, at + 1)) {
+        plain.replace(at, kTypographic.size(), "'");
+    }
+    return plain;
+}
+
+} // namespace
+
+SearchQuery makeSearchQuery(std::string_view text, const platform::SettingsStore& settings,
+                            const platform::Device& device)
+{
+    SearchQuery query;
+    query.text = withPlainApostrophes(text);
+
+    const auto [translation, simplified] = columnsFor(
+        settings::columnForLanguage(settings::effectiveTranslationLanguage(settings, device)));
+    const std::string order{sortsByFrench(settings) ? "simplified_french" : simplified};
+    const bool fromStart = matchesFromStart(settings);
+    query.pattern = fromStart ? query.text + "%" : "%" + query.text + "%";
+
+    std::string condition = "french LIKE ? OR simplified_french LIKE ?";
+    query.placeholders = 2;
+    if (settings.boolForKey(settings::kIncludeEnglish)) {
+        condition += " OR ";
+        condition += translation;
+        condition += " LIKE ? OR ";
+        condition += simplified;
+        condition += " LIKE ?";
+        query.placeholders += 2;
+    }
+    std::string join;
+    std::string grouping;
+    if (platform::boolObjectForKey(settings, settings::kIncludeConjugations).value_or(false)) {
+        condition += " OR conjugation.verb like ?";
+        query.placeholders += 1;
+        join = "LEFT OUTER JOIN conjugation ON verb._id = conjugation.verbid";
+        grouping = "GROUP BY verb._id";
+    }
+
+    // A position of 0 makes index_letter empty; nobody reads it here.
+    query.statement =
+        "SELECT verb._id, english, lower(french) as french, simplified_french, german, "
+        "simplified_german, spanish, simplified_spanish, dutch, simplified_dutch, italian, "
+        "simplified_italian, portuguese, simplified_portuguese, substr(" +
+        order + ", 0, 1) as index_letter, favourite._id as favourite_available FROM verb\n" + join +
+        "\nLEFT OUTER JOIN favourite ON verb._id = favourite.verbid\nWHERE " + condition + "\n" +
+        grouping + "\nORDER BY " + order;
+    return query;
+}
+
+} // namespace lumora::lists

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "lists/search_results_table_view_controller.h"
+
+#include "data/verb_reader.h"
+#include "lists/search_query.h"
+#include "lists/verb_cell.h"
+#include "platform/crash_reporter.h"
+#include "platform/database_queue.h"
+
+#include <cstdlib>
+
+namespace lumora::lists {
+
+void SearchResultsTableViewController::search(std::string_view text)
+{
+    const auto statement = makeSearchQuery(text, services().settings, services().device);
+    query = statement.text;
+    verbs.clear();
+    if (queue == nullptr) {
+        return;
+    }
+    queue->inDatabase([&](platform::Database& connection) {
+        const std::vector<platform::SqlValue> values(
+            static_cast<std::size_t>(statement.placeholders), statement.pattern);
+        auto rows = connection.executeQuery(statement.statement, values);
+        bool failed = !rows;
+        if (rows) {
+            const data::VerbReader reader{*rows, data::VerbReader::Spellings::Plain};
+            while (rows->next()) {
+                verbs.push_back(reader.readVerb(*rows));
+            }
+            failed = rows->failed();
+        }
+        if (failed) {
+            services().crashReporter.logWithFormat(
+                "An error occurred when performing search: %@ (%d)",
+                {connection.lastErrorMessage(), connection.lastErrorCode()});
+        }
+        tableView().reloadData();
+    });
+}
+
+int SearchResultsTableViewController::numberOfSections()
+{
+    return 1;
+}
+
+int SearchResultsTableViewController::numberOfRowsInSection(int /*section*/)
+{
+    return static_cast<int>(verbs.size());
+}
+
+const data::VerbPtr& SearchResultsTableViewController::verbAt(platform::IndexPath path) const
+{
+    if (path.row < 0 || static_cast<std::size_t>(path.row) >= verbs.size()) {
+        std::abort();
+    }
+    return verbs[static_cast<std::size_t>(path.row)];
+}
+
+platform::TableCell SearchResultsTableViewController::cellForRow(platform::IndexPath path)
+{
+    return verbCell(*verbAt(path), services());
+}
+
+void SearchResultsTableViewController::didSelectRow(platform::IndexPath path)
+{
+    if (const auto selected = tableView().indexPathForSelectedRow()) {
+        tableView().deselectRow(*selected);
+    }
+    const auto verb = verbAt(path);
+    if (delegate != nullptr) {
+        delegate->didSelectSearchResult(verb);
+    }
+}
+
+} // namespace lumora::lists

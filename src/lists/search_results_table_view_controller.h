@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "data/verb.h"
+#include "platform/table_view_controller.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lumora::platform {
+class DatabaseQueue;
+}
+
+namespace lumora::lists {
+
+/// Hears which result was chosen.
+class SearchResultsTableViewControllerDelegate {
+public:
+    virtual ~SearchResultsTableViewControllerDelegate() = default;
+    virtual void didSelectSearchResult(const data::VerbPtr& verb) = 0;
+};
+
+/// The verbs that match the search text, replaced whole by every search. Each
+/// search runs to its end before the next key is heard. GUI thread only.
+class SearchResultsTableViewController final : public platform::TableViewController {
+public:
+    using TableViewController::TableViewController;
+
+    /// Not owned; must outlive its last search.
+    SearchResultsTableViewControllerDelegate* delegate = nullptr;
+    /// The shared queue. Not owned.
+    platform::DatabaseQueue* queue = nullptr;
+    /// The last text searched for, with plain apostrophes.
+    std::string query;
+    std::vector<data::VerbPtr> verbs;
+
+    void search(std::string_view text);
+
+    int numberOfSections() override;
+    int numberOfRowsInSection(int section) override;
+    platform::TableCell cellForRow(platform::IndexPath path) override;
+    void didSelectRow(platform::IndexPath path) override;
+
+private:
+    const data::VerbPtr& verbAt(platform::IndexPath path) const;
+};
+
+} // namespace lumora::lists

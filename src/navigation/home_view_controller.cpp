@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "navigation/home_view_controller.h"
+
+#include "detail/verb_detail_table_view_controller.h"
+#include "lists/interstitial_table_view_controller.h"
+#include "platform/bundle.h"
+#include "platform/crash_reporter.h"
+#include "platform/device.h"
+#include "platform/navigation_controller.h"
+#include "platform/presenter.h"
+#include "platform/settings_store.h"
+#include "platform/split_view_controller.h"
+#include "platform/storyboard.h"
+#include "settings/setting_keys.h"
+
+#include <any>
+#include <cstdlib>
+#include <optional>
+#include <utility>
+
+namespace lumora::navigation {
+
+namespace {
+
+constexpr std::string_view kScreenOfTab[] = {
+    "VerbListTableViewController", "FavouritesTableViewController", "HistoryTableViewController"};
+
+} // namespace
+
+HomeViewController::HomeViewController(const platform::Services& services)
+    : services_{services}, children_(std::size(kScreenOfTab))
+{}
+
+HomeViewController::~HomeViewController()
+{
+    if (searchResultsController_) {
+        searchResultsController_->delegate = nullptr;
+    }
+}
+
+void HomeViewController::setOutletListener(std::function<void()> listener)
+{
+    outletListener_ = std::move(listener);
+}
+
+void HomeViewController::outletsChanged()
+{
+    if (outletListener_) {
+        outletListener_();
+    }
+}
+
+void HomeViewController::viewDidLoad()
+{
+    historyFeature_ = services_.notifications.addObserver(
+        "HistoryFeatureToggled", [this](const platform::Notification&) { buildTabBarItems(); });
+    tabOpen_ = services_.notifications.addObserver(
+        "TabOpenEvent",
+        [this](const platform::Notification& notification) { openTab(notification); });
+    makeSearchResultsController();
+
+    const auto text = [this](std::string_view key) {
+        return platform::localizedString(services_.bundle, key);
+    };
+    auto item = navigationItem();
+    item.title = text("verb.list.full");
+    setNavigationItem(std::move(item));
+    searchBar.accessibilityIdentifier = "Search";
+    searchBar.placeholder = text("search.placeholder");
+    listTabBarItem_ = {Tab::List, text("tabs.list"), "tab_list"};
+    favouritesTabBarItem_ = {Tab::Favourites, text("tabs.favourites"), "tab_favourites"};
+    historyTabBarItem_ = {Tab::History, text("tabs.history"), "tab_history"};
+
+    findDetailViewController();
+    showTab(Tab::List);
+    buildTabBarItems();
+}
+
+void HomeViewController::makeSearchResultsController()
+{
+    const auto stack = std::dynamic_pointer_cast<platform::NavigationController>(
+        services_.storyboard.instantiateViewController("TableSearchResultsNavController"));
+    if (!stack || stack->viewControllers().empty()) {
+        std::abort();
+    }
+    searchResultsController_ = std::dynamic_pointer_cast<lists::SearchResultsTableViewController>(
+        stack->viewControllers().back());
+    if (!searchResultsController_) {
+        std::abort();
+    }
+    searchResultsController_->delegate = this;
+    searchResultsController_->queue = queue;
+    searchResultsController_->loadViewIfNeeded();
+}
+
+void HomeViewController::findDetailViewController()
+{
+    if (splitViewController() == nullptr) {
+        return;
+    }
+    auto* stack = dynamic_cast<platform::NavigationController*>(
+        splitViewController()->viewControllers().back());
+    if (stack == nullptr || stack->viewControllers().empty()) {
+        return;
+    }
+    detailViewController = std::dynamic_pointer_cast<detail::VerbDetailTableViewController>(
+        stack->viewControllers().back());
+}
+
+void HomeViewController::viewWillAppear()
+{
+    sendCrashReportValues();
+}
+
+void HomeViewController::setSplitViewController(platform::SplitViewController* splitView)
+{
+    ViewController::setSplitViewController(splitView);
+    for (const auto& child : children_) {
+        if (child) {
+            child->setSplitViewController(splitView);
+        }
+    }
+}
+
+void HomeViewController::openTab(const platform::Notification& notification)
+{
+    const auto found = notification.userInfo.find("SelectedTab");
+    const auto* selected =
+        found == notification.userInfo.end() ? nullptr : std::any_cast<std::string>(&found->second);
+    if (selected != nullptr && *selected == "History") {
+        showTab(Tab::History);
+    } else if (selected != nullptr && *selected == "Favourites") {
+        showTab(Tab::Favourites);
+    } else {
+        showTab(Tab::List);
+    }
+}
+
+void HomeViewController::didSelectItem(Tab tag)
+{
+    showTab(tag);
+}
+
+void HomeViewController::buildTabBarItems()
+{
+    tabBar.items = {listTabBarItem_, favouritesTabBarItem_};
+    if (platform::boolObjectForKey(services_.settings, settings::kUseHistory).value_or(true)) {
+        tabBar.items.push_back(historyTabBarItem_);
+    }
+    showTab(Tab::List);
+}
+
+void HomeViewController::showTab(Tab tab)
+{
+    tabBar.selectedItem = tab;
+    currentChild_ = listFor(tab);
+    currentChild_->loadViewIfNeeded();
+    outletsChanged();
+}
+
+std::shared_ptr<lists::InterstitialTableViewController> HomeViewController::listFor(Tab tab)
+{
+    auto& child = children_.at(static_cast<std::size_t>(tab));
+    if (!child) {
+        child = std::dynamic_pointer_cast<lists::InterstitialTableViewController>(
+            services_.storyboard.instantiateViewController(
+                kScreenOfTab[static_cast<std::size_t>(tab)]));
+        if (!child) {
+            std::abort();
+        }
+        child->queue = queue;
+        child->setSplitViewController(splitViewController());
+    }
+    return child;
+}
+
+void HomeViewController::searchTextChanged(std::string text)
+{
+    searchBar.text = std::move(text);
+    updateSearchResults();
+    outletsChanged();
+}
+
+void HomeViewController::updateSearchResults()
+{
+    if (searchResultsController_ && !searchBar.text.empty()) {
+        searchResultsController_->search(searchBar.text);
+    }
+}
+
+void HomeViewController::focusSearchBar()
+{
+    searchBar.isFirstResponder = true;
+    outletsChanged();
+}
+
+void HomeViewController::didSelectSearchResult(const data::VerbPtr& verb)
+{
+    selectedSearchResult = verb;
+    services_.presenter.performSegue(*this, "showSearchResult", std::nullopt);
+    if (services_.device.isTablet()) {
+        searchBar.isFirstResponder = false;
+        outletsChanged();
+    }
+}
+
+void HomeViewController::prepareForSegue(const platform::Segue& segue)
+{
+    if (segue.identifier != "showSearchResult") {
+        return;
+    }
+    auto& stack = dynamic_cast<platform::NavigationController&>(segue.destination);
+    auto& detail = dynamic_cast<detail::VerbDetailTableViewController&>(*stack.topViewController());
+    detail.selectedVerb = selectedSearchResult;
+    detail.queue = queue;
+    detail.isPeeking = false;
+    detail.offerDisplayModeButton(splitViewController());
+}
+
+void HomeViewController::sendCrashReportValues()
+{
+    const auto& settings = services_.settings;
+    auto& report = services_.crashReporter;
+    const auto orTrue = [&](std::string_view key) {
+        return platform::boolObjectForKey(settings, key).value_or(true);
+    };
+    report.setCustomValue(settings.boolForKey(settings::kIncludeEnglish), "IncludeEnglish");
+    report.setCustomValue(settings.stringForKey(settings::kSearchFrom).value_or("S") == "S",
+                          "SearchFromStart");
+    report.setCustomValue(orTrue(settings::kShowTranslated), "ShowTranslated");
+    report.setCustomValue(orTrue(settings::kSortByLang), "SortByLang");
+    report.setCustomValue(settings.stringForKey(settings::kTranslationLanguage).value_or(""),
+                          "TranslationLanguage");
+    if (const auto preferred = services_.device.preferredLanguages(); !preferred.empty()) {
+        report.setCustomValue(preferred.front(), "Locale");
+    }
+}
+
+} // namespace lumora::navigation
