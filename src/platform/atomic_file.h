@@ -5,6 +5,8 @@
 
 #include "platform/error.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -31,5 +33,14 @@ Result<void> removeDurably(const std::filesystem::path& file);
 /// The file's bytes; files over `maximumBytes` are refused.
 Result<std::string> readFile(const std::filesystem::path& file,
                              std::uintmax_t maximumBytes = 64 * 1024 * 1024);
+
+/// Appends `line` and a line feed; the file stays within `maximumBytes` by
+/// losing its older half. A line longer than that half is refused.
+Result<void> appendLine(const std::filesystem::path& file, std::string_view line,
+                        std::size_t maximumBytes);
+
+/// Makes the folder and those above it, for this user's eyes only; one that is
+/// there stays as it is.
+Result<void> makePrivateFolder(const std::filesystem::path& folder);
 
 } // namespace lumora::platform

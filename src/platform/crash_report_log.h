@@ -5,9 +5,13 @@
 
 #include "platform/crash_reporter.h"
 
+#include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace lumora::platform {
 
@@ -31,10 +35,15 @@ public:
     void installCrashHandler();
 
     static constexpr std::size_t kMaximumLogBytes = 256 * 1024;
+    /// An entry is cut to this length.
+    static constexpr std::size_t kMaximumEntryBytes = 4096;
 
 private:
+    std::string renderedValues() const;
+
     std::filesystem::path folder_;
     std::map<std::string, CustomValue, std::less<>> customValues_;
+    bool handlesCrashes_ = false;
 };
 
 } // namespace lumora::platform

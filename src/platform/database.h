@@ -86,6 +86,8 @@ private:
     std::string fileUrl_;
     sqlite3* connection_ = nullptr;
     Error lastError_;
+    /// Why statements fail while there is no connection.
+    Error closedReason_;
 };
 
 } // namespace lumora::platform

@@ -5,12 +5,14 @@
 
 #include "platform/database.h"
 
+#include <atomic>
 #include <filesystem>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <thread>
 
 namespace lumora::platform {
 
@@ -35,6 +37,8 @@ private:
 
     Database database_;
     std::mutex mutex_;
+    /// The thread inside a block, to tell a nested block from a waiting one.
+    std::atomic<std::thread::id> blockThread_;
 };
 
 /// The file URL of a path, as text.

@@ -6,6 +6,7 @@
 #include "platform/settings_store.h"
 
 #include <filesystem>
+#include <optional>
 
 namespace lumora::platform {
 
@@ -29,6 +30,8 @@ public:
 private:
     std::filesystem::path file_;
     bool damaged_ = false;
+    /// Why the file must not be written: it is there but could not be read.
+    std::optional<Error> refused_;
 };
 
 } // namespace lumora::platform

@@ -7,8 +7,7 @@ namespace lumora::platform {
 
 TableViewController::TableViewController(const Services& services)
     : services_{services}, tableView_{services.views.makeTableView(*this)}
-{
-}
+{}
 
 TableViewController::~TableViewController() = default;
 

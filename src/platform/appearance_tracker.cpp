@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/appearance_tracker.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lumora::platform {
+
+void AppearanceTracker::setVisible(Screens visible)
+{
+    waiting_ = std::move(visible);
+    if (telling_) {
+        return;
+    }
+    telling_ = true;
+    while (waiting_) {
+        const Screens next = *std::exchange(waiting_, std::nullopt);
+        change(next);
+    }
+    telling_ = false;
+}
+
+void AppearanceTracker::change(const Screens& visible)
+{
+    Screens before;
+    for (const auto& known : visible_) {
+        if (auto screen = known.lock()) {
+            before.push_back(std::move(screen));
+        }
+    }
+    visible_.assign(visible.begin(), visible.end());
+
+    const auto isIn = [](const Screens& screens, const auto& screen) {
+        return std::find(screens.begin(), screens.end(), screen) != screens.end();
+    };
+    for (const auto& screen : before) {
+        if (!isIn(visible, screen)) {
+            screen->viewDidDisappear();
+        }
+    }
+    for (const auto& screen : visible) {
+        if (screen != nullptr && !isIn(before, screen)) {
+            screen->loadViewIfNeeded();
+            screen->viewWillAppear();
+            screen->viewDidAppear();
+        }
+    }
+}
+
+} // namespace lumora::platform

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/view_controller.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace lumora::platform {
+
+/// Tells screens when they come and go. The window says after every change
+/// which screens are on show; those gone hear of it first, then each new one
+/// is loaded and told. GUI thread only.
+class AppearanceTracker {
+public:
+    using Screens = std::vector<std::shared_ptr<ViewController>>;
+
+    /// May be called by a screen that is just being told: its turn comes when
+    /// the calls under way are done.
+    void setVisible(Screens visible);
+
+private:
+    void change(const Screens& visible);
+
+    /// Screens die without asking.
+    std::vector<std::weak_ptr<ViewController>> visible_;
+    std::optional<Screens> waiting_;
+    bool telling_ = false;
+};
+
+} // namespace lumora::platform

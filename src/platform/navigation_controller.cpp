@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/navigation_controller.h"
+
+#include <algorithm>
+#include <cassert>
+#include <utility>
+
+namespace lumora::platform {
+
+NavigationController::NavigationController(std::shared_ptr<ViewController> root)
+{
+    assert(root != nullptr);
+    stack_.push_back(std::move(root));
+}
+
+ViewController* NavigationController::topViewController() const
+{
+    return stack_.empty() ? nullptr : stack_.back().get();
+}
+
+void NavigationController::pushViewController(std::shared_ptr<ViewController> controller)
+{
+    assert(controller != nullptr);
+    // A local copy: loading may change the stack.
+    const auto pushed = stack_.emplace_back(std::move(controller));
+    pushed->setSplitViewController(splitViewController());
+    pushed->loadViewIfNeeded();
+    stackChanged();
+}
+
+std::shared_ptr<ViewController> NavigationController::popViewController()
+{
+    if (stack_.size() < 2) {
+        return nullptr;
+    }
+    auto popped = std::move(stack_.back());
+    stack_.pop_back();
+    stackChanged();
+    popped->setSplitViewController(nullptr);
+    return popped;
+}
+
+void NavigationController::popToRootViewController()
+{
+    if (stack_.size() > 1) {
+        setViewControllers({stack_.front()});
+    }
+}
+
+void NavigationController::setViewControllers(
+    std::vector<std::shared_ptr<ViewController>> controllers)
+{
+    const auto before = std::exchange(stack_, std::move(controllers));
+    const auto now = stack_;
+    for (const auto& controller : now) {
+        controller->setSplitViewController(splitViewController());
+    }
+    if (!now.empty()) {
+        now.back()->loadViewIfNeeded();
+    }
+    stackChanged();
+    for (const auto& controller : before) {
+        if (std::find(now.begin(), now.end(), controller) == now.end()) {
+            controller->setSplitViewController(nullptr);
+        }
+    }
+}
+
+void NavigationController::setStackListener(std::function<void()> listener)
+{
+    stackListener_ = std::move(listener);
+}
+
+void NavigationController::setSplitViewController(SplitViewController* splitView)
+{
+    ViewController::setSplitViewController(splitView);
+    for (const auto& controller : stack_) {
+        controller->setSplitViewController(splitView);
+    }
+}
+
+void NavigationController::stackChanged()
+{
+    if (stackListener_) {
+        stackListener_();
+    }
+}
+
+} // namespace lumora::platform

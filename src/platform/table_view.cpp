@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/table_view.h"
+
+namespace lumora::platform {
+
+std::optional<std::string> TableDataSource::titleForHeaderInSection(int /*section*/)
+{
+    return std::nullopt;
+}
+
+std::optional<std::string> TableDataSource::titleForFooterInSection(int /*section*/)
+{
+    return std::nullopt;
+}
+
+std::vector<std::string> TableDataSource::sectionIndexTitles()
+{
+    return {};
+}
+
+int TableDataSource::sectionForSectionIndexTitle(std::string_view /*title*/, int /*index*/)
+{
+    return -1;
+}
+
+bool TableDataSource::canEditRow(IndexPath /*path*/)
+{
+    return true;
+}
+
+std::vector<SwipeAction> TableDataSource::trailingSwipeActions(IndexPath /*path*/)
+{
+    return {};
+}
+
+void TableDataSource::didSelectRow(IndexPath /*path*/) {}
+
+void TableDataSource::accessoryButtonTapped(IndexPath /*path*/) {}
+
+void TableDataSource::switchToggled(IndexPath /*path*/, bool /*on*/) {}
+
+void TableDataSource::segmentChanged(IndexPath /*path*/, int /*segment*/) {}
+
+} // namespace lumora::platform
