@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/presenter.h"
+#include "platform/storyboard.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace lumora::support {
+
+/// Writes down what it is asked for. With a storyboard it makes the step as
+/// well, short of showing the screen.
+class FakePresenter final : public platform::Presenter {
+public:
+    struct PerformedSegue {
+        platform::ViewController* source = nullptr;
+        std::string identifier;
+        std::optional<platform::IndexPath> sender;
+        /// Null without a storyboard, and when the source refused.
+        std::shared_ptr<platform::ViewController> destination;
+    };
+    struct PresentedAlert {
+        platform::ViewController* on = nullptr;
+        platform::Alert alert;
+    };
+    struct PresentedSheet {
+        platform::ViewController* on = nullptr;
+        platform::ActionSheet sheet;
+        platform::IndexPath anchor;
+    };
+
+    explicit FakePresenter(platform::Storyboard* storyboard = nullptr) : storyboard_(storyboard) {}
+
+    void performSegue(platform::ViewController& source, std::string_view identifier,
+                      std::optional<platform::IndexPath> sender) override
+    {
+        std::shared_ptr<platform::ViewController> destination;
+        if (storyboard_ != nullptr && source.shouldPerformSegue(identifier)) {
+            destination = storyboard_->instantiateDestination(identifier);
+            source.prepareForSegue({std::string(identifier), *destination, sender});
+        }
+        segues.push_back({&source, std::string(identifier), sender, std::move(destination)});
+    }
+    void presentAlert(platform::ViewController& on, const platform::Alert& alert) override
+    {
+        alerts.push_back({&on, alert});
+    }
+    void presentActionSheet(platform::ViewController& on, const platform::ActionSheet& sheet,
+                            platform::IndexPath anchor) override
+    {
+        sheets.push_back({&on, sheet, anchor});
+    }
+    void dismiss(platform::ViewController& presented, std::function<void()> completed) override
+    {
+        dismissed.push_back(&presented);
+        if (completed) {
+            completed();
+        }
+    }
+
+    std::vector<PerformedSegue> segues;
+    std::vector<PresentedAlert> alerts;
+    std::vector<PresentedSheet> sheets;
+    std::vector<platform::ViewController*> dismissed;
+
+private:
+    platform::Storyboard* storyboard_;
+};
+
+} // namespace lumora::support
