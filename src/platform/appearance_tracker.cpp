@@ -16,7 +16,8 @@ void AppearanceTracker::setVisible(Screens visible)
     }
     telling_ = true;
     while (waiting_) {
-        const Screens next = *std::exchange(waiting_, std::nullopt);
+        const Screens next = std::move(*waiting_);
+        waiting_.reset();
         change(next);
     }
     telling_ = false;

@@ -17,7 +17,7 @@ namespace lumora::platform {
 
 namespace {
 
-constexpr std::size_t kChunkBytes = 64 * 1024;
+constexpr std::size_t kChunkBytes = std::size_t{64} * 1024;
 
 std::filesystem::path folderOf(const std::filesystem::path& file)
 {
@@ -98,13 +98,12 @@ Result<void> writeFileAtomically(const std::filesystem::path& file, std::string_
     // The process in the name: two programs saving at once must not share it.
     std::filesystem::path temporary = file;
     temporary += "." + std::to_string(::getpid()) + ".tmp";
-    const auto written =
-        writeDurably(temporary, [&](const FileDescriptor& descriptor) -> Result<void> {
-            if (const int code = descriptor.write(content); code != 0) {
-                return tl::unexpected(fileError(temporary, code));
-            }
-            return {};
-        });
+    auto written = writeDurably(temporary, [&](const FileDescriptor& descriptor) -> Result<void> {
+        if (const int code = descriptor.write(content); code != 0) {
+            return tl::unexpected(fileError(temporary, code));
+        }
+        return {};
+    });
     if (!written) {
         return written;
     }

@@ -32,7 +32,7 @@ Result<void> removeDurably(const std::filesystem::path& file);
 
 /// The file's bytes; files over `maximumBytes` are refused.
 Result<std::string> readFile(const std::filesystem::path& file,
-                             std::uintmax_t maximumBytes = 64 * 1024 * 1024);
+                             std::uintmax_t maximumBytes = std::uintmax_t{64} * 1024 * 1024);
 
 /// Appends `line` and a line feed; the file stays within `maximumBytes` by
 /// losing its older half. A line longer than that half is refused.

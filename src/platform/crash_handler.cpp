@@ -23,9 +23,9 @@ namespace {
 
 constexpr std::array kFatalSignals = {SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL};
 constexpr std::size_t kPathBytes = 4096;
-constexpr std::size_t kValuesBytes = 16 * 1024;
-constexpr std::size_t kStackBytes = 64 * 1024;
-constexpr off_t kLogEndBytes = 16 * 1024;
+constexpr std::size_t kValuesBytes = std::size_t{16} * 1024;
+constexpr std::size_t kStackBytes = std::size_t{64} * 1024;
+constexpr off_t kLogEndBytes = off_t{16} * 1024;
 constexpr int kMaximumFrames = 64;
 
 /// Text of a fixed size: the handler may not allocate.

@@ -26,15 +26,14 @@ public:
     explicit CrashReportLog(std::filesystem::path folder);
     ~CrashReportLog() override;
 
-    void logWithFormat(std::string_view format,
-                       const std::vector<LogArgument>& arguments) override;
+    void logWithFormat(std::string_view format, const std::vector<LogArgument>& arguments) override;
     void setCustomValue(const CustomValue& value, std::string_view key) override;
 
     /// From now on a fatal signal leaves a report before the program ends.
     /// One log a process may do this.
     void installCrashHandler();
 
-    static constexpr std::size_t kMaximumLogBytes = 256 * 1024;
+    static constexpr std::size_t kMaximumLogBytes = std::size_t{256} * 1024;
     /// An entry is cut to this length.
     static constexpr std::size_t kMaximumEntryBytes = 4096;
 

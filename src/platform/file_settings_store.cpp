@@ -16,7 +16,7 @@ namespace lumora::platform {
 
 namespace {
 
-constexpr std::uintmax_t kMaximumBytes = 1024 * 1024;
+constexpr std::uintmax_t kMaximumBytes = std::uintmax_t{1024} * 1024;
 constexpr int kIndent = 2;
 
 /// Takes the scalars of the outermost object as they come, so that neither

@@ -6,6 +6,7 @@
 #include "platform/analytics.h"
 #include "platform/clock.h"
 
+#include <cstddef>
 #include <filesystem>
 
 namespace lumora::platform {
@@ -23,7 +24,7 @@ public:
     void setAnalyticsCollectionEnabled(bool enabled) override;
     bool isCollectionEnabled() const { return enabled_; }
 
-    static constexpr std::size_t kMaximumBytes = 256 * 1024;
+    static constexpr std::size_t kMaximumBytes = std::size_t{256} * 1024;
 
 private:
     std::filesystem::path folder_;

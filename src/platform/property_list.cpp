@@ -14,7 +14,7 @@ namespace lumora::platform {
 
 namespace {
 
-constexpr std::size_t kMaximumBytes = 1024 * 1024;
+constexpr std::size_t kMaximumBytes = std::size_t{1024} * 1024;
 /// The library follows containers inside containers by recursion.
 constexpr std::uint64_t kMaximumContainers = 4096;
 constexpr std::string_view kBinaryMark = "bplist00";
