@@ -20,7 +20,8 @@ constexpr std::array<std::size_t, 3> kCommanded{1, 3, 4};
 
 constexpr std::array<std::string_view, kPersons> kSubjects{"je",   "tu",   "il/elle/on",
                                                            "nous", "vous", "ils/elles"};
-constexpr std::array<std::string_view, kPersons> kReflexives{"me", "te", "se", "nous", "vous", "se"};
+constexpr std::array<std::string_view, kPersons> kReflexives{"me",   "te",   "se",
+                                                             "nous", "vous", "se"};
 constexpr std::array<std::string_view, 3> kReflexiveCommands{"-toi", "-nous", "-vous"};
 
 bool beginsWithOneOf(std::string_view word, std::string_view letters)
@@ -70,8 +71,7 @@ class Agreement {
 public:
     Agreement(const Paradigm& verb, bool agrees)
         : forms_(verb.participle), agrees_(agrees && !verb.participle[1].empty())
-    {
-    }
+    {}
 
     /// "allé(e)s", "épris(es)": one text for every gender.
     Forms bracketed(Number number) const
@@ -81,7 +81,8 @@ public:
         }
         Forms texts;
         for (std::size_t i = 0; i < forms_[0].size(); ++i) {
-            texts.push_back(bracketed(number, forms_[0][i], forms_[1][std::min(i, forms_[1].size() - 1)]));
+            texts.push_back(
+                bracketed(number, forms_[0][i], forms_[1][std::min(i, forms_[1].size() - 1)]));
         }
         return texts;
     }
@@ -117,7 +118,7 @@ private:
         case Number::Singular:
             return masculine + "(" + ending + ")";
         case Number::Plural:
-            return keepsS ? masculine + "(" + ending + "s)"
+            return keepsS  ? masculine + "(" + ending + "s)"
                    : plain ? masculine + "(e)s"
                            : masculine + "s(" + ending + "s)";
         case Number::Either:
@@ -129,11 +130,11 @@ private:
     /// absous, absoute: "oute"; the ending is told from its vowels on.
     static std::string changedEnding(const std::string& masculine, const std::string& feminine)
     {
-        const auto ends = std::mismatch(masculine.begin(), masculine.end(), feminine.begin(),
-                                        feminine.end());
+        const auto ends =
+            std::mismatch(masculine.begin(), masculine.end(), feminine.begin(), feminine.end());
         auto begin = ends.second;
-        while (begin != feminine.begin()
-               && std::string_view("aeiou").find(*(begin - 1)) != std::string_view::npos) {
+        while (begin != feminine.begin() &&
+               std::string_view("aeiou").find(*(begin - 1)) != std::string_view::npos) {
             --begin;
         }
         return {begin, feminine.end()};
@@ -278,7 +279,8 @@ private:
     }
 
     /// An infinitive or a participle has no pronoun.
-    std::string pronoun(Tense tense, std::size_t person, std::string_view word, bool aspirated) const
+    std::string pronoun(Tense tense, std::size_t person, std::string_view word,
+                        bool aspirated) const
     {
         if (person == kNoPerson) {
             return {};
@@ -340,7 +342,8 @@ private:
             return;
         }
         // With the impersonal il the participle never agrees.
-        const Agreement agreement(verb_, etre && !entry_.impersonal && !entry_.invariableParticiple);
+        const Agreement agreement(verb_,
+                                  etre && !entry_.impersonal && !entry_.invariableParticiple);
         // An auxiliary is never aspirated, whatever the verb.
         const auto subject = pronoun(tense, person, auxiliary.front(), false);
         const auto texts = compounds(auxiliary, agreement.bracketed(number));
@@ -365,10 +368,10 @@ private:
 } // namespace
 
 Conjugator::Conjugator(ModelTable models)
-    : models_(std::move(models)), avoir_(models_.conjugate("avoir", "avoir")),
+    : models_(std::move(models)),
+      avoir_(models_.conjugate("avoir", "avoir")),
       etre_(models_.conjugate("être", "être"))
-{
-}
+{}
 
 std::string Conjugator::headword(const VerbEntry& entry) const
 {
@@ -449,9 +452,11 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
         compound(tense, etreShown, true);
     }
     if (entry.pronominal) {
-        builder.searchRow(Tense::Infinitif, "", builder.reflexive(entry.infinitive) + entry.infinitive);
+        builder.searchRow(Tense::Infinitif, "",
+                          builder.reflexive(entry.infinitive) + entry.infinitive);
     }
-    if (entry.auxiliary == Auxiliary::AvoirThenEtre || entry.auxiliary == Auxiliary::EtreThenAvoir) {
+    if (entry.auxiliary == Auxiliary::AvoirThenEtre ||
+        entry.auxiliary == Auxiliary::EtreThenAvoir) {
         for (std::size_t block = 0; block < kTenseNames.size(); ++block) {
             compound(static_cast<Tense>(block), !etreShown, false);
         }

@@ -35,12 +35,24 @@ enum class Tense {
 
 /// The value of the column "type", by Tense.
 inline constexpr std::array<std::string_view, 18> kTenseNames{
-    "conditionnelPasse1reForme", "conditionnelPasse2eForme", "conditionnelPresent",
-    "imperatif",                 "indicatifFuturAnterieur",  "indicatifFuturSimple",
-    "indicatifImparfait",        "indicatifPasseAnterieur",  "indicatifPasseCompose",
-    "indicatifPasseSimple",      "indicatifPlusQueParfait",  "indicatifPresent",
-    "infinitif",                 "participe",                "subjonctifImparfait",
-    "subjonctifPasse",           "subjonctifPlusqueParfait", "subjonctifPresent",
+    "conditionnelPasse1reForme",
+    "conditionnelPasse2eForme",
+    "conditionnelPresent",
+    "imperatif",
+    "indicatifFuturAnterieur",
+    "indicatifFuturSimple",
+    "indicatifImparfait",
+    "indicatifPasseAnterieur",
+    "indicatifPasseCompose",
+    "indicatifPasseSimple",
+    "indicatifPlusQueParfait",
+    "indicatifPresent",
+    "infinitif",
+    "participe",
+    "subjonctifImparfait",
+    "subjonctifPasse",
+    "subjonctifPlusqueParfait",
+    "subjonctifPresent",
 };
 
 constexpr std::string_view name(Tense tense)

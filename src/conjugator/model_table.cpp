@@ -140,8 +140,8 @@ Forms without(const Forms& forms, std::string_view ending)
 /// mangea, mangèrent).
 std::string joinedTo(std::string stem, std::string_view ending)
 {
-    const bool front = ending.starts_with('e') || ending.starts_with('i')
-                       || ending.starts_with("è") || ending.starts_with("é");
+    const bool front = ending.starts_with('e') || ending.starts_with('i') ||
+                       ending.starts_with("è") || ending.starts_with("é");
     if (front && stem.ends_with("ge")) {
         stem.pop_back();
     } else if (front && stem.ends_with("ç")) {
@@ -170,9 +170,9 @@ PersonForms joinedTo(const Forms& stems, const Endings& endings)
 
 const PastEndings* pastEndingsOf(std::string_view stem)
 {
-    const auto found = std::find_if(
-        kPastEndings.begin(), kPastEndings.end(),
-        [&](const PastEndings& endings) { return stem.ends_with(endings.theme); });
+    const auto found =
+        std::find_if(kPastEndings.begin(), kPastEndings.end(),
+                     [&](const PastEndings& endings) { return stem.ends_with(endings.theme); });
     return found == kPastEndings.end() ? nullptr : &*found;
 }
 
@@ -265,13 +265,14 @@ ModelTable::ModelTable(const TextTable& table)
             }
             const auto count = part.cells.size();
             if (count != shape->cells && !(shape->stem && count == 1)) {
-                table.refuse(record, "expected " + std::to_string(shape->cells)
-                                         + " forms, found " + std::to_string(count));
+                table.refuse(record, "expected " + std::to_string(shape->cells) + " forms, found " +
+                                         std::to_string(count));
             }
         }
         // A stem of the past names its endings by its last vowel.
-        if (!part.missing && (key == "past" || key == "pastSubjunctive") && part.cells.size() == 1
-            && !std::all_of(part.cells[0].begin(), part.cells[0].end(), pastEndingsOf)) {
+        if (!part.missing && (key == "past" || key == "pastSubjunctive") &&
+            part.cells.size() == 1 &&
+            !std::all_of(part.cells[0].begin(), part.cells[0].end(), pastEndingsOf)) {
             table.refuse(record, "\"" + value + "\" does not end in a, i, in, u, ï or û");
         }
         if (!model.parts.emplace(key, std::move(part)).second) {
@@ -334,8 +335,8 @@ void ModelTable::inherit(const std::string& name, const TextTable& table,
         }
         for (const auto& form : present.cells[person]) {
             if (!form.ends_with(ending)) {
-                refuse(std::string("lacks \"") + derived + "\", which cannot be made from \""
-                       + form + "\"");
+                refuse(std::string("lacks \"") + derived + "\", which cannot be made from \"" +
+                       form + "\"");
             }
         }
     };
@@ -358,14 +359,14 @@ std::string ModelTable::misfit(std::string_view model, std::string_view infiniti
 {
     const auto& found = models_.find(model)->second;
     const auto reason = [&](const std::string& ends) {
-        return "\"" + std::string(infinitive) + "\" does not end in \"" + ends + "\" as model \""
-               + std::string(model) + "\" asks";
+        return "\"" + std::string(infinitive) + "\" does not end in \"" + ends + "\" as model \"" +
+               std::string(model) + "\" asks";
     };
     if (!cut(infinitive, found.ends)) {
         return reason(found.ends);
     }
     for (const auto& [key, part] : found.parts) {
-        if (!cut(infinitive, part.ends)) {
+        if (!part.missing && !cut(infinitive, part.ends)) {
             return reason(part.ends);
         }
     }
@@ -422,15 +423,13 @@ Paradigm ModelTable::conjugate(std::string_view model, std::string_view infiniti
         verb.imperfect, "imperfect",
         [&](const Forms& stems) { verb.imperfect = joinedTo(stems, kImperfectEndings); },
         [&] { verb.imperfect = fromPresent(verb.present, kImperfectEndings); });
-    fill(
-        verb.subjunctive, "subjunctive", noStem,
-        [&] {
-            verb.subjunctive = fromPresent(verb.present, kSubjunctiveEndings);
-            for (const std::size_t person : {0U, 1U, 2U, 5U}) {
-                verb.subjunctive[person] =
-                    joinedTo(without(verb.present[5], "ent"), kSubjunctiveEndings[person]);
-            }
-        });
+    fill(verb.subjunctive, "subjunctive", noStem, [&] {
+        verb.subjunctive = fromPresent(verb.present, kSubjunctiveEndings);
+        for (const std::size_t person : {0U, 1U, 2U, 5U}) {
+            verb.subjunctive[person] =
+                joinedTo(without(verb.present[5], "ent"), kSubjunctiveEndings[person]);
+        }
+    });
     fill(verb.imperative, "imperative", noStem, [&] {
         verb.imperative = {imperativeOfTu(verb.present[1]), verb.present[3], verb.present[4]};
     });

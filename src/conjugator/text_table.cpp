@@ -27,8 +27,8 @@ bool isComposed(std::string_view text)
 {
     UErrorCode error = U_ZERO_ERROR;
     const auto* nfc = icu::Normalizer2::getNFCInstance(error);
-    return U_SUCCESS(error) != 0
-           && nfc->isNormalizedUTF8({text.data(), static_cast<int32_t>(text.size())}, error) != 0;
+    return U_SUCCESS(error) != 0 &&
+           nfc->isNormalizedUTF8({text.data(), static_cast<int32_t>(text.size())}, error) != 0;
 }
 
 std::string listed(const std::vector<std::string>& names)
@@ -44,8 +44,7 @@ std::string listed(const std::vector<std::string>& names)
 
 TableError::TableError(const std::string& file, std::size_t line, const std::string& reason)
     : std::runtime_error(file + ":" + std::to_string(line) + ": " + reason)
-{
-}
+{}
 
 TextTable TextTable::read(const std::filesystem::path& path, const std::vector<std::string>& header)
 {
@@ -94,8 +93,8 @@ TextTable TextTable::parse(std::string_view text, const std::string& file,
             continue;
         }
         if (record.fields.size() != header.size()) {
-            table.refuse(record, "expected " + std::to_string(header.size()) + " columns, found "
-                                     + std::to_string(record.fields.size()));
+            table.refuse(record, "expected " + std::to_string(header.size()) + " columns, found " +
+                                     std::to_string(record.fields.size()));
         }
         table.records_.push_back(std::move(record));
     }

@@ -108,8 +108,8 @@ std::string readTranslation(const TextTable& table, const TextTable::Record& rec
         table.refuse(record, "more than three senses in " + name);
     }
     for (const auto& sense : senses) {
-        if (sense.empty() || sense.starts_with(' ') || sense.ends_with(' ')
-            || sense.find(',') != std::string::npos) {
+        if (sense.empty() || sense.starts_with(' ') || sense.ends_with(' ') ||
+            sense.find(',') != std::string::npos) {
             table.refuse(record, "the " + name + " senses are not divided by \", \"");
         }
     }
@@ -164,27 +164,26 @@ Content readContent(const std::filesystem::path& folder)
     for (const auto& record : verbTable.records()) {
         auto verb = readVerb(verbTable, record, models);
         if (const auto [at, fresh] = lineOfId.emplace(verb.id, record.line); !fresh) {
-            verbTable.refuse(record, "the id " + std::to_string(verb.id)
-                                         + " stands already in line " + std::to_string(at->second));
+            verbTable.refuse(record, "the id " + std::to_string(verb.id) +
+                                         " stands already in line " + std::to_string(at->second));
         }
         if (const auto gone = retired.find(verb.id); gone != retired.end()) {
-            verbTable.refuse(record, "the id " + std::to_string(verb.id) + " is retired; it was "
-                                         + inQuotes(gone->second));
+            verbTable.refuse(record, "the id " + std::to_string(verb.id) + " is retired; it was " +
+                                         inQuotes(gone->second));
         }
-        const auto [at, fresh] = lineOfVerb.emplace(
-            std::pair(verb.entry.infinitive, verb.entry.model), record.line);
+        const auto [at, fresh] =
+            lineOfVerb.emplace(std::pair(verb.entry.infinitive, verb.entry.model), record.line);
         if (!fresh) {
-            verbTable.refuse(record, inQuotes(verb.entry.infinitive) + " with model "
-                                         + inQuotes(verb.entry.model) + " stands already in line "
-                                         + std::to_string(at->second));
+            verbTable.refuse(record, inQuotes(verb.entry.infinitive) + " with model " +
+                                         inQuotes(verb.entry.model) + " stands already in line " +
+                                         std::to_string(at->second));
         }
         verbs.push_back(std::move(verb));
     }
     if (verbs.empty()) {
         throw conjugator::TableError(verbTable.file(), 1, "there are no verbs");
     }
-    std::sort(verbs.begin(), verbs.end(),
-              [](const Verb& a, const Verb& b) { return a.id < b.id; });
+    std::sort(verbs.begin(), verbs.end(), [](const Verb& a, const Verb& b) { return a.id < b.id; });
     return {conjugator::Conjugator(std::move(models)), std::move(verbs)};
 }
 

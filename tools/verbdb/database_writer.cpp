@@ -78,7 +78,10 @@ public:
         check(code);
     }
 
-    void run(const char* sql) { check(sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr)); }
+    void run(const char* sql)
+    {
+        check(sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr));
+    }
 
     void check(int code)
     {

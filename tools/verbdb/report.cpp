@@ -33,10 +33,12 @@ void printReport(const Content& content, std::ostream& output)
         entriesOfHeadword[content.conjugator.headword(verb.entry)] += 1;
         for (std::size_t language = 0; language < kLanguages.size(); ++language) {
             const auto& text = verb.translations[language];
-            senses[language] += 1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), ','));
+            senses[language] +=
+                1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), ','));
             texts[language].insert(text);
         }
-        if (content.conjugator.models().conjugate(verb.entry.model, verb.entry.infinitive)
+        if (content.conjugator.models()
+                .conjugate(verb.entry.model, verb.entry.infinitive)
                 .participle[0]
                 .empty()) {
             withoutParticiple.push_back(verb.entry.infinitive);

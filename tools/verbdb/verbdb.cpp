@@ -14,12 +14,13 @@ namespace lumora::verbdb {
 
 namespace {
 
-constexpr auto kUsage = "usage: verbdb CONTENT_DIR OUT.db\n"
-                        "       verbdb --report CONTENT_DIR\n"
-                        "       verbdb --help | --version\n"
-                        "\n"
-                        "Turns the text tables in CONTENT_DIR into the verb database OUT.db, or\n"
-                        "prints how much they hold. A bad table is refused with its file and line.\n";
+constexpr auto kUsage =
+    "usage: verbdb CONTENT_DIR OUT.db\n"
+    "       verbdb --report CONTENT_DIR\n"
+    "       verbdb --help | --version\n"
+    "\n"
+    "Turns the text tables in CONTENT_DIR into the verb database OUT.db, or\n"
+    "prints how much they hold. A bad table is refused with its file and line.\n";
 
 } // namespace
 

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "verbdb/simplify.h"
+
+#include <gtest/gtest.h>
+
+namespace lumora::verbdb {
+namespace {
+
+TEST(Simplified, FoldsTextAsPeopleTypeIt)
+{
+    const struct {
+        const char* text;
+        const char* expected;
+    } cases[] = {
+        {"être", "etre"},
+        {"œuvrer", "oeuvrer"},
+        {"Œuvrer", "oeuvrer"},
+        {"cæsium", "caesium"},
+        {"évanouir (s')", "evanouir"},
+        {"größer machen, heißen", "grosser machen, heissen"},
+        {"misstrauen, hüten (sich)", "misstrauen, huten"},
+        {"enthalten (sich), verzichten", "enthalten, verzichten"},
+        {"Rad fahren", "rad fahren"},
+        {"enseñar, reírse", "ensenar, reirse"},
+        {"coördineren", "coordineren"},
+        {"pôr à mão", "por a mao"},
+        {"crème (brûler) fouetter", "creme (bruler) fouetter"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(simplified(c.text), c.expected);
+    }
+}
+
+} // namespace
+} // namespace lumora::verbdb

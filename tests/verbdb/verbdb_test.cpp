@@ -1,0 +1,225 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "verbdb/verbdb.h"
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace lumora::verbdb {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string readFile(const fs::path& path)
+{
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void writeFile(const fs::path& path, const std::string& text)
+{
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+/// A copy of the frozen tables, with the shipped models, in a folder of its own.
+class Verbdb : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+        folder_ = fs::path(testing::TempDir()) / (std::string("verbdb_") + test->name());
+        fs::remove_all(folder_);
+        fs::create_directories(folder_);
+        for (const auto* name : {"verbs.tsv", "retired_ids.tsv"}) {
+            fs::copy(fs::path(LUMORA_FROZEN_CONTENT_DIR) / name, folder_ / name);
+        }
+        fs::copy(fs::path(LUMORA_CONTENT_DIR) / "models.tsv", folder_ / "models.tsv");
+    }
+
+    void TearDown() override { fs::remove_all(folder_); }
+
+    int build(const std::string& name)
+    {
+        std::ostringstream output;
+        std::ostringstream errors;
+        const int code = run({folder_.string(), (folder_ / name).string()}, output, errors);
+        errors_ = errors.str();
+        return code;
+    }
+
+    /// The rows of a query, columns divided by "|".
+    std::vector<std::string> query(const std::string& sql)
+    {
+        std::vector<std::string> rows;
+        sqlite3* database = nullptr;
+        sqlite3_open((folder_ / "verbs.db").c_str(), &database);
+        const int code = sqlite3_exec(
+            database, sql.c_str(),
+            [](void* context, int columns, char** values, char**) {
+                std::string row;
+                for (int i = 0; i < columns; ++i) {
+                    row += (i == 0 ? "" : "|") + std::string(values[i] ? values[i] : "NULL");
+                }
+                static_cast<std::vector<std::string>*>(context)->push_back(row);
+                return 0;
+            },
+            &rows, nullptr);
+        EXPECT_EQ(code, SQLITE_OK) << sqlite3_errmsg(database);
+        sqlite3_close(database);
+        return rows;
+    }
+
+    fs::path folder_;
+    std::string errors_;
+};
+
+using Rows = std::vector<std::string>;
+
+TEST_F(Verbdb, WritesVerbsAndTheirForms)
+{
+    ASSERT_EQ(build("verbs.db"), 0) << errors_;
+
+    EXPECT_EQ(query("SELECT count(*), min(_id), max(_id) FROM verb"), Rows{"20|1|41"});
+    EXPECT_EQ(query("SELECT * FROM verb WHERE _id = 22"),
+              Rows{"22|méfier (se)|distrust, be wary|misstrauen, hüten (sich)|wantrouwen, hoeden "
+                   "(zich)|desconfiar|diffidare|desconfiar|mefier|misstrauen, huten|wantrouwen, "
+                   "hoeden|desconfiar|diffidare|desconfiar"});
+    EXPECT_EQ(query("SELECT pronoun, verb, display FROM conjugation WHERE verbid = 11 AND type = "
+                    "'indicatifPresent' ORDER BY conj_order"),
+              (Rows{"je|paie, paye|1", "tu|paies, payes|1", "il/elle/on|paie, paye|1",
+                    "nous|payons|1", "vous|payez|1", "ils/elles|paient, payent|1", "je|paie|0",
+                    "je|paye|0", "tu|paies|0", "tu|payes|0", "il/elle/on|paie|0",
+                    "il/elle/on|paye|0", "ils/elles|paient|0", "ils/elles|payent|0"}));
+    EXPECT_EQ(query("SELECT verbid, verb FROM conjugation WHERE verbid >= 40 AND type = "
+                    "'indicatifFuturSimple' AND pronoun = 'il/elle/on'"),
+              (Rows{"40|saillera", "41|saillira"}));
+    EXPECT_EQ(query("SELECT pronoun, verb FROM conjugation WHERE verbid = 23 AND conj_order = 1"),
+              Rows{"j'|aurais haï"});
+    EXPECT_EQ(query("SELECT count(*) = count(DISTINCT _id) FROM conjugation"), Rows{"1"});
+}
+
+TEST_F(Verbdb, KeepsTheColumnsOthersRelyOn)
+{
+    ASSERT_EQ(build("verbs.db"), 0) << errors_;
+
+    const auto columns = [&](const std::string& table) {
+        return query("SELECT group_concat(name) FROM pragma_table_info('" + table + "')");
+    };
+    EXPECT_EQ(columns("verb"),
+              Rows{"_id,french,english,german,dutch,spanish,italian,portuguese,simplified_french,"
+                   "simplified_german,simplified_dutch,simplified_spanish,simplified_italian,"
+                   "simplified_portuguese"});
+    EXPECT_EQ(columns("conjugation"), Rows{"_id,verbid,pronoun,verb,type,conj_order,display"});
+    EXPECT_EQ(columns("favourite"), Rows{"_id,verbid"});
+    EXPECT_EQ(columns("history"), Rows{"_id,verbid,timestamp"});
+    EXPECT_EQ(query("INSERT INTO history (verbid, timestamp) VALUES (1, 0.5); "
+                    "SELECT _id, timestamp FROM history"),
+              Rows{"1|0.5"});
+}
+
+TEST_F(Verbdb, MakesTheSameBytesFromTheSameTables)
+{
+    ASSERT_EQ(build("first.db"), 0) << errors_;
+    writeFile(folder_ / "second.db", "an older file is replaced");
+    ASSERT_EQ(build("second.db"), 0) << errors_;
+
+    EXPECT_GT(readFile(folder_ / "first.db").size(), 100000U);
+    EXPECT_TRUE(readFile(folder_ / "first.db") == readFile(folder_ / "second.db"));
+}
+
+TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
+{
+    const auto sound = readFile(folder_ / "verbs.tsv");
+    const auto begin = sound.find("id\t");
+    const auto head = sound.substr(begin, sound.find('\n', begin) + 1 - begin);
+    const std::string line = "1|aimer|aimer|avoir|-|-|love|lieben|houden van|amar|amare|amar\n";
+    const auto verbs = [&](std::string text) {
+        std::replace(text.begin(), text.end(), '|', '\t');
+        return head + text;
+    };
+    const auto with = [&](const std::string& old, const std::string& replacement) {
+        auto text = line;
+        return verbs(text.replace(text.find(old), old.size(), replacement));
+    };
+    const struct {
+        std::string verbs;
+        const char* refusal;
+    } cases[] = {
+        {"", "verbs.tsv:1: the file is empty"},
+        {head, "verbs.tsv:1: there are no verbs"},
+        {line, "verbs.tsv:1: the header must be id, infinitive, model, auxiliary, traits, "
+               "participle, english, german, dutch, spanish, italian, portuguese"},
+        {with("|amar\n", "\n"), "verbs.tsv:2: expected 12 columns, found 11"},
+        {verbs("\n"), "verbs.tsv:2: expected 12 columns, found 1"},
+        {with("1|", "0|"), "verbs.tsv:2: the id \"0\" is not a positive whole number"},
+        {with("1|", "1a|"), "verbs.tsv:2: the id \"1a\" is not a positive whole number"},
+        {with("1|", "30|"), "verbs.tsv:2: the id 30 is retired; it was \"parlir\""},
+        {verbs("# loved\n" + line + line), "verbs.tsv:4: the id 1 stands already in line 3"},
+        {verbs(line + "2" + line.substr(1)),
+         "verbs.tsv:3: \"aimer\" with model \"aimer\" stands already in line 2"},
+        {with("aimer|aimer", "aimer|amer"), "verbs.tsv:2: unknown model \"amer\""},
+        {with("aimer|aimer", "aimer|finir"),
+         "verbs.tsv:2: \"aimer\" does not end in \"ir\" as model \"finir\" asks"},
+        {with("avoir", "etre"), "verbs.tsv:2: unknown auxiliary \"etre\""},
+        {with("|-|-|", "|silent|-|"), "verbs.tsv:2: unknown trait \"silent\""},
+        {with("|-|-|", "|pronominal|-|"), "verbs.tsv:2: a pronominal verb takes \"être\""},
+        {with("|-|-|", "|-|variable|"), "verbs.tsv:2: unknown participle \"variable\""},
+        {with("|lieben|", "||"), "verbs.tsv:2: the german translation is missing"},
+        {with("|amare|", "|-|"), "verbs.tsv:2: the italian translation is missing"},
+        {with("|love|", "|love, like, cherish, adore|"),
+         "verbs.tsv:2: more than three senses in english"},
+        {with("|love|", "|love,like|"),
+         "verbs.tsv:2: the english senses are not divided by \", \""},
+        {with("love", "love one\u2019s own"), "verbs.tsv:2: typographic apostrophe"},
+        {with("|lieben|", "|u\u0308ben|"), "verbs.tsv:2: not composed Unicode (NFC)"},
+        {with("|lieben|", "|\xfc"
+                          "ben|"),
+         "verbs.tsv:2: not valid UTF-8"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.refusal);
+        writeFile(folder_ / "verbs.tsv", c.verbs);
+        EXPECT_EQ(build("verbs.db"), 1);
+        EXPECT_EQ(errors_, folder_.string() + "/" + c.refusal + "\n");
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder_), {}), 3) << "only the tables";
+}
+
+TEST_F(Verbdb, KeepsTheOldFileWhenItCannotWrite)
+{
+    fs::create_directories(folder_ / "taken" / "inside");
+    EXPECT_EQ(build("taken"), 1);
+    EXPECT_TRUE(errors_.starts_with((folder_ / "taken").string() + ": ")) << errors_;
+    EXPECT_FALSE(fs::exists(folder_ / "taken.part"));
+
+    fs::remove(folder_ / "models.tsv");
+    EXPECT_EQ(build("verbs.db"), 1);
+    EXPECT_EQ(errors_, (folder_ / "models.tsv").string() + ":1: the file cannot be read\n");
+}
+
+TEST_F(Verbdb, AnswersItsArguments)
+{
+    std::ostringstream output;
+    std::ostringstream errors;
+
+    EXPECT_EQ(run({"--help"}, output, errors), 0);
+    EXPECT_TRUE(output.str().starts_with("usage: verbdb CONTENT_DIR OUT.db\n"));
+    EXPECT_EQ(run({}, output, errors), 2);
+    EXPECT_EQ(run({"--all", "x"}, output, errors), 2);
+    output.str("");
+    EXPECT_EQ(run({"--report", folder_.string()}, output, errors), 0);
+    EXPECT_TRUE(output.str().starts_with("verbs              20\n")) << output.str();
+    EXPECT_NE(output.str().find("  saillir\t2\n"), std::string::npos) << "stands twice";
+}
+
+} // namespace
+} // namespace lumora::verbdb
