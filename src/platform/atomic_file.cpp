@@ -209,7 +209,7 @@ Result<void> makePrivateFolder(const std::filesystem::path& folder)
             std::error_code unknown;
             // Above the home folder even a folder that is there may refuse otherwise.
             if (!std::filesystem::is_directory(made, unknown)) {
-                return tl::unexpected(fileError(made, code));
+                return tl::unexpected(fileError(made, code == EEXIST ? ENOTDIR : code));
             }
         }
     }

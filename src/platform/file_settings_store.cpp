@@ -109,10 +109,11 @@ std::string rendered(const SettingsStore::Values& values)
 FileSettingsStore::FileSettingsStore(std::filesystem::path file) : file_(std::move(file))
 {
     const auto content = readFile(file_, kMaximumBytes);
-    if (!content && content.error().code == ENOENT) {
+    const int code = content ? 0 : content.error().code;
+    if (code == ENOENT || code == ENOTDIR) {
         return;
     }
-    if (!content && content.error().code != EFBIG) {
+    if (!content && code != EFBIG) {
         refused_ = content.error();
         return;
     }

@@ -35,6 +35,11 @@ std::vector<SwipeAction> TableDataSource::trailingSwipeActions(IndexPath /*path*
     return {};
 }
 
+void TableDataSource::rowTapped(IndexPath path)
+{
+    didSelectRow(path);
+}
+
 void TableDataSource::didSelectRow(IndexPath /*path*/) {}
 
 void TableDataSource::accessoryButtonTapped(IndexPath /*path*/) {}

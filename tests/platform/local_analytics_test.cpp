@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/local_analytics.h"
+
+#include "support/fake_clock.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <sstream>
+#include <string>
+
+namespace lumora::platform {
+
+namespace {
+
+using support::contentOf;
+using support::TemporaryFolder;
+using support::writeContent;
+
+} // namespace
+
+TEST(LocalAnalytics, WritesOneLineOfJsonAnEvent)
+{
+    const TemporaryFolder folder;
+    support::FakeClock clock;
+    clock.now = 1234.5;
+    LocalAnalytics analytics(folder / "state", clock);
+
+    analytics.logEvent("search", {{"text", "l'\"é\n\xff"}});
+    analytics.logEvent("share", {});
+
+    std::istringstream lines(contentOf(folder / "state/analytics.jsonl"));
+    std::string line;
+    ASSERT_TRUE(std::getline(lines, line));
+    const auto event = nlohmann::json::parse(line, nullptr, false);
+    EXPECT_EQ(event, (nlohmann::json{{"time", 1234.5},
+                                     {"event", "search"},
+                                     {"parameters", {{"text", "l'\"é\n\uFFFD"}}}}));
+    ASSERT_TRUE(std::getline(lines, line));
+    EXPECT_EQ(nlohmann::json::parse(line, nullptr, false)["parameters"], nlohmann::json::object());
+    EXPECT_FALSE(std::getline(lines, line));
+}
+
+TEST(LocalAnalytics, TheUsersRefusalOutlivesTheProgram)
+{
+    const TemporaryFolder folder;
+    const support::FakeClock clock;
+    EXPECT_TRUE(LocalAnalytics(folder.path(), clock).isCollectionEnabled());
+
+    LocalAnalytics(folder.path(), clock).setAnalyticsCollectionEnabled(false);
+    LocalAnalytics refused(folder.path(), clock);
+    refused.logEvent("search", {});
+
+    EXPECT_FALSE(refused.isCollectionEnabled());
+    EXPECT_FALSE(std::filesystem::exists(folder / "analytics.jsonl"));
+    refused.setAnalyticsCollectionEnabled(true);
+    EXPECT_TRUE(LocalAnalytics(folder.path(), clock).isCollectionEnabled());
+}
+
+TEST(LocalAnalytics, ADamagedFlagCollectsNothing)
+{
+    const support::FakeClock clock;
+    for (const char* content : {"", "{", "[]", "{}", "{\"collectionEnabled\": 1}"}) {
+        const TemporaryFolder folder;
+        writeContent(folder / "analytics.json", content);
+        EXPECT_FALSE(LocalAnalytics(folder.path(), clock).isCollectionEnabled()) << content;
+    }
+}
+
+TEST(LocalAnalytics, StaysBelowItsCapAndLosesAnEventThatIsTooLarge)
+{
+    const TemporaryFolder folder;
+    const support::FakeClock clock;
+    LocalAnalytics analytics(folder.path(), clock);
+
+    analytics.logEvent("huge", {{"text", std::string(LocalAnalytics::kMaximumBytes, 'x')}});
+    for (int turn = 0; turn < 400; ++turn) {
+        analytics.logEvent("event", {{"text", std::string(1000, 'x')}});
+    }
+
+    EXPECT_LE(std::filesystem::file_size(folder / "analytics.jsonl"),
+              LocalAnalytics::kMaximumBytes);
+    EXPECT_TRUE(contentOf(folder / "analytics.jsonl").starts_with("{\"time\":"));
+}
+
+} // namespace lumora::platform
