@@ -52,6 +52,8 @@ bool AppDelegate::didFinishLaunching(const LaunchOptions& options)
     // After the seeding, so that carried values win.
     carryOverOldSettings(folders_.firstDocuments, services_.settings, services_.crashReporter);
     if (options.shortcutItem) {
+        // The home screen has to be there to hear which tab is asked for.
+        homeScreen().loadViewIfNeeded();
         handleShortcutItem(*options.shortcutItem);
         return false;
     }
@@ -94,22 +96,28 @@ platform::SplitViewController& AppDelegate::splitView()
 void AppDelegate::wirePanes()
 {
     auto& split = splitView();
-    const auto panes = split.viewControllers();
-    auto* lists = dynamic_cast<platform::NavigationController*>(panes.front());
-    auto* details = dynamic_cast<platform::NavigationController*>(panes.back());
-    if (lists == nullptr || details == nullptr || details->topViewController() == nullptr) {
-        stop("the panes are not navigation stacks");
+    auto* details = dynamic_cast<platform::NavigationController*>(split.viewControllers().back());
+    if (details == nullptr || details->topViewController() == nullptr) {
+        stop("the detail pane is not a navigation stack");
     }
     auto item = details->topViewController()->navigationItem();
     item.leftBarButton = split.displayModeButtonItem();
     details->topViewController()->setNavigationItem(std::move(item));
     split.setDelegate(this);
+    homeScreen().queue = queue.get();
+}
 
-    auto* home = dynamic_cast<navigation::HomeViewController*>(lists->topViewController());
+navigation::HomeViewController& AppDelegate::homeScreen()
+{
+    auto* lists =
+        dynamic_cast<platform::NavigationController*>(splitView().viewControllers().front());
+    auto* home = lists == nullptr
+                     ? nullptr
+                     : dynamic_cast<navigation::HomeViewController*>(lists->topViewController());
     if (home == nullptr) {
         stop("the first screen is not the home screen");
     }
-    home->queue = queue.get();
+    return *home;
 }
 
 void AppDelegate::performActionForShortcutItem(const ShortcutItem& item,

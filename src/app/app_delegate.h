@@ -15,6 +15,10 @@
 #include <string>
 #include <string_view>
 
+namespace lumora::navigation {
+class HomeViewController;
+}
+
 namespace lumora::app {
 
 /// A way into the program from the home screen, by its fixed type text.
@@ -84,6 +88,7 @@ private:
     void handleShortcutItem(const ShortcutItem& item);
     void openSearch();
     platform::SplitViewController& splitView();
+    navigation::HomeViewController& homeScreen();
 
     platform::Services services_;
     UserFolders folders_;

@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "navigation/home_view_controller.h"
+
+#include "detail/verb_detail_table_view_controller.h"
+#include "lists/favourites_table_view_controller.h"
+#include "lists/history_table_view_controller.h"
+#include "lists/verb_list_table_view_controller.h"
+#include "support/world.h"
+
+#include <gtest/gtest.h>
+
+namespace lumora {
+namespace {
+
+using navigation::HomeViewController;
+using navigation::Tab;
+using support::World;
+
+class Home : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        home = std::make_shared<HomeViewController>(world.services());
+        home->queue = world.queue.get();
+        home->loadViewIfNeeded();
+    }
+
+    std::vector<Tab> tabs() const
+    {
+        std::vector<Tab> tags;
+        for (const auto& item : home->tabBar.items) {
+            tags.push_back(item.tag);
+        }
+        return tags;
+    }
+
+    World world;
+    std::shared_ptr<HomeViewController> home;
+};
+
+TEST_F(Home, ATabOpenEventShowsTheTabItNames)
+{
+    using Info = std::map<std::string, std::any, std::less<>>;
+    struct Case {
+        Info info;
+        Tab tab;
+    };
+    const Case cases[] = {
+        {{{"SelectedTab", std::string{"Favourites"}}}, Tab::Favourites},
+        {{{"SelectedTab", std::string{"History"}}}, Tab::History},
+        {{{"SelectedTab", std::string{"List"}}}, Tab::List},
+        {{{"SelectedTab", std::string{"favourites"}}}, Tab::List},
+        {{{"SelectedTab", 1}}, Tab::List},
+        {{}, Tab::List},
+    };
+    for (const auto& c : cases) {
+        home->didSelectItem(Tab::History);
+        world.notifications.post({"TabOpenEvent", {}, c.info});
+        EXPECT_EQ(home->tabBar.selectedItem, c.tab);
+    }
+}
+
+TEST_F(Home, MakesEachListOnceAndKeepsIt)
+{
+    const auto list = home->currentChild();
+    EXPECT_TRUE(dynamic_cast<lists::VerbListTableViewController*>(list.get()));
+    home->didSelectItem(Tab::Favourites);
+    EXPECT_TRUE(dynamic_cast<lists::FavouritesTableViewController*>(home->currentChild().get()));
+    home->didSelectItem(Tab::List);
+    EXPECT_EQ(home->currentChild(), list);
+}
+
+TEST_F(Home, TheHistoryTabComesAndGoesWithTheFeature)
+{
+    EXPECT_EQ(tabs(), (std::vector{Tab::List, Tab::Favourites, Tab::History}));
+    home->didSelectItem(Tab::History);
+
+    world.settings.setValue(false, "UseHistory");
+    world.notifications.post({"HistoryFeatureToggled", false, {}});
+    EXPECT_EQ(tabs(), (std::vector{Tab::List, Tab::Favourites}));
+    EXPECT_EQ(home->tabBar.selectedItem, Tab::List);
+
+    world.settings.setValue(true, "UseHistory");
+    world.notifications.post({"HistoryFeatureToggled", true, {}});
+    EXPECT_EQ(tabs().size(), 3U);
+}
+
+TEST_F(Home, AnEmptySearchTextDoesNotReachTheResults)
+{
+    auto& results = *home->searchResultsController();
+    home->searchTextChanged("aller");
+    ASSERT_EQ(results.verbs.size(), 1U);
+    home->searchTextChanged("");
+    EXPECT_EQ(results.query, "aller");
+    EXPECT_EQ(results.verbs.size(), 1U);
+}
+
+TEST_F(Home, AResultOpensAsADetailScreen)
+{
+    home->searchTextChanged("être");
+    home->searchBar.isFirstResponder = true;
+    world.device.tablet = true;
+
+    home->searchResultsController()->rowTapped({0, 0});
+
+    const auto detail = world.shownDetail();
+    ASSERT_TRUE(detail);
+    EXPECT_EQ(detail->selectedVerb, home->selectedSearchResult);
+    EXPECT_EQ(detail->selectedVerb->french, "être");
+    EXPECT_FALSE(home->searchBar.isFirstResponder);
+}
+
+TEST_F(Home, TellsTheCrashReportTheOptions)
+{
+    world.device.languages = {"de-CH", "fr"};
+    world.settings.setValue(std::string{"W"}, "SearchFrom");
+    world.settings.setValue(std::int64_t{0}, "SortByLang");
+    home->viewWillAppear();
+
+    const std::map<std::string, platform::CustomValue, std::less<>> expected{
+        {"IncludeEnglish", false},
+        {"SearchFromStart", false},
+        {"ShowTranslated", true},
+        {"SortByLang", true},
+        {"TranslationLanguage", std::string{}},
+        {"Locale", std::string{"de-CH"}},
+    };
+    EXPECT_EQ(world.crashReporter.customValues, expected);
+}
+
+} // namespace
+} // namespace lumora

@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "lists/search_query.h"
+#include "lists/search_results_table_view_controller.h"
+
+#include "support/world.h"
+
+#include <gtest/gtest.h>
+
+namespace lumora {
+namespace {
+
+using lists::SearchResultsTableViewController;
+using platform::SettingValue;
+using support::World;
+
+const std::string kColumnsUpToOrder =
+    "SELECT verb._id, english, lower(french) as french, simplified_french, german, "
+    "simplified_german, spanish, simplified_spanish, dutch, simplified_dutch, italian, "
+    "simplified_italian, portuguese, simplified_portuguese, substr(";
+
+struct Settings {
+    std::vector<std::pair<const char*, SettingValue>> values;
+};
+
+TEST(SearchQuery, AssemblesTheStatementFromTheSettings)
+{
+    struct Case {
+        const char* why;
+        Settings settings;
+        const char* text;
+        std::string statement;
+        const char* pattern;
+        int placeholders;
+    };
+    const Case cases[] = {
+        {"all settings missing",
+         {},
+         "aller",
+         kColumnsUpToOrder +
+             "simplified_french, 0, 1) as index_letter, favourite._id as favourite_available FROM "
+             "verb\n\nLEFT OUTER JOIN favourite ON verb._id = favourite.verbid\nWHERE french LIKE "
+             "? OR simplified_french LIKE ?\n\nORDER BY simplified_french",
+         "aller%",
+         2},
+        {"everything on, in German",
+         {{{"SortByLang", false},
+           {"translation_language", std::string{"de"}},
+           {"IncludeEnglish", true},
+           {"SearchFrom", std::string{"W"}},
+           {"IncludeConjugations", true}}},
+         "geh",
+         kColumnsUpToOrder +
+             "simplified_german, 0, 1) as index_letter, favourite._id as favourite_available FROM "
+             "verb\nLEFT OUTER JOIN conjugation ON verb._id = conjugation.verbid\nLEFT OUTER JOIN "
+             "favourite ON verb._id = favourite.verbid\nWHERE french LIKE ? OR simplified_french "
+             "LIKE ? OR german LIKE ? OR simplified_german LIKE ? OR conjugation.verb like ?\n"
+             "GROUP BY verb._id\nORDER BY simplified_german",
+         "%geh%",
+         5},
+        {"English names its column twice; Portuguese would order by the simplified one",
+         {{{"SortByLang", true},
+           {"translation_language", std::string{"tr"}},
+           {"IncludeEnglish", true},
+           {"IncludeConjugations", std::int64_t{1}},
+           {"SearchFrom", std::int64_t{7}}}},
+         "go",
+         kColumnsUpToOrder +
+             "simplified_french, 0, 1) as index_letter, favourite._id as favourite_available FROM "
+             "verb\n\nLEFT OUTER JOIN favourite ON verb._id = favourite.verbid\nWHERE french LIKE "
+             "? OR simplified_french LIKE ? OR english LIKE ? OR english LIKE ?\n\nORDER BY "
+             "simplified_french",
+         "go%",
+         4},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        World world;
+        for (const auto& [key, value] : c.settings.values) {
+            world.settings.setValue(value, key);
+        }
+
+        const auto query = lists::makeSearchQuery(c.text, world.settings, world.device);
+
+        EXPECT_EQ(query.statement, c.statement);
+        EXPECT_EQ(query.pattern, c.pattern);
+        EXPECT_EQ(query.placeholders, c.placeholders);
+    }
+}
+
+TEST(SearchResults, FindsWhatAPersonTypes)
+{
+    struct Case {
+        const char* text;
+        std::vector<std::pair<const char*, SettingValue>> settings;
+        std::vector<std::string> found;
+    };
+    const std::pair<const char*, SettingValue> anywhere{"SearchFrom", std::string{"W"}};
+    const std::pair<const char*, SettingValue> translations{"IncludeEnglish", true};
+    const std::pair<const char*, SettingValue> conjugations{"IncludeConjugations", true};
+    const Case cases[] = {
+        {"aller", {}, {"aller"}},
+        {"ALL", {}, {"aller"}},
+        {"etre", {}, {"être"}},
+        {"évan", {}, {"évanouir (s')"}},
+        {"(s\u2019", {anywhere}, {"évanouir (s')"}},
+        {"go", {}, {}},
+        {"go", {translations}, {"aller"}},
+        {"vais", {}, {}},
+        {"vais", {conjugations}, {"aller"}},
+        {"va", {conjugations}, {"aller"}},
+        {"%", {}, {"aller", "avoir", "être", "évanouir (s')", "falloir", "pouvoir"}},
+        {"_voir", {}, {"avoir"}},
+        {"", {anywhere}, {"aller", "avoir", "être", "évanouir (s')", "falloir", "pouvoir"}},
+        {"aller\n", {}, {}},
+        {"\U0001F600'\"", {anywhere, conjugations}, {}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text);
+        World world;
+        for (const auto& [key, value] : c.settings) {
+            world.settings.setValue(value, key);
+        }
+        SearchResultsTableViewController results{world.services()};
+        results.queue = world.queue.get();
+
+        results.search(c.text);
+
+        std::vector<std::string> found;
+        for (const auto& verb : results.verbs) {
+            found.push_back(verb->french);
+        }
+        EXPECT_EQ(found, c.found);
+        EXPECT_TRUE(world.crashReporter.lines.empty());
+        EXPECT_EQ(results.numberOfRowsInSection(0), static_cast<int>(c.found.size()));
+    }
+}
+
+TEST(SearchResults, AFailureIsLoggedAndEmptiesTheList)
+{
+    World world;
+    SearchResultsTableViewController results{world.services()};
+    results.search("a");
+    EXPECT_EQ(world.table(results).reloads, 0) << "no queue, nothing to show";
+
+    results.queue = world.queue.get();
+    results.search("a");
+    world.execute("DROP TABLE favourite");
+    results.search("a\u2019");
+
+    EXPECT_TRUE(results.verbs.empty());
+    EXPECT_EQ(results.query, "a'");
+    EXPECT_EQ(world.crashReporter.lines,
+              (std::vector<std::string>{
+                  "An error occurred when performing search: no such table: favourite (1)"}));
+}
+
+} // namespace
+} // namespace lumora

@@ -1,0 +1,510 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/app_delegate.h"
+#include "app/database_preparation.h"
+#include "app/old_settings_file.h"
+#include "app/rescue_file.h"
+#include "detail/verb_detail_table_view_controller.h"
+#include "navigation/home_view_controller.h"
+#include "platform/atomic_file.h"
+#include "platform/navigation_controller.h"
+
+#include "support/world.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+namespace lumora {
+namespace {
+
+using app::AppDelegate;
+using app::UserData;
+using support::contentOf;
+using support::World;
+using support::writeContent;
+
+/// A machine on which the program is about to start, again and again.
+class StartUp : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::filesystem::create_directory(documents);
+        support::writeSmallDatabase(resource);
+        world.bundle.resources["verbs.db"] = resource;
+        world.bundle.info["CFBundleShortVersionString"] = "2.0";
+    }
+
+    platform::Result<void> prepare()
+    {
+        return app::prepareDatabase(documents, world.bundle, world.settings, world.crashReporter);
+    }
+
+    /// The working database as another version left it.
+    void installOld(const std::string& favourites, const std::string& history)
+    {
+        support::writeSmallDatabase(database);
+        const auto queue = open();
+        if (!favourites.empty()) {
+            support::executeOn(*queue, "INSERT INTO favourite(verbid) VALUES " + favourites);
+        }
+        if (!history.empty()) {
+            support::executeOn(*queue, "INSERT INTO history(verbid, timestamp) VALUES " + history);
+        }
+        support::executeOn(*queue, "CREATE TABLE old(x)");
+        world.settings.setValue(std::string{"1.0"}, "installed_version");
+    }
+
+    std::unique_ptr<platform::DatabaseQueue> open() const
+    {
+        return platform::DatabaseQueue::open(platform::fileUrl(database));
+    }
+
+    /// "favourites | history" of the working database, in row order.
+    std::string userRows() const
+    {
+        std::string text;
+        open()->inDatabase([&](platform::Database& connection) {
+            auto favourites = connection.executeQuery("SELECT verbid FROM favourite", {});
+            while (favourites && favourites->next()) {
+                text += favourites->stringForColumn(0) + " ";
+            }
+            text += "|";
+            auto history = connection.executeQuery("SELECT verbid, timestamp FROM history", {});
+            while (history && history->next()) {
+                text += " " + history->stringForColumn(0) + "@" + history->stringForColumn(1);
+            }
+        });
+        return text;
+    }
+
+    bool isFresh() const
+    {
+        bool old = true;
+        open()->inDatabase([&](platform::Database& connection) {
+            old = connection.executeQuery("SELECT x FROM old", {}).has_value();
+        });
+        return !old;
+    }
+
+    AppDelegate makeDelegate()
+    {
+        AppDelegate delegate{world.services(), {documents, documents.string()}, {0, 0, 1, 1}};
+        delegate.window.rootViewController = world.storyboard.instantiateInitialViewController();
+        return delegate;
+    }
+
+    World world;
+    std::filesystem::path documents = world.folder / "documents";
+    std::filesystem::path database = documents / "verbs.db";
+    std::filesystem::path rescue = documents / "rescue.json";
+    std::filesystem::path resource = world.folder / "resource.db";
+};
+
+TEST_F(StartUp, ReplacesTheDatabaseExactlyWhenItIsMissingOrOfAnotherVersion)
+{
+    struct Case {
+        const char* why;
+        const char* recorded;
+        bool installed;
+        bool replaced;
+    };
+    const Case cases[] = {
+        {"first start", nullptr, false, true},   {"same version", "2.0", true, false},
+        {"deleted by hand", "2.0", false, true}, {"update", "1.0", true, true},
+        {"downgrade", "3.0", true, true},        {"never recorded", nullptr, true, true},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        std::filesystem::remove(database);
+        if (c.installed) {
+            installOld("(3)", "");
+        }
+        world.settings.removeValue("installed_version");
+        if (c.recorded != nullptr) {
+            world.settings.setValue(std::string{c.recorded}, "installed_version");
+        }
+
+        ASSERT_TRUE(prepare());
+
+        EXPECT_EQ(isFresh(), c.replaced);
+        EXPECT_EQ(userRows(), c.installed ? "3 |" : "|");
+        EXPECT_EQ(world.settings.stringForKey("installed_version"), "2.0");
+        EXPECT_FALSE(std::filesystem::exists(rescue));
+    }
+}
+
+TEST_F(StartUp, CarriesFavouritesAndHistoryOverInTheirOrder)
+{
+    installOld("(6), (NULL), (2), (6)", "(2, 123456789.75), (3, 5.9), (2, 7)");
+
+    ASSERT_TRUE(prepare());
+
+    EXPECT_EQ(userRows(), "6 2 6 | 2@123456789.0 3@5.0 2@7.0");
+    EXPECT_TRUE(world.crashReporter.lines.empty());
+}
+
+TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsIt)
+{
+    const std::string whole = contentOf(resource);
+    const std::string cases[] = {"", "not a database at all, just text that goes on for a while",
+                                 whole.substr(0, 100), whole.substr(0, whole.size() / 2)};
+    for (const auto& content : cases) {
+        SCOPED_TRACE(content.size());
+        writeContent(database, content);
+        world.settings.setValue(std::string{"1.0"}, "installed_version");
+        world.crashReporter.lines.clear();
+
+        ASSERT_TRUE(prepare());
+
+        EXPECT_TRUE(isFresh());
+        EXPECT_EQ(userRows(), "|");
+        ASSERT_EQ(world.crashReporter.lines.size(), 1U);
+        EXPECT_TRUE(world.crashReporter.lines[0].starts_with(
+            "An error occurred when reading migration settings: "));
+        EXPECT_EQ(contentOf(documents / "verbs.db.damaged"), content);
+        std::filesystem::remove(documents / "verbs.db.damaged");
+    }
+}
+
+TEST_F(StartUp, KeepsWhatWasReadBeforeAReadingFailed)
+{
+    installOld("(3), (1)", "");
+    support::executeOn(*open(), "DROP TABLE history");
+
+    ASSERT_TRUE(prepare());
+
+    EXPECT_EQ(userRows(), "3 1 |");
+    EXPECT_EQ(
+        world.crashReporter.lines,
+        (std::vector<std::string>{"An error occurred when reading migration settings: no such "
+                                  "table: history (1)"}));
+}
+
+TEST_F(StartUp, ReadsADatabasePutAsideOnceItCanBeReadAgain)
+{
+    installOld("(3)", "(2, 9)");
+    std::filesystem::rename(database, documents / "verbs.db.damaged");
+
+    ASSERT_TRUE(prepare());
+
+    EXPECT_EQ(userRows(), "3 | 2@9.0");
+    EXPECT_FALSE(std::filesystem::exists(documents / "verbs.db.damaged"));
+}
+
+TEST_F(StartUp, AnInsertThatFailsStopsTheRestoreAndKeepsTheRescueFile)
+{
+    const auto refuse = platform::DatabaseQueue::open(platform::fileUrl(resource));
+    support::executeOn(*refuse, "CREATE TRIGGER no BEFORE INSERT ON favourite WHEN new.verbid = 2 "
+                                "BEGIN SELECT RAISE(FAIL, 'refused'); END");
+    installOld("(3), (2), (1)", "(3, 8)");
+
+    ASSERT_TRUE(prepare());
+
+    EXPECT_EQ(userRows(), "3 |") << "what was inserted stays, the rest is skipped";
+    EXPECT_EQ(world.crashReporter.lines,
+              (std::vector<std::string>{
+                  "An error occurred when inserting migration settings: refused (19)"}));
+    EXPECT_EQ(world.settings.stringForKey("installed_version"), "2.0");
+
+    // Meanwhile the user goes on; then the cause is gone.
+    support::executeOn(*open(), "INSERT INTO favourite(verbid) VALUES (5)");
+    support::executeOn(*open(), "INSERT INTO history(verbid, timestamp) VALUES (4, 99)");
+    support::executeOn(*open(), "DROP TRIGGER no");
+    ASSERT_TRUE(prepare());
+
+    EXPECT_EQ(userRows(), "5 3 2 1 | 4@99.0 3@8.0");
+    EXPECT_FALSE(std::filesystem::exists(rescue));
+}
+
+TEST_F(StartUp, GoesOnAfterAnInterruptionAtAnyStep)
+{
+    const UserData rows{{3, 2}, {{1, 5}, {2, 6}}};
+    const std::string all = "3 2 | 1@5.0 2@6.0";
+    struct Case {
+        const char* why;
+        bool oldThere;
+        bool copyThere;
+        const char* recorded;
+        const char* partial;
+    };
+    const Case cases[] = {
+        {"rescue written, old database whole", true, false, "1.0", nullptr},
+        {"half a copy beside the old one", true, true, "1.0", nullptr},
+        {"old one deleted", false, true, "1.0", nullptr},
+        {"new one in place, nothing restored", false, false, "1.0", ""},
+        {"restored in part", false, false, "1.0", "(3)"},
+        {"restored, rescue not removed, version not recorded", false, false, "1.0", "(3), (2)"},
+        {"restored in part, version recorded", false, false, "2.0", "(3)"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        std::filesystem::remove(database);
+        ASSERT_TRUE(app::RescueFile{rescue}.write(rows));
+        if (c.oldThere) {
+            installOld("(3), (2)", "(1, 5), (2, 6)");
+        }
+        if (c.partial != nullptr) {
+            installOld(c.partial, "");
+        }
+        if (c.copyThere) {
+            writeContent(documents / "verbs.db.new", "SQLite format 3");
+            writeContent(documents / "verbs.db-journal", "stale");
+        }
+        world.settings.setValue(std::string{c.recorded}, "installed_version");
+
+        ASSERT_TRUE(prepare());
+
+        EXPECT_EQ(userRows(), all);
+        EXPECT_FALSE(std::filesystem::exists(rescue));
+        EXPECT_FALSE(std::filesystem::exists(documents / "verbs.db.new"));
+        EXPECT_TRUE(world.crashReporter.lines.empty());
+    }
+}
+
+TEST_F(StartUp, AVerbViewedSinceIsNotPutBackToItsOldTime)
+{
+    installOld("", "(1, 50)");
+    world.settings.setValue(std::string{"2.0"}, "installed_version");
+    ASSERT_TRUE(app::RescueFile{rescue}.write({{}, {{1, 5}, {2, 6}}}));
+
+    ASSERT_TRUE(prepare());
+
+    EXPECT_EQ(userRows(), "| 1@50.0 2@6.0");
+}
+
+TEST_F(StartUp, ARescueFileThatMakesNoSenseIsPutAside)
+{
+    const char* cases[] = {"",
+                           "{",
+                           "[]",
+                           "{\"favourites\":[1]}",
+                           "{\"favourites\":[\"x\"],\"history\":[]}",
+                           "{\"favourites\":[],\"history\":[[1]]}"};
+    for (const char* content : cases) {
+        SCOPED_TRACE(content);
+        writeContent(rescue, content);
+        ASSERT_TRUE(prepare());
+        EXPECT_EQ(contentOf(documents / "rescue.json.damaged"), content);
+        EXPECT_FALSE(std::filesystem::exists(rescue));
+    }
+}
+
+TEST_F(StartUp, WithoutItsDatabaseResourceOrVersionTheProgramStops)
+{
+    auto noResource = world.bundle;
+    noResource.resources.clear();
+    EXPECT_DEATH(static_cast<void>(app::prepareDatabase(documents, noResource, world.settings,
+                                                        world.crashReporter)),
+                 "verb database is missing");
+    auto noVersion = world.bundle;
+    noVersion.info.clear();
+    EXPECT_DEATH(static_cast<void>(app::prepareDatabase(documents, noVersion, world.settings,
+                                                        world.crashReporter)),
+                 "version is unknown");
+}
+
+TEST_F(StartUp, ADirectoryThatCannotBeWrittenLeavesTheVersionAndStartsWithoutAQueue)
+{
+    std::filesystem::remove(documents);
+    writeContent(documents, "a file in the directory's place");
+    auto delegate = makeDelegate();
+
+    EXPECT_TRUE(delegate.didFinishLaunching({}));
+
+    EXPECT_FALSE(delegate.queue);
+    EXPECT_TRUE(world.console.str().starts_with("Unable to initialise database "));
+    EXPECT_EQ(world.settings.objectForKey("installed_version"), std::nullopt);
+    EXPECT_EQ(world.settings.values().size(), 5U) << "the rest of the launch went on";
+}
+
+TEST_F(StartUp, AFirstStartWritesFiveSettingsAndTheVersion)
+{
+    auto delegate = makeDelegate();
+    EXPECT_TRUE(delegate.didFinishLaunching({}));
+    const platform::SettingsStore::Values expected{
+        {"IncludeEnglish", true},      {"SearchFrom", std::string{"S"}},
+        {"SearchConjugations", false}, {"ShowTranslated", false},
+        {"SortByLang", true},          {"installed_version", std::string{"2.0"}}};
+    EXPECT_EQ(world.settings.values(), expected);
+    EXPECT_TRUE(delegate.queue);
+
+    world.settings.setValue(false, "IncludeEnglish");
+    world.settings.setValue(std::string{"W"}, "SearchFrom");
+    EXPECT_TRUE(makeDelegate().didFinishLaunching({}));
+    EXPECT_FALSE(world.settings.boolForKey("IncludeEnglish"));
+    EXPECT_EQ(world.settings.stringForKey("SearchFrom"), "W");
+}
+
+std::string plist(const std::string& entries)
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><dict>" + entries +
+           "</dict></plist>";
+}
+
+TEST_F(StartUp, CarriesOldSettingsOverOnceAndByKind)
+{
+    struct Case {
+        const char* why;
+        std::string content;
+        platform::SettingsStore::Values carried;
+    };
+    const Case cases[] = {
+        {"all four",
+         plist("<key>IncludeEnglish</key><false/><key>SearchFrom</key><string>W</string>"
+               "<key>SearchConjugations</key><integer>1</integer>"
+               "<key>SortByLang</key><real>0.5</real><key>Other</key><true/>"),
+         {{"IncludeEnglish", false},
+          {"SearchFrom", std::string{"W"}},
+          {"SearchConjugations", true},
+          {"SortByLang", true}}},
+        {"wrong kinds are skipped",
+         plist("<key>SearchFrom</key><integer>1</integer><key>IncludeEnglish</key>"
+               "<string>YES</string><key>SortByLang</key><integer>0</integer>"),
+         {{"SortByLang", false}}},
+        {"an array is no dictionary",
+         "<?xml version=\"1.0\"?><plist version=\"1.0\"><array/></plist>",
+         {}},
+        {"no property list", "IncludeEnglish=1", {}},
+        {"empty", "", {}},
+    };
+    const auto file = documents / "lumora.plist";
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        World fresh;
+        writeContent(file, c.content);
+
+        app::carryOverOldSettings(documents.string(), fresh.settings, fresh.crashReporter);
+
+        EXPECT_EQ(fresh.settings.values(), c.carried);
+        EXPECT_FALSE(std::filesystem::exists(file));
+        EXPECT_TRUE(fresh.crashReporter.lines.empty());
+    }
+}
+
+TEST_F(StartUp, ReadsTheDocumentsPathAsUrlText)
+{
+    const auto blank = world.folder / "with blank";
+    const auto percent = world.folder / "a%62c";
+    const auto decoded = world.folder / "abc";
+    for (const auto& folder : {blank, percent, decoded}) {
+        std::filesystem::create_directory(folder);
+        writeContent(folder / "lumora.plist", plist("<key>SortByLang</key><false/>"));
+    }
+
+    app::carryOverOldSettings(blank.string(), world.settings, world.crashReporter);
+    app::carryOverOldSettings(std::nullopt, world.settings, world.crashReporter);
+    EXPECT_TRUE(world.settings.values().empty()) << "a blank makes no valid URL";
+    EXPECT_TRUE(std::filesystem::exists(blank / "lumora.plist"));
+
+    app::carryOverOldSettings(percent.string(), world.settings, world.crashReporter);
+    EXPECT_FALSE(std::filesystem::exists(decoded / "lumora.plist"));
+}
+
+TEST_F(StartUp, AnOldSettingsFileThatCannotBeDeletedIsReported)
+{
+    std::filesystem::create_directories(documents / "lumora.plist" / "x");
+
+    app::carryOverOldSettings(documents.string(), world.settings, world.crashReporter);
+
+    EXPECT_EQ(world.crashReporter.lines,
+              (std::vector<std::string>{"Unable to delete file. Will try again later. %@"}));
+}
+
+TEST_F(StartUp, AShortcutOpensItsTab)
+{
+    struct Case {
+        const char* type;
+        navigation::Tab tab;
+        int posts;
+    };
+    const Case cases[] = {
+        {"com.brindle.shortcut.favourite", navigation::Tab::Favourites, 1},
+        {"com.brindle.shortcut.history", navigation::Tab::History, 1},
+        {"com.brindle.shortcut.list", navigation::Tab::List, 1},
+        {"com.brindle.shortcut.search", navigation::Tab::List, 0},
+        {"com.brindle.shortcut.other", navigation::Tab::List, 0},
+    };
+    int before = 0;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.type);
+        auto delegate = makeDelegate();
+
+        EXPECT_FALSE(delegate.didFinishLaunching({app::ShortcutItem{c.type}}));
+
+        EXPECT_EQ(world.posted("TabOpenEvent"), before + c.posts);
+        before = world.posted("TabOpenEvent");
+        auto& split =
+            dynamic_cast<platform::SplitViewController&>(*delegate.window.rootViewController);
+        auto& stack =
+            dynamic_cast<platform::NavigationController&>(*split.viewControllers().front());
+        auto& home = dynamic_cast<navigation::HomeViewController&>(*stack.topViewController());
+        EXPECT_EQ(home.tabBar.selectedItem, c.tab);
+        bool success = false;
+        delegate.performActionForShortcutItem({c.type}, [&](bool done) { success = done; });
+        EXPECT_TRUE(success);
+        before = world.posted("TabOpenEvent");
+    }
+}
+
+TEST_F(StartUp, TheSearchShortcutComesBackToTheListAndFocusesTheField)
+{
+    auto delegate = makeDelegate();
+    delegate.didFinishLaunching({});
+    auto& split = dynamic_cast<platform::SplitViewController&>(*delegate.window.rootViewController);
+    auto& stack = dynamic_cast<platform::NavigationController&>(*split.viewControllers().front());
+    auto& home = dynamic_cast<navigation::HomeViewController&>(*stack.topViewController());
+    home.loadViewIfNeeded();
+    const app::ShortcutItem search{"com.brindle.shortcut.search"};
+
+    delegate.performActionForShortcutItem(search, [](bool) {});
+    world.clock.advance(std::chrono::milliseconds{200});
+    EXPECT_FALSE(home.searchBar.isFirstResponder) << "two panes: nothing happens";
+
+    split.setCollapsed(true);
+    split.showDetailViewController(world.storyboard.instantiateDestination("showDetail"));
+    ASSERT_EQ(stack.viewControllers().size(), 2U);
+    delegate.performActionForShortcutItem(search, [](bool) {});
+    EXPECT_EQ(stack.viewControllers().size(), 1U);
+    EXPECT_FALSE(home.searchBar.isFirstResponder);
+    world.clock.advance(std::chrono::milliseconds{100});
+    EXPECT_TRUE(home.searchBar.isFirstResponder);
+}
+
+TEST_F(StartUp, ANarrowWindowDropsOnlyAnEmptyDetailScreen)
+{
+    auto delegate = makeDelegate();
+    delegate.didFinishLaunching({});
+    const auto stackWith = [&](data::VerbPtr verb) {
+        auto stack = std::dynamic_pointer_cast<platform::NavigationController>(
+            world.storyboard.instantiateDestination("showDetail"));
+        dynamic_cast<detail::VerbDetailTableViewController&>(*stack->topViewController())
+            .selectedVerb = std::move(verb);
+        return stack;
+    };
+    platform::NavigationController primary{stackWith(nullptr)};
+    const auto collapses = [&](platform::ViewController& secondary) {
+        return delegate.collapseSecondaryViewControllerOntoPrimary(secondary, primary);
+    };
+    platform::NavigationController home{
+        world.storyboard.instantiateViewController("VerbListTableViewController")};
+    platform::NavigationController none{stackWith(nullptr)};
+    none.setViewControllers({});
+
+    EXPECT_TRUE(collapses(*stackWith(nullptr)));
+    EXPECT_FALSE(collapses(*stackWith(world.verb(3))));
+    EXPECT_FALSE(collapses(home));
+    EXPECT_FALSE(collapses(none));
+    EXPECT_FALSE(collapses(*home.topViewController()));
+}
+
+TEST_F(StartUp, AnotherRootThanASplitViewStopsTheProgram)
+{
+    auto delegate = makeDelegate();
+    delegate.window.rootViewController = world.storyboard.instantiateDestination("showDetail");
+    EXPECT_DEATH(delegate.didFinishLaunching({}), "not a split view");
+}
+
+} // namespace
+} // namespace lumora

@@ -1,0 +1,268 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "detail/verb_detail_table_view_controller.h"
+
+#include "detail/tense_table.h"
+#include "support/world.h"
+
+#include <gtest/gtest.h>
+
+namespace lumora {
+namespace {
+
+using detail::VerbDetailTableViewController;
+using platform::PlayControl;
+using support::World;
+
+class VerbDetail : public testing::Test {
+protected:
+    std::shared_ptr<VerbDetailTableViewController> open(const data::VerbPtr& verb)
+    {
+        auto detail = std::make_shared<VerbDetailTableViewController>(world.services());
+        detail->queue = world.queue.get();
+        detail->selectedVerb = verb;
+        detail->loadViewIfNeeded();
+        detail->viewWillAppear();
+        detail->viewDidAppear();
+        return detail;
+    }
+
+    World world;
+    data::VerbPtr aller = world.verb(3);
+};
+
+TEST_F(VerbDetail, GroupsTheFormsByTenseInTheirOrder)
+{
+    world.execute("INSERT INTO conjugation VALUES"
+                  "(901, 3, 'nous', 'allons', 'indicatifPresent', 904, 1),"
+                  "(902, 3, 'x', 'hidden', 'indicatifPresent', 905, 0),"
+                  "(903, 3, 'x', 'unknown', 'IndicatifPresent', 906, 1),"
+                  "(904, 3, NULL, NULL, 'infinitif', 907, 1)");
+
+    open(aller);
+
+    ASSERT_EQ(aller->indicatifPresent.size(), 3U);
+    EXPECT_EQ(aller->indicatifPresent[0]->verb, "vais");
+    EXPECT_EQ(aller->indicatifPresent[2]->verb, "allons");
+    EXPECT_EQ(aller->indicatifPresent[2]->order, 904);
+    ASSERT_EQ(aller->infinitif.size(), 1U);
+    EXPECT_EQ(aller->infinitif[0]->pronoun, "");
+    EXPECT_FALSE(aller->loaded);
+}
+
+TEST_F(VerbDetail, CountsSectionsAndItemsByMood)
+{
+    const auto detail = open(aller);
+    const int sections[] = {9, 5, 4, 4};
+    const int items[] = {8, 4, 3, 2};
+    const char* names[] = {"CONJUGATIONS_IND", "CONJUGATIONS_SUB", "CONJUGATIONS_CON",
+                           "CONJUGATIONS_OTHER"};
+    for (int segment = 0; segment < 4; ++segment) {
+        detail->selectVerbTypes(segment);
+        EXPECT_EQ(detail->numberOfSections(), sections[segment]);
+        EXPECT_EQ(detail->numberOfItems(), items[segment]);
+        EXPECT_EQ(world.analytics.events.back().name, "conjugation_tab");
+        EXPECT_EQ(world.analytics.events.back().parameters.at("name"), names[segment]);
+    }
+    EXPECT_EQ(detail->titleForHeaderInSection(0), std::nullopt);
+    EXPECT_EQ(detail->titleForHeaderInSection(1), "tense.other.imperative");
+    EXPECT_EQ(detail->titleForHeaderInSection(3), std::nullopt);
+    EXPECT_EQ(detail->numberOfRowsInSection(3), 0);
+}
+
+TEST_F(VerbDetail, ShowsARowAsPronounFormAndPlayControl)
+{
+    const auto detail = open(aller);
+
+    EXPECT_EQ(detail->cellForRow({0, 0}).text, "go");
+    EXPECT_FALSE(detail->cellForRow({0, 0}).selectable);
+    const auto cell = detail->cellForRow({1, 0});
+    EXPECT_EQ(cell.text, "je");
+    EXPECT_EQ(cell.detailText, "vais");
+    ASSERT_TRUE(std::holds_alternative<PlayControl>(cell.control));
+    const auto again = detail->cellForRow({1, 0});
+    EXPECT_EQ(std::get<PlayControl>(cell.control).indicator,
+              std::get<PlayControl>(again.control).indicator);
+
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(detail->cellForRow({1, 7}).control));
+    EXPECT_EQ(world.crashReporter.lines.back(), "Unable to find conjugation for table row [1, 7]");
+}
+
+TEST_F(VerbDetail, FillsACollectionCellWithSixLines)
+{
+    for (int order = 10; order < 16; ++order) {
+        world.execute("INSERT INTO conjugation VALUES(NULL, 3, 'p', 'f', 'indicatifImparfait', " +
+                      std::to_string(order) + ", 1)");
+    }
+    world.execute(
+        "INSERT INTO conjugation VALUES(NULL, 3, 'p', '7th', 'indicatifImparfait', 16, 1)");
+    const auto detail = open(aller);
+
+    const auto present = detail->cellForItem(0);
+    ASSERT_EQ(present.rows.size(), 6U);
+    EXPECT_EQ(present.title, "tense.ind.present");
+    EXPECT_EQ(present.rows[1].trailing, "vas");
+    EXPECT_EQ(present.rows[1].audioWidth, 30);
+    EXPECT_EQ(present.rows[1].audioPadding, 8);
+    EXPECT_FALSE(present.rows[1].controlHidden);
+    EXPECT_EQ(present.rows[2].leading, " ");
+    EXPECT_EQ(present.rows[2].trailing, " ");
+    EXPECT_EQ(present.rows[2].audioWidth, 0);
+    EXPECT_TRUE(present.rows[2].controlHidden);
+    EXPECT_EQ(detail->cellForItem(2).rows.size(), 6U) << "the seventh form is not shown";
+    EXPECT_EQ(present.rows[0].control.indicator, detail->cellForItem(0).rows[0].control.indicator);
+}
+
+TEST_F(VerbDetail, TakesTitlesFromTheChosenNameSetAtEveryLookup)
+{
+    const auto detail = open(aller);
+    world.settings.setValue(true, "ShowTranslated");
+    for (int segment = 0; segment < 4; ++segment) {
+        detail->selectVerbTypes(segment);
+        for (int item = 0; item < detail->numberOfItems(); ++item) {
+            const auto block = detail::blocksOfSegment(segment);
+            const auto expected =
+                item < static_cast<int>(block.size())
+                    ? std::string{block[static_cast<std::size_t>(item)].titleKey} + "_french"
+                    : "";
+            EXPECT_EQ(detail->cellForItem(item).title, expected);
+        }
+    }
+    world.settings.setValue(false, "ShowTranslated");
+    EXPECT_EQ(detail->cellForItem(0).title, "tense.other.imperative");
+}
+
+TEST_F(VerbDetail, WithoutAVerbShowsTheLabelAndNoToolbar)
+{
+    const auto empty = open(nullptr);
+
+    EXPECT_EQ(empty->numberOfSections(), 0);
+    EXPECT_EQ(empty->numberOfItems(), 0);
+    EXPECT_FALSE(empty->selectVerbLabel.hidden);
+    EXPECT_TRUE(empty->toolbar.hidden);
+    EXPECT_EQ(empty->toolbarHeightConstaint, 0);
+    EXPECT_EQ(empty->headerText(), "");
+    EXPECT_FALSE(empty->navigationItem().rightBarButtons.at(0).enabled);
+    EXPECT_EQ(world.count("history"), 0);
+
+    const auto full = open(aller);
+    EXPECT_EQ(full->numberOfSections(), 9);
+    EXPECT_TRUE(full->selectVerbLabel.hidden);
+    EXPECT_FALSE(full->toolbar.hidden);
+    EXPECT_EQ(full->toolbarHeightConstaint, full->defaultToolbarHeight);
+    EXPECT_EQ(full->headerText(), "aller (go)");
+    EXPECT_TRUE(full->navigationItem().rightBarButtons.at(0).enabled);
+}
+
+TEST_F(VerbDetail, OnlyTheTableKeepsAPreviewWithoutAToolbar)
+{
+    const auto detail = open(aller);
+    detail->isPeeking = true;
+    detail->viewWillAppear();
+    EXPECT_TRUE(detail->toolbar.hidden);
+
+    detail->numberOfSections();
+    EXPECT_EQ(detail->toolbarHeightConstaint, 0);
+    detail->numberOfItems();
+    EXPECT_EQ(detail->toolbarHeightConstaint, detail->defaultToolbarHeight);
+}
+
+TEST_F(VerbDetail, RecordsTheViewOnceAndAnnouncesIt)
+{
+    world.clock.now = platform::kReferenceDate + 123456789.75;
+    world.execute("INSERT INTO history(verbid, timestamp) VALUES (3, 1), (3, 2), (1, 3)");
+
+    open(aller);
+
+    EXPECT_EQ(world.count("history WHERE verbid = 3"), 1);
+    EXPECT_EQ(world.count("history WHERE verbid = 3 AND timestamp = 123456789.75"), 1);
+    EXPECT_EQ(world.count("history"), 2);
+    EXPECT_EQ(world.posted("VerbViewed"), 1);
+    EXPECT_EQ(world.settings.integerForKey("number_of_verbs_viewed"), 1);
+    EXPECT_EQ(world.analytics.events.back().name, "select_content");
+    EXPECT_EQ(world.analytics.events.back().parameters.at("item_id"), "3");
+    EXPECT_EQ(world.analytics.events.back().parameters.at("item_name"), "aller");
+}
+
+TEST_F(VerbDetail, KeepsTheFiftyOneNewestViews)
+{
+    for (int time = 1; time <= 60; ++time) {
+        world.execute("INSERT INTO history(verbid, timestamp) VALUES (" +
+                      std::to_string(100 + time) + ", " + std::to_string(time) + ")");
+    }
+    world.clock.now = platform::kReferenceDate + 1000;
+
+    open(aller);
+
+    EXPECT_EQ(world.count("history"), 51);
+    EXPECT_EQ(world.count("history WHERE timestamp <= 10"), 0);
+    EXPECT_EQ(world.count("history WHERE verbid = 3"), 1);
+}
+
+TEST_F(VerbDetail, RecordsNothingOnlyWhenTheHistoryIsAnExplicitFalse)
+{
+    struct Case {
+        std::optional<platform::SettingValue> useHistory;
+        int rows;
+    };
+    const Case cases[] = {{std::nullopt, 1}, {true, 1}, {false, 0}, {std::int64_t{0}, 1}};
+    for (const auto& c : cases) {
+        World fresh;
+        if (c.useHistory) {
+            fresh.settings.setValue(*c.useHistory, "UseHistory");
+        }
+        VerbDetailTableViewController detail{fresh.services()};
+        detail.queue = fresh.queue.get();
+        detail.selectedVerb = fresh.verb(3);
+        detail.loadViewIfNeeded();
+        EXPECT_EQ(fresh.count("history"), c.rows);
+        EXPECT_EQ(fresh.posted("VerbViewed"), 1);
+    }
+}
+
+TEST_F(VerbDetail, AFailedReadingIsLoggedAndTheListsStay)
+{
+    aller->imperatif.push_back(std::make_shared<data::Conjugation>());
+    world.execute("DROP TABLE conjugation");
+
+    open(aller);
+
+    EXPECT_EQ(world.crashReporter.lines,
+              (std::vector<std::string>{"An error occurred when reading verb conjugation: no such "
+                                        "table: conjugation (1)"}));
+    EXPECT_EQ(aller->imperatif.size(), 1U);
+}
+
+TEST_F(VerbDetail, TogglesTheFavouriteAndFollowsOthers)
+{
+    const auto detail = open(aller);
+    const auto other = open(world.verb(3));
+    const auto icon = [](const VerbDetailTableViewController& screen) {
+        return screen.navigationItem().rightBarButtons.at(0).image;
+    };
+    EXPECT_EQ(icon(*detail), "ic_favorite_toolbar_border");
+
+    detail->navigationItem().rightBarButtons.at(0).action();
+
+    EXPECT_EQ(icon(*detail), "ic_favorite_toolbar");
+    EXPECT_EQ(world.count("favourite WHERE verbid = 3"), 1);
+    EXPECT_EQ(icon(*other), "ic_favorite_toolbar_border") << "detail screens ignore each other";
+
+    auto fromAList = world.verb(3);
+    fromAList->isFavourite = true;
+    world.notifications.post({"VerbFavouriteToggled", {}, {{"verb", fromAList}}});
+    EXPECT_EQ(icon(*other), "ic_favorite_toolbar");
+    world.notifications.post({"VerbFavouriteToggled", {}, {{"verb", world.verb(1)}}});
+    EXPECT_EQ(icon(*other), "ic_favorite_toolbar") << "another verb's news";
+}
+
+TEST_F(VerbDetail, LeavesTheCountAloneInAUiTest)
+{
+    world.device.arguments = {"lumora", "ui_test"};
+    open(aller);
+    EXPECT_EQ(world.settings.objectForKey("number_of_verbs_viewed"), std::nullopt);
+}
+
+} // namespace
+} // namespace lumora

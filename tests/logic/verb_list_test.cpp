@@ -1,0 +1,206 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "lists/verb_list_table_view_controller.h"
+
+#include "detail/verb_detail_table_view_controller.h"
+#include "support/world.h"
+
+#include <gtest/gtest.h>
+
+namespace lumora {
+namespace {
+
+using lists::VerbListTableViewController;
+using platform::IndexPath;
+using platform::SettingValue;
+using support::World;
+
+std::vector<std::string> verbsOfSection(const VerbListTableViewController& list,
+                                        const std::string& letter)
+{
+    std::vector<std::string> names;
+    const auto found = list.verbs.find(letter);
+    if (found != list.verbs.end()) {
+        for (const auto& verb : found->second) {
+            names.push_back(verb->french);
+        }
+    }
+    return names;
+}
+
+class VerbList : public testing::Test {
+protected:
+    std::shared_ptr<VerbListTableViewController> makeList()
+    {
+        auto list = std::make_shared<VerbListTableViewController>(world.services());
+        list->queue = world.queue.get();
+        list->loadViewIfNeeded();
+        return list;
+    }
+
+    World world;
+};
+
+TEST_F(VerbList, CutsSectionsByTheLetterOfTheSortColumn)
+{
+    struct Case {
+        const char* why;
+        std::optional<SettingValue> sortByLang;
+        std::optional<std::string> language;
+        std::vector<std::string> keys;
+    };
+    const std::vector<std::string> byFrench{"A", "E", "F", "P"};
+    const Case cases[] = {
+        {"missing means French", {}, "de", byFrench},
+        {"true means French", true, "de", byFrench},
+        {"a number is no boolean", std::int64_t{0}, "de", byFrench},
+        {"German is simplified", false, "de", {"A", "F", "G", "S"}},
+        {"English keeps its accents, which come after Z",
+         false,
+         "en",
+         {"B", "F", "G", "H", "S", "É"}},
+        {"Turkish has no column", false, "tr", {"B", "F", "G", "H", "S", "É"}},
+        {"Portuguese is plain: its accent is a section",
+         false,
+         "pt-BR",
+         {"", "F", "I", "S", "T", "É"}},
+        {"an empty choice is none: the device's English",
+         false,
+         "",
+         {"B", "F", "G", "H", "S", "É"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        World fresh;
+        if (c.sortByLang) {
+            fresh.settings.setValue(*c.sortByLang, "SortByLang");
+        }
+        fresh.settings.setValue(*c.language, "translation_language");
+        VerbListTableViewController list{fresh.services()};
+        list.queue = fresh.queue.get();
+
+        list.reloadVerbs();
+
+        EXPECT_EQ(list.keys, c.keys);
+    }
+}
+
+TEST_F(VerbList, KeepsTheOrderOfTheQueryInsideASection)
+{
+    const auto list = makeList();
+
+    EXPECT_EQ(verbsOfSection(*list, "E"), (std::vector<std::string>{"être", "évanouir (s')"}));
+    EXPECT_EQ(list->titleForHeaderInSection(1), "E");
+    EXPECT_EQ(list->sectionForSectionIndexTitle("F", 0), 2);
+    EXPECT_EQ(list->sectionForSectionIndexTitle("Q", 0), -1);
+}
+
+TEST_F(VerbList, ReadsNullAsEmptyAndAFavouriteOnlyFromARowOfItsOwn)
+{
+    world.execute("UPDATE verb SET german = NULL WHERE french = 'aller'");
+    world.execute("INSERT INTO favourite(verbid) VALUES (3), (NULL)");
+    world.settings.setValue(std::string{"de"}, "translation_language");
+    const auto list = makeList();
+
+    const auto aller = list->cellForRow({0, 0});
+    EXPECT_EQ(aller.text, "aller");
+    EXPECT_EQ(aller.detailText, "");
+    EXPECT_EQ(aller.accessibilityIdentifier, "aller");
+    EXPECT_EQ(aller.image, "ic_favorite_list");
+    EXPECT_EQ(list->cellForRow({1, 0}).image, "");
+}
+
+TEST_F(VerbList, SwipeTogglesTheFavouriteEverywhere)
+{
+    const auto list = makeList();
+    const auto reloads = world.table(*list).reloads;
+
+    auto actions = list->trailingSwipeActions({0, 0});
+    ASSERT_EQ(actions.size(), 1U);
+    EXPECT_EQ(actions[0].title, "action.favourite");
+    EXPECT_EQ(actions[0].image, "favourite");
+    EXPECT_EQ(actions[0].backgroundColor, platform::kLightGrayColor);
+    bool completed = false;
+    actions[0].handler([&](bool done) { completed = done; });
+
+    EXPECT_TRUE(completed);
+    EXPECT_EQ(world.count("favourite WHERE verbid = 3"), 1);
+    EXPECT_EQ(world.posted("VerbFavouriteToggled"), 1);
+    EXPECT_EQ(world.table(*list).reloads, reloads) << "its own news is no reason to reload";
+    EXPECT_EQ(world.table(*list).reloadedRows, (std::vector<IndexPath>{{0, 0}}));
+    EXPECT_EQ(list->cellForRow({0, 0}).image, "ic_favorite_list");
+
+    actions = list->trailingSwipeActions({0, 0});
+    EXPECT_EQ(actions[0].title, "action.favourite.remove");
+    EXPECT_EQ(actions[0].image, "remove");
+    EXPECT_EQ(actions[0].backgroundColor, platform::kRedColor);
+    actions[0].handler([](bool) {});
+    EXPECT_EQ(world.count("favourite"), 0);
+}
+
+TEST_F(VerbList, AFavouriteThatCannotBeWrittenStaysOnScreenAndOnTheConsole)
+{
+    const auto list = makeList();
+    world.execute("DROP TABLE favourite");
+
+    list->trailingSwipeActions({0, 0})[0].handler([](bool) {});
+
+    EXPECT_EQ(world.console.str(), "Unable to update favourite no such table: favourite\n");
+    EXPECT_EQ(list->cellForRow({0, 0}).image, "ic_favorite_list");
+    EXPECT_EQ(world.posted("VerbFavouriteToggled"), 1);
+}
+
+TEST_F(VerbList, ReloadsOnAFavouriteToggledElsewhere)
+{
+    const auto list = makeList();
+    world.execute("INSERT INTO favourite(verbid) VALUES (1)");
+
+    world.notifications.post({"VerbFavouriteToggled", {}, {}});
+
+    EXPECT_EQ(list->cellForRow({0, 1}).image, "ic_favorite_list");
+}
+
+TEST_F(VerbList, AFailedQueryLeavesSectionsWithoutRows)
+{
+    const auto list = makeList();
+    const auto keys = list->keys;
+    world.execute("ALTER TABLE verb RENAME TO verb_gone");
+
+    list->reloadVerbs();
+
+    EXPECT_EQ(world.crashReporter.lines,
+              (std::vector<std::string>{
+                  "An error occurred when reading list of verbs: no such table: verb (1)"}));
+    EXPECT_EQ(list->keys, keys);
+    EXPECT_EQ(list->numberOfRowsInSection(0), 0);
+    EXPECT_TRUE(list->trailingSwipeActions({0, 0}).empty());
+    EXPECT_EQ(list->cellForRow({0, 0}).text, "");
+}
+
+TEST_F(VerbList, WithoutAQueueItStaysEmpty)
+{
+    VerbListTableViewController list{world.services()};
+
+    list.loadViewIfNeeded();
+
+    EXPECT_EQ(list.numberOfSections(), 0);
+    EXPECT_TRUE(world.crashReporter.lines.empty());
+}
+
+TEST_F(VerbList, ATapHandsTheVerbToTheDetailScreen)
+{
+    const auto list = makeList();
+
+    list->rowTapped({1, 1});
+
+    const auto detail = world.shownDetail();
+    ASSERT_TRUE(detail);
+    ASSERT_TRUE(detail->selectedVerb);
+    EXPECT_EQ(detail->selectedVerb->french, "évanouir (s')");
+    EXPECT_EQ(detail->queue, world.queue.get());
+    EXPECT_EQ(detail->selectedVerb, list->verbs["E"][1]) << "one record, shared";
+}
+
+} // namespace
+} // namespace lumora

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "support/world.h"
+
+#include "data/verb_reader.h"
+#include "detail/verb_detail_table_view_controller.h"
+#include "platform/navigation_controller.h"
+
+#include <gtest/gtest.h>
+
+namespace lumora::support {
+
+namespace {
+
+constexpr const char* kStatements[] = {
+    "CREATE TABLE verb(_id INTEGER PRIMARY KEY, french TEXT, english TEXT, german TEXT, dutch "
+    "TEXT, spanish TEXT, italian TEXT, portuguese TEXT, simplified_french TEXT, "
+    "simplified_german TEXT, simplified_dutch TEXT, simplified_spanish TEXT, simplified_italian "
+    "TEXT, simplified_portuguese TEXT)",
+    "CREATE TABLE conjugation(_id INTEGER PRIMARY KEY, verbid INTEGER, pronoun TEXT, verb TEXT, "
+    "type TEXT, conj_order INTEGER, display INTEGER)",
+    "CREATE TABLE favourite(_id INTEGER PRIMARY KEY, verbid INTEGER)",
+    "CREATE TABLE history(_id INTEGER PRIMARY KEY, verbid INTEGER, timestamp REAL)",
+    "INSERT INTO verb(_id, french, simplified_french, english, german, simplified_german, "
+    "portuguese, simplified_portuguese) VALUES"
+    "(1, 'avoir', 'avoir', 'have', 'ärgern', 'argern', 'ter', 'ter'),"
+    "(2, 'être', 'etre', 'be', 'sein', 'sein', 'ser', 'ser'),"
+    "(3, 'aller', 'aller', 'go', 'gehen', 'gehen', 'ir', 'ir'),"
+    "(4, 'pouvoir', 'pouvoir', 'Éclat', 'fähig sein', 'fahig sein', 'épico', 'epico'),"
+    "(5, 'falloir', 'falloir', 'few', 'sollen', 'sollen', NULL, NULL),"
+    "(6, 'évanouir (s'')', 'evanouir', 'so', 'fallen', 'fallen', 'faltar', 'faltar')",
+    "INSERT INTO conjugation(verbid, pronoun, verb, type, conj_order, display) VALUES"
+    "(3, 'tu', 'vas', 'indicatifPresent', 2, 1),"
+    "(3, 'je', 'vais', 'indicatifPresent', 1, 1),"
+    "(3, '', 'va', 'imperatif', 3, 1),"
+    "(2, 'je', 'suis', 'indicatifPresent', 1, 1)",
+};
+
+} // namespace
+
+void executeOn(platform::DatabaseQueue& queue, const std::string& sql)
+{
+    queue.inDatabase([&](platform::Database& database) {
+        const auto done = database.executeUpdate(sql, {});
+        ASSERT_TRUE(done) << sql << ": " << done.error().message;
+    });
+}
+
+void writeSmallDatabase(const std::filesystem::path& file)
+{
+    const auto queue = platform::DatabaseQueue::open(platform::fileUrl(file));
+    for (const char* statement : kStatements) {
+        executeOn(*queue, statement);
+    }
+}
+
+World::World()
+{
+    writeSmallDatabase(folder / "small.db");
+    queue = platform::DatabaseQueue::open(platform::fileUrl(folder / "small.db"));
+    storyboard.setServices(services());
+    for (const char* name : {"VerbFavouriteToggled", "VerbViewed", "TabOpenEvent"}) {
+        subscriptions_.push_back(notifications.addObserver(
+            name, [this](const platform::Notification& news) { ++posted_[news.name]; }));
+    }
+}
+
+World::~World() = default;
+
+platform::Services World::services()
+{
+    return {notifications, settings, bundle, device,    clock,     crashReporter,
+            analytics,     console,  views,  presenter, storyboard};
+}
+
+void World::execute(const std::string& sql)
+{
+    executeOn(*queue, sql);
+}
+
+int World::count(const std::string& tableAndCondition)
+{
+    int rows = -1;
+    queue->inDatabase([&](platform::Database& database) {
+        auto result = database.executeQuery("SELECT count(*) FROM " + tableAndCondition, {});
+        if (result && result->next()) {
+            rows = static_cast<int>(result->longForColumn(0));
+        }
+    });
+    return rows;
+}
+
+int World::posted(const std::string& name) const
+{
+    const auto found = posted_.find(name);
+    return found == posted_.end() ? 0 : found->second;
+}
+
+data::VerbPtr World::verb(std::int64_t id)
+{
+    data::VerbPtr verb;
+    queue->inDatabase([&](platform::Database& database) {
+        auto rows = database.executeQuery("SELECT * FROM verb WHERE _id = ?", {id});
+        if (rows && rows->next()) {
+            verb = data::VerbReader{*rows, data::VerbReader::Spellings::Plain}.readVerb(*rows);
+        }
+    });
+    return verb;
+}
+
+FakeTableView& World::table(platform::TableViewController& controller)
+{
+    return dynamic_cast<FakeTableView&>(controller.tableView());
+}
+
+std::shared_ptr<detail::VerbDetailTableViewController> World::shownDetail() const
+{
+    if (presenter.segues.empty()) {
+        return nullptr;
+    }
+    const auto stack = std::dynamic_pointer_cast<platform::NavigationController>(
+        presenter.segues.back().destination);
+    return stack ? std::dynamic_pointer_cast<detail::VerbDetailTableViewController>(
+                       stack->viewControllers().back())
+                 : nullptr;
+}
+
+} // namespace lumora::support

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "app/main_storyboard.h"
+#include "data/verb.h"
+#include "platform/database_queue.h"
+#include "platform/notification_center.h"
+#include "platform/services.h"
+#include "platform/settings_store.h"
+#include "platform/table_view_controller.h"
+#include "support/fake_bundle.h"
+#include "support/fake_clock.h"
+#include "support/fake_device.h"
+#include "support/fake_presenter.h"
+#include "support/fake_table_view.h"
+#include "support/recording_analytics.h"
+#include "support/recording_crash_reporter.h"
+#include "support/temporary_folder.h"
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace lumora::detail {
+class VerbDetailTableViewController;
+}
+
+namespace lumora::support {
+
+/// Writes a database of six verbs with the tables of the shipped one.
+void writeSmallDatabase(const std::filesystem::path& file);
+
+/// Runs one statement on a database file; stops the test on a failure.
+void executeOn(platform::DatabaseQueue& queue, const std::string& sql);
+
+/// A machine with a small database on it, the real storyboard and notification
+/// centre, and fakes of the rest.
+class World {
+public:
+    World();
+    ~World();
+
+    platform::Services services();
+
+    void execute(const std::string& sql);
+    /// Rows of "TABLE" or "TABLE WHERE …".
+    int count(const std::string& tableAndCondition);
+    /// How often a notification was posted.
+    int posted(const std::string& name) const;
+    /// The verb of an id, as a list would have read it.
+    data::VerbPtr verb(std::int64_t id);
+    FakeTableView& table(platform::TableViewController& controller);
+    /// The detail screen that the last step led to; null when it led elsewhere.
+    std::shared_ptr<detail::VerbDetailTableViewController> shownDetail() const;
+
+    TemporaryFolder folder;
+    platform::NotificationCenter notifications;
+    platform::MemorySettingsStore settings;
+    FakeBundle bundle;
+    FakeDevice device;
+    FakeClock clock;
+    RecordingCrashReporter crashReporter;
+    RecordingAnalytics analytics;
+    std::ostringstream console;
+    FakeViewFactory views;
+    app::MainStoryboard storyboard;
+    FakePresenter presenter{&storyboard};
+    std::unique_ptr<platform::DatabaseQueue> queue;
+
+private:
+    std::map<std::string, int> posted_;
+    std::vector<platform::NotificationCenter::Subscription> subscriptions_;
+};
+
+} // namespace lumora::support
