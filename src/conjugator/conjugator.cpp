@@ -26,12 +26,9 @@ constexpr std::array<std::string_view, 3> kReflexiveCommands{"-toi", "-nous", "-
 
 bool beginsWithOneOf(std::string_view word, std::string_view letters)
 {
-    for (const auto& letter : split(letters, " ")) {
-        if (word.starts_with(letter)) {
-            return true;
-        }
-    }
-    return false;
+    const auto beginnings = split(letters, " ");
+    return std::any_of(beginnings.begin(), beginnings.end(),
+                       [&](const std::string& letter) { return word.starts_with(letter); });
 }
 
 /// Whether je, me, te, se and que lose their e before the word.
@@ -154,7 +151,8 @@ Forms compounds(const Forms& auxiliaries, const Forms& participles)
     Forms forms;
     for (const auto& auxiliary : auxiliaries) {
         for (const auto& participle : participles) {
-            forms.push_back(auxiliary + " " + participle);
+            forms.push_back(auxiliary);
+            forms.back().append(" ").append(participle);
         }
     }
     return forms;
@@ -194,7 +192,7 @@ public:
     {
         auto forms = verb_.infinitive;
         for (auto& form : forms) {
-            form = reflexive(form) + form;
+            form.insert(0, reflexive(form));
         }
         add(Tense::Infinitif, "", forms);
     }
@@ -203,7 +201,7 @@ public:
     {
         auto forms = verb_.gerund;
         for (auto& form : forms) {
-            form = reflexive(form) + form;
+            form.insert(0, reflexive(form));
         }
         add(Tense::Participe, "", forms);
         const std::size_t count = entry_.invariableParticiple ? 1 : verb_.participle.size();

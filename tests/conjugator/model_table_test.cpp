@@ -44,18 +44,19 @@ TEST(ModelTable, RefusesModelsThatCannotBeConjugated)
     } cases[] = {
         {sound, "accepted"},
         {sound + "placer|like|plaser\n",
-         "models.tsv:6: model \"placer\" is like the unknown model \"plaser\""},
-        {sound + "a|like|b\nb|like|a\n", "models.tsv:6: model \"a\" descends from itself: a, b, a"},
-        {sound + "aimer|gerondif|ant\n", "models.tsv:6: unknown part \"gerondif\""},
-        {sound + "aimer|past|i\n", "models.tsv:6: \"past\" of model \"aimer\" stands twice"},
+         R"(models.tsv:6: model "placer" is like the unknown model "plaser")"},
+        {sound + "a|like|b\nb|like|a\n",
+         R"(models.tsv:6: model "a" descends from itself: a, b, a)"},
+        {sound + "aimer|gerondif|ant\n", R"(models.tsv:6: unknown part "gerondif")"},
+        {sound + "aimer|past|i\n", R"(models.tsv:6: "past" of model "aimer" stands twice)"},
         {sound + "aimer|imperative|e  ez\n", "models.tsv:6: empty form"},
         {sound + "aimer|future|er/\n", "models.tsv:6: empty form"},
         {sound + "aimer|imperative|e ons\n", "models.tsv:6: expected 3 forms, found 2"},
-        {"aimer|past|o\n", "models.tsv:2: \"o\" does not end in a, i, in, u, ï or û"},
-        {"aimer|ends|er\naimer|past|a\n", "models.tsv:2: model \"aimer\" lacks \"present\""},
-        {"aimer|past|a\n", "models.tsv:2: model \"aimer\" lacks \"ends\""},
+        {"aimer|past|o\n", R"(models.tsv:2: "o" does not end in a, i, in, u, ï or û)"},
+        {"aimer|ends|er\naimer|past|a\n", R"(models.tsv:2: model "aimer" lacks "present")"},
+        {"aimer|past|a\n", R"(models.tsv:2: model "aimer" lacks "ends")"},
         {sound + "faire|like|aimer\nfaire|present|ais ais ait aisons aites ont\n",
-         "models.tsv:6: model \"faire\" lacks \"subjunctive\", which cannot be made from \"ont\""},
+         R"(models.tsv:6: model "faire" lacks "subjunctive", which cannot be made from "ont")"},
         {"aimer|ends\n", "models.tsv:2: expected 3 columns, found 2"},
     };
     for (const auto& c : cases) {
@@ -73,14 +74,14 @@ TEST(ModelTable, TellsWhichInfinitivesFit)
 
     EXPECT_EQ(table.misfit("aimer", "parler"), "");
     EXPECT_EQ(table.misfit("aimer", "finir"),
-              "\"finir\" does not end in \"er\" as model \"aimer\" asks");
+              R"("finir" does not end in "er" as model "aimer" asks)");
     EXPECT_EQ(table.misfit("céder", "léguer"), "");
     EXPECT_EQ(table.misfit("céder", "créer"),
-              "\"créer\" does not end in \"é*er\" as model \"céder\" asks");
+              R"("créer" does not end in "é*er" as model "céder" asks)");
     EXPECT_EQ(table.misfit("céder", "exténuer"),
-              "\"exténuer\" does not end in \"é*er\" as model \"céder\" asks");
+              R"("exténuer" does not end in "é*er" as model "céder" asks)");
     EXPECT_EQ(table.misfit("céder", "peser"),
-              "\"peser\" does not end in \"é*er\" as model \"céder\" asks");
+              R"("peser" does not end in "é*er" as model "céder" asks)");
 }
 
 } // namespace
