@@ -165,7 +165,7 @@ TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
         {with("1|", "30|"), R"(verbs.tsv:2: the id 30 is retired; it was "parlir")"},
         {verbs("# loved\n" + line + line), "verbs.tsv:4: the id 1 stands already in line 3"},
         {verbs(line + "2" + line.substr(1)),
-         R"(verbs.tsv:3: "aimer" with model "aimer" stands already in line 2)"},
+         R"(verbs.tsv:3: "aimer" with the same model and auxiliary stands already in line 2)"},
         {with("aimer|aimer", "aimer|amer"), R"(verbs.tsv:2: unknown model "amer")"},
         {with("aimer|aimer", "aimer|finir"),
          R"(verbs.tsv:2: "aimer" does not end in "ir" as model "finir" asks)"},

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <charconv>
 #include <map>
+#include <tuple>
 #include <utility>
 
 namespace lumora::verbdb {
@@ -160,7 +161,8 @@ Content readContent(const std::filesystem::path& folder)
     const auto verbTable = TextTable::read(folder / "verbs.tsv", verbHeader());
     std::vector<Verb> verbs;
     std::map<std::int64_t, std::size_t> lineOfId;
-    std::map<std::pair<std::string, std::string>, std::size_t> lineOfVerb;
+    // Homographs differ in their model or their auxiliary.
+    std::map<std::tuple<std::string, std::string, Auxiliary>, std::size_t> lineOfVerb;
     for (const auto& record : verbTable.records()) {
         auto verb = readVerb(verbTable, record, models);
         if (const auto [at, fresh] = lineOfId.emplace(verb.id, record.line); !fresh) {
@@ -171,11 +173,13 @@ Content readContent(const std::filesystem::path& folder)
             verbTable.refuse(record, "the id " + std::to_string(verb.id) + " is retired; it was " +
                                          inQuotes(gone->second));
         }
-        const auto [at, fresh] =
-            lineOfVerb.emplace(std::pair(verb.entry.infinitive, verb.entry.model), record.line);
+        const auto& entry = verb.entry;
+        const auto [at, fresh] = lineOfVerb.emplace(
+            std::tuple(entry.infinitive, entry.model, entry.auxiliary), record.line);
         if (!fresh) {
-            verbTable.refuse(record, inQuotes(verb.entry.infinitive) + " with model " +
-                                         inQuotes(verb.entry.model) + " stands already in line " +
+            verbTable.refuse(record, inQuotes(entry.infinitive) +
+                                         " with the same model and "
+                                         "auxiliary stands already in line " +
                                          std::to_string(at->second));
         }
         verbs.push_back(std::move(verb));
