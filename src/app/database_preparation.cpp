@@ -251,7 +251,7 @@ Result<void> replaceDatabase(const std::filesystem::path& file, bool exists,
     if (auto copied = platform::copyFileDurably(resource, copy); !copied) {
         return copied;
     }
-    auto replaced = removeOldDatabase(file, exists && !saved->complete).and_then([&] {
+    auto replaced = removeOldDatabase(file, saved && !saved->complete).and_then([&] {
         return platform::renameDurably(copy, file);
     });
     if (!replaced) {

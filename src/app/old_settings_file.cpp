@@ -19,7 +19,7 @@ namespace lumora::app {
 
 namespace {
 
-constexpr std::uintmax_t kMaximumBytes = 1024 * 1024;
+constexpr std::uintmax_t kMaximumBytes = std::uintmax_t{1024} * 1024;
 
 enum class Kind { Boolean, Text };
 

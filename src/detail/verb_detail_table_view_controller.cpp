@@ -253,7 +253,7 @@ void VerbDetailTableViewController::verbFavouriteToggled(const platform::Notific
     }
 }
 
-void VerbDetailTableViewController::refreshConjugations()
+void VerbDetailTableViewController::refreshConjugations() const
 {
     tableView->reloadData();
     collectionView->reloadData();

@@ -114,7 +114,7 @@ private:
     void countView();
     void loadConjugations(platform::Database& database);
     void recordHistory(platform::Database& database);
-    void refreshConjugations();
+    void refreshConjugations() const;
     void verbFavouriteToggled(const platform::Notification& notification);
     void updateFavouriteIcon();
     void updateNavigationItem();
