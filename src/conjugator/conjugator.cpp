@@ -158,6 +158,27 @@ Forms compounds(const Forms& auxiliaries, const Forms& participles)
     return forms;
 }
 
+/// The infinitive without the circumflex that i and u lost in 1990; jeûner keeps
+/// it, to differ from jeune.
+std::string respelled(std::string infinitive)
+{
+    if (infinitive == "jeûner") {
+        return infinitive;
+    }
+    for (const auto& [old, plain] : {std::pair("î", "i"), std::pair("û", "u")}) {
+        if (const auto at = infinitive.find(old); at != std::string::npos) {
+            infinitive.replace(at, std::string_view(old).size(), plain);
+        }
+    }
+    return infinitive;
+}
+
+/// Whether a row is one form as it is written, neither double nor bracketed.
+bool isOneForm(const Row& row)
+{
+    return row.verb.find_first_of(",(") == std::string::npos;
+}
+
 /// Collects the rows of one verb.
 class RowBuilder {
 public:
@@ -459,7 +480,23 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
             compound(static_cast<Tense>(block), !etreShown, false);
         }
     }
-    return builder.take();
+    auto rows = builder.take();
+
+    // Where the circumflex stands before the ending, the whole verb has a second
+    // spelling; it is found, but not shown beside every form. A verb in -aître is
+    // no longer of its model then: that one tells the spellings itself.
+    auto modern = entry;
+    modern.infinitive = respelled(entry.infinitive);
+    if (modern.infinitive != entry.infinitive &&
+        models_.misfit(entry.model, modern.infinitive).empty()) {
+        for (auto& row : this->rows(modern)) {
+            if (isOneForm(row)) {
+                row.shown = false;
+                rows.push_back(std::move(row));
+            }
+        }
+    }
+    return rows;
 }
 
 } // namespace lumora::conjugator

@@ -434,6 +434,30 @@ TEST(Conjugator, KeepsTheOtherAuxiliaryAndSingleVariantsForTheSearch)
     }
 }
 
+TEST(Conjugator, FindsTheSpellingOf1990OfAWholeVerb)
+{
+    const struct {
+        const char* infinitive;
+        const char* model;
+        const char* form;
+        bool found;
+    } cases[] = {
+        {"entraîner", "aimer", "entraine", true},
+        {"entraîner", "aimer", "avoir entrainé", true},
+        {"brûler", "aimer", "brulâmes", true},
+        {"mûrir", "finir", "murîmes", true},
+        {"mûrir", "finir", "murimes", false},
+        {"jeûner", "aimer", "jeune", false},
+        {"connaître", "connaître", "connaitrons", true},
+        {"croître", "croître", "croit", false},
+        {"aimer", "aimer", "aime", false},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(contains(searched(verb(c.infinitive, c.model)), c.form), c.found) << c.form;
+    }
+    EXPECT_TRUE(block(verb("entraîner", "aimer"), kPresent).starts_with("j'entraîne | "));
+}
+
 TEST(Conjugator, FilesShownRowsByTenseBeforeTheOthers)
 {
     auto monter = verb("monter", "aimer");
