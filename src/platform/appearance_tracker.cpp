@@ -15,10 +15,8 @@ void AppearanceTracker::setVisible(Screens visible)
         return;
     }
     telling_ = true;
-    while (waiting_) {
-        const Screens next = std::move(*waiting_);
-        waiting_.reset();
-        change(next);
+    while (const auto next = std::exchange(waiting_, std::nullopt)) {
+        change(*next);
     }
     telling_ = false;
 }

@@ -97,7 +97,9 @@ Result<void> writeFileAtomically(const std::filesystem::path& file, std::string_
 {
     // The process in the name: two programs saving at once must not share it.
     std::filesystem::path temporary = file;
-    temporary += "." + std::to_string(::getpid()) + ".tmp";
+    temporary += '.';
+    temporary += std::to_string(::getpid());
+    temporary += ".tmp";
     auto written = writeDurably(temporary, [&](const FileDescriptor& descriptor) -> Result<void> {
         if (const int code = descriptor.write(content); code != 0) {
             return tl::unexpected(fileError(temporary, code));

@@ -9,6 +9,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <functional>
 #include <limits>
 #include <memory>
@@ -192,7 +193,7 @@ TEST_F(DatabaseTest, ACorruptFileFailsTheStatementAndNotTheProgram)
     });
     // The head stays good, so that the failure comes while stepping.
     std::string bytes = support::contentOf(folder / "verbs.db");
-    std::fill(bytes.begin() + 3 * 4096, bytes.end(), '\xA5');
+    std::fill(bytes.begin() + std::ptrdiff_t{3} * 4096, bytes.end(), '\xA5');
     writeContent(folder / "verbs.db", bytes);
 
     in([](Database& database) {

@@ -33,7 +33,7 @@ std::string binaryOf(const std::string& document)
     char* bytes = nullptr;
     std::uint32_t length = 0;
     plist_to_bin(root, &bytes, &length);
-    const std::string binary(bytes, length);
+    std::string binary(bytes, length);
     plist_to_bin_free(bytes);
     plist_free(root);
     return binary;

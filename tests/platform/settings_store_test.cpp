@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <string>
 #include <utility>
@@ -30,27 +32,27 @@ TEST(SettingsStore, TypedReadsCoerceByTheTable)
 {
     struct Case {
         SettingValue stored;
-        bool asBool;
         std::int64_t asInteger;
-        float asFloat;
         const char* asText;
+        float asFloat;
+        bool asBool;
     };
     const Case cases[] = {
-        {true, true, 1, 1, "1"},
-        {false, false, 0, 0, "0"},
-        {std::int64_t{0}, false, 0, 0, "0"},
-        {std::int64_t{-7}, true, -7, -7, "-7"},
-        {kHighest, true, kHighest, 9223372036854775808.0F, "9223372036854775807"},
-        {0.0, false, 0, 0, "0"},
-        {0.25, true, 0, 0.25F, "0.25"},
-        {-2.9, true, -2, -2.9F, "-2.9"},
-        {1.0, true, 1, 1, "1"},
-        {250000.0, true, 250000, 250000, "250000"},
-        {1e300, true, kHighest, std::numeric_limits<float>::infinity(), "1e+300"},
-        {-1e300, true, kLowest, -std::numeric_limits<float>::infinity(), "-1e+300"},
-        {std::string("1"), false, 0, 0, "1"},
-        {std::string("true"), false, 0, 0, "true"},
-        {std::string(), false, 0, 0, ""},
+        {true, 1, "1", 1, true},
+        {false, 0, "0", 0, false},
+        {std::int64_t{0}, 0, "0", 0, false},
+        {std::int64_t{-7}, -7, "-7", -7, true},
+        {kHighest, kHighest, "9223372036854775807", 9223372036854775808.0F, true},
+        {0.0, 0, "0", 0, false},
+        {0.25, 0, "0.25", 0.25F, true},
+        {-2.9, -2, "-2.9", -2.9F, true},
+        {1.0, 1, "1", 1, true},
+        {250000.0, 250000, "250000", 250000, true},
+        {1e300, kHighest, "1e+300", std::numeric_limits<float>::infinity(), true},
+        {-1e300, kLowest, "-1e+300", -std::numeric_limits<float>::infinity(), true},
+        {std::string("1"), 0, "1", 0, false},
+        {std::string("true"), 0, "true", 0, false},
+        {std::string(), 0, "", 0, false},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.asText);
@@ -135,7 +137,7 @@ TEST(FileSettingsStore, ADamagedFileIsPutAsideAndTheStoreStartsEmpty)
         {"malformed text", "{\"a\": \"\xff\"}"},
         {"zeros after a power cut", std::string(200, '\0')},
         {"too deep to follow", R"({"a":)" + std::string(500'000, '[')},
-        {"too big", R"({"a": true})" + std::string(1024 * 1024, ' ')},
+        {"too big", R"({"a": true})" + std::string(std::size_t{1024} * 1024, ' ')},
     };
     for (const auto& [why, content] : cases) {
         SCOPED_TRACE(why);
