@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "app/app_delegate.h"
+#include "app/main_storyboard.h"
+#include "platform/crash_report_log.h"
+#include "platform/file_settings_store.h"
+#include "platform/local_analytics.h"
+#include "platform/notification_center.h"
+#include "platform/services.h"
+#include "qt/qt_bundle.h"
+#include "qt/qt_clock.h"
+#include "qt/qt_device.h"
+#include "qt/qt_presenter.h"
+#include "qt/qt_view_factory.h"
+#include "qt/split_screen.h"
+#include "qt/standard_folders.h"
+
+#include <QQmlApplicationEngine>
+#include <QSize>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QQuickWindow;
+
+namespace lumora::qt {
+
+struct ApplicationOptions {
+    StandardFolders folders;
+    std::filesystem::path shareFolder;
+    std::vector<std::string> launchArguments;
+    std::optional<std::string> shortcut;
+    QSize windowSize{390, 844};
+};
+
+/// The whole program but its entry point: every platform object, the logic
+/// above them and the window, in the order in which they need each other.
+class Application final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Application(const ApplicationOptions& options);
+    ~Application() override;
+
+    /// False when the interface could not be built; why is on stderr.
+    bool show();
+
+    QQuickWindow* window() const { return window_; }
+    SplitScreen& splitScreen() { return *splitScreen_; }
+    QtPresenter& presenter() { return presenter_; }
+    platform::SettingsStore& settings() { return settings_; }
+    void setDark(bool dark);
+    /// From now on a crash leaves a report. One application a process.
+    void installCrashHandler() { crashReporter_.installCrashHandler(); }
+    /// The program may be ended from now on: what is pending gets written.
+    void enterBackground();
+
+private:
+    void applicationStateChanged(Qt::ApplicationState state);
+
+    ApplicationOptions options_;
+    platform::FileSettingsStore settings_;
+    platform::CrashReportLog crashReporter_;
+    QtClock clock_;
+    platform::LocalAnalytics analytics_;
+    QtBundle bundle_;
+    QtDevice device_;
+    platform::NotificationCenter notifications_;
+    QtViewFactory views_;
+    app::MainStoryboard storyboard_;
+    QtPresenter presenter_;
+    platform::Services services_;
+    app::AppDelegate delegate_;
+    std::unique_ptr<SplitScreen> splitScreen_;
+    QQmlApplicationEngine engine_;
+    QQuickWindow* window_ = nullptr;
+};
+
+/// Makes the files that QML brings along known to the program. Before the
+/// first engine, once.
+void registerInterface();
+
+} // namespace lumora::qt

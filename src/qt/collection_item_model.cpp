@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/collection_item_model.h"
+
+#include "qt/text_conversion.h"
+
+#include <algorithm>
+
+namespace lumora::qt {
+
+CollectionItemModel::CollectionItemModel(platform::CollectionDataSource& source) : source_{source}
+{}
+
+int CollectionItemModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : count_;
+}
+
+QHash<int, QByteArray> CollectionItemModel::roleNames() const
+{
+    return {{TitleRole, "title"}, {LinesRole, "lines"}};
+}
+
+QVariant CollectionItemModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    if (role == TitleRole) {
+        return toQString(cell(index.row()).title);
+    }
+    if (role != LinesRole) {
+        return {};
+    }
+    QVariantList lines;
+    for (const auto& line : cell(index.row()).rows) {
+        lines.append(
+            QVariantMap{{QStringLiteral("leading"), toQString(line.leading)},
+                        {QStringLiteral("trailing"), toQString(line.trailing)},
+                        {QStringLiteral("audioWidth"), line.audioWidth},
+                        {QStringLiteral("audioPadding"), line.audioPadding},
+                        {QStringLiteral("controlHidden"), line.controlHidden},
+                        {QStringLiteral("indicator"),
+                         QVariant::fromValue(indicators_.sourceFor(line.control.indicator))}});
+    }
+    return lines;
+}
+
+const platform::CollectionCell& CollectionItemModel::cell(int item) const
+{
+    if (!cell_ || cellItem_ != item) {
+        busy_ = true;
+        cell_ = source_.cellForItem(item);
+        busy_ = false;
+        cellItem_ = item;
+    }
+    return *cell_;
+}
+
+void CollectionItemModel::reloadData()
+{
+    if (busy_) {
+        QMetaObject::invokeMethod(this, &CollectionItemModel::reloadData, Qt::QueuedConnection);
+        return;
+    }
+    busy_ = true;
+    const int count = std::max(0, source_.numberOfItems());
+    headerText_ = toQString(source_.headerText());
+    layout_ = source_.layout();
+    busy_ = false;
+    loaded_ = true;
+    cell_.reset();
+
+    if (count > count_) {
+        beginInsertRows({}, count_, count - 1);
+        count_ = count;
+        endInsertRows();
+    } else if (count < count_) {
+        beginRemoveRows({}, count, count_ - 1);
+        count_ = count;
+        endRemoveRows();
+    }
+    if (count_ > 0) {
+        emit dataChanged(index(0), index(count_ - 1));
+    }
+    indicators_.dropOrphans();
+    emit reloaded();
+}
+
+void CollectionItemModel::loadIfNeeded()
+{
+    if (!loaded_) {
+        reloadData();
+    }
+}
+
+void CollectionItemModel::tapAudio(int item, int line)
+{
+    if (item >= 0 && item < count_) {
+        source_.audioTapped(item, line);
+    }
+}
+
+} // namespace lumora::qt

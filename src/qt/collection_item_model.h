@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/collection_view.h"
+#include "qt/indicator_source.h"
+
+#include <QAbstractListModel>
+
+#include <optional>
+
+namespace lumora::qt {
+
+/// Any collection controller as a list of cells. Counts are asked once a
+/// reload, cells when they are drawn. GUI thread only; the source must outlive
+/// the model.
+class CollectionItemModel final : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to a collection view")
+    Q_PROPERTY(QString headerText READ headerText NOTIFY reloaded)
+    Q_PROPERTY(double itemWidth READ itemWidth NOTIFY reloaded)
+    Q_PROPERTY(double itemHeight READ itemHeight NOTIFY reloaded)
+    Q_PROPERTY(double sectionInset READ sectionInset NOTIFY reloaded)
+    Q_PROPERTY(double lineSpacing READ lineSpacing NOTIFY reloaded)
+
+public:
+    enum Role { TitleRole = Qt::UserRole + 1, LinesRole };
+
+    explicit CollectionItemModel(platform::CollectionDataSource& source);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    /// A line is a map of leading, trailing, audioWidth, audioPadding,
+    /// controlHidden and indicator.
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    /// Asked for by a controller in the middle of answering the model, it
+    /// waits for the end of the answer.
+    void reloadData();
+    void loadIfNeeded();
+
+    QString headerText() const { return headerText_; }
+    double itemWidth() const { return layout_.itemWidth; }
+    double itemHeight() const { return layout_.itemHeight; }
+    double sectionInset() const { return layout_.sectionInset; }
+    double lineSpacing() const { return layout_.minimumLineSpacing; }
+
+    Q_INVOKABLE void tapAudio(int item, int line);
+
+signals:
+    void reloaded();
+
+private:
+    const platform::CollectionCell& cell(int item) const;
+
+    platform::CollectionDataSource& source_;
+    int count_ = 0;
+    QString headerText_;
+    platform::CollectionLayout layout_;
+    mutable std::optional<platform::CollectionCell> cell_;
+    mutable int cellItem_ = -1;
+    mutable IndicatorPool indicators_;
+    bool loaded_ = false;
+    mutable bool busy_ = false;
+};
+
+} // namespace lumora::qt

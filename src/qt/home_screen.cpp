@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/home_screen.h"
+
+#include "lists/search_results_table_view_controller.h"
+#include "qt/screen_registry.h"
+#include "qt/text_conversion.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lumora::qt {
+
+HomeScreen::HomeScreen(std::shared_ptr<navigation::HomeViewController> controller,
+                       ScreenRegistry& registry)
+    : Screen{controller, QStringLiteral("HomePage")},
+      home_{std::move(controller)},
+      registry_{registry}
+{
+    home_->setOutletListener([this] { update(); });
+    update();
+}
+
+HomeScreen::~HomeScreen()
+{
+    home_->setOutletListener({});
+}
+
+void HomeScreen::update()
+{
+    const auto& current = home_->currentChild();
+    const bool isNew = current && std::find(lists_.begin(), lists_.end(), current) == lists_.end();
+    if (isNew) {
+        lists_.push_back(current);
+        emit listsChanged();
+    }
+    emit outletsChanged();
+    if (auto visible = visibleChildren(); visible != shown_) {
+        shown_ = std::move(visible);
+        emit childrenChanged();
+    }
+}
+
+bool HomeScreen::isSearching() const
+{
+    return home_->searchResultsController() && !home_->searchBar.text.empty();
+}
+
+QVariantList HomeScreen::tabs() const
+{
+    QVariantList tabs;
+    for (const auto& item : home_->tabBar.items) {
+        tabs.append(QVariantMap{{QStringLiteral("tag"), static_cast<int>(item.tag)},
+                                {QStringLiteral("title"), toQString(item.title)},
+                                {QStringLiteral("image"), toQString(item.image)}});
+    }
+    return tabs;
+}
+
+QList<QObject*> HomeScreen::lists() const
+{
+    QList<QObject*> screens;
+    for (const auto& list : lists_) {
+        screens.append(registry_.screenFor(list));
+    }
+    return screens;
+}
+
+TableScreen* HomeScreen::currentList() const
+{
+    const auto& current = home_->currentChild();
+    return current ? qobject_cast<TableScreen*>(registry_.screenFor(current)) : nullptr;
+}
+
+TableScreen* HomeScreen::searchResults() const
+{
+    const auto& results = home_->searchResultsController();
+    return results ? qobject_cast<TableScreen*>(registry_.screenFor(results)) : nullptr;
+}
+
+QString HomeScreen::searchPlaceholder() const
+{
+    return toQString(home_->searchBar.placeholder);
+}
+
+QString HomeScreen::searchText() const
+{
+    return toQString(home_->searchBar.text);
+}
+
+QString HomeScreen::searchIdentifier() const
+{
+    return toQString(home_->searchBar.accessibilityIdentifier);
+}
+
+void HomeScreen::selectTab(int tag)
+{
+    home_->didSelectItem(static_cast<navigation::Tab>(tag));
+}
+
+void HomeScreen::changeSearchText(const QString& text)
+{
+    if (text != searchText()) {
+        home_->searchTextChanged(toUtf8(text));
+        emit searchChanged();
+    }
+}
+
+void HomeScreen::searchFocusChanged(bool focused)
+{
+    home_->searchBar.isFirstResponder = focused;
+}
+
+std::vector<std::shared_ptr<platform::ViewController>> HomeScreen::visibleChildren() const
+{
+    if (isSearching()) {
+        return {home_->searchResultsController()};
+    }
+    if (home_->currentChild()) {
+        return {home_->currentChild()};
+    }
+    return {};
+}
+
+std::vector<std::shared_ptr<platform::ViewController>> HomeScreen::keptChildren() const
+{
+    auto children = lists_;
+    if (home_->searchResultsController()) {
+        children.push_back(home_->searchResultsController());
+    }
+    return children;
+}
+
+} // namespace lumora::qt

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "navigation/home_view_controller.h"
+#include "qt/screen.h"
+#include "qt/table_screen.h"
+
+namespace lumora::qt {
+
+class ScreenRegistry;
+
+/// The home screen: its tabs, the lists behind them and the search over them.
+class HomeScreen final : public Screen {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the registry")
+    Q_PROPERTY(QVariantList tabs READ tabs NOTIFY outletsChanged)
+    Q_PROPERTY(int selectedTab READ selectedTab NOTIFY outletsChanged)
+    Q_PROPERTY(QList<QObject*> lists READ lists NOTIFY listsChanged)
+    Q_PROPERTY(lumora::qt::TableScreen* currentList READ currentList NOTIFY outletsChanged)
+    Q_PROPERTY(lumora::qt::TableScreen* searchResults READ searchResults NOTIFY outletsChanged)
+    Q_PROPERTY(QString searchPlaceholder READ searchPlaceholder NOTIFY outletsChanged)
+    Q_PROPERTY(QString searchText READ searchText NOTIFY outletsChanged)
+    Q_PROPERTY(QString searchIdentifier READ searchIdentifier NOTIFY outletsChanged)
+    Q_PROPERTY(bool searchFocus READ searchFocus NOTIFY outletsChanged)
+
+public:
+    /// The registry must outlive the screen.
+    HomeScreen(std::shared_ptr<navigation::HomeViewController> controller,
+               ScreenRegistry& registry);
+    ~HomeScreen() override;
+
+    /// Maps of tag, title and image.
+    QVariantList tabs() const;
+    int selectedTab() const { return static_cast<int>(home_->tabBar.selectedItem); }
+    /// The lists shown so far, which keep their place behind the others.
+    QList<QObject*> lists() const;
+    TableScreen* currentList() const;
+    /// Null before the screen is built.
+    TableScreen* searchResults() const;
+    QString searchPlaceholder() const;
+    QString searchText() const;
+    QString searchIdentifier() const;
+    bool searchFocus() const { return home_->searchBar.isFirstResponder; }
+
+    Q_INVOKABLE void selectTab(int tag);
+    Q_INVOKABLE void changeSearchText(const QString& text);
+    /// The search field has got the keyboard or lost it.
+    Q_INVOKABLE void searchFocusChanged(bool focused);
+
+    std::vector<std::shared_ptr<platform::ViewController>> visibleChildren() const override;
+    std::vector<std::shared_ptr<platform::ViewController>> keptChildren() const override;
+
+signals:
+    void outletsChanged();
+    void listsChanged();
+    /// Another text is searched for.
+    void searchChanged();
+
+private:
+    void update();
+    bool isSearching() const;
+
+    std::shared_ptr<navigation::HomeViewController> home_;
+    ScreenRegistry& registry_;
+    std::vector<std::shared_ptr<platform::ViewController>> lists_;
+    std::vector<std::shared_ptr<platform::ViewController>> shown_;
+};
+
+} // namespace lumora::qt

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+// A button of the bar above a screen: an image, a title or both.
+TouchButton {
+    id: root
+
+    property string image
+
+    pressedColor: "#33ffffff"
+    focusColor: Theme.barText
+    leftPadding: Theme.gap
+    rightPadding: Theme.gap
+
+    contentItem: Item {
+        implicitWidth: content.implicitWidth
+        implicitHeight: content.implicitHeight
+
+        Row {
+            id: content
+            anchors.centerIn: parent
+            spacing: 4
+
+            Icon {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: name !== ""
+                name: root.image
+                color: root.enabled ? Theme.barText : Theme.barTextDisabled
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: text !== "" && root.image === ""
+                text: root.text
+                color: root.enabled ? Theme.barText : Theme.barTextDisabled
+                font.pixelSize: Theme.body
+            }
+        }
+    }
+}

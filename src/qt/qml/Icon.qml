@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtQuick.Window
+
+// One of the program's drawings in a colour.
+Image {
+    id: root
+
+    required property string name
+    property color color: Theme.text
+    property int size: 24
+
+    width: size
+    height: size
+    sourceSize: Qt.size(size * Screen.devicePixelRatio, size * Screen.devicePixelRatio)
+    source: name === "" ? "" : "image://icon/" + name + "/" + String(color).slice(-6)
+    fillMode: Image.PreserveAspectFit
+    Accessible.ignored: true
+}

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtQuick.Window
+
+// The window: one pane or two, and whatever is asked on top of them.
+Window {
+    id: root
+
+    required property SplitScreen split
+    required property Presenter presenter
+    required property color accent
+    property bool dark: false
+
+    minimumWidth: 280
+    minimumHeight: 360
+    visible: true
+    title: "Lumora"
+    color: Theme.background
+    onWidthChanged: root.split.setWidth(width)
+
+    Binding {
+        target: Theme
+        property: "dark"
+        value: root.dark
+    }
+    Binding {
+        target: Theme
+        property: "accentPrimary"
+        value: root.accent
+    }
+    Panes {
+        anchors.fill: parent
+        split: root.split
+        enabled: !root.presenter.asking
+        focus: true
+    }
+    Loader {
+        anchors.fill: parent
+        active: root.presenter.asking
+        source: active ? "qrc:/Lumora/QuestionDialog.qml" : ""
+        onLoaded: (item as QuestionDialog).presenter = root.presenter
+    }
+}

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+// The bar above a screen: the way back, the screen's buttons and its title.
+Rectangle {
+    id: root
+
+    required property Screen screen
+    property bool canGoBack: false
+
+    signal backRequested
+
+    implicitHeight: Theme.barHeight
+    color: Theme.barBackground
+
+    Row {
+        id: left
+        anchors.left: parent.left
+        anchors.leftMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+
+        BarButton {
+            objectName: "backButton"
+            visible: root.canGoBack
+            image: "back"
+            text: qsTrId("navigation.back")
+            onClicked: root.backRequested()
+        }
+        Repeater {
+            model: root.screen.leftButtons
+
+            ScreenBarButton {
+                screen: root.screen
+            }
+        }
+    }
+    Text {
+        anchors.centerIn: parent
+        width: parent.width - 2 * Math.max(left.width, right.width) - 2 * Theme.gap
+        text: root.screen.title
+        color: Theme.barText
+        font.pixelSize: Theme.title
+        font.weight: Font.DemiBold
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 11
+        horizontalAlignment: Text.AlignHCenter
+        elide: Text.ElideRight
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+    Row {
+        id: right
+        anchors.right: parent.right
+        anchors.rightMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+
+        Repeater {
+            model: root.screen.rightButtons
+
+            ScreenBarButton {
+                screen: root.screen
+            }
+        }
+    }
+}

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+// List and detail, side by side where they fit.
+FocusScope {
+    id: root
+
+    required property SplitScreen split
+    readonly property bool twoPanes: !split.collapsed
+    readonly property int listWidth: Math.max(320, Math.min(360, Math.round(width * 0.34)))
+
+    ScreenStack {
+        id: primary
+        objectName: "primaryPane"
+        focus: true
+        width: root.twoPanes ? root.listWidth : root.width
+        height: root.height
+        x: root.twoPanes && root.split.primaryHidden ? -width - 1 : 0
+        visible: x > -width
+        screens: root.split.primary
+        onBackRequested: root.split.back()
+
+        Behavior on x {
+            enabled: root.twoPanes
+            NumberAnimation {
+                duration: Theme.quick
+                easing.type: Easing.OutCubic
+            }
+        }
+    }
+    Rectangle {
+        id: divider
+        visible: root.twoPanes
+        x: primary.x + primary.width
+        width: 1
+        height: root.height
+        color: Theme.separator
+    }
+    Loader {
+        active: root.twoPanes
+        anchors.left: divider.right
+        anchors.right: parent.right
+        height: root.height
+
+        sourceComponent: ScreenStack {
+            objectName: "secondaryPane"
+            wide: true
+            screens: root.split.secondary
+            onBackRequested: root.split.back()
+        }
+    }
+    Keys.onEscapePressed: event => event.accepted = root.split.back()
+    Keys.onBackPressed: event => event.accepted = root.split.back()
+}

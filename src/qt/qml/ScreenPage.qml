@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+// What every page of a stack has: its screen's bar above its content.
+FocusScope {
+    id: root
+
+    required property Screen screen
+    property bool canGoBack: false
+    // Stands beside another pane.
+    property bool wide: false
+    default property alias content: area.data
+
+    signal backRequested
+
+    Component.onCompleted: screen.attach(root)
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.background
+    }
+    NavigationBar {
+        id: bar
+        width: parent.width
+        screen: root.screen
+        canGoBack: root.canGoBack
+        onBackRequested: root.backRequested()
+    }
+    FocusScope {
+        id: area
+        focus: true
+        anchors.top: bar.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        clip: true
+    }
+}

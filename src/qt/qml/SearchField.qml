@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+// The field in which a verb is looked for.
+Rectangle {
+    id: root
+
+    required property HomeScreen home
+
+    implicitHeight: 52
+    color: Theme.barBackground
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: 12
+        anchors.rightMargin: 12
+        anchors.bottomMargin: 10
+        radius: Theme.radius
+        color: Theme.field
+        border.width: input.activeFocus ? 2 : 0
+        border.color: Theme.star
+
+        Icon {
+            id: glass
+            anchors.left: parent.left
+            anchors.leftMargin: 10
+            anchors.verticalCenter: parent.verticalCenter
+            name: "search"
+            color: Theme.textSecondary
+            size: 20
+        }
+        Text {
+            anchors.fill: input
+            visible: input.displayText === ""
+            text: root.home.searchPlaceholder
+            color: Theme.textSecondary
+            font: input.font
+            verticalAlignment: Text.AlignVCenter
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        TextInput {
+            id: input
+            objectName: root.home.searchIdentifier
+            anchors.left: glass.right
+            anchors.leftMargin: Theme.gap
+            anchors.right: clear.left
+            height: parent.height
+            verticalAlignment: Text.AlignVCenter
+            color: Theme.text
+            selectionColor: Theme.accentPrimary
+            selectedTextColor: "white"
+            font.pixelSize: Theme.body
+            clip: true
+            selectByMouse: true
+            activeFocusOnTab: true
+            inputMethodHints: Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
+            Accessible.role: Accessible.EditableText
+            Accessible.name: root.home.searchPlaceholder
+            onTextChanged: root.home.changeSearchText(text)
+            onActiveFocusChanged: root.home.searchFocusChanged(activeFocus)
+            Keys.onEscapePressed: event => {
+                event.accepted = text !== "";
+                text = "";
+            }
+        }
+        TouchButton {
+            id: clear
+            objectName: "searchClear"
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            width: visible ? Theme.touch : Theme.gap
+            height: parent.height
+            visible: input.text !== ""
+            text: qsTrId("search.clear")
+            onClicked: input.text = ""
+
+            contentItem: Item {
+                Icon {
+                    anchors.centerIn: parent
+                    name: "clear"
+                    color: Theme.textSecondary
+                    size: 20
+                }
+            }
+        }
+    }
+    Connections {
+        target: root.home
+        function onOutletsChanged() {
+            if (root.home.searchFocus && !input.activeFocus)
+                input.forceActiveFocus();
+            else if (!root.home.searchFocus && input.activeFocus)
+                input.focus = false;
+        }
+    }
+}

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtQuick.Templates as T
+
+// The buttons behind a row that is swiped open.
+Row {
+    id: root
+
+    required property TableRow row
+    required property TableView table
+
+    anchors.right: parent.right
+    height: parent.height
+    layoutDirection: Qt.RightToLeft
+
+    Repeater {
+        model: root.table.model.trailingActions(root.row.index)
+
+        T.AbstractButton {
+            id: button
+
+            required property int index
+            required property var modelData
+            readonly property color shade: modelData.background !== undefined ? modelData.background : modelData.destructive ? "#b3261e" : "#5b6470"
+            readonly property color ink: 0.299 * shade.r + 0.587 * shade.g + 0.114 * shade.b > 0.28 ? "#16191d" : "#ffffff"
+
+            objectName: "swipeAction" + index
+            width: Math.max(88, label.implicitWidth + 2 * Theme.gap)
+            height: root.height
+            text: modelData.title
+            Accessible.name: text
+            onClicked: {
+                const model = root.table.model;
+                const row = root.row;
+                row.swipe.close();
+                model.triggerAction(row.index, index);
+            }
+
+            background: Rectangle {
+                color: button.down ? Qt.darker(button.shade, 1.15) : button.shade
+            }
+            contentItem: Item {
+                Column {
+                    anchors.centerIn: parent
+                    spacing: 2
+
+                    Icon {
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        name: button.modelData.image
+                        color: button.ink
+                        size: 22
+                    }
+                    Text {
+                        id: label
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        text: button.text
+                        color: button.ink
+                        font.pixelSize: Theme.small
+                    }
+                }
+            }
+        }
+    }
+}

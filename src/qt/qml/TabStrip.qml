@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtQuick.Templates as T
+
+// The tabs at the bottom of the home screen.
+Rectangle {
+    id: root
+
+    required property HomeScreen home
+
+    implicitHeight: 56
+    color: Theme.raised
+    Accessible.role: Accessible.PageTabList
+
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: Theme.separator
+    }
+    Row {
+        id: row
+        anchors.fill: parent
+
+        Repeater {
+            model: root.home.tabs
+
+            T.AbstractButton {
+                id: tab
+
+                required property var modelData
+                readonly property color ink: checked ? Theme.accentText : Theme.textSecondary
+
+                objectName: "tab" + modelData.tag
+                width: row.width / Math.max(1, root.home.tabs.length)
+                height: row.height
+                text: modelData.title
+                checked: modelData.tag === root.home.selectedTab
+                focusPolicy: Qt.TabFocus
+                Accessible.role: Accessible.PageTab
+                Accessible.name: text
+                Accessible.selected: checked
+                onClicked: root.home.selectTab(modelData.tag)
+
+                background: Rectangle {
+                    color: tab.down ? Theme.pressed : "transparent"
+                    border.width: tab.visualFocus ? 2 : 0
+                    border.color: Theme.accentText
+                }
+                contentItem: Item {
+                    Column {
+                        anchors.centerIn: parent
+                        spacing: 2
+
+                        Icon {
+                            anchors.horizontalCenter: parent.horizontalCenter
+                            name: tab.modelData.image
+                            color: tab.ink
+                        }
+                        Text {
+                            anchors.horizontalCenter: parent.horizontalCenter
+                            text: tab.text
+                            color: tab.ink
+                            font.pixelSize: Theme.small
+                            font.weight: tab.checked ? Font.DemiBold : Font.Normal
+                        }
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma Singleton
+import QtQuick
+
+// The one place for colours, sizes and distances.
+QtObject {
+    property bool dark: false
+    property color accentPrimary: "#0b4ea2"
+    // The person's wish for larger or smaller text.
+    property real textScale: 1
+
+    readonly property color accentSecondary: dark ? "#f2b84b" : "#9a5b00"
+    readonly property color onAccentSecondary: dark ? "#16191d" : "#ffffff"
+    // Accent on the page rather than behind white text.
+    readonly property color accentText: dark ? "#8ab8f5" : accentPrimary
+    readonly property color barBackground: dark ? "#10325f" : accentPrimary
+    readonly property color barText: "#ffffff"
+    readonly property color barTextDisabled: "#8fa9cc"
+    readonly property color background: dark ? "#121417" : "#ffffff"
+    readonly property color raised: dark ? "#1e2227" : "#ffffff"
+    readonly property color grouped: dark ? "#0b0d0f" : "#eef1f6"
+    readonly property color header: dark ? "#1e2227" : "#eef1f6"
+    readonly property color text: dark ? "#f1f3f5" : "#16191d"
+    readonly property color textSecondary: dark ? "#aab2bd" : "#59626e"
+    readonly property color separator: dark ? "#31373e" : "#d9dee6"
+    readonly property color segment: dark ? "#2b3138" : "#dde3ec"
+    readonly property color pressed: dark ? "#2a3038" : "#e3eaf4"
+    readonly property color field: dark ? "#0b1c33" : "#ffffff"
+    readonly property color star: dark ? "#f2b84b" : "#d98a00"
+    readonly property color danger: dark ? "#ff8a80" : "#b3261e"
+    readonly property color shade: "#80000000"
+    // The ring's own colours are its controller's; these go with them.
+    readonly property color playInk: "#0155b3"
+    readonly property color playBorder: dark ? "#ffffff" : "#0155b3"
+
+    readonly property int small: Math.round(13 * textScale)
+    readonly property int body: Math.round(17 * textScale)
+    readonly property int title: Math.round(18 * textScale)
+    readonly property int headline: Math.round(22 * textScale)
+
+    readonly property int gap: 8
+    readonly property int margin: 16
+    readonly property int touch: 44
+    readonly property int barHeight: 52
+    readonly property int rowHeight: Math.round(60 * Math.max(1, textScale))
+    readonly property int headerHeight: Math.round(28 * Math.max(1, textScale))
+    readonly property int radius: 10
+    readonly property int quick: 180
+}

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtQuick.Templates as T
+
+// A flat button of at least a finger's size that shows when it is pressed.
+T.AbstractButton {
+    id: root
+
+    property color pressedColor: Theme.pressed
+    property color focusColor: Theme.accentText
+
+    implicitWidth: Math.max(Theme.touch, implicitContentWidth + leftPadding + rightPadding)
+    implicitHeight: Math.max(Theme.touch, implicitContentHeight + topPadding + bottomPadding)
+    focusPolicy: Qt.TabFocus
+    Accessible.name: text
+
+    background: Rectangle {
+        radius: Theme.radius
+        color: root.down ? root.pressedColor : "transparent"
+        border.width: root.visualFocus ? 2 : 0
+        border.color: root.focusColor
+    }
+}

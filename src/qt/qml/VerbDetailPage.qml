@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+// One verb: its conjugations by mood, as a table on a narrow screen and as
+// squares on a wide one.
+ScreenPage {
+    id: root
+
+    readonly property VerbDetailScreen verb: screen
+
+    MoodBar {
+        id: moods
+        width: parent.width
+        height: root.verb.toolbarHidden ? 0 : root.verb.toolbarHeight
+        visible: height > 0
+        screen: root.verb
+    }
+    Loader {
+        anchors.top: moods.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        focus: true
+        sourceComponent: root.wide ? squares : table
+    }
+    Rectangle {
+        anchors.centerIn: parent
+        width: label.width
+        height: label.height
+        visible: !root.verb.selectTextHidden
+        radius: root.verb.selectRadius
+        color: Theme.dark ? Theme.raised : root.verb.selectBackground
+        border.width: root.verb.selectBorderWidth
+        border.color: Theme.dark ? Theme.separator : root.verb.selectBorder
+
+        Text {
+            id: label
+            width: Math.min(implicitWidth, root.width - 2 * Theme.margin)
+            padding: Theme.margin
+            text: root.verb.selectText
+            color: Theme.textSecondary
+            font.pixelSize: Theme.body
+            wrapMode: Text.WordWrap
+            horizontalAlignment: Text.AlignHCenter
+        }
+    }
+
+    Component {
+        id: table
+
+        TableContent {
+            id: content
+
+            table: root.verb.table
+            delegate: ConjugationRow {
+                width: ListView.view.width
+                table: content.table
+            }
+            Component.onCompleted: root.verb.prepareTable()
+        }
+    }
+    Component {
+        id: squares
+
+        TenseGrid {
+            collection: root.verb.collection
+            Component.onCompleted: root.verb.prepareCollection()
+        }
+    }
+}

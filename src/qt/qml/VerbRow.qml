@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+
+// One verb in a list: French over its translation, a star for a favourite.
+TableRow {
+    id: root
+
+    required text
+    required property string detailText
+    required property string image
+    /// Kept free at the right, for the index.
+    property int trailingSpace: 0
+
+    Accessible.name: text + ", " + detailText
+
+    Column {
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.margin
+        anchors.right: star.left
+        anchors.rightMargin: Theme.gap
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Text {
+            width: parent.width
+            text: root.text
+            color: Theme.text
+            font.pixelSize: Theme.body
+            elide: Text.ElideRight
+        }
+        Text {
+            width: parent.width
+            visible: text !== ""
+            text: root.detailText
+            color: Theme.textSecondary
+            font.pixelSize: Theme.small + 1
+            elide: Text.ElideRight
+        }
+    }
+    Icon {
+        id: star
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.margin + root.trailingSpace
+        anchors.verticalCenter: parent.verticalCenter
+        name: root.image
+        color: Theme.star
+        size: 20
+    }
+}

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/qt_presenter.h"
+
+#include "platform/split_view_controller.h"
+#include "platform/storyboard.h"
+#include "qt/text_conversion.h"
+
+#include <QQmlEngine>
+
+#include <algorithm>
+#include <utility>
+
+namespace lumora::qt {
+
+QtPresenter::QtPresenter(platform::Storyboard& storyboard) : storyboard_{storyboard}
+{
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+}
+
+void QtPresenter::performSegue(platform::ViewController& source, std::string_view identifier,
+                               std::optional<platform::IndexPath> sender)
+{
+    if (!source.shouldPerformSegue(identifier)) {
+        return;
+    }
+    const auto destination = storyboard_.instantiateDestination(identifier);
+    source.prepareForSegue({std::string{identifier}, *destination, sender});
+    if (auto* split = source.splitViewController()) {
+        split->showDetailViewController(destination);
+    }
+}
+
+void QtPresenter::presentAlert(platform::ViewController& /*on*/, const platform::Alert& alert)
+{
+    ask({alert.title, alert.message, alert.actions, false});
+}
+
+void QtPresenter::presentActionSheet(platform::ViewController& /*on*/,
+                                     const platform::ActionSheet& sheet,
+                                     platform::IndexPath /*anchor*/)
+{
+    ask({sheet.title, {}, sheet.actions, true});
+}
+
+void QtPresenter::dismiss(platform::ViewController& /*presented*/, std::function<void()> completed)
+{
+    // No step leads to a screen on top of the others yet.
+    if (completed) {
+        completed();
+    }
+}
+
+void QtPresenter::ask(Question question)
+{
+    questions_.push_back(std::move(question));
+    if (questions_.size() == 1) {
+        emit questionChanged();
+    }
+}
+
+QString QtPresenter::questionTitle() const
+{
+    return asking() && questions_.front().title ? toQString(*questions_.front().title) : QString{};
+}
+
+QString QtPresenter::questionMessage() const
+{
+    return asking() ? toQString(questions_.front().message) : QString{};
+}
+
+QVariantList QtPresenter::answers() const
+{
+    QVariantList list;
+    if (!asking()) {
+        return list;
+    }
+    for (const auto& action : questions_.front().actions) {
+        list.append(QVariantMap{
+            {QStringLiteral("title"), toQString(action.title)},
+            {QStringLiteral("destructive"), action.style == platform::ActionStyle::Destructive},
+            {QStringLiteral("cancel"), action.style == platform::ActionStyle::Cancel}});
+    }
+    return list;
+}
+
+int QtPresenter::cancelIndex() const
+{
+    if (!asking()) {
+        return -1;
+    }
+    const auto& actions = questions_.front().actions;
+    const auto found = std::find_if(actions.begin(), actions.end(), [](const auto& action) {
+        return action.style == platform::ActionStyle::Cancel;
+    });
+    return found == actions.end() ? -1 : static_cast<int>(found - actions.begin());
+}
+
+bool QtPresenter::isCancellable() const
+{
+    return isSheet() || cancelIndex() >= 0;
+}
+
+void QtPresenter::answer(int index)
+{
+    if (!asking() || index < 0 ||
+        static_cast<std::size_t>(index) >= questions_.front().actions.size()) {
+        return;
+    }
+    const auto handler = questions_.front().actions[static_cast<std::size_t>(index)].handler;
+    questions_.pop_front();
+    emit questionChanged();
+    if (handler) {
+        handler();
+    }
+}
+
+void QtPresenter::cancel()
+{
+    if (!isCancellable()) {
+        return;
+    }
+    if (const int index = cancelIndex(); index >= 0) {
+        answer(index);
+        return;
+    }
+    questions_.pop_front();
+    emit questionChanged();
+}
+
+} // namespace lumora::qt

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "qt/indicator_source.h"
+
+#include <QPointer>
+#include <QQuickPaintedItem>
+#include <QVariantAnimation>
+
+namespace lumora::qt {
+
+/// Paints a controller's animated view and runs its animations.
+class RoundProgressItem : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(RoundProgress)
+    Q_PROPERTY(lumora::qt::IndicatorSource* source READ source WRITE setSource NOTIFY sourceChanged)
+
+public:
+    explicit RoundProgressItem(QQuickItem* parent = nullptr);
+
+    IndicatorSource* source() const { return source_; }
+    void setSource(IndicatorSource* source);
+
+    void paint(QPainter* painter) override;
+
+signals:
+    void sourceChanged();
+
+private:
+    void animate(float from, float to, double duration);
+
+    QPointer<IndicatorSource> source_;
+    QVariantAnimation animation_;
+};
+
+} // namespace lumora::qt

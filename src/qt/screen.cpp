@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/screen.h"
+
+#include "qt/text_conversion.h"
+
+#include <QQmlEngine>
+
+#include <utility>
+
+namespace lumora::qt {
+
+namespace {
+
+QVariantMap toMap(const platform::BarButton& button)
+{
+    return {{QStringLiteral("identifier"), toQString(button.identifier)},
+            {QStringLiteral("title"), toQString(button.title)},
+            {QStringLiteral("image"), toQString(button.image)},
+            {QStringLiteral("enabled"), button.enabled}};
+}
+
+} // namespace
+
+Screen::Screen(std::shared_ptr<platform::ViewController> controller, const QString& pageName)
+    : controller_{std::move(controller)}, page_{QStringLiteral("qrc:/Lumora/%1.qml").arg(pageName)}
+{
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+    controller_->setNavigationItemListener([this] { emit navigationItemChanged(); });
+}
+
+Screen::~Screen()
+{
+    controller_->setNavigationItemListener({});
+}
+
+QString Screen::title() const
+{
+    return toQString(controller_->navigationItem().title);
+}
+
+QVariantList Screen::leftButtons() const
+{
+    QVariantList buttons;
+    if (const auto& button = controller_->navigationItem().leftBarButton) {
+        buttons.append(toMap(*button));
+    }
+    return buttons;
+}
+
+QVariantList Screen::rightButtons() const
+{
+    QVariantList buttons;
+    for (const auto& button : controller_->navigationItem().rightBarButtons) {
+        buttons.append(toMap(button));
+    }
+    return buttons;
+}
+
+void Screen::press(const QString& identifier)
+{
+    const auto& item = controller_->navigationItem();
+    auto buttons = item.rightBarButtons;
+    if (item.leftBarButton) {
+        buttons.push_back(*item.leftBarButton);
+    }
+    // Out of the copy: the action may change the bar.
+    for (const auto& button : buttons) {
+        if (toQString(button.identifier) == identifier) {
+            if (button.enabled && button.action) {
+                button.action();
+            }
+            return;
+        }
+    }
+}
+
+void Screen::attach(QObject* page)
+{
+    ++pages_;
+    connect(page, &QObject::destroyed, this, [this] {
+        if (--pages_ == 0) {
+            emit detached();
+        }
+    });
+}
+
+} // namespace lumora::qt

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/split_screen.h"
+
+#include "platform/navigation_controller.h"
+#include "qt/qt_device.h"
+
+#include <utility>
+
+namespace lumora::qt {
+
+using platform::NavigationController;
+
+namespace {
+
+bool popOne(NavigationController* stack)
+{
+    if (stack == nullptr) {
+        return false;
+    }
+    // The detail of a single pane is a stack inside the stack.
+    if (popOne(dynamic_cast<NavigationController*>(stack->topViewController()))) {
+        return true;
+    }
+    return stack->popViewController() != nullptr;
+}
+
+} // namespace
+
+SplitScreen::SplitScreen(std::shared_ptr<platform::SplitViewController> split, QtDevice& device)
+    : split_{std::move(split)}, device_{device}
+{
+    split_->setPaneListener([this] { synchronize(); });
+    connect(&registry_, &ScreenRegistry::childrenChanged, this, &SplitScreen::synchronize);
+}
+
+SplitScreen::~SplitScreen()
+{
+    split_->setPaneListener({});
+    for (const auto& weak : listenedStacks_) {
+        if (const auto stack = std::dynamic_pointer_cast<NavigationController>(weak.lock())) {
+            stack->setStackListener({});
+        }
+    }
+    if (auto* stack = dynamic_cast<NavigationController*>(split_->viewControllers().front())) {
+        stack->setStackListener({});
+    }
+}
+
+void SplitScreen::setWidth(double points)
+{
+    device_.setWindowWidth(points);
+    const bool collapse = points < platform::kTwoPaneWidth;
+    if (shown_ && collapse == split_->isCollapsed()) {
+        return;
+    }
+    // One picture of the panes when all is in its place, none in between.
+    changing_ = true;
+    split_->setCollapsed(collapse);
+    changing_ = false;
+    shown_ = true;
+    synchronize();
+}
+
+bool SplitScreen::back()
+{
+    const auto panes = split_->viewControllers();
+    for (auto pane = panes.rbegin(); pane != panes.rend(); ++pane) {
+        if (popOne(dynamic_cast<NavigationController*>(*pane))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+SplitScreen::Controllers SplitScreen::flatten(NavigationController& stack)
+{
+    stack.setStackListener([this] { synchronize(); });
+    Controllers screens;
+    for (const auto& controller : stack.viewControllers()) {
+        if (const auto inner = std::dynamic_pointer_cast<NavigationController>(controller)) {
+            listenedStacks_.push_back(inner);
+            const auto within = flatten(*inner);
+            screens.insert(screens.end(), within.begin(), within.end());
+        } else {
+            screens.push_back(controller);
+        }
+    }
+    return screens;
+}
+
+void SplitScreen::synchronize()
+{
+    if (changing_ || !shown_) {
+        return;
+    }
+    listenedStacks_.clear();
+    Controllers all;
+    Controllers visible;
+    QList<QObject*> screens[2];
+    const auto panes = split_->viewControllers();
+    for (std::size_t pane = 0; pane < panes.size() && pane < 2; ++pane) {
+        auto* stack = dynamic_cast<NavigationController*>(panes[pane]);
+        if (stack == nullptr) {
+            continue;
+        }
+        const auto controllers = flatten(*stack);
+        for (const auto& controller : controllers) {
+            screens[pane].append(registry_.screenFor(controller));
+        }
+        all.insert(all.end(), controllers.begin(), controllers.end());
+        const bool hidden = pane == 0 && panes.size() > 1 && split_->isPrimaryHidden();
+        if (!controllers.empty() && !hidden) {
+            visible.push_back(controllers.back());
+        }
+    }
+
+    // Loaded here, so that a screen's children are known.
+    for (const auto& controller : visible) {
+        controller->loadViewIfNeeded();
+    }
+    Controllers withChildren;
+    for (const auto& controller : visible) {
+        withChildren.push_back(controller);
+        const auto children = registry_.screenFor(controller)->visibleChildren();
+        withChildren.insert(withChildren.end(), children.begin(), children.end());
+    }
+    appearances_.setVisible(std::move(withChildren));
+
+    primary_ = screens[0];
+    secondary_ = screens[1];
+    emit changed();
+    // The pages that go say so first.
+    registry_.retainOnly(all);
+}
+
+} // namespace lumora::qt

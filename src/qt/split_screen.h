@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/appearance_tracker.h"
+#include "platform/split_view_controller.h"
+#include "qt/screen_registry.h"
+
+#include <QList>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+#include <vector>
+
+namespace lumora::qt {
+
+class QtDevice;
+
+/// The window's panes for QML: the stack of screens in each. It hears every
+/// change of the controllers' stacks and tells the screens when they come and
+/// go. GUI thread only.
+class SplitScreen final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window")
+    Q_PROPERTY(bool collapsed READ collapsed NOTIFY changed)
+    Q_PROPERTY(bool primaryHidden READ primaryHidden NOTIFY changed)
+    Q_PROPERTY(QList<QObject*> primary READ primary NOTIFY changed)
+    Q_PROPERTY(QList<QObject*> secondary READ secondary NOTIFY changed)
+
+public:
+    /// The device must outlive this.
+    SplitScreen(std::shared_ptr<platform::SplitViewController> split, QtDevice& device);
+    ~SplitScreen() override;
+
+    bool collapsed() const { return split_->isCollapsed(); }
+    bool primaryHidden() const { return split_->isPrimaryHidden(); }
+    /// From the bottom of the stack to its top; the second pane's are empty
+    /// while there is one pane.
+    QList<QObject*> primary() const { return primary_; }
+    QList<QObject*> secondary() const { return secondary_; }
+
+    /// The window is as wide as this now; the first call shows the screens.
+    Q_INVOKABLE void setWidth(double points);
+    /// Takes the top screen away; false when there is none to go back from.
+    Q_INVOKABLE bool back();
+
+    std::size_t screenCount() const { return registry_.size(); }
+
+signals:
+    void changed();
+
+private:
+    using Controllers = std::vector<std::shared_ptr<platform::ViewController>>;
+
+    void synchronize();
+    Controllers flatten(platform::NavigationController& stack);
+    void tellAppearances();
+
+    std::shared_ptr<platform::SplitViewController> split_;
+    QtDevice& device_;
+    ScreenRegistry registry_;
+    platform::AppearanceTracker appearances_;
+    QList<QObject*> primary_;
+    QList<QObject*> secondary_;
+    std::vector<std::weak_ptr<platform::ViewController>> listenedStacks_;
+    bool shown_ = false;
+    bool changing_ = false;
+};
+
+} // namespace lumora::qt

@@ -1,0 +1,465 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/table_item_model.h"
+
+#include "qt/color_conversion.h"
+#include "qt/text_conversion.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <utility>
+
+namespace lumora::qt {
+
+using platform::IndexPath;
+using platform::TableCell;
+
+namespace {
+
+template <typename Control>
+const Control* controlOf(const TableCell& cell)
+{
+    return std::get_if<Control>(&cell.control);
+}
+
+std::optional<QString> optionalText(const std::optional<std::string>& text)
+{
+    return text ? std::optional{toQString(*text)} : std::nullopt;
+}
+
+/// Marks the time in which the controller answers a question about a row.
+class Answering {
+public:
+    explicit Answering(int& depth) : depth_{depth} { ++depth_; }
+    ~Answering() { --depth_; }
+    Answering(const Answering&) = delete;
+    Answering& operator=(const Answering&) = delete;
+
+private:
+    int& depth_;
+};
+
+} // namespace
+
+TableItemModel::TableItemModel(platform::TableDataSource& source, QObject* parent)
+    : QAbstractListModel{parent}, source_{source}
+{}
+
+int TableItemModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QHash<int, QByteArray> TableItemModel::roleNames() const
+{
+    return {{KindRole, "kind"},
+            {SectionRole, "section"},
+            {RowRole, "row"},
+            {TitleRole, "title"},
+            {TextRole, "text"},
+            {DetailTextRole, "detailText"},
+            {ImageRole, "image"},
+            {SelectableRole, "selectable"},
+            {DisclosureRole, "disclosure"},
+            {ControlRole, "control"},
+            {SwitchOnRole, "switchOn"},
+            {SegmentTitlesRole, "segmentTitles"},
+            {SelectedSegmentRole, "selectedSegment"},
+            {IndicatorRole, "indicator"},
+            {CanEditRole, "canEdit"},
+            {IdentifierRole, "identifier"},
+            {ReuseIdentifierRole, "reuseIdentifier"},
+            {SelectedRole, "selected"}};
+}
+
+QVariant TableItemModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+    const bool isCell = row.kind == RowKind::Cell;
+    switch (role) {
+    case KindRole:
+        return static_cast<int>(row.kind);
+    case SectionRole:
+        return row.path.section;
+    case RowRole:
+        return isCell ? row.path.row : -1;
+    case TitleRole: {
+        const auto& section = sections_[static_cast<std::size_t>(row.path.section)];
+        return isCell                        ? QString{}
+               : row.kind == RowKind::Header ? section.header.value_or(QString{})
+                                             : section.footer.value_or(QString{});
+    }
+    case SelectedRole:
+        return isCell && selected_ == row.path;
+    default:
+        break;
+    }
+    if (isCell) {
+        return cellData(row.path, role);
+    }
+    // Headers and footers answer with an empty cell's values, so that one
+    // delegate with typed properties serves every kind.
+    switch (role) {
+    case TextRole:
+    case DetailTextRole:
+    case ImageRole:
+    case IdentifierRole:
+    case ReuseIdentifierRole:
+        return QString{};
+    case SelectableRole:
+    case DisclosureRole:
+    case SwitchOnRole:
+    case CanEditRole:
+        return false;
+    case ControlRole:
+        return static_cast<int>(ControlKind::None);
+    case SegmentTitlesRole:
+        return QStringList{};
+    case SelectedSegmentRole:
+        return 0;
+    case IndicatorRole:
+        return QVariant::fromValue<IndicatorSource*>(nullptr);
+    default:
+        return {};
+    }
+}
+
+QVariant TableItemModel::cellData(IndexPath path, int role) const
+{
+    const Answering guard{answering_};
+    if (role == CanEditRole) {
+        return source_.canEditRow(path);
+    }
+    const TableCell& shown = cell(path);
+    switch (role) {
+    case TextRole:
+        return toQString(shown.text);
+    case DetailTextRole:
+        return toQString(shown.detailText);
+    case ImageRole:
+        return toQString(shown.image);
+    case IdentifierRole:
+        return toQString(shown.accessibilityIdentifier);
+    case ReuseIdentifierRole:
+        return toQString(shown.reuseIdentifier);
+    case SelectableRole:
+        return shown.selectable;
+    case DisclosureRole:
+        return shown.accessory == platform::CellAccessory::DisclosureIndicator;
+    case ControlRole:
+        // The variant's alternatives stand in the order of ControlKind.
+        return static_cast<int>(shown.control.index());
+    case SwitchOnRole: {
+        const auto* control = controlOf<platform::SwitchControl>(shown);
+        return control != nullptr && control->on;
+    }
+    case SegmentTitlesRole: {
+        const auto* control = controlOf<platform::SegmentedControl>(shown);
+        return control == nullptr ? QStringList{} : toQStringList(control->titles);
+    }
+    case SelectedSegmentRole: {
+        const auto* control = controlOf<platform::SegmentedControl>(shown);
+        return control == nullptr ? 0 : control->selected;
+    }
+    case IndicatorRole: {
+        const auto* control = controlOf<platform::PlayControl>(shown);
+        return QVariant::fromValue(control == nullptr ? nullptr
+                                                      : indicators_.sourceFor(control->indicator));
+    }
+    default:
+        return {};
+    }
+}
+
+const TableCell& TableItemModel::cell(IndexPath path) const
+{
+    if (!cell_ || cellPath_ != path) {
+        cell_ = source_.cellForRow(path);
+        cellPath_ = path;
+    }
+    return *cell_;
+}
+
+void TableItemModel::reloadData()
+{
+    if (loading_) {
+        loadAgain_ = true;
+        return;
+    }
+    if (answering_ > 0) {
+        QMetaObject::invokeMethod(this, &TableItemModel::reloadData, Qt::QueuedConnection);
+        return;
+    }
+    load();
+}
+
+void TableItemModel::loadIfNeeded()
+{
+    if (!loaded_) {
+        reloadData();
+    }
+}
+
+void TableItemModel::load()
+{
+    loading_ = true;
+    std::vector<Row> rows;
+    std::vector<Section> sections;
+    do {
+        loadAgain_ = false;
+        rows.clear();
+        sections.clear();
+        const int sectionCount = source_.numberOfSections();
+        for (int section = 0; section < sectionCount && !loadAgain_; ++section) {
+            const auto& texts = sections.emplace_back(
+                Section{optionalText(source_.titleForHeaderInSection(section)),
+                        optionalText(source_.titleForFooterInSection(section))});
+            if (texts.header) {
+                rows.push_back({RowKind::Header, {section, 0}});
+            }
+            const int rowCount = source_.numberOfRowsInSection(section);
+            for (int row = 0; row < rowCount; ++row) {
+                rows.push_back({RowKind::Cell, {section, row}});
+            }
+            if (texts.footer) {
+                rows.push_back({RowKind::Footer, {section, 0}});
+            }
+        }
+        rawIndexTitles_ = source_.sectionIndexTitles();
+    } while (loadAgain_);
+    loading_ = false;
+
+    loaded_ = true;
+    ++generation_;
+    indexTitles_ = toQStringList(rawIndexTitles_);
+    actions_.clear();
+    selected_.reset();
+    replaceRows(std::move(rows), std::move(sections));
+    emit reloaded();
+}
+
+void TableItemModel::replaceRows(std::vector<Row> rows, std::vector<Section> sections)
+{
+    cell_.reset();
+    // A view keeps its place over inserted or removed rows, not over a reset;
+    // most reloads change at most one run of rows.
+    const auto sameKind = [](const Row& left, const Row& right) { return left.kind == right.kind; };
+    const auto common = std::min(rows_.size(), rows.size());
+    const auto prefix = static_cast<std::size_t>(
+        std::mismatch(rows_.begin(), rows_.begin() + static_cast<std::ptrdiff_t>(common),
+                      rows.begin(), sameKind)
+            .first -
+        rows_.begin());
+    std::size_t suffix = 0;
+    while (suffix < common - prefix &&
+           sameKind(rows_[rows_.size() - 1 - suffix], rows[rows.size() - 1 - suffix])) {
+        ++suffix;
+    }
+    const auto removed = rows_.size() - prefix - suffix;
+    const auto inserted = rows.size() - prefix - suffix;
+    const auto first = static_cast<int>(prefix);
+    const auto replace = [&] {
+        rows_ = std::move(rows);
+        sections_ = std::move(sections);
+    };
+
+    if (removed > 0 && inserted > 0) {
+        emit aboutToReset();
+        beginResetModel();
+        replace();
+        endResetModel();
+        emit resetDone();
+    } else if (removed > 0) {
+        beginRemoveRows({}, first, first + static_cast<int>(removed) - 1);
+        replace();
+        endRemoveRows();
+    } else if (inserted > 0) {
+        beginInsertRows({}, first, first + static_cast<int>(inserted) - 1);
+        replace();
+        endInsertRows();
+    } else {
+        replace();
+    }
+    if (!rows_.empty()) {
+        emit dataChanged(index(0), index(static_cast<int>(rows_.size()) - 1));
+    }
+    indicators_.dropOrphans();
+}
+
+std::optional<IndexPath> TableItemModel::cellPath(int row) const
+{
+    if (row < 0 || row >= rowCount() ||
+        rows_[static_cast<std::size_t>(row)].kind != RowKind::Cell) {
+        return std::nullopt;
+    }
+    return rows_[static_cast<std::size_t>(row)].path;
+}
+
+int TableItemModel::listRow(IndexPath path) const
+{
+    const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const Row& row) {
+        return row.kind == RowKind::Cell && row.path == path;
+    });
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+void TableItemModel::rowChanged(IndexPath path, const QList<int>& roles)
+{
+    const int row = listRow(path);
+    if (row >= 0) {
+        emit dataChanged(index(row), index(row), roles);
+    }
+}
+
+void TableItemModel::reloadRow(IndexPath path)
+{
+    cell_.reset();
+    rowChanged(path);
+}
+
+void TableItemModel::deselect(IndexPath path)
+{
+    if (selected_ == path) {
+        selected_.reset();
+        rowChanged(path, {SelectedRole});
+    }
+}
+
+int TableItemModel::rowForIndexTitle(int index)
+{
+    if (index < 0 || static_cast<std::size_t>(index) >= rawIndexTitles_.size()) {
+        return -1;
+    }
+    const int section = source_.sectionForSectionIndexTitle(
+        rawIndexTitles_[static_cast<std::size_t>(index)], index);
+    if (section < 0) {
+        return -1;
+    }
+    // A section without any row of its own stands where the next one begins.
+    const auto found = std::find_if(rows_.begin(), rows_.end(),
+                                    [&](const Row& row) { return row.path.section >= section; });
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+QString TableItemModel::sectionTitle(int row) const
+{
+    if (row < 0 || row >= rowCount()) {
+        return {};
+    }
+    const auto section = rows_[static_cast<std::size_t>(row)].path.section;
+    return sections_[static_cast<std::size_t>(section)].header.value_or(QString{});
+}
+
+int TableItemModel::nextHeaderRow(int row) const
+{
+    const auto from = rows_.begin() + std::clamp(row + 1, 0, rowCount());
+    const auto found = std::find_if(from, rows_.end(),
+                                    [](const Row& each) { return each.kind == RowKind::Header; });
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+QVariantList TableItemModel::trailingActions(int row)
+{
+    actions_.clear();
+    const auto path = cellPath(row);
+    if (!path || !source_.canEditRow(*path)) {
+        return {};
+    }
+    actions_ = source_.trailingSwipeActions(*path);
+    actionsPath_ = *path;
+    QVariantList list;
+    for (const auto& action : actions_) {
+        QVariantMap map{
+            {QStringLiteral("title"), toQString(action.title)},
+            {QStringLiteral("image"), toQString(action.image)},
+            {QStringLiteral("destructive"), action.style == platform::ActionStyle::Destructive}};
+        if (action.backgroundColor) {
+            map.insert(QStringLiteral("background"), toQColor(*action.backgroundColor));
+        }
+        list.append(map);
+    }
+    return list;
+}
+
+void TableItemModel::triggerAction(int row, int action)
+{
+    const auto path = cellPath(row);
+    if (!path || *path != actionsPath_ || action < 0 ||
+        static_cast<std::size_t>(action) >= actions_.size()) {
+        return;
+    }
+    // A copy: the handler may reload the table, which forgets the actions.
+    const auto triggered = actions_[static_cast<std::size_t>(action)];
+    actions_.clear();
+    if (!triggered.handler) {
+        return;
+    }
+    const bool destructive = triggered.style == platform::ActionStyle::Destructive;
+    triggered.handler(
+        [self = QPointer{this}, path = *path, destructive, generation = generation_](bool done) {
+            if (self && done && destructive && generation == self->generation_) {
+                self->hide(path);
+            }
+        });
+}
+
+void TableItemModel::hide(IndexPath path)
+{
+    const int row = listRow(path);
+    if (row < 0) {
+        return;
+    }
+    beginRemoveRows({}, row, row);
+    rows_.erase(rows_.begin() + row);
+    endRemoveRows();
+}
+
+void TableItemModel::tap(int row)
+{
+    const auto path = cellPath(row);
+    if (!path) {
+        return;
+    }
+    {
+        const Answering guard{answering_};
+        if (!cell(*path).selectable) {
+            return;
+        }
+    }
+    if (selected_ && *selected_ != *path) {
+        deselect(*selected_);
+    }
+    selected_ = path;
+    rowChanged(*path, {SelectedRole});
+    source_.rowTapped(*path);
+}
+
+void TableItemModel::tapAccessory(int row)
+{
+    if (const auto path = cellPath(row)) {
+        source_.accessoryButtonTapped(*path);
+    }
+}
+
+void TableItemModel::toggleSwitch(int row, bool on)
+{
+    if (const auto path = cellPath(row)) {
+        cell_.reset();
+        source_.switchToggled(*path, on);
+    }
+}
+
+void TableItemModel::changeSegment(int row, int segment)
+{
+    if (const auto path = cellPath(row)) {
+        cell_.reset();
+        source_.segmentChanged(*path, segment);
+    }
+}
+
+} // namespace lumora::qt

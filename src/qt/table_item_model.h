@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/table_view.h"
+#include "qt/indicator_source.h"
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+#include <QVariantList>
+
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace lumora::qt {
+
+/// Any table controller as one flat list: each section's header, cells and
+/// footer, in order. It does all the arithmetic between rows of the list and
+/// index paths; what a row says comes from the controller.
+///
+/// Counts and titles are asked once a reload, cells when a row is drawn. A
+/// cell that a completed destructive swipe removed is left out, although the
+/// controller still counts it, until the next reload. GUI thread only; the
+/// source must outlive the model.
+class TableItemModel final : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to a table view")
+    Q_PROPERTY(QStringList indexTitles READ indexTitles NOTIFY reloaded)
+
+public:
+    enum class RowKind { Header, Cell, Footer };
+    Q_ENUM(RowKind)
+    enum class ControlKind { None, Switch, Segments, Play };
+    Q_ENUM(ControlKind)
+    enum Role {
+        KindRole = Qt::UserRole + 1,
+        SectionRole,
+        RowRole,
+        TitleRole,
+        TextRole,
+        DetailTextRole,
+        ImageRole,
+        SelectableRole,
+        DisclosureRole,
+        ControlRole,
+        SwitchOnRole,
+        SegmentTitlesRole,
+        SelectedSegmentRole,
+        IndicatorRole,
+        CanEditRole,
+        IdentifierRole,
+        ReuseIdentifierRole,
+        SelectedRole,
+    };
+
+    explicit TableItemModel(platform::TableDataSource& source, QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    /// Asked for by a controller in the middle of answering the model, it
+    /// waits for the end of the answer.
+    void reloadData();
+    /// The first load, for a controller that never asked for one.
+    void loadIfNeeded();
+    void reloadRow(platform::IndexPath path);
+
+    std::optional<platform::IndexPath> selectedPath() const { return selected_; }
+    void deselect(platform::IndexPath path);
+
+    QStringList indexTitles() const { return indexTitles_; }
+    /// The list row to scroll to for the title at `index`; -1 for none.
+    Q_INVOKABLE int rowForIndexTitle(int index);
+    /// The title of the header above a row; the empty text where its section
+    /// has none.
+    Q_INVOKABLE QString sectionTitle(int row) const;
+    /// The list row of the first header after `row`; -1 for none.
+    Q_INVOKABLE int nextHeaderRow(int row) const;
+
+    /// What a swipe over the row offers: maps of title, image, destructive and
+    /// background (absent for the toolkit's own colour).
+    Q_INVOKABLE QVariantList trailingActions(int row);
+    /// One of the actions that were last asked for.
+    Q_INVOKABLE void triggerAction(int row, int action);
+
+    Q_INVOKABLE void tap(int row);
+    Q_INVOKABLE void tapAccessory(int row);
+    Q_INVOKABLE void toggleSwitch(int row, bool on);
+    Q_INVOKABLE void changeSegment(int row, int segment);
+
+signals:
+    /// Before and after a change of all rows that no smaller signal tells.
+    void aboutToReset();
+    void resetDone();
+    /// After every reload.
+    void reloaded();
+
+private:
+    struct Row {
+        RowKind kind;
+        platform::IndexPath path;
+    };
+    struct Section {
+        std::optional<QString> header;
+        std::optional<QString> footer;
+    };
+
+    void load();
+    void replaceRows(std::vector<Row> rows, std::vector<Section> sections);
+    std::optional<platform::IndexPath> cellPath(int row) const;
+    int listRow(platform::IndexPath path) const;
+    const platform::TableCell& cell(platform::IndexPath path) const;
+    QVariant cellData(platform::IndexPath path, int role) const;
+    void hide(platform::IndexPath path);
+    void rowChanged(platform::IndexPath path, const QList<int>& roles = {});
+
+    platform::TableDataSource& source_;
+    std::vector<Row> rows_;
+    std::vector<Section> sections_;
+    QStringList indexTitles_;
+    std::vector<std::string> rawIndexTitles_;
+    std::optional<platform::IndexPath> selected_;
+
+    std::vector<platform::SwipeAction> actions_;
+    platform::IndexPath actionsPath_;
+
+    /// The cell that was asked for last: a delegate reads all roles in a row.
+    mutable std::optional<platform::TableCell> cell_;
+    mutable platform::IndexPath cellPath_;
+    mutable IndicatorPool indicators_;
+
+    bool loaded_ = false;
+    bool loading_ = false;
+    bool loadAgain_ = false;
+    mutable int answering_ = 0;
+    /// Counts the reloads, so that a late completion hides no new row.
+    int generation_ = 0;
+};
+
+} // namespace lumora::qt

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/table_screen.h"
+
+namespace lumora::qt {
+
+TableScreen::TableScreen(const std::shared_ptr<platform::TableViewController>& controller)
+    : Screen{controller, QStringLiteral("TablePage")},
+      table_{dynamic_cast<QtTableView&>(controller->tableView())}
+{}
+
+} // namespace lumora::qt

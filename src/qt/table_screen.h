@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/table_view_controller.h"
+#include "qt/qt_table_view.h"
+#include "qt/screen.h"
+
+namespace lumora::qt {
+
+/// A screen that is one table.
+class TableScreen final : public Screen {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the registry")
+    Q_PROPERTY(lumora::qt::QtTableView* table READ table CONSTANT)
+
+public:
+    explicit TableScreen(const std::shared_ptr<platform::TableViewController>& controller);
+
+    QtTableView* table() const { return &table_; }
+    /// The page is about to draw the table.
+    Q_INVOKABLE void prepare() { table_.model()->loadIfNeeded(); }
+
+private:
+    QtTableView& table_;
+};
+
+} // namespace lumora::qt

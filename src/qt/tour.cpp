@@ -1,0 +1,219 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/tour.h"
+
+#include "qt/application.h"
+#include "qt/text_conversion.h"
+
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMouseEvent>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <iostream>
+#include <string>
+#include <system_error>
+
+namespace lumora::qt {
+
+namespace {
+
+/// Long enough for every animation of ours.
+constexpr int kSettleMilliseconds = 450;
+constexpr QSize kPhone{390, 844};
+constexpr QSize kTablet{1024, 768};
+
+class Guide {
+public:
+    Guide(Application& application, std::filesystem::path folder)
+        : application_{application}, folder_{std::move(folder)}
+    {}
+
+    bool failed() const { return failed_; }
+
+    void begin(const QSize& size, bool dark)
+    {
+        tablet_ = size == kTablet;
+        prefix_ = std::string{tablet_ ? "tablet" : "phone"} + (dark ? "-dark-" : "-light-");
+        application_.setDark(dark);
+        application_.window()->resize(size);
+        settle();
+    }
+
+    void goThroughScreens()
+    {
+        if (tablet_) {
+            picture("empty");
+        }
+        picture("list");
+        useSectionIndex();
+        swipeOpen();
+        search();
+        openVerb();
+        moods();
+        while (application_.splitScreen().back()) {
+            settle();
+        }
+        tabs();
+    }
+
+private:
+    void settle() const
+    {
+        QEventLoop loop;
+        QTimer::singleShot(kSettleMilliseconds, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+
+    void fail(const std::string& why)
+    {
+        std::cerr << "tour: " << why << '\n';
+        failed_ = true;
+    }
+
+    void picture(const std::string& name)
+    {
+        const auto file = folder_ / (prefix_ + name + ".png");
+        const QImage image = application_.window()->grabWindow();
+        if (image.isNull() || !image.save(toQString(file.string()))) {
+            fail("could not write " + file.string());
+            return;
+        }
+        std::cout << file.string() << std::endl;
+    }
+
+    /// The visible item of that name, the topmost one.
+    static QQuickItem* visibleItem(QQuickItem* parent, const QString& name)
+    {
+        const auto children = parent->childItems();
+        for (auto child = children.rbegin(); child != children.rend(); ++child) {
+            if (!(*child)->isVisible()) {
+                continue;
+            }
+            if ((*child)->objectName() == name && (*child)->width() > 0) {
+                return *child;
+            }
+            if (auto* found = visibleItem(*child, name)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+
+    QQuickItem* item(const char* name)
+    {
+        auto* found = visibleItem(application_.window()->contentItem(), QString::fromUtf8(name));
+        if (found == nullptr) {
+            fail(prefix_ + ": nothing on screen is called " + name);
+        }
+        return found;
+    }
+
+    void mouse(QEvent::Type type, const QPointF& point) const
+    {
+        const bool up = type == QEvent::MouseButtonRelease;
+        QMouseEvent event{type,
+                          point,
+                          application_.window()->mapToGlobal(point),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                          up ? Qt::NoButton : Qt::LeftButton,
+                          Qt::NoModifier};
+        QCoreApplication::sendEvent(application_.window(), &event);
+        QCoreApplication::processEvents();
+    }
+
+    void tap(const char* name)
+    {
+        if (auto* target = item(name)) {
+            const auto middle = target->mapToScene({target->width() / 2, target->height() / 2});
+            mouse(QEvent::MouseButtonPress, middle);
+            mouse(QEvent::MouseButtonRelease, middle);
+            settle();
+        }
+    }
+
+    void useSectionIndex()
+    {
+        if (auto* index = item("sectionIndex")) {
+            const auto at = [&](double part) {
+                return index->mapToScene({index->width() / 2, index->height() * part});
+            };
+            mouse(QEvent::MouseButtonPress, at(0.2));
+            mouse(QEvent::MouseMove, at(0.45));
+            settle();
+            picture("index");
+            mouse(QEvent::MouseMove, at(0.01));
+            mouse(QEvent::MouseButtonRelease, at(0.01));
+            settle();
+        }
+    }
+
+    void swipeOpen()
+    {
+        // The first verb of the list that every database of ours has.
+        if (auto* row = item("aimer") == nullptr ? nullptr : item("aimer")) {
+            const auto right = row->mapToScene({row->width() * 0.75, row->height() / 2});
+            mouse(QEvent::MouseButtonPress, right);
+            for (int step = 1; step <= 8; ++step) {
+                mouse(QEvent::MouseMove, right - QPointF{step * row->width() * 0.06, 0});
+            }
+            mouse(QEvent::MouseButtonRelease, right - QPointF{row->width() * 0.5, 0});
+            settle();
+            picture("swipe");
+            tap("swipeAction0");
+        }
+    }
+
+    void search() {}
+    void openVerb() {}
+    void moods() {}
+    void tabs() {}
+
+    Application& application_;
+    std::filesystem::path folder_;
+    std::string prefix_;
+    bool tablet_ = false;
+    bool failed_ = false;
+};
+
+} // namespace
+
+int runTour(const std::filesystem::path& folder, const std::filesystem::path& shareFolder)
+{
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    const QTemporaryDir world;
+    if (!world.isValid()) {
+        std::cerr << "tour: no temporary folder could be made\n";
+        return 1;
+    }
+    const std::filesystem::path home{toUtf8(world.path())};
+    bool failed = false;
+    for (const auto& size : {kPhone, kTablet}) {
+        for (const bool dark : {false, true}) {
+            const auto own = home / (std::to_string(size.width()) + (dark ? "-dark" : "-light"));
+            ApplicationOptions options;
+            options.folders = {own / "data", own / "config", own / "state"};
+            options.shareFolder = shareFolder;
+            options.launchArguments = {"ui_test"};
+            options.windowSize = size;
+            Application application{options};
+            if (!application.show()) {
+                std::cerr << "tour: the window could not be built\n";
+                return 1;
+            }
+            Guide guide{application, folder};
+            guide.begin(size, dark);
+            guide.goThroughScreens();
+            failed = failed || guide.failed();
+        }
+    }
+    return failed ? 1 : 0;
+}
+
+} // namespace lumora::qt

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/verb_detail_screen.h"
+
+#include "qt/color_conversion.h"
+#include "qt/text_conversion.h"
+
+#include <utility>
+
+namespace lumora::qt {
+
+VerbDetailScreen::VerbDetailScreen(
+    std::shared_ptr<detail::VerbDetailTableViewController> controller)
+    : Screen{controller, QStringLiteral("VerbDetailPage")}, detail_{std::move(controller)}
+{
+    detail_->setOutletListener([this] { emit outletsChanged(); });
+}
+
+VerbDetailScreen::~VerbDetailScreen()
+{
+    detail_->setOutletListener({});
+}
+
+QtTableView* VerbDetailScreen::table() const
+{
+    return &dynamic_cast<QtTableView&>(*detail_->tableView);
+}
+
+CollectionItemModel* VerbDetailScreen::collection() const
+{
+    return dynamic_cast<QtCollectionView&>(*detail_->collectionView).model();
+}
+
+QStringList VerbDetailScreen::moods() const
+{
+    return toQStringList(detail_->verbTypeSegmentedControl.titles);
+}
+
+QString VerbDetailScreen::selectText() const
+{
+    return toQString(detail_->selectVerbLabel.text);
+}
+
+QColor VerbDetailScreen::selectBackground() const
+{
+    return toQColor(detail_->selectVerbLabel.backgroundColor);
+}
+
+QColor VerbDetailScreen::selectBorder() const
+{
+    return toQColor(detail_->selectVerbLabel.borderColor);
+}
+
+} // namespace lumora::qt

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "detail/verb_detail_table_view_controller.h"
+#include "qt/qt_collection_view.h"
+#include "qt/qt_table_view.h"
+#include "qt/screen.h"
+
+#include <QColor>
+
+namespace lumora::qt {
+
+/// The verb detail screen: one verb as a table or as a collection.
+class VerbDetailScreen final : public Screen {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the registry")
+    Q_PROPERTY(lumora::qt::QtTableView* table READ table CONSTANT)
+    Q_PROPERTY(lumora::qt::CollectionItemModel* collection READ collection CONSTANT)
+    Q_PROPERTY(QStringList moods READ moods NOTIFY outletsChanged)
+    Q_PROPERTY(int selectedMood READ selectedMood NOTIFY outletsChanged)
+    Q_PROPERTY(bool moodsHidden READ moodsHidden NOTIFY outletsChanged)
+    Q_PROPERTY(bool toolbarHidden READ toolbarHidden NOTIFY outletsChanged)
+    Q_PROPERTY(double toolbarHeight READ toolbarHeight NOTIFY outletsChanged)
+    Q_PROPERTY(QString selectText READ selectText NOTIFY outletsChanged)
+    Q_PROPERTY(bool selectTextHidden READ selectTextHidden NOTIFY outletsChanged)
+    Q_PROPERTY(QColor selectBackground READ selectBackground CONSTANT)
+    Q_PROPERTY(QColor selectBorder READ selectBorder CONSTANT)
+    Q_PROPERTY(double selectRadius READ selectRadius CONSTANT)
+    Q_PROPERTY(double selectBorderWidth READ selectBorderWidth CONSTANT)
+
+public:
+    explicit VerbDetailScreen(std::shared_ptr<detail::VerbDetailTableViewController> controller);
+    ~VerbDetailScreen() override;
+
+    QtTableView* table() const;
+    CollectionItemModel* collection() const;
+    QStringList moods() const;
+    int selectedMood() const { return detail_->verbTypeSegmentedControl.selected; }
+    bool moodsHidden() const { return detail_->verbTypeSegmentedControl.hidden; }
+    bool toolbarHidden() const { return detail_->toolbar.hidden; }
+    double toolbarHeight() const { return detail_->toolbarHeightConstaint; }
+    QString selectText() const;
+    bool selectTextHidden() const { return detail_->selectVerbLabel.hidden; }
+    QColor selectBackground() const;
+    QColor selectBorder() const;
+    double selectRadius() const { return detail_->selectVerbLabel.cornerRadius; }
+    double selectBorderWidth() const { return detail_->selectVerbLabel.borderWidth; }
+
+    Q_INVOKABLE void selectMood(int segment) { detail_->selectVerbTypes(segment); }
+    /// The page is about to draw the collection.
+    Q_INVOKABLE void prepareCollection() { collection()->loadIfNeeded(); }
+    Q_INVOKABLE void prepareTable() { table()->model()->loadIfNeeded(); }
+
+signals:
+    void outletsChanged();
+
+private:
+    std::shared_ptr<detail::VerbDetailTableViewController> detail_;
+};
+
+} // namespace lumora::qt
