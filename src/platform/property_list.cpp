@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 namespace lumora::platform {
 
@@ -16,7 +17,7 @@ namespace {
 
 constexpr std::size_t kMaximumBytes = std::size_t{1024} * 1024;
 /// The library follows containers inside containers by recursion.
-constexpr std::uint64_t kMaximumContainers = 4096;
+constexpr std::size_t kMaximumContainers = 4096;
 constexpr std::string_view kBinaryMark = "bplist00";
 constexpr std::size_t kTrailerBytes = 32;
 
@@ -30,27 +31,111 @@ struct MallocDeleter {
     }
 };
 
-/// No fewer than the containers that the text can nest.
-std::uint64_t containersAtMost(std::string_view bytes)
+/// The number of `size` bytes at `place`, the highest first; none past the end.
+std::optional<std::uint64_t> numberAt(std::string_view bytes, std::uint64_t place,
+                                      std::uint64_t size)
 {
-    std::uint64_t count = 0;
-    if (bytes.substr(0, kBinaryMark.size()) == kBinaryMark) {
-        if (bytes.size() < kBinaryMark.size() + kTrailerBytes) {
-            return kMaximumContainers + 1;
-        }
-        // The number of objects, eight bytes, the highest first.
-        for (const char byte : bytes.substr(bytes.size() - 24, 8)) {
-            count = count << 8U | static_cast<unsigned char>(byte);
-        }
-        return count;
+    if (size == 0 || size > sizeof(std::uint64_t) || place > bytes.size() ||
+        size > bytes.size() - place) {
+        return std::nullopt;
     }
+    std::uint64_t number = 0;
+    for (const char byte : bytes.substr(place, size)) {
+        number = number << 8U | static_cast<unsigned char>(byte);
+    }
+    return number;
+}
+
+unsigned kindOf(std::string_view object)
+{
+    return static_cast<unsigned char>(object.front()) >> 4U;
+}
+
+bool isContainer(std::string_view object)
+{
+    return kindOf(object) == 0xA || kindOf(object) == 0xC || kindOf(object) == 0xD;
+}
+
+/// The members that a binary container refers to, by their numbers.
+std::optional<std::vector<std::uint64_t>> membersOf(std::string_view object,
+                                                    std::uint64_t referenceSize)
+{
+    std::uint64_t place = 1;
+    std::optional<std::uint64_t> length = static_cast<unsigned char>(object.front()) & 0xFU;
+    if (length == 0xFU) {
+        // A longer one has its length as a number object behind the mark.
+        const auto lengthSize = std::uint64_t{1} << (numberAt(object, 1, 1).value_or(0) & 0xFU);
+        length = numberAt(object, 2, lengthSize);
+        place += 1 + lengthSize;
+    }
+    if (!length || *length > object.size()) {
+        return std::nullopt;
+    }
+    const std::uint64_t count = kindOf(object) == 0xD ? 2 * *length : *length;
+    std::vector<std::uint64_t> members;
+    for (std::uint64_t member = 0; member < count; ++member) {
+        const auto number = numberAt(object, place + member * referenceSize, referenceSize);
+        if (!number) {
+            return std::nullopt;
+        }
+        members.push_back(*number);
+    }
+    return members;
+}
+
+/// Whether no container is a member twice. The library copies a member for
+/// every mention, so that a few shared ones would fill the memory.
+bool isModestBinary(std::string_view bytes)
+{
+    if (bytes.size() < kBinaryMark.size() + kTrailerBytes) {
+        return false;
+    }
+    const std::string_view trailer = bytes.substr(bytes.size() - kTrailerBytes);
+    const auto offsetSize = static_cast<unsigned char>(trailer[6]);
+    const auto referenceSize = static_cast<unsigned char>(trailer[7]);
+    const std::uint64_t count = numberAt(trailer, 8, 8).value_or(0);
+    const std::uint64_t table = numberAt(trailer, 24, 8).value_or(0);
+    if (count > bytes.size() || table > bytes.size()) {
+        return false;
+    }
+    std::vector<std::string_view> objects;
+    for (std::uint64_t object = 0; object < count; ++object) {
+        const auto offset = numberAt(bytes, table + object * offsetSize, offsetSize);
+        if (!offset || *offset >= bytes.size()) {
+            return false;
+        }
+        objects.push_back(bytes.substr(*offset));
+    }
+    std::vector<bool> held(objects.size());
+    std::size_t containers = 0;
+    for (const std::string_view object : objects) {
+        if (!isContainer(object)) {
+            continue;
+        }
+        const auto members = membersOf(object, referenceSize);
+        if (!members || ++containers > kMaximumContainers) {
+            return false;
+        }
+        for (const std::uint64_t member : *members) {
+            if (member >= count || (isContainer(objects[member]) && held[member])) {
+                return false;
+            }
+            held[member] = true;
+        }
+    }
+    return true;
+}
+
+bool isModestText(std::string_view bytes)
+{
+    std::size_t containers = 0;
     for (const std::string_view opening : {"<dict", "<array"}) {
         for (std::size_t place = bytes.find(opening); place != std::string_view::npos;
              place = bytes.find(opening, place + opening.size())) {
-            ++count;
+            ++containers;
         }
     }
-    return count;
+    return containers <= kMaximumContainers;
 }
 
 PropertyListValue readValue(plist_t node)
@@ -86,7 +171,8 @@ PropertyListValue readValue(plist_t node)
 
 std::optional<PropertyListDictionary> readPropertyListDictionary(std::string_view bytes)
 {
-    if (bytes.size() > kMaximumBytes || containersAtMost(bytes) > kMaximumContainers) {
+    const bool binary = bytes.substr(0, kBinaryMark.size()) == kBinaryMark;
+    if (bytes.size() > kMaximumBytes || !(binary ? isModestBinary(bytes) : isModestText(bytes))) {
         return std::nullopt;
     }
     plist_t parsed = nullptr;

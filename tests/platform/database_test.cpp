@@ -186,9 +186,11 @@ TEST_F(DatabaseTest, ACorruptFileFailsTheStatementAndNotTheProgram)
 {
     in([&](Database& database) {
         update(database, "CREATE TABLE verb (name TEXT)");
+        update(database, "BEGIN");
         for (int row = 0; row < 500; ++row) {
             update(database, "INSERT INTO verb VALUES (?)", {std::string(100, 'x')});
         }
+        update(database, "COMMIT");
         database.close();
     });
     // The head stays good, so that the failure comes while stepping.

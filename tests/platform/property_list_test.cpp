@@ -39,6 +39,30 @@ std::string binaryOf(const std::string& document)
     return binary;
 }
 
+/// Lists in lists, each twice a member of the one before: small to store,
+/// 2^27 members when followed.
+std::string doublingBinary()
+{
+    std::string bytes = "bplist00";
+    std::string offsets;
+    const auto add = [&](const std::string& object) {
+        offsets += '\0';
+        offsets += static_cast<char>(bytes.size());
+        bytes += object;
+    };
+    add("\xD1\x01\x02");
+    add("\x51"
+        "a");
+    for (char next = 3; next < 30; ++next) {
+        add({'\xA2', next, next});
+    }
+    add("\x09");
+    const auto table = static_cast<char>(bytes.size());
+    const auto number = [](char value) { return std::string(7, '\0') + value; };
+    return bytes + offsets + std::string(6, '\0') + "\x02\x01" + number(30) + number(0) +
+           number(table);
+}
+
 std::string document(const std::string& root)
 {
     return R"(<?xml version="1.0"?><plist version="1.0">)" + root + "</plist>";
@@ -77,6 +101,7 @@ TEST(PropertyList, AnythingButADictionaryIsNone)
         {"a binary list", binaryOf(document("<array><true/></array>"))},
         {"binary cut short", binary.substr(0, binary.size() / 2)},
         {"more objects than bytes", manyObjects},
+        {"a container in two places", doublingBinary()},
         {"too deep", document("<dict><key>a</key>" + deep)},
         {"too big",
          document("<dict><key>a</key><string>" + std::string(1 << 20, 'x') + "</string></dict>")},
