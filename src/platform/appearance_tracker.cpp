@@ -10,13 +10,14 @@ namespace lumora::platform {
 
 void AppearanceTracker::setVisible(Screens visible)
 {
-    waiting_ = std::move(visible);
+    next_ = std::move(visible);
+    waiting_ = true;
     if (telling_) {
         return;
     }
     telling_ = true;
-    while (const auto next = std::exchange(waiting_, std::nullopt)) {
-        change(*next);
+    while (std::exchange(waiting_, false)) {
+        change(std::exchange(next_, {}));
     }
     telling_ = false;
 }

@@ -6,7 +6,6 @@
 #include "platform/view_controller.h"
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace lumora::platform {
@@ -27,7 +26,8 @@ private:
 
     /// Screens die without asking.
     std::vector<std::weak_ptr<ViewController>> visible_;
-    std::optional<Screens> waiting_;
+    Screens next_;
+    bool waiting_ = false;
     bool telling_ = false;
 };
 

@@ -40,7 +40,7 @@ std::string binaryOf(const std::string& document)
 }
 
 /// Lists in lists, each twice a member of the one before: small to store,
-/// 2^27 members when followed.
+/// 2^13 members when followed.
 std::string doublingBinary()
 {
     std::string bytes = "bplist00";
@@ -53,13 +53,13 @@ std::string doublingBinary()
     add("\xD1\x01\x02");
     add("\x51"
         "a");
-    for (char next = 3; next < 30; ++next) {
+    for (char next = 3; next < 16; ++next) {
         add({'\xA2', next, next});
     }
     add("\x09");
     const auto table = static_cast<char>(bytes.size());
     const auto number = [](char value) { return std::string(7, '\0') + value; };
-    return bytes + offsets + std::string(6, '\0') + "\x02\x01" + number(30) + number(0) +
+    return bytes + offsets + std::string(6, '\0') + "\x02\x01" + number(16) + number(0) +
            number(table);
 }
 
