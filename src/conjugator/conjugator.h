@@ -3,23 +3,15 @@
 
 #pragma once
 
-#include "conjugator/grammar.h"
 #include "conjugator/model_table.h"
 #include "conjugator/paradigm.h"
+#include "conjugator/row.h"
 #include "conjugator/verb_entry.h"
 
 #include <string>
 #include <vector>
 
 namespace lumora::conjugator {
-
-/// One form as it stands under its tense, or serves the search alone.
-struct Row {
-    Tense tense = Tense::Infinitif;
-    std::string pronoun;
-    std::string verb;
-    bool shown = true;
-};
 
 /// Turns a verb's entry into its rows: pronouns, elision, compound tenses,
 /// agreement.

@@ -429,6 +429,7 @@ TEST(Conjugator, KeepsTheOtherAuxiliaryAndSingleVariantsForTheSearch)
         EXPECT_TRUE(contains(searched(monter), word)) << word;
     }
     EXPECT_EQ(searched(verb("parler", "aimer")), std::vector<std::string>{});
+    EXPECT_TRUE(contains(searched(verb("absoudre", "absoudre")), "ai absout"));
     for (const auto* word : {"paie", "paye", "paierai", "payerai"}) {
         EXPECT_TRUE(contains(searched(verb("payer", "payer")), word)) << word;
     }
