@@ -2,6 +2,10 @@
 add_library(lumora_warnings INTERFACE)
 target_compile_options(lumora_warnings INTERFACE
     -Wall -Wextra -Wshadow -Wconversion -Wnon-virtual-dtor -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # It takes "text" + std::string for overlapping memory (GCC bug 105651).
+    target_compile_options(lumora_warnings INTERFACE -Wno-restrict)
+endif()
 if(SANITIZE)
     list(JOIN SANITIZE "," lumora_sanitizers)
     target_compile_options(lumora_warnings INTERFACE

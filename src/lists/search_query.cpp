@@ -49,11 +49,14 @@ bool matchesFromStart(const platform::SettingsStore& settings)
 std::string withPlainApostrophes(std::string_view text)
 {
     constexpr std::string_view kTypographic = "\u2019";
-    std::string plain{text};
-    for (auto at = plain.find(kTypographic); at != std::string::npos;
-         at = plain.find(kTypographic, at + 1)) {
-        plain.replace(at, kTypographic.size(), "'");
+    std::string plain;
+    for (auto at = text.find(kTypographic); at != std::string_view::npos;
+         at = text.find(kTypographic)) {
+        plain += text.substr(0, at);
+        plain += '\'';
+        text.remove_prefix(at + kTypographic.size());
     }
+    plain += text;
     return plain;
 }
 
