@@ -39,7 +39,9 @@ std::filesystem::path madeFolder(const std::filesystem::path& folder)
 void registerInterface()
 {
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    qml_register_types_Lumora();
+    // Named, so that the linker takes the part of the library that registers
+    // the types when QML first asks for the module.
+    [[maybe_unused]] void (*volatile registration)() = &qml_register_types_Lumora;
 }
 
 Application::Application(const ApplicationOptions& options)

@@ -17,7 +17,8 @@ namespace lumora::qt {
 /// host, however many items show it, and keeps the view while it lives.
 class IndicatorSource final : public QObject, public platform::LayerHost {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to a model")
 
 public:
     explicit IndicatorSource(std::shared_ptr<platform::AnimatedView> view);

@@ -23,7 +23,7 @@ namespace lumora::qt {
 /// at a time. GUI thread only.
 class QtPresenter final : public QObject, public platform::Presenter {
     Q_OBJECT
-    QML_NAMED_ELEMENT(Presenter)
+    QML_ELEMENT
     QML_UNCREATABLE("Made by the program")
     Q_PROPERTY(bool asking READ asking NOTIFY questionChanged)
     Q_PROPERTY(bool sheet READ isSheet NOTIFY questionChanged)

@@ -13,7 +13,7 @@ namespace lumora::qt {
 /// as its platform::TableView.
 class QtTableView final : public QObject, public platform::TableView {
     Q_OBJECT
-    QML_NAMED_ELEMENT(TableView)
+    QML_ELEMENT
     QML_UNCREATABLE("Belongs to a controller")
     Q_PROPERTY(lumora::qt::TableItemModel* model READ model CONSTANT)
     Q_PROPERTY(bool separators READ separators NOTIFY looksChanged)

@@ -67,7 +67,7 @@ QHash<int, QByteArray> TableItemModel::roleNames() const
             {SwitchOnRole, "switchOn"},
             {SegmentTitlesRole, "segmentTitles"},
             {SelectedSegmentRole, "selectedSegment"},
-            {IndicatorRole, "indicator"},
+            {IndicatorRole, "indicatorSource"},
             {CanEditRole, "canEdit"},
             {IdentifierRole, "identifier"},
             {ReuseIdentifierRole, "reuseIdentifier"},

@@ -15,9 +15,12 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <algorithm>
 #include <iostream>
 #include <string>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 namespace lumora::qt {
 
@@ -27,6 +30,8 @@ namespace {
 constexpr int kSettleMilliseconds = 450;
 constexpr QSize kPhone{390, 844};
 constexpr QSize kTablet{1024, 768};
+/// Below the bar and the search field, above the tabs.
+constexpr double kRowsBegin = 60;
 
 class Guide {
 public:
@@ -153,26 +158,91 @@ private:
         }
     }
 
-    void swipeOpen()
+    /// The cells of a table that are wholly inside the window, from the top.
+    std::vector<QQuickItem*> rows()
     {
-        // The first verb of the list that every database of ours has.
-        if (auto* row = item("aimer") == nullptr ? nullptr : item("aimer")) {
-            const auto right = row->mapToScene({row->width() * 0.75, row->height() / 2});
-            mouse(QEvent::MouseButtonPress, right);
-            for (int step = 1; step <= 8; ++step) {
-                mouse(QEvent::MouseMove, right - QPointF{step * row->width() * 0.06, 0});
+        std::vector<QQuickItem*> found;
+        collectRows(application_.window()->contentItem(), found);
+        std::sort(found.begin(), found.end(), [](QQuickItem* left, QQuickItem* right) {
+            return left->mapToScene({}).y() < right->mapToScene({}).y();
+        });
+        return found;
+    }
+
+    void collectRows(QQuickItem* parent, std::vector<QQuickItem*>& found) const
+    {
+        for (auto* child : parent->childItems()) {
+            if (!child->isVisible()) {
+                continue;
             }
-            mouse(QEvent::MouseButtonRelease, right - QPointF{row->width() * 0.5, 0});
-            settle();
-            picture("swipe");
-            tap("swipeAction0");
+            if (!child->property("isCell").toBool()) {
+                collectRows(child, found);
+                continue;
+            }
+            const auto top = child->mapToScene({}).y();
+            if (top > kRowsBegin &&
+                top + child->height() < application_.window()->height() - kRowsBegin) {
+                found.push_back(child);
+            }
         }
     }
 
-    void search() {}
-    void openVerb() {}
-    void moods() {}
-    void tabs() {}
+    void swipeOpen()
+    {
+        const auto all = rows();
+        if (all.size() < 2) {
+            fail(prefix_ + ": the list has no rows");
+            return;
+        }
+        auto* row = all[1];
+        const auto right = row->mapToScene({row->width() * 0.75, row->height() / 2});
+        mouse(QEvent::MouseButtonPress, right);
+        for (int step = 1; step <= 8; ++step) {
+            mouse(QEvent::MouseMove, right - QPointF{step * row->width() * 0.06, 0});
+        }
+        mouse(QEvent::MouseButtonRelease, right - QPointF{row->width() * 0.5, 0});
+        settle();
+        picture("swipe");
+        tap("swipeAction0");
+        picture("favourite");
+    }
+
+    void search()
+    {
+        if (auto* field = item("Search")) {
+            field->setProperty("text", QStringLiteral("all"));
+            settle();
+            picture("search");
+        }
+    }
+
+    void openVerb() { tap("aller"); }
+
+    void moods()
+    {
+        static constexpr const char* kNames[] = {"indicative", "subjunctive", "conditional",
+                                                 "other"};
+        for (int mood = 0; mood < 4; ++mood) {
+            tap(("mood" + std::to_string(mood)).c_str());
+            picture(std::string{"detail-"} + kNames[mood]);
+        }
+        tap("mood0");
+        if (tablet_) {
+            tap("bar.displayMode");
+            picture("detail-wide");
+            tap("bar.displayMode");
+        }
+    }
+
+    void tabs()
+    {
+        tap("searchClear");
+        static constexpr const char* kNames[] = {"list", "favourites", "history"};
+        for (int tab = 1; tab <= 2; ++tab) {
+            tap(("tab" + std::to_string(tab)).c_str());
+            picture(std::string{"tab-"} + kNames[tab]);
+        }
+    }
 
     Application& application_;
     std::filesystem::path folder_;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // A button of the bar above a screen: an image, a title or both.
 TouchButton {

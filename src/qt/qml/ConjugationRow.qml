@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // A row of the detail table: the verb's translation, or a form with its
 // pronoun and its play control.
@@ -12,7 +13,7 @@ TableRow {
     required property string detailText
     required property string reuseIdentifier
     required property int control
-    required property var indicator
+    required property IndicatorSource indicatorSource
     readonly property bool isForm: reuseIdentifier === "CellConjugation"
 
     cellHeight: Theme.touch + 4
@@ -51,7 +52,7 @@ TableRow {
         anchors.verticalCenter: parent.verticalCenter
         visible: root.control === TableItemModel.Play
         width: 50
-        source: root.indicator
+        source: root.indicatorSource
         spoken: root.text + " " + root.detailText
         onClicked: root.table.model.tapAccessory(root.index)
     }

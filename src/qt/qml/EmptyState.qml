@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // What a table says when it has no rows.
 Text {
     id: root
 
-    required property TableView table
+    required property QtTableView table
     property real maximumWidth: 300
 
     visible: table.emptyStateVisible

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // One form of a square: pronoun, form and play control.
 Item {

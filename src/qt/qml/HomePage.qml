@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // The first screen: the search field, the lists behind their tabs or what was
 // found, and the tabs.

@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Window
+import Lumora
 
 // One of the program's drawings in a colour.
 Image {

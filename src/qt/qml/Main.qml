@@ -3,13 +3,14 @@
 
 import QtQuick
 import QtQuick.Window
+import Lumora
 
 // The window: one pane or two, and whatever is asked on top of them.
 Window {
     id: root
 
     required property SplitScreen split
-    required property Presenter presenter
+    required property QtPresenter presenter
     required property color accent
     property bool dark: false
 

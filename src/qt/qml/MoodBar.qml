@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Lumora
 
 // The moods as segments, of which one is chosen.
 Rectangle {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // The bar above a screen: the way back, the screen's buttons and its title.
 Rectangle {

@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Lumora
 
 // A round progress indicator with the play button in it.
 T.AbstractButton {

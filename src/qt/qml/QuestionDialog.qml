@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // A question on top of everything: in the middle, or rising from the bottom.
 FocusScope {
     id: root
 
-    property Presenter presenter
+    property QtPresenter presenter
     readonly property bool sheet: presenter !== null && presenter.sheet
 
     focus: true

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // What every page of a stack has: its screen's bar above its content.
 FocusScope {

@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Controls.Basic
+import Lumora
 
 // A stack of screens whose top one shows. It follows the list of screens: what
 // stays at the bottom stays as it is.
@@ -16,7 +17,7 @@ StackView {
 
     function follow() {
         let same = 0;
-        while (same < depth && same < screens.length && get(same, StackView.DontLoad).screen === screens[same])
+        while (same < depth && same < screens.length && get(same, StackView.ForceLoad)?.screen === screens[same])
             ++same;
         if (same === depth && same === screens.length)
             return;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // Letters down the edge of a list. A thumb that slides over them scrolls the
 // list, with the letter in a bubble beside it. Where there is no room for all,
@@ -10,16 +11,16 @@ Item {
     id: root
 
     required property ListView list
-    required property TableView table
+    required property QtTableView table
     readonly property var titles: table.model.indexTitles
     readonly property int letterHeight: Theme.small + 3
     readonly property int step: Math.max(1, Math.ceil(titles.length * letterHeight / Math.max(1, height - 2 * Theme.gap)))
     readonly property real rowHeight: Math.min(22, (height - 2 * Theme.gap) / Math.max(1, titles.length))
-    readonly property real top: (height - rowHeight * titles.length) / 2
+    readonly property real firstY: (height - rowHeight * titles.length) / 2
     property int current: -1
 
     function select(y) {
-        const chosen = Math.max(0, Math.min(titles.length - 1, Math.floor((y - top) / rowHeight)));
+        const chosen = Math.max(0, Math.min(titles.length - 1, Math.floor((y - firstY) / rowHeight)));
         if (chosen === current)
             return;
         current = chosen;
@@ -40,7 +41,7 @@ Item {
             required property string modelData
 
             x: 0
-            y: root.top + index * root.rowHeight
+            y: root.firstY + index * root.rowHeight
             width: root.width
             height: root.rowHeight
             visible: index % root.step === 0
@@ -57,7 +58,7 @@ Item {
         visible: area.pressed && root.current >= 0
         anchors.right: parent.left
         anchors.rightMargin: Theme.margin
-        y: Math.max(Theme.gap, Math.min(root.height - height - Theme.gap, root.top + (root.current + 0.5) * root.rowHeight - height / 2))
+        y: Math.max(Theme.gap, Math.min(root.height - height - Theme.gap, root.firstY + (root.current + 0.5) * root.rowHeight - height / 2))
         width: 60
         height: 60
         radius: 30

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // The header of the section at the top of a list; the next one pushes it out.
 Item {
     id: root
 
     required property ListView list
-    required property TableView table
+    required property QtTableView table
     property string title
 
     function update() {

@@ -3,20 +3,22 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Lumora
 
 // The buttons behind a row that is swiped open.
 Row {
     id: root
 
-    required property TableRow row
-    required property TableView table
+    required property T.SwipeDelegate row
+    required property int rowIndex
+    required property QtTableView table
 
     anchors.right: parent.right
     height: parent.height
     layoutDirection: Qt.RightToLeft
 
     Repeater {
-        model: root.table.model.trailingActions(root.row.index)
+        model: root.table.model.trailingActions(root.rowIndex)
 
         T.AbstractButton {
             id: button
@@ -33,9 +35,8 @@ Row {
             Accessible.name: text
             onClicked: {
                 const model = root.table.model;
-                const row = root.row;
-                row.swipe.close();
-                model.triggerAction(row.index, index);
+                root.row.swipe.close();
+                model.triggerAction(root.rowIndex, index);
             }
 
             background: Rectangle {

@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Lumora
 
 // The tabs at the bottom of the home screen.
 Rectangle {

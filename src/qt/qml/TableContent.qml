@@ -3,13 +3,14 @@
 
 import QtQuick
 import QtQuick.Controls.Basic
+import Lumora
 
 // A table: its rows, the header that stays on top, the index down the edge and
 // what stands in an empty one.
 Item {
     id: root
 
-    required property TableView table
+    required property QtTableView table
     property alias delegate: list.delegate
     property alias list: list
     readonly property int indexWidth: index.visible ? index.width : 0

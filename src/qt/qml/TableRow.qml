@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Lumora
 
 // A row of a table: a header, a footer or a cell with what swiping offers.
 // What is put inside shows in cells.
@@ -16,7 +17,7 @@ T.SwipeDelegate {
     required property bool canEdit
     required property bool selected
     required property string identifier
-    property TableView table
+    property QtTableView table
     property int cellHeight: Theme.rowHeight
     default property alias cellContent: holder.data
     readonly property bool isCell: kind === TableItemModel.Cell
@@ -95,6 +96,7 @@ T.SwipeDelegate {
 
         SwipeActions {
             row: root
+            rowIndex: root.index
             table: root.table
         }
     }

@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Controls.Basic
+import Lumora
 
 // A verb's tenses as squares in centred columns, under the verb's name.
 GridView {

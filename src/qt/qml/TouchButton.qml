@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Lumora
 
 // A flat button of at least a finger's size that shows when it is pressed.
 T.AbstractButton {

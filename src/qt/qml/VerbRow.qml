@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import Lumora
 
 // One verb in a list: French over its translation, a star for a favourite.
 TableRow {
