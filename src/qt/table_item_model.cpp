@@ -99,7 +99,7 @@ QVariant TableItemModel::data(const QModelIndex& index, int role) const
     default:
         break;
     }
-    if (isCell) {
+    if (isCell && !stale_) {
         return cellData(row.path, role);
     }
     // Headers and footers answer with an empty cell's values, so that one
@@ -208,6 +208,7 @@ void TableItemModel::loadIfNeeded()
 void TableItemModel::load()
 {
     loading_ = true;
+    stale_ = true;
     std::vector<Row> rows;
     std::vector<Section> sections;
     do {
@@ -266,6 +267,7 @@ void TableItemModel::replaceRows(std::vector<Row> rows, std::vector<Section> sec
     const auto replace = [&] {
         rows_ = std::move(rows);
         sections_ = std::move(sections);
+        stale_ = false;
     };
 
     if (removed > 0 && inserted > 0) {
@@ -371,7 +373,7 @@ QVariantList TableItemModel::trailingActions(int row)
         return {};
     }
     actions_ = source_.trailingSwipeActions(*path);
-    actionsPath_ = *path;
+    actionsPath_ = path;
     QVariantList list;
     for (const auto& action : actions_) {
         QVariantMap map{
@@ -389,8 +391,14 @@ QVariantList TableItemModel::trailingActions(int row)
 void TableItemModel::triggerAction(int row, int action)
 {
     const auto path = cellPath(row);
-    if (!path || *path != actionsPath_ || action < 0 ||
-        static_cast<std::size_t>(action) >= actions_.size()) {
+    if (!path) {
+        return;
+    }
+    if (actionsPath_ != path) {
+        // Another row was swiped open since.
+        trailingActions(row);
+    }
+    if (action < 0 || static_cast<std::size_t>(action) >= actions_.size()) {
         return;
     }
     // A copy: the handler may reload the table, which forgets the actions.

@@ -84,7 +84,7 @@ public:
     /// What a swipe over the row offers: maps of title, image, destructive and
     /// background (absent for the toolkit's own colour).
     Q_INVOKABLE QVariantList trailingActions(int row);
-    /// One of the actions that were last asked for.
+    /// Does the `action`th of what the row offered.
     Q_INVOKABLE void triggerAction(int row, int action);
 
     Q_INVOKABLE void tap(int row);
@@ -126,7 +126,7 @@ private:
     std::optional<platform::IndexPath> selected_;
 
     std::vector<platform::SwipeAction> actions_;
-    platform::IndexPath actionsPath_;
+    std::optional<platform::IndexPath> actionsPath_;
 
     /// The cell that was asked for last: a delegate reads all roles in a row.
     mutable std::optional<platform::TableCell> cell_;
@@ -136,6 +136,9 @@ private:
     bool loaded_ = false;
     bool loading_ = false;
     bool loadAgain_ = false;
+    /// The rows are those of before the controller changed: it is not asked
+    /// about them any more.
+    bool stale_ = false;
     mutable int answering_ = 0;
     /// Counts the reloads, so that a late completion hides no new row.
     int generation_ = 0;

@@ -24,7 +24,7 @@ TableRow {
         anchors.left: parent.left
         anchors.leftMargin: Theme.margin
         anchors.verticalCenter: parent.verticalCenter
-        width: root.isForm ? Math.round(root.width * 0.27) : root.width - 2 * Theme.margin
+        width: !root.isForm ? root.width - 2 * Theme.margin : text === "" ? 0 : Math.round(root.width * 0.27)
         text: root.text
         color: root.isForm ? Theme.textSecondary : Theme.text
         font.pixelSize: root.isForm ? Theme.body - 1 : Theme.body
@@ -35,7 +35,7 @@ TableRow {
     Text {
         visible: root.isForm
         anchors.left: pronoun.right
-        anchors.leftMargin: Theme.gap
+        anchors.leftMargin: pronoun.width > 0 ? Theme.gap : 0
         anchors.right: play.left
         anchors.rightMargin: Theme.gap
         anchors.verticalCenter: parent.verticalCenter

@@ -56,7 +56,7 @@ Rectangle {
                         leftPadding: 4
                         rightPadding: 4
                         text: segment.text
-                        color: segment.checked ? Theme.onAccentSecondary : Theme.text
+                        color: segment.checked ? Theme.accentSecondaryInk : Theme.text
                         font.pixelSize: Theme.small + 1
                         font.weight: segment.checked ? Font.DemiBold : Font.Normal
                         fontSizeMode: Text.HorizontalFit

@@ -10,6 +10,7 @@ Rectangle {
 
     required property Screen screen
     property bool canGoBack: false
+    property bool wide: false
 
     signal backRequested
 
@@ -34,6 +35,8 @@ Rectangle {
 
             ScreenBarButton {
                 screen: root.screen
+                // There is no list to hide where nothing stands beside it.
+                visible: root.wide || modelData.identifier !== "displayMode"
             }
         }
     }

@@ -27,6 +27,7 @@ FocusScope {
         width: parent.width
         screen: root.screen
         canGoBack: root.canGoBack
+        wide: root.wide
         onBackRequested: root.backRequested()
     }
     FocusScope {

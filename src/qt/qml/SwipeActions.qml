@@ -12,15 +12,22 @@ Row {
     required property T.SwipeDelegate row
     required property int rowIndex
     required property QtTableView table
+    readonly property bool open: row.swipe.position !== 0
+    property var offered: []
+
+    // Anew each time: what a row offers changes with what was done.
+    onOpenChanged: if (open)
+        offered = table.model.trailingActions(rowIndex)
+    Component.onCompleted: offered = table.model.trailingActions(rowIndex)
 
     anchors.right: parent.right
     height: parent.height
     layoutDirection: Qt.RightToLeft
 
     Repeater {
-        model: root.table.model.trailingActions(root.rowIndex)
+        model: root.offered
 
-        T.AbstractButton {
+        Rectangle {
             id: button
 
             required property int index
@@ -28,38 +35,37 @@ Row {
             readonly property color shade: modelData.background !== undefined ? modelData.background : modelData.destructive ? "#b3261e" : "#5b6470"
             readonly property color ink: 0.299 * shade.r + 0.587 * shade.g + 0.114 * shade.b > 0.28 ? "#16191d" : "#ffffff"
 
-            objectName: "swipeAction" + index
-            width: Math.max(88, label.implicitWidth + 2 * Theme.gap)
-            height: root.height
-            text: modelData.title
-            Accessible.name: text
-            onClicked: {
+            function trigger() {
                 const model = root.table.model;
                 root.row.swipe.close();
                 model.triggerAction(root.rowIndex, index);
             }
 
-            background: Rectangle {
-                color: button.down ? Qt.darker(button.shade, 1.15) : button.shade
-            }
-            contentItem: Item {
-                Column {
-                    anchors.centerIn: parent
-                    spacing: 2
+            objectName: "swipeAction" + index
+            width: Math.max(88, label.implicitWidth + 2 * Theme.gap)
+            height: root.height
+            color: T.SwipeDelegate.pressed ? Qt.darker(shade, 1.15) : shade
+            Accessible.role: Accessible.Button
+            Accessible.name: modelData.title
+            Accessible.onPressAction: trigger()
+            T.SwipeDelegate.onClicked: trigger()
 
-                    Icon {
-                        anchors.horizontalCenter: parent.horizontalCenter
-                        name: button.modelData.image
-                        color: button.ink
-                        size: 22
-                    }
-                    Text {
-                        id: label
-                        anchors.horizontalCenter: parent.horizontalCenter
-                        text: button.text
-                        color: button.ink
-                        font.pixelSize: Theme.small
-                    }
+            Column {
+                anchors.centerIn: parent
+                spacing: 2
+
+                Icon {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    name: button.modelData.image
+                    color: button.ink
+                    size: 22
+                }
+                Text {
+                    id: label
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    text: button.modelData.title
+                    color: button.ink
+                    font.pixelSize: Theme.small
                 }
             }
         }

@@ -12,7 +12,7 @@ QtObject {
     property real textScale: 1
 
     readonly property color accentSecondary: dark ? "#f2b84b" : "#9a5b00"
-    readonly property color onAccentSecondary: dark ? "#16191d" : "#ffffff"
+    readonly property color accentSecondaryInk: dark ? "#16191d" : "#ffffff"
     // Accent on the page rather than behind white text.
     readonly property color accentText: dark ? "#8ab8f5" : accentPrimary
     readonly property color barBackground: dark ? "#10325f" : accentPrimary

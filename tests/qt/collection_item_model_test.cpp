@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/collection_item_model.h"
+
+#include "detail/ce_round_progress_view.h"
+
+#include <QAbstractItemModelTester>
+
+#include <gtest/gtest.h>
+
+namespace lumora::qt {
+namespace {
+
+class ScriptedCollection final : public platform::CollectionDataSource {
+public:
+    std::vector<std::string> titles;
+    std::shared_ptr<detail::CERoundProgressView> indicator =
+        std::make_shared<detail::CERoundProgressView>();
+    std::pair<int, int> tapped{-1, -1};
+
+    int numberOfItems() override { return static_cast<int>(titles.size()); }
+    platform::CollectionCell cellForItem(int item) override
+    {
+        return {"Conjugations",
+                titles.at(static_cast<std::size_t>(item)),
+                {{"je", "vais", 30, 8, false, {indicator}}, {" ", " ", 0, 0, true, {nullptr}}}};
+    }
+    std::string headerText() override { return std::to_string(titles.size()) + " tenses"; }
+    platform::CollectionLayout layout() override { return {300, 300, 20, 20}; }
+    void audioTapped(int item, int row) override { tapped = {item, row}; }
+};
+
+TEST(CollectionItemModel, FollowsItsControllerThroughReloads)
+{
+    ScriptedCollection source;
+    CollectionItemModel model{source};
+    const QAbstractItemModelTester tester{&model,
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal};
+    for (const auto& titles : std::vector<std::vector<std::string>>{
+             {"a", "b", "c"}, {"d"}, {}, {"e", "f"}, {"g", "h"}}) {
+        source.titles = titles;
+        model.reloadData();
+        ASSERT_EQ(model.rowCount(), static_cast<int>(titles.size()));
+        for (std::size_t i = 0; i < titles.size(); ++i) {
+            EXPECT_EQ(model.data(model.index(static_cast<int>(i)), CollectionItemModel::TitleRole)
+                          .toString()
+                          .toStdString(),
+                      titles[i]);
+        }
+        EXPECT_EQ(model.headerText().toStdString(), std::to_string(titles.size()) + " tenses");
+    }
+}
+
+TEST(CollectionItemModel, HandsOnLinesAndTheirControls)
+{
+    ScriptedCollection source;
+    CollectionItemModel model{source};
+    source.titles = {"a", "b"};
+    model.reloadData();
+
+    const auto lines = model.data(model.index(1), CollectionItemModel::LinesRole).toList();
+    ASSERT_EQ(lines.size(), 2);
+    auto* indicator = lines[0].toMap().value("indicator").value<IndicatorSource*>();
+    ASSERT_NE(indicator, nullptr);
+    EXPECT_EQ(&indicator->layer(), &source.indicator->layer());
+    EXPECT_EQ(lines[1].toMap().value("indicator").value<IndicatorSource*>(), nullptr);
+
+    model.tapAudio(1, 5);
+    EXPECT_EQ(source.tapped, (std::pair{1, 5}));
+    model.tapAudio(2, 0);
+    EXPECT_EQ(source.tapped, (std::pair{1, 5})) << "there is no third square";
+}
+
+} // namespace
+} // namespace lumora::qt

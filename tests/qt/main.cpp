@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/application.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QML_DISABLE_DISK_CACHE", "1");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    testing::InitGoogleTest(&argc, argv);
+    const QGuiApplication toolkit{argc, argv};
+    lumora::qt::registerInterface();
+    return RUN_ALL_TESTS();
+}

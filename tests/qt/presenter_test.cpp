@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/qt_presenter.h"
+
+#include "platform/storyboard.h"
+
+#include <gtest/gtest.h>
+
+namespace lumora::qt {
+namespace {
+
+class NoStoryboard final : public platform::Storyboard {
+public:
+    std::shared_ptr<platform::ViewController> instantiateViewController(std::string_view) override
+    {
+        return nullptr;
+    }
+    std::shared_ptr<platform::ViewController> instantiateDestination(std::string_view) override
+    {
+        return nullptr;
+    }
+};
+
+struct PresenterTest : testing::Test {
+    NoStoryboard storyboard;
+    QtPresenter presenter{storyboard};
+    platform::ViewController screen;
+    std::string answered;
+
+    platform::AlertAction action(const char* title,
+                                 platform::ActionStyle style = platform::ActionStyle::Normal)
+    {
+        return {title, style, [this, title] { answered += title; }};
+    }
+};
+
+TEST_F(PresenterTest, AsksOneQuestionAfterTheOther)
+{
+    presenter.presentAlert(screen, {"First", "message", {action("a"), action("b")}});
+    presenter.presentAlert(screen, {std::nullopt, "second", {action("c")}});
+
+    EXPECT_EQ(presenter.questionTitle(), QStringLiteral("First"));
+    presenter.answer(7);
+    EXPECT_EQ(answered, "");
+    presenter.answer(1);
+    EXPECT_EQ(presenter.questionMessage(), QStringLiteral("second"));
+    presenter.answer(0);
+    EXPECT_EQ(answered, "bc");
+    EXPECT_FALSE(presenter.asking());
+}
+
+TEST_F(PresenterTest, LeavesAQuestionOnlyByAnAnswerThatCancelsOrFromASheet)
+{
+    presenter.presentAlert(screen, {"Sure?", "", {action("yes")}});
+    presenter.cancel();
+    EXPECT_TRUE(presenter.asking()) << "an alert without a way out needs its answer";
+    presenter.answer(0);
+
+    presenter.presentAlert(
+        screen, {"Sure?", "", {action("go"), action("no", platform::ActionStyle::Cancel)}});
+    presenter.cancel();
+    presenter.presentActionSheet(screen, {std::nullopt, {action("speed")}}, {0, 0});
+    EXPECT_TRUE(presenter.isSheet());
+    presenter.cancel();
+
+    EXPECT_FALSE(presenter.asking());
+    EXPECT_EQ(answered, "yesno");
+}
+
+} // namespace
+} // namespace lumora::qt

@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/application.h"
+
+#include "qt/table_screen.h"
+#include "qt/verb_detail_screen.h"
+#include "support/temporary_folder.h"
+#include "support/world.h"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtTest/QTest>
+
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+namespace lumora::qt {
+namespace {
+
+constexpr int kPatience = 3000;
+
+/// The whole program with a window and a database of six verbs.
+struct WindowTest : testing::Test {
+    support::TemporaryFolder folder;
+    std::unique_ptr<Application> application;
+
+    void start(const QSize& size, std::optional<std::string> shortcut = std::nullopt)
+    {
+        std::filesystem::create_directories(folder / "share");
+        support::writeSmallDatabase(folder / "share" / "verbs.db");
+        std::ofstream{folder / "share" / "bundle.json"} << R"({"CFBundleShortVersionString": "1"})";
+        ApplicationOptions options;
+        options.folders = {folder / "data", folder / "config", folder / "state"};
+        options.shareFolder = folder / "share";
+        options.launchArguments = {"ui_test"};
+        options.shortcut = std::move(shortcut);
+        options.windowSize = size;
+        application = std::make_unique<Application>(options);
+        ASSERT_TRUE(application->show());
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(application->window()));
+    }
+
+    SplitScreen& split() { return application->splitScreen(); }
+
+    QQuickItem* find(const QString& name)
+    {
+        return visibleItem(application->window()->contentItem(), name);
+    }
+
+    static QQuickItem* visibleItem(QQuickItem* parent, const QString& name)
+    {
+        for (auto* child : parent->childItems()) {
+            if (child->isVisible() && child->objectName() == name && child->width() > 0) {
+                return child;
+            }
+            if (auto* found = child->isVisible() ? visibleItem(child, name) : nullptr) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+
+    void tap(const QString& name)
+    {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return find(name) != nullptr; }, kPatience))
+            << name.toStdString();
+        auto* item = find(name);
+        const auto middle = item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
+        QTest::mouseClick(application->window(), Qt::LeftButton, {}, middle);
+        // The slide of a page must not swallow the next tap.
+        QTest::qWait(300);
+    }
+
+    QString topTitle(const QList<QObject*>& screens)
+    {
+        return screens.isEmpty() ? QString{} : qobject_cast<Screen*>(screens.last())->title();
+    }
+};
+
+TEST_F(WindowTest, OnAPhoneATapOpensAVerbOverTheListAndBackReturns)
+{
+    start({390, 844});
+    EXPECT_TRUE(split().collapsed());
+    const auto atFirst = split().screenCount();
+
+    tap("aller");
+    EXPECT_EQ(split().primary().size(), 2);
+    EXPECT_EQ(topTitle(split().primary()), QStringLiteral("aller"));
+
+    tap("backButton");
+    EXPECT_EQ(split().primary().size(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return split().screenCount() == atFirst; }, kPatience))
+        << "the screen goes with its page";
+
+    tap("aller");
+    QTest::keyClick(application->window(), Qt::Key_Escape);
+    EXPECT_EQ(split().primary().size(), 1);
+}
+
+TEST_F(WindowTest, AVerbStaysOpenWhenTheWindowChangesItsPanes)
+{
+    start({1024, 768});
+    EXPECT_FALSE(split().collapsed());
+    EXPECT_EQ(topTitle(split().secondary()), QString{});
+
+    tap("aller");
+    EXPECT_EQ(topTitle(split().secondary()), QStringLiteral("aller"));
+    EXPECT_EQ(split().primary().size(), 1);
+    tap("mood3");
+    auto* screen = split().secondary().last();
+
+    application->window()->resize(390, 844);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return split().collapsed(); }, kPatience));
+    ASSERT_EQ(split().primary().size(), 2);
+    EXPECT_EQ(split().primary().last(), screen) << "the same screen";
+    EXPECT_EQ(qobject_cast<VerbDetailScreen*>(screen)->selectedMood(), 3);
+
+    application->window()->resize(1024, 768);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !split().collapsed(); }, kPatience));
+    EXPECT_EQ(split().secondary().last(), screen);
+    EXPECT_EQ(split().primary().size(), 1);
+}
+
+TEST_F(WindowTest, ASwipedRowMakesAFavouriteThatTheOtherTabShows)
+{
+    start({390, 844});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return find("avoir") != nullptr; }, kPatience));
+    auto* row = find("avoir");
+    const auto at = [&](double part) {
+        return row->mapToScene({row->width() * part, row->height() / 2}).toPoint();
+    };
+    QTest::mousePress(application->window(), Qt::LeftButton, {}, at(0.8));
+    for (double part = 0.75; part > 0.3; part -= 0.05) {
+        QTest::mouseMove(application->window(), at(part));
+    }
+    QTest::mouseRelease(application->window(), Qt::LeftButton, {}, at(0.3));
+    QTest::qWait(300);
+    tap("swipeAction0");
+    EXPECT_EQ(row->property("image").toString(), QStringLiteral("ic_favorite_list"));
+
+    tap("tab1");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return find("avoir") != nullptr; }, kPatience));
+    EXPECT_EQ(find("aller"), nullptr);
+}
+
+TEST_F(WindowTest, TypingFindsAVerbAndOpensIt)
+{
+    start({390, 844});
+    tap("Search");
+    for (const char letter : {'e', 't', 'r'}) {
+        QTest::keyClick(application->window(), letter);
+    }
+    ASSERT_TRUE(QTest::qWaitFor([&] { return find("être") != nullptr && find("aller") == nullptr; },
+                                kPatience));
+
+    tap("être");
+    EXPECT_EQ(topTitle(split().primary()), QStringLiteral("être"));
+}
+
+TEST_F(WindowTest, AShortcutOpensItsTab)
+{
+    start({390, 844}, "com.brindle.shortcut.favourite");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return find("tab1") != nullptr; }, kPatience));
+    EXPECT_TRUE(find("tab1")->property("checked").toBool());
+}
+
+TEST_F(WindowTest, AQuestionBlocksTheScreenUntilItIsAnswered)
+{
+    start({390, 844});
+    int answer = -1;
+    platform::ViewController asking;
+    application->presenter().presentAlert(
+        asking, {"Title",
+                 "Message",
+                 {{"One", platform::ActionStyle::Normal, [&] { answer = 0; }},
+                  {"Two", platform::ActionStyle::Cancel, [&] { answer = 1; }}}});
+
+    tap("aller");
+    EXPECT_EQ(split().primary().size(), 1);
+    tap("answer0");
+    EXPECT_EQ(answer, 0);
+    tap("aller");
+    EXPECT_EQ(split().primary().size(), 2);
+}
+
+} // namespace
+} // namespace lumora::qt
