@@ -14,7 +14,7 @@ ShippedDatabase::ShippedDatabase()
 
 platform::Services ShippedDatabase::services()
 {
-    return {notifications, settings, bundle_, device_,    clock_,    crashReporter_,
+    return {notifications, settings, bundle_, device_,    clock_,     crashReporter_,
             analytics_,    console_, views_,  presenter_, storyboard_};
 }
 
