@@ -31,19 +31,21 @@ bool asksFor(int argc, char** argv, const char* option)
 }
 
 /// What must be settled before the toolkit starts.
-void prepareEnvironment(bool tour)
+void prepareEnvironment(bool tour, bool withoutWindow)
 {
-    // Nothing is written outside the program's own folders.
-    qputenv("QML_DISABLE_DISK_CACHE", "1");
+    // Nothing is written outside the program's own folders. Switching the
+    // cache off would throw away what was compiled at build time too.
+    const auto cache = StandardFolders::fromEnvironment().state / "qml";
+    qputenv("QML_DISK_CACHE_PATH", cache.c_str());
     QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
-    if (!tour) {
-        return;
-    }
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("DISPLAY") &&
-        !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
+    if (withoutWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
+        !qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    if (tour) {
+        qputenv("QML_DISABLE_DISK_CACHE", "1");
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    }
 }
 
 std::filesystem::path shareFolder()
@@ -56,7 +58,9 @@ std::filesystem::path shareFolder()
 
 int main(int argc, char** argv)
 {
-    prepareEnvironment(asksFor(argc, argv, "--tour"));
+    const bool tour = asksFor(argc, argv, "--tour");
+    prepareEnvironment(tour, tour || asksFor(argc, argv, "--help") || asksFor(argc, argv, "-h") ||
+                                 asksFor(argc, argv, "--version") || asksFor(argc, argv, "-v"));
     QGuiApplication toolkit{argc, argv};
     QCoreApplication::setApplicationName(QStringLiteral("lumora"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Lumora"));

@@ -137,6 +137,7 @@ TEST_F(WindowTest, ASwipedRowMakesAFavouriteThatTheOtherTabShows)
     }
     QTest::mouseRelease(application->window(), Qt::LeftButton, {}, at(0.3));
     QTest::qWait(300);
+    EXPECT_LT(row->property("contentItem").value<QQuickItem*>()->x(), -80) << "the row gives way";
     tap("swipeAction0");
     EXPECT_EQ(row->property("image").toString(), QStringLiteral("ic_favorite_list"));
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Window
+import QtQuick.Window as Desktop
 import Lumora
 
 // One of the program's drawings in a colour.
@@ -15,7 +15,7 @@ Image {
 
     width: size
     height: size
-    sourceSize: Qt.size(size * Screen.devicePixelRatio, size * Screen.devicePixelRatio)
+    sourceSize: Qt.size(size * Desktop.Screen.devicePixelRatio, size * Desktop.Screen.devicePixelRatio)
     source: name === "" ? "" : "image://icon/" + name + "/" + String(color).slice(-6)
     fillMode: Image.PreserveAspectFit
     Accessible.ignored: true

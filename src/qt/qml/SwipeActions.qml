@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Lumora
@@ -13,14 +14,16 @@ Row {
     required property int rowIndex
     required property QtTableView table
     readonly property bool open: row.swipe.position !== 0
-    property var offered: []
+    property var offered: table.model.trailingActions(rowIndex)
+    readonly property int buttonWidth: 96
 
     // Anew each time: what a row offers changes with what was done.
     onOpenChanged: if (open)
         offered = table.model.trailingActions(rowIndex)
-    Component.onCompleted: offered = table.model.trailingActions(rowIndex)
 
     anchors.right: parent.right
+    // The row slides as far as this is wide, known before the buttons are.
+    width: offered.length * buttonWidth
     height: parent.height
     layoutDirection: Qt.RightToLeft
 
@@ -42,7 +45,7 @@ Row {
             }
 
             objectName: "swipeAction" + index
-            width: Math.max(88, label.implicitWidth + 2 * Theme.gap)
+            width: root.buttonWidth
             height: root.height
             color: T.SwipeDelegate.pressed ? Qt.darker(shade, 1.15) : shade
             Accessible.role: Accessible.Button
@@ -61,11 +64,13 @@ Row {
                     size: 22
                 }
                 Text {
-                    id: label
                     anchors.horizontalCenter: parent.horizontalCenter
+                    width: Math.min(implicitWidth, root.buttonWidth - Theme.gap)
                     text: button.modelData.title
                     color: button.ink
                     font.pixelSize: Theme.small
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: 9
                 }
             }
         }
