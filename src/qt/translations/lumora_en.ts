@@ -23,6 +23,10 @@
         <source></source>
         <translation>Favourite</translation>
     </message>
+    <message id="common.ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
     <message id="favourites.empty">
         <source></source>
         <translation>You have no favourites yet. Mark a verb with the star to find it here.</translation>
@@ -59,6 +63,10 @@
         <source></source>
         <translation>Verbs</translation>
     </message>
+    <message id="tense.con">
+        <source></source>
+        <translation>Conditional</translation>
+    </message>
     <message id="tense.con.firstpast">
         <source></source>
         <translation>Past conditional</translation>
@@ -82,6 +90,10 @@
     <message id="tense.con.secondpast_french">
         <source></source>
         <translation>Conditionnel passé 2e forme</translation>
+    </message>
+    <message id="tense.ind">
+        <source></source>
+        <translation>Indicative</translation>
     </message>
     <message id="tense.ind.future">
         <source></source>
@@ -147,6 +159,10 @@
         <source></source>
         <translation>Passé simple</translation>
     </message>
+    <message id="tense.other">
+        <source></source>
+        <translation>Other forms</translation>
+    </message>
     <message id="tense.other.imperative">
         <source></source>
         <translation>Imperative</translation>
@@ -162,6 +178,10 @@
     <message id="tense.other.participle_french">
         <source></source>
         <translation>Participe</translation>
+    </message>
+    <message id="tense.sub">
+        <source></source>
+        <translation>Subjunctive</translation>
     </message>
     <message id="tense.sub.imperfect">
         <source></source>
@@ -218,6 +238,10 @@
     <message id="verb.list.full">
         <source></source>
         <translation>French verbs</translation>
+    </message>
+    <message id="volume.low.warning">
+        <source></source>
+        <translation>The volume is very low. Turn it up to hear the pronunciation.</translation>
     </message>
 </context>
 </TS>

@@ -23,6 +23,10 @@
         <source></source>
         <translation>Favori</translation>
     </message>
+    <message id="common.ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
     <message id="favourites.empty">
         <source></source>
         <translation>Vous n’avez pas encore de favoris. Marquez un verbe d’une étoile pour le retrouver ici.</translation>
@@ -59,6 +63,10 @@
         <source></source>
         <translation>Verbes</translation>
     </message>
+    <message id="tense.con">
+        <source></source>
+        <translation>Conditionnel</translation>
+    </message>
     <message id="tense.con.firstpast">
         <source></source>
         <translation>Conditionnel passé 1re forme</translation>
@@ -82,6 +90,10 @@
     <message id="tense.con.secondpast_french">
         <source></source>
         <translation>Conditionnel passé 2e forme</translation>
+    </message>
+    <message id="tense.ind">
+        <source></source>
+        <translation>Indicatif</translation>
     </message>
     <message id="tense.ind.future">
         <source></source>
@@ -147,6 +159,10 @@
         <source></source>
         <translation>Passé simple</translation>
     </message>
+    <message id="tense.other">
+        <source></source>
+        <translation>Autres formes</translation>
+    </message>
     <message id="tense.other.imperative">
         <source></source>
         <translation>Impératif</translation>
@@ -162,6 +178,10 @@
     <message id="tense.other.participle_french">
         <source></source>
         <translation>Participe</translation>
+    </message>
+    <message id="tense.sub">
+        <source></source>
+        <translation>Subjonctif</translation>
     </message>
     <message id="tense.sub.imperfect">
         <source></source>
@@ -218,6 +238,10 @@
     <message id="verb.list.full">
         <source></source>
         <translation>Verbes français</translation>
+    </message>
+    <message id="volume.low.warning">
+        <source></source>
+        <translation>Le volume est très bas. Augmentez-le pour entendre la prononciation.</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "export/verb_export.h"
+
+#include "export/export_data.h"
+#include "platform/atomic_file.h"
+#include "platform/bundle.h"
+#include "platform/java_script_context.h"
+#include "platform/services.h"
+#include "platform/text.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <ostream>
+
+namespace lumora::exporting {
+
+namespace {
+
+platform::Result<std::string> readText(const std::filesystem::path& file)
+{
+    auto text = platform::readFile(file);
+    if (text && platform::wellFormed(*text) != *text) {
+        return tl::unexpected(platform::Error{file.string() + " is not UTF-8 text", EILSEQ});
+    }
+    return text;
+}
+
+/// The template stands in the script as it is, so it may hold neither a
+/// backtick nor "${".
+std::string renderingScript(const std::string& mustacheTemplate, const std::string& json)
+{
+    return "Mustache.render(`" + mustacheTemplate + "`, " + json + ");";
+}
+
+} // namespace
+
+// A class without a state, so that who exports can be handed one.
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static)
+platform::Result<std::optional<VerbRenderings>>
+VerbExport::exportVerb(const data::Verb& verb, const platform::Services& services,
+                       platform::JavaScriptContextFactory& contexts) const
+{
+    const auto libraryFile = services.bundle.pathForResource("mustache.min", "js");
+    const auto htmlFile = services.bundle.pathForResource("export_html", "mustache");
+    const auto textFile = services.bundle.pathForResource("export_txt", "mustache");
+    if (!libraryFile || !htmlFile || !textFile) {
+        services.console << "Unable to find mustache JS file" << std::endl;
+        return std::nullopt;
+    }
+    const auto library = readText(*libraryFile);
+    if (!library) {
+        return tl::unexpected(library.error());
+    }
+    const auto htmlTemplate = readText(*htmlFile);
+    if (!htmlTemplate) {
+        return tl::unexpected(htmlTemplate.error());
+    }
+    const auto textTemplate = readText(*textFile);
+    if (!textTemplate) {
+        return tl::unexpected(textTemplate.error());
+    }
+    const auto json = exportData(verb, services);
+    if (!json) {
+        services.console << "Unable to create json string" << std::endl;
+        return std::nullopt;
+    }
+
+    const auto context = contexts.makeJavaScriptContext();
+    context->setExceptionHandler([&services](const std::string& thrown) {
+        services.console << "JS Error: " << thrown << std::endl;
+    });
+    context->evaluateScript(*library);
+    VerbRenderings renderings;
+    renderings.html = context->evaluateScript(renderingScript(*htmlTemplate, *json));
+    renderings.text = context->evaluateScript(renderingScript(*textTemplate, *json));
+    return renderings;
+}
+
+} // namespace lumora::exporting
