@@ -23,7 +23,7 @@ Row {
 
     anchors.right: parent.right
     // The row slides as far as this is wide, known before the buttons are.
-    width: offered.length * buttonWidth
+    width: offered.length * buttonWidth + rightPadding
     height: parent.height
     layoutDirection: Qt.RightToLeft
 

@@ -19,6 +19,8 @@ T.SwipeDelegate {
     required property string identifier
     property QtTableView table
     property int cellHeight: Theme.rowHeight
+    // Kept free at the right, for the index.
+    property int trailingSpace: 0
     default property alias cellContent: holder.data
     readonly property bool isCell: kind === TableItemModel.Cell
     readonly property bool isCurrent: ListView.isCurrentItem && ListView.view !== null && ListView.view.activeFocus
@@ -97,6 +99,7 @@ T.SwipeDelegate {
         SwipeActions {
             row: root
             rowIndex: root.index
+            rightPadding: root.trailingSpace
             table: root.table
         }
     }

@@ -11,8 +11,6 @@ TableRow {
     required text
     required property string detailText
     required property string image
-    /// Kept free at the right, for the index.
-    property int trailingSpace: 0
 
     Accessible.name: text + ", " + detailText
 
