@@ -8,6 +8,7 @@
 #include "detail/verb_detail_table_view_controller.h"
 #include "navigation/home_view_controller.h"
 #include "platform/clock.h"
+#include "platform/device.h"
 #include "platform/notification_center.h"
 #include "platform/settings_store.h"
 #include "settings/default_settings.h"
@@ -105,6 +106,7 @@ void AppDelegate::wirePanes()
     details->topViewController()->setNavigationItem(std::move(item));
     split.setDelegate(this);
     homeScreen().queue = queue.get();
+    split.setCollapsed(!services_.device.isTablet());
 }
 
 navigation::HomeViewController& AppDelegate::homeScreen()

@@ -11,7 +11,7 @@
 #include "platform/settings_store.h"
 #include "settings/setting_keys.h"
 
-#include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -26,7 +26,10 @@ using platform::Database;
 using platform::DatabaseQueue;
 using platform::Result;
 
-constexpr const char* kDamaged = ".damaged";
+/// Enough for every disk that fails now and then.
+constexpr int kMostDamaged = 10;
+/// SQLite's code for a file that another program holds.
+constexpr int kBusy = 5;
 
 /// A broken installation, not a broken file of the user's.
 [[noreturn]] void stopIncomplete(const char* what)
@@ -37,8 +40,8 @@ constexpr const char* kDamaged = ".damaged";
 
 struct SavedData {
     UserData data;
-    /// False when a statement failed on the way.
-    bool complete = true;
+    /// Why the reading ended early; none when it did not.
+    std::optional<platform::Error> failure;
 };
 
 std::filesystem::path withSuffix(std::filesystem::path file, const char* suffix)
@@ -82,16 +85,16 @@ SavedData readUserData(const std::filesystem::path& file, platform::CrashReporte
     SavedData saved;
     const auto queue = DatabaseQueue::open(platform::fileUrl(file));
     if (!queue) {
-        saved.complete = false;
+        saved.failure = platform::Error{"the file cannot be opened", 0};
         return saved;
     }
     queue->inDatabase([&](Database& database) {
         if (!readFavourites(database, saved.data) || !readHistory(database, saved.data)) {
-            saved.complete = false;
+            saved.failure = platform::Error{database.lastErrorMessage(), database.lastErrorCode()};
             if (crashReporter != nullptr) {
                 crashReporter->logWithFormat(
                     "An error occurred when reading migration settings: %@ (%d)",
-                    {database.lastErrorMessage(), database.lastErrorCode()});
+                    {saved.failure->message, saved.failure->code});
             }
         }
         database.close();
@@ -99,82 +102,90 @@ SavedData readUserData(const std::filesystem::path& file, platform::CrashReporte
     return saved;
 }
 
-Result<void> insertUserData(Database& database, const UserData& data)
+/// Inserts in order up to the first failure. What is in goes out of `waiting`.
+Result<void> insertUserData(Database& database, UserData& waiting)
 {
-    for (const auto verb : data.favourites) {
-        auto done =
-            database.executeUpdate("INSERT INTO favourite(verbid) VALUES(?)", {std::int64_t{verb}});
+    while (!waiting.favourites.empty()) {
+        auto done = database.executeUpdate("INSERT INTO favourite(verbid) VALUES(?)",
+                                           {std::int64_t{waiting.favourites.front()}});
         if (!done) {
             return done;
         }
+        waiting.favourites.erase(waiting.favourites.begin());
     }
-    for (const auto& [verb, timestamp] : data.history) {
+    while (!waiting.history.empty()) {
+        const auto& [verb, timestamp] = waiting.history.front();
         auto done = database.executeUpdate("INSERT INTO history(verbid, timestamp) VALUES(?, ?)",
                                            {std::int64_t{verb}, std::int64_t{timestamp}});
         if (!done) {
             return done;
         }
+        waiting.history.erase(waiting.history.begin());
     }
     return {};
 }
 
-/// Takes out what an interrupted restore may have put in, and what the user
-/// has viewed again since is not put back with its old time.
-Result<UserData> withoutEarlierRestore(Database& database, const UserData& rescued)
+Result<bool> isViewedAfter(Database& database, std::int32_t verb, std::int32_t timestamp)
 {
-    UserData present;
-    if (!readFavourites(database, present) || !readHistory(database, present)) {
-        return tl::make_unexpected(
-            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+    auto rows = database.executeQuery("SELECT _id FROM history WHERE verbid = ? AND timestamp > ?",
+                                      {std::int64_t{verb}, std::int64_t{timestamp}});
+    if (!rows) {
+        return tl::make_unexpected(rows.error());
     }
-    UserData missing;
-    for (const auto verb : rescued.favourites) {
+    return rows->next();
+}
+
+/// Takes out what an interrupted restore may have put in; a verb that the user
+/// has viewed again since is not put back with its old time.
+Result<void> takeOutEarlierRestore(Database& database, UserData& waiting)
+{
+    for (const auto verb : waiting.favourites) {
         auto done =
             database.executeUpdate("DELETE FROM favourite WHERE verbid=?", {std::int64_t{verb}});
         if (!done) {
-            return tl::make_unexpected(done.error());
+            return done;
         }
-        missing.favourites.push_back(verb);
     }
-    for (const auto& entry : rescued.history) {
-        const bool viewedSince =
-            std::any_of(present.history.begin(), present.history.end(), [&](const auto& other) {
-                return other.first == entry.first && other.second > entry.second;
-            });
-        if (viewedSince) {
+    for (auto entry = waiting.history.begin(); entry != waiting.history.end();) {
+        const auto viewedSince = isViewedAfter(database, entry->first, entry->second);
+        if (!viewedSince) {
+            return tl::make_unexpected(viewedSince.error());
+        }
+        if (*viewedSince) {
+            entry = waiting.history.erase(entry);
             continue;
         }
-        auto done = database.executeUpdate("DELETE FROM history WHERE verbid=? AND timestamp=?",
-                                           {std::int64_t{entry.first}, std::int64_t{entry.second}});
+        auto done =
+            database.executeUpdate("DELETE FROM history WHERE verbid=? AND timestamp=?",
+                                   {std::int64_t{entry->first}, std::int64_t{entry->second}});
         if (!done) {
-            return tl::make_unexpected(done.error());
+            return done;
         }
-        missing.history.push_back(entry);
+        ++entry;
     }
-    return missing;
+    return {};
 }
 
 enum class Target { FreshCopy, DatabaseInUse };
 
-/// True when every row is in the file.
-bool restoreUserData(const std::filesystem::path& file, const UserData& data, Target target,
-                     platform::CrashReporter& crashReporter)
+/// Puts the rows into the file and lets the rescue file go once all are in, or
+/// leaves in it those that are not: what the user removes meanwhile must not
+/// come back.
+void restoreUserData(const std::filesystem::path& file, UserData waiting, Target target,
+                     const RescueFile& rescue, platform::CrashReporter& crashReporter)
 {
-    std::error_code ignored;
-    if (!std::filesystem::exists(file, ignored)) {
-        return false;
+    if (!fileExists(file).value_or(false)) {
+        return;
     }
     const auto queue = DatabaseQueue::open(platform::fileUrl(file));
     if (!queue) {
-        return false;
+        return;
     }
     bool complete = false;
     queue->inDatabase([&](Database& database) {
-        auto rows = target == Target::FreshCopy ? Result<UserData>{data}
-                                                : withoutEarlierRestore(database, data);
-        const auto done = rows.and_then(
-            [&](const UserData& missing) { return insertUserData(database, missing); });
-        complete = done.has_value();
+        const auto ready =
+            target == Target::FreshCopy ? Result<void>{} : takeOutEarlierRestore(database, waiting);
+        complete = ready.and_then([&] { return insertUserData(database, waiting); }).has_value();
         if (!complete) {
             crashReporter.logWithFormat(
                 "An error occurred when inserting migration settings: %@ (%d)",
@@ -182,48 +193,110 @@ bool restoreUserData(const std::filesystem::path& file, const UserData& data, Ta
         }
         database.close();
     });
-    return complete;
+    // A rescue file that stays as it was is met again at the next start.
+    static_cast<void>(complete ? rescue.remove() : rescue.write(waiting));
 }
+
+/// The journals that belong to a database file.
+constexpr const char* kJournals[] = {"-journal", "-wal"};
 
 /// The journal goes first: beside a new database it would be played back into
 /// it.
-Result<void> removeOldDatabase(const std::filesystem::path& file, bool keepAside)
+Result<void> removeDatabase(const std::filesystem::path& file)
 {
     for (const char* suffix : {"-journal", "-wal", "-shm"}) {
         if (auto removed = platform::removeDurably(withSuffix(file, suffix)); !removed) {
             return removed;
         }
     }
-    return keepAside ? platform::renameDurably(file, withSuffix(file, kDamaged))
-                     : platform::removeDurably(file);
+    return platform::removeDurably(file);
+}
+
+/// The names under which unreadable databases are kept, the oldest first.
+std::filesystem::path damagedName(const std::filesystem::path& file, int number)
+{
+    auto name = withSuffix(file, ".damaged");
+    return number == 0 ? name : withSuffix(name, ("." + std::to_string(number)).c_str());
+}
+
+/// Journals that stand alone since a database was put aside without them.
+Result<void> moveJournals(const std::filesystem::path& file, const std::filesystem::path& aside)
+{
+    for (const char* suffix : kJournals) {
+        const auto journal = withSuffix(file, suffix);
+        const auto exists = fileExists(journal);
+        if (!exists) {
+            return tl::make_unexpected(exists.error());
+        }
+        if (*exists) {
+            if (auto moved = platform::renameDurably(journal, withSuffix(aside, suffix)); !moved) {
+                return moved;
+            }
+        }
+    }
+    return platform::removeDurably(withSuffix(file, "-shm"));
+}
+
+/// Keeps a database that could not be read, with the journals that may make it
+/// readable, under the first free name.
+Result<void> putAside(const std::filesystem::path& file)
+{
+    for (int number = 0; number < kMostDamaged; ++number) {
+        const auto aside = damagedName(file, number);
+        const auto taken = fileExists(aside);
+        if (!taken) {
+            return tl::make_unexpected(taken.error());
+        }
+        if (!*taken) {
+            return platform::renameDurably(file, aside).and_then([&] {
+                return moveJournals(file, aside);
+            });
+        }
+    }
+    return tl::make_unexpected(
+        platform::Error{"there are too many damaged databases beside " + file.string(), EEXIST});
+}
+
+/// The rows of one database put aside, should it be readable now (a disk may
+/// fail once and not twice). They are in the rescue file before it goes.
+Result<void> rescueDamaged(const std::filesystem::path& damaged, const RescueFile& rescue,
+                           std::optional<UserData>& waiting)
+{
+    auto aside = readUserData(damaged, nullptr);
+    if (aside.failure) {
+        return {};
+    }
+    auto all = mergedUserData(std::move(aside.data), waiting.value_or(UserData{}));
+    auto written = rescue.write(all);
+    if (!written) {
+        return written;
+    }
+    waiting = std::move(all);
+    return removeDatabase(damaged);
 }
 
 /// What waits beside the database to be put into it: the rows of an unfinished
-/// replacement, and those of a file put aside as unreadable, should it be
-/// readable now (a disk may fail once and not twice).
-Result<std::optional<UserData>> waitingData(const std::filesystem::path& file,
+/// replacement and those of files put aside.
+Result<std::optional<UserData>> waitingData(const std::filesystem::path& file, bool exists,
                                             const RescueFile& rescue)
 {
-    return rescue.read().and_then(
-        [&](std::optional<UserData> rescued) -> Result<std::optional<UserData>> {
-            const auto damaged = withSuffix(file, kDamaged);
-            const auto exists = fileExists(damaged);
-            if (!exists) {
-                return tl::make_unexpected(exists.error());
-            }
-            if (!*exists) {
-                return rescued;
-            }
-            auto aside = readUserData(damaged, nullptr);
-            if (!aside.complete) {
-                return rescued;
-            }
-            auto all = mergedUserData(std::move(aside.data), rescued.value_or(UserData{}));
-            // From here on the rescue file holds what the damaged one held.
-            return rescue.write(all)
-                .and_then([&] { return platform::removeDurably(damaged); })
-                .map([&] { return std::optional<UserData>{std::move(all)}; });
-        });
+    auto waiting = rescue.read();
+    for (int number = 0; waiting && number < kMostDamaged; ++number) {
+        const auto damaged = damagedName(file, number);
+        const auto there = fileExists(damaged);
+        if (!there) {
+            return tl::make_unexpected(there.error());
+        }
+        if (!*there) {
+            continue;
+        }
+        auto ready = exists ? Result<void>{} : moveJournals(file, damaged);
+        if (auto rescued = ready.and_then([&] { return rescueDamaged(damaged, rescue, *waiting); });
+            !rescued) {
+            return tl::make_unexpected(rescued.error());
+        }
+    }
+    return waiting;
 }
 
 Result<void> replaceDatabase(const std::filesystem::path& file, bool exists,
@@ -234,6 +307,9 @@ Result<void> replaceDatabase(const std::filesystem::path& file, bool exists,
     std::optional<SavedData> saved;
     if (exists) {
         saved = readUserData(file, &crashReporter);
+        if (saved->failure && saved->failure->code == kBusy) {
+            return tl::make_unexpected(*saved->failure);
+        }
     }
     if (waiting) {
         if (!saved) {
@@ -251,7 +327,8 @@ Result<void> replaceDatabase(const std::filesystem::path& file, bool exists,
     if (auto copied = platform::copyFileDurably(resource, copy); !copied) {
         return copied;
     }
-    auto replaced = removeOldDatabase(file, saved && !saved->complete).and_then([&] {
+    const bool unreadable = saved && saved->failure;
+    auto replaced = (unreadable ? putAside(file) : removeDatabase(file)).and_then([&] {
         return platform::renameDurably(copy, file);
     });
     if (!replaced) {
@@ -259,20 +336,10 @@ Result<void> replaceDatabase(const std::filesystem::path& file, bool exists,
         return replaced;
     }
 
-    if (saved && restoreUserData(file, saved->data, Target::FreshCopy, crashReporter)) {
-        // A rescue file that stays is met again at the next start, no harm done.
-        static_cast<void>(rescue.remove());
+    if (saved) {
+        restoreUserData(file, std::move(saved->data), Target::FreshCopy, rescue, crashReporter);
     }
     return {};
-}
-
-/// An unfinished restore of an earlier start, finished in the database in use.
-void finishRestore(const std::filesystem::path& file, const RescueFile& rescue,
-                   const std::optional<UserData>& waiting, platform::CrashReporter& crashReporter)
-{
-    if (waiting && restoreUserData(file, *waiting, Target::DatabaseInUse, crashReporter)) {
-        static_cast<void>(rescue.remove());
-    }
 }
 
 } // namespace
@@ -299,17 +366,25 @@ Result<void> prepareDatabase(const std::filesystem::path& documents, const platf
     if (!exists) {
         return tl::make_unexpected(exists.error());
     }
-    const auto waiting = waitingData(file, rescue);
-    if (!waiting) {
-        return tl::make_unexpected(waiting.error());
-    }
+    auto waiting = waitingData(file, *exists, rescue);
 
     if (installed == *version && *exists) {
-        finishRestore(file, rescue, *waiting, crashReporter);
+        if (!waiting) {
+            // The rows wait where they are; the database in use is a good one.
+            crashReporter.logWithFormat(
+                "An error occurred when reading migration settings: %@ (%d)",
+                {waiting.error().message, waiting.error().code});
+        } else if (*waiting) {
+            restoreUserData(file, std::move(**waiting), Target::DatabaseInUse, rescue,
+                            crashReporter);
+        }
     } else {
         const auto resource = bundle.pathForResource("verbs", "db");
         if (!resource) {
             stopIncomplete("its verb database is missing");
+        }
+        if (!waiting) {
+            return tl::make_unexpected(waiting.error());
         }
         if (auto replaced =
                 replaceDatabase(file, *exists, rescue, *waiting, *resource, crashReporter);

@@ -24,7 +24,8 @@ std::filesystem::path workingDatabase(const std::filesystem::path& documents);
 /// An interruption at any instant, or a disk that fills, loses none of the
 /// user's rows: they are in the old file, in the rescue file beside it, or in
 /// the new file, and the next start goes on from there. A database that could
-/// not be read to its end is kept as "verbs.db.damaged".
+/// not be read to its end is kept as "verbs.db.damaged" and read again at later
+/// starts.
 ///
 /// A failure leaves the recorded version as it was. A program without a
 /// version or without its database resource is broken and stops.

@@ -107,16 +107,15 @@ void carryOverOldSettings(const std::optional<std::string>& documents,
     if (!fileExists(file).value_or(false)) {
         return;
     }
+    // The values must be on disk before their only other copy goes.
+    bool safe = true;
     if (const auto bytes = platform::readFile(file, kMaximumBytes)) {
         if (const auto old = platform::readPropertyListDictionary(*bytes)) {
             carryOver(*old, settings);
-            // On disk before the only other copy of these values goes.
-            if (!settings.synchronize()) {
-                return;
-            }
+            safe = settings.synchronize().has_value();
         }
     }
-    if (!platform::removeDurably(file)) {
+    if (!safe || !platform::removeDurably(file)) {
         crashReporter.logWithFormat("Unable to delete file. Will try again later. %@", {});
     }
 }

@@ -161,8 +161,9 @@ void VerbDetailTableViewController::showVerb()
     countView();
     if (queue != nullptr) {
         queue->inDatabase([this](platform::Database& database) {
-            loadConjugations(database);
-            recordHistory(database);
+            if (loadConjugations(database)) {
+                recordHistory(database);
+            }
         });
     }
     services_.notifications.post({"VerbViewed", {}, {{"verb", selectedVerb}}});
@@ -178,12 +179,12 @@ void VerbDetailTableViewController::countView()
     services_.settings.setValue(count, settings::kNumberOfVerbsViewed);
 }
 
-void VerbDetailTableViewController::loadConjugations(platform::Database& database)
+bool VerbDetailTableViewController::loadConjugations(platform::Database& database)
 {
     auto rows = database.executeQuery(kConjugationsOfVerb, {selectedVerb->id});
     if (!rows) {
         logReadingError(database);
-        return;
+        return false;
     }
     data::ConjugationList forms;
     const data::ConjugationReader reader{*rows};
@@ -200,6 +201,7 @@ void VerbDetailTableViewController::loadConjugations(platform::Database& databas
     if (failed) {
         logReadingError(database);
     }
+    return !failed;
 }
 
 void VerbDetailTableViewController::recordHistory(platform::Database& database)

@@ -112,7 +112,8 @@ private:
     Block blockAt(int segment, int position) const;
     void showVerb();
     void countView();
-    void loadConjugations(platform::Database& database);
+    /// False when the reading failed; what was read is kept.
+    bool loadConjugations(platform::Database& database);
     void recordHistory(platform::Database& database);
     void refreshConjugations() const;
     void verbFavouriteToggled(const platform::Notification& notification);

@@ -5,11 +5,11 @@
 
 #include "lists/sort_column.h"
 #include "platform/settings_store.h"
+#include "settings/search_from.h"
 #include "settings/setting_keys.h"
 #include "settings/translation_language.h"
 
 #include <utility>
-#include <variant>
 
 namespace lumora::lists {
 
@@ -38,14 +38,6 @@ std::pair<std::string_view, std::string_view> columnsFor(settings::TranslationCo
     return {"english", "english"};
 }
 
-/// Anything but a text counts as missing here, and missing as "S".
-bool matchesFromStart(const platform::SettingsStore& settings)
-{
-    const auto stored = settings.objectForKey(settings::kSearchFrom);
-    const auto* text = stored ? std::get_if<std::string>(&*stored) : nullptr;
-    return text == nullptr || *text == "S";
-}
-
 std::string withPlainApostrophes(std::string_view text)
 {
     constexpr std::string_view kTypographic = "\u2019";
@@ -71,7 +63,7 @@ SearchQuery makeSearchQuery(std::string_view text, const platform::SettingsStore
     const auto [translation, simplified] = columnsFor(
         settings::columnForLanguage(settings::effectiveTranslationLanguage(settings, device)));
     const std::string order{sortsByFrench(settings) ? "simplified_french" : simplified};
-    const bool fromStart = matchesFromStart(settings);
+    const bool fromStart = settings::searchesFromStart(settings);
     query.pattern = fromStart ? query.text + "%" : "%" + query.text + "%";
 
     std::string condition = "french LIKE ? OR simplified_french LIKE ?";

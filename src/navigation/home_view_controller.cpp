@@ -13,6 +13,7 @@
 #include "platform/settings_store.h"
 #include "platform/split_view_controller.h"
 #include "platform/storyboard.h"
+#include "settings/search_from.h"
 #include "settings/setting_keys.h"
 
 #include <any>
@@ -190,6 +191,13 @@ void HomeViewController::updateSearchResults()
     }
 }
 
+void HomeViewController::selectedScopeButtonIndexDidChange(int /*scope*/)
+{
+    updateSearchResults();
+}
+
+void HomeViewController::searchBarCancelButtonClicked() {}
+
 void HomeViewController::focusSearchBar()
 {
     searchBar.isFirstResponder = true;
@@ -227,8 +235,7 @@ void HomeViewController::sendCrashReportValues()
         return platform::boolObjectForKey(settings, key).value_or(true);
     };
     report.setCustomValue(settings.boolForKey(settings::kIncludeEnglish), "IncludeEnglish");
-    report.setCustomValue(settings.stringForKey(settings::kSearchFrom).value_or("S") == "S",
-                          "SearchFromStart");
+    report.setCustomValue(settings::searchesFromStart(settings), "SearchFromStart");
     report.setCustomValue(orTrue(settings::kShowTranslated), "ShowTranslated");
     report.setCustomValue(orTrue(settings::kSortByLang), "SortByLang");
     report.setCustomValue(settings.stringForKey(settings::kTranslationLanguage).value_or(""),

@@ -94,6 +94,9 @@ public:
     /// The user changed the text of the search field.
     void searchTextChanged(std::string text);
     void updateSearchResults();
+    /// The search runs again: a scope may change what is found.
+    void selectedScopeButtonIndexDidChange(int scope);
+    void searchBarCancelButtonClicked();
     /// Puts the cursor into the search field.
     void focusSearchBar();
 

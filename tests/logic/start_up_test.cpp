@@ -182,14 +182,56 @@ TEST_F(StartUp, KeepsWhatWasReadBeforeAReadingFailed)
                                   "table: history (1)"}));
 }
 
-TEST_F(StartUp, ReadsADatabasePutAsideOnceItCanBeReadAgain)
+TEST_F(StartUp, ReadsDatabasesPutAsideOnceTheyCanBeReadAgain)
 {
     installOld("(3)", "(2, 9)");
     std::filesystem::rename(database, documents / "verbs.db.damaged");
+    installOld("(5)", "(2, 8), (4, 1)");
+    std::filesystem::rename(database, documents / "verbs.db.damaged.1");
 
     ASSERT_TRUE(prepare());
 
-    EXPECT_EQ(userRows(), "3 | 2@9.0");
+    EXPECT_EQ(userRows(), "5 3 | 2@8.0 4@1.0 2@9.0");
+    EXPECT_FALSE(std::filesystem::exists(documents / "verbs.db.damaged"));
+    EXPECT_FALSE(std::filesystem::exists(documents / "verbs.db.damaged.1"));
+}
+
+TEST_F(StartUp, PutsADatabaseAsideOverNoOther)
+{
+    writeContent(database, "no database");
+    writeContent(documents / "verbs.db.damaged", "an older one");
+    world.settings.setValue(std::string{"1.0"}, "installed_version");
+
+    ASSERT_TRUE(prepare());
+
+    EXPECT_TRUE(isFresh());
+    EXPECT_EQ(contentOf(documents / "verbs.db.damaged"), "an older one");
+    EXPECT_EQ(contentOf(documents / "verbs.db.damaged.1"), "no database");
+}
+
+TEST_F(StartUp, WhatWaitsBesideItNeverBlocksAGoodDatabase)
+{
+    installOld("(3)", "");
+    world.settings.setValue(std::string{"2.0"}, "installed_version");
+    std::filesystem::create_directory(rescue);
+
+    EXPECT_TRUE(prepare());
+
+    EXPECT_EQ(userRows(), "3 |");
+    ASSERT_EQ(world.crashReporter.lines.size(), 1U);
+    EXPECT_TRUE(world.crashReporter.lines[0].starts_with(
+        "An error occurred when reading migration settings: "));
+}
+
+TEST_F(StartUp, ADatabaseThatAnotherProgramHoldsIsLeftAlone)
+{
+    installOld("(3)", "");
+    const auto other = open();
+    support::executeOn(*other, "BEGIN EXCLUSIVE");
+
+    EXPECT_FALSE(prepare());
+
+    EXPECT_EQ(world.settings.stringForKey("installed_version"), "1.0");
     EXPECT_FALSE(std::filesystem::exists(documents / "verbs.db.damaged"));
 }
 
@@ -208,13 +250,15 @@ TEST_F(StartUp, AnInsertThatFailsStopsTheRestoreAndKeepsTheRescueFile)
                   "An error occurred when inserting migration settings: refused (19)"}));
     EXPECT_EQ(world.settings.stringForKey("installed_version"), "2.0");
 
-    // Meanwhile the user goes on; then the cause is gone.
+    // Meanwhile the user goes on; then the cause is gone. What was removed
+    // after it had come over stays removed.
+    support::executeOn(*open(), "DELETE FROM favourite WHERE verbid = 3");
     support::executeOn(*open(), "INSERT INTO favourite(verbid) VALUES (5)");
     support::executeOn(*open(), "INSERT INTO history(verbid, timestamp) VALUES (4, 99)");
     support::executeOn(*open(), "DROP TRIGGER no");
     ASSERT_TRUE(prepare());
 
-    EXPECT_EQ(userRows(), "5 3 2 1 | 4@99.0 3@8.0");
+    EXPECT_EQ(userRows(), "5 2 1 | 4@99.0 3@8.0");
     EXPECT_FALSE(std::filesystem::exists(rescue));
 }
 
@@ -265,13 +309,13 @@ TEST_F(StartUp, GoesOnAfterAnInterruptionAtAnyStep)
 
 TEST_F(StartUp, AVerbViewedSinceIsNotPutBackToItsOldTime)
 {
-    installOld("", "(1, 50)");
+    installOld("", "(1, 5.25)");
     world.settings.setValue(std::string{"2.0"}, "installed_version");
     ASSERT_TRUE(app::RescueFile{rescue}.write({{}, {{1, 5}, {2, 6}}}));
 
     ASSERT_TRUE(prepare());
 
-    EXPECT_EQ(userRows(), "| 1@50.0 2@6.0");
+    EXPECT_EQ(userRows(), "| 1@5.25 2@6.0");
 }
 
 TEST_F(StartUp, ARescueFileThatMakesNoSenseIsPutAside)
@@ -450,6 +494,7 @@ TEST_F(StartUp, AShortcutOpensItsTab)
 
 TEST_F(StartUp, TheSearchShortcutComesBackToTheListAndFocusesTheField)
 {
+    world.device.tablet = true;
     auto delegate = makeDelegate();
     delegate.didFinishLaunching({});
     auto& split = dynamic_cast<platform::SplitViewController&>(*delegate.window.rootViewController);

@@ -232,6 +232,7 @@ TEST_F(VerbDetail, AFailedReadingIsLoggedAndTheListsStay)
               (std::vector<std::string>{"An error occurred when reading verb conjugation: no such "
                                         "table: conjugation (1)"}));
     EXPECT_EQ(aller->imperatif.size(), 1U);
+    EXPECT_EQ(world.count("history"), 0) << "the work of the block ended";
 }
 
 TEST_F(VerbDetail, TogglesTheFavouriteAndFollowsOthers)
