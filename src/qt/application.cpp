@@ -11,7 +11,9 @@
 #include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <QTimer>
 
+#include <chrono>
 #include <iostream>
 #include <system_error>
 
@@ -22,6 +24,7 @@ namespace lumora::qt {
 
 namespace {
 
+constexpr std::chrono::milliseconds kLongestWaitForAFrame{250};
 constexpr platform::Color kAccentPrimary{11 / 255.0, 78 / 255.0, 162 / 255.0, 1};
 
 /// Where the database goes; whether this works shows when it is opened.
@@ -52,8 +55,9 @@ Application::Application(const ApplicationOptions& options)
       bundle_{options_.shareFolder},
       device_{options_.launchArguments},
       presenter_{storyboard_},
-      services_{notifications_, settings_, bundle_, device_,    clock_,     crashReporter_,
-                analytics_,     std::cout, views_,  presenter_, storyboard_},
+      services_{notifications_, settings_,  bundle_,      device_, clock_,
+                crashReporter_, analytics_, std::cout,    views_,  presenter_,
+                storyboard_,    speech_,    audioSession_},
       delegate_{services_,
                 {madeFolder(options_.folders.data), options_.folders.data.string()},
                 kAccentPrimary}
@@ -69,31 +73,44 @@ Application::~Application() = default;
 
 bool Application::show()
 {
-    const auto root = storyboard_.instantiateInitialViewController();
-    delegate_.window.rootViewController = root;
-    delegate_.didFinishLaunching({});
-    splitScreen_ = std::make_unique<SplitScreen>(root, device_);
-    QQmlEngine::setObjectOwnership(splitScreen_.get(), QQmlEngine::CppOwnership);
-    splitScreen_->setWidth(options_.windowSize.width());
-    // Only now is there a home screen to hear of a shortcut.
-    if (options_.shortcut) {
-        delegate_.performActionForShortcutItem({*options_.shortcut}, [](bool) {});
-    }
-
     engine_.addImportPath(QStringLiteral("qrc:/"));
     engine_.addImageProvider(QStringLiteral("icon"), new IconProvider);
-    engine_.setInitialProperties(
-        {{QStringLiteral("split"), QVariant::fromValue(splitScreen_.get())},
-         {QStringLiteral("presenter"), QVariant::fromValue(&presenter_)},
-         {QStringLiteral("accent"), toQColor(delegate_.appearance().navigationBarBackground)},
-         {QStringLiteral("width"), options_.windowSize.width()},
-         {QStringLiteral("height"), options_.windowSize.height()}});
+    engine_.setInitialProperties({{QStringLiteral("presenter"), QVariant::fromValue(&presenter_)},
+                                  {QStringLiteral("accent"), toQColor(kAccentPrimary)},
+                                  {QStringLiteral("width"), options_.windowSize.width()},
+                                  {QStringLiteral("height"), options_.windowSize.height()}});
     engine_.load(QUrl{QStringLiteral("qrc:/Lumora/Main.qml")});
     if (engine_.rootObjects().isEmpty()) {
         return false;
     }
     window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
-    return window_ != nullptr;
+    if (window_ == nullptr) {
+        return false;
+    }
+    connect(window_, &QQuickWindow::frameSwapped, this, &Application::launch,
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    // A window that starts out hidden draws no frame.
+    QTimer::singleShot(kLongestWaitForAFrame, this, &Application::launch);
+    return true;
+}
+
+void Application::launch()
+{
+    if (splitScreen_) {
+        return;
+    }
+    const auto root = storyboard_.instantiateInitialViewController();
+    delegate_.window.rootViewController = root;
+    app::LaunchOptions launch;
+    if (options_.shortcut) {
+        launch.shortcutItem = app::ShortcutItem{*options_.shortcut};
+    }
+    device_.setWindowWidth(window_->width());
+    delegate_.didFinishLaunching(launch);
+    splitScreen_ = std::make_unique<SplitScreen>(root, device_);
+    QQmlEngine::setObjectOwnership(splitScreen_.get(), QQmlEngine::CppOwnership);
+    splitScreen_->setWidth(window_->width());
+    window_->setProperty("split", QVariant::fromValue(splitScreen_.get()));
 }
 
 void Application::setDark(bool dark)

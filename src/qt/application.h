@@ -10,10 +10,12 @@
 #include "platform/local_analytics.h"
 #include "platform/notification_center.h"
 #include "platform/services.h"
+#include "qt/pulse_audio_session.h"
 #include "qt/qt_bundle.h"
 #include "qt/qt_clock.h"
 #include "qt/qt_device.h"
 #include "qt/qt_presenter.h"
+#include "qt/qt_speech.h"
 #include "qt/qt_view_factory.h"
 #include "qt/split_screen.h"
 #include "qt/standard_folders.h"
@@ -47,8 +49,14 @@ public:
     explicit Application(const ApplicationOptions& options);
     ~Application() override;
 
-    /// False when the interface could not be built; why is on stderr.
+    /// Opens the window with nothing but its colours and launches as soon as
+    /// they are on screen. False when the window could not be built; why is on
+    /// stderr.
     bool show();
+    /// Launches now: the database is prepared and the screens are built. Only
+    /// the first call does anything.
+    void launch();
+    bool isLaunched() const { return splitScreen_ != nullptr; }
 
     QQuickWindow* window() const { return window_; }
     SplitScreen& splitScreen() { return *splitScreen_; }
@@ -74,6 +82,8 @@ private:
     QtViewFactory views_;
     app::MainStoryboard storyboard_;
     QtPresenter presenter_;
+    QtSpeech speech_;
+    PulseAudioSession audioSession_;
     platform::Services services_;
     app::AppDelegate delegate_;
     std::unique_ptr<SplitScreen> splitScreen_;

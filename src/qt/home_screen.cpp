@@ -114,13 +114,15 @@ void HomeScreen::searchFocusChanged(bool focused)
 
 std::vector<std::shared_ptr<platform::ViewController>> HomeScreen::visibleChildren() const
 {
-    if (isSearching()) {
-        return {home_->searchResultsController()};
-    }
+    // The results lie over the list, which does not go away for them.
+    std::vector<std::shared_ptr<platform::ViewController>> visible;
     if (home_->currentChild()) {
-        return {home_->currentChild()};
+        visible.push_back(home_->currentChild());
     }
-    return {};
+    if (isSearching()) {
+        visible.push_back(home_->searchResultsController());
+    }
+    return visible;
 }
 
 std::vector<std::shared_ptr<platform::ViewController>> HomeScreen::keptChildren() const

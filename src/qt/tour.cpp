@@ -277,6 +277,7 @@ int runTour(const std::filesystem::path& folder, const std::filesystem::path& sh
                 std::cerr << "tour: the window could not be built\n";
                 return 1;
             }
+            application.launch();
             Guide guide{application, folder};
             guide.begin(size, dark);
             guide.goThroughScreens();

@@ -39,6 +39,7 @@ struct WindowTest : testing::Test {
         options.windowSize = size;
         application = std::make_unique<Application>(options);
         ASSERT_TRUE(application->show());
+        application->launch();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(application->window()));
     }
 

@@ -9,7 +9,8 @@ import Lumora
 Window {
     id: root
 
-    required property SplitScreen split
+    // Null until the launch is through; until then the window shows its colours.
+    property SplitScreen split: null
     required property QtPresenter presenter
     required property color accent
     property bool dark: false
@@ -19,7 +20,14 @@ Window {
     visible: true
     title: "Lumora"
     color: Theme.background
-    onWidthChanged: root.split.setWidth(width)
+    onWidthChanged: root.split?.setWidth(width)
+    onSplitChanged: {
+        if (root.split !== null) {
+            panes.setSource("qrc:/Lumora/Panes.qml", {
+                split: root.split
+            });
+        }
+    }
 
     Binding {
         target: Theme
@@ -31,9 +39,15 @@ Window {
         property: "accentPrimary"
         value: root.accent
     }
-    Panes {
+    Rectangle {
+        width: parent.width
+        height: Theme.barHeight
+        color: Theme.barBackground
+        visible: panes.status !== Loader.Ready
+    }
+    Loader {
+        id: panes
         anchors.fill: parent
-        split: root.split
         enabled: !root.presenter.asking
         focus: true
     }
