@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "export/verb_export.h"
+
+#include "qt/qt_java_script_context.h"
+#include "support/world.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+// The real engine and the real library.
+namespace lumora::exporting {
+namespace {
+
+using support::contentOf;
+using support::writeContent;
+using testing::HasSubstr;
+using testing::Not;
+
+const std::filesystem::path kShare{LUMORA_SHARE_DIR};
+
+std::shared_ptr<const data::Conjugation> form(std::string pronoun, std::string verb)
+{
+    return std::make_shared<const data::Conjugation>(
+        data::Conjugation{std::move(pronoun), std::move(verb), "", 0});
+}
+
+class RenderingTest : public testing::Test {
+protected:
+    RenderingTest()
+    {
+        for (const char* name :
+             {"mustache.min.js", "export_html.mustache", "export_txt.mustache"}) {
+            world.bundle.resources[name] = kShare / name;
+        }
+        verb.french = "aimer";
+        verb.english = "love";
+    }
+
+    void replaceTemplate(const std::string& name, std::string_view content)
+    {
+        writeContent(world.folder / name, content);
+        world.bundle.resources[name] = world.folder / name;
+    }
+
+    VerbRenderings render()
+    {
+        auto renderings = VerbExport{}.exportVerb(verb, world.services(), contexts);
+        EXPECT_TRUE(renderings && *renderings) << world.console.str();
+        return renderings && *renderings ? **renderings : VerbRenderings{};
+    }
+
+    support::World world;
+    qt::QtJavaScriptContextFactory contexts;
+    data::Verb verb;
+};
+
+TEST_F(RenderingTest, TextsArriveUnchanged)
+{
+    replaceTemplate("export_txt.mustache",
+                    "{{#Imperatif}}<{{{pronoun}}}|{{{verb}}}>{{/Imperatif}}");
+    const std::string texts[] = {
+        "j'",
+        "il/elle/on",
+        "a\"b",
+        R"(a\b)",
+        R"(\u0041 \n \/)",
+        "`",
+        "${alert(1)}",
+        "`, {}); throw 1; //",
+        "a\u2028b\u2029c",
+        "line\nand\ttab\r",
+        "</script>",
+        "{{french}} {{{french}}}",
+        "été œuf 😀 e\u0301",
+        std::string{"a\0b", 3},
+        "\x01\x7F",
+    };
+    for (const auto& text : texts) {
+        SCOPED_TRACE(text);
+        verb.imperatif = {form(text, "x"), form("", text)};
+        EXPECT_EQ(render().text, "<" + text + "|x><|" + text + ">");
+    }
+    EXPECT_EQ(world.console.str(), "");
+}
+
+TEST_F(RenderingTest, ATemplateThatBreaksTheScriptIsRenderedAsTheWordUndefined)
+{
+    struct {
+        const char* html;
+        const char* why;
+    } cases[] = {
+        {"a ` b", "the backtick ends the template"},
+        {"${missing}", "an expression, and of an unknown name"},
+        {"{{#french}}", "Mustache itself throws"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        world.console.str({});
+        replaceTemplate("export_html.mustache", c.html);
+        replaceTemplate("export_txt.mustache", "{{french}}");
+
+        const auto renderings = render();
+
+        EXPECT_EQ(renderings.html, "undefined");
+        EXPECT_EQ(renderings.text, "aimer") << "the other one is not touched";
+        EXPECT_TRUE(world.console.str().starts_with("JS Error: ")) << world.console.str();
+    }
+}
+
+TEST_F(RenderingTest, ShippedTemplatesSuitTheScript)
+{
+    for (const char* name : {"export_html.mustache", "export_txt.mustache"}) {
+        const auto content = contentOf(kShare / name);
+        EXPECT_THAT(content, HasSubstr("{{#SubjonctifPlusqueParfait}}"));
+        EXPECT_THAT(content, Not(HasSubstr("`")));
+        EXPECT_THAT(content, Not(HasSubstr("${")));
+        EXPECT_THAT(content, Not(HasSubstr("\\"))) << "the script would take it for an escape";
+    }
+}
+
+TEST_F(RenderingTest, PlainTextReadsAsFrenchIsWritten)
+{
+    verb.indicatifPresent = {form("j'", "aime"), form("il/elle/on", "aime")};
+    verb.subjonctifPasse = {form("que je m'", "en aille"), form("que je me", "sois")};
+    verb.imperatif = {form("", "aime")};
+    world.bundle.texts = {{"tense.ind", "Mode de l'indicatif"}};
+
+    const auto text = render().text;
+
+    EXPECT_TRUE(text.starts_with("aimer (love)\n\n")) << text;
+    for (const char* line :
+         {"    j'aime\n", "    il/elle/on aime\n", "    que je m'en aille\n",
+          "    que je me sois\n", "    aime\n", "=== Mode de l'indicatif ===\n"}) {
+        EXPECT_THAT(text, HasSubstr(line));
+    }
+    EXPECT_THAT(text, HasSubstr("tense.other.participle\n    –\n")) << "an empty tense";
+    EXPECT_THAT(text, Not(HasSubstr("&")));
+    EXPECT_THAT(text, Not(HasSubstr("{{")));
+}
+
+TEST_F(RenderingTest, ThePageShowsMarkupAsTheTextItIs)
+{
+    const std::string hostile = "</td></table><script>alert('x')</script>\"&";
+    verb.french = hostile;
+    verb.english = hostile;
+    verb.indicatifPresent = {form(hostile, hostile)};
+    for (const char* key : {"tense.ind", "tense.ind.present"}) {
+        world.bundle.texts[key] = hostile;
+    }
+
+    const auto html = render().html;
+
+    EXPECT_THAT(html, Not(HasSubstr("<script")));
+    EXPECT_THAT(html, HasSubstr("&lt;script&gt;"));
+    const auto tables = [](const std::string& page, const std::string& tag) {
+        std::size_t count = 0;
+        for (auto at = page.find(tag); at != std::string::npos; at = page.find(tag, at + 1)) {
+            ++count;
+        }
+        return count;
+    };
+    EXPECT_EQ(tables(html, "<table"), tables(html, "</table>"));
+    EXPECT_TRUE(html.ends_with("</body>\n</html>\n"));
+}
+
+TEST_F(RenderingTest, ThePageNeedsNothingFromOutside)
+{
+    const auto html = render().html;
+    for (const char* link : {"http", "src=", "href", "url(", "@import"}) {
+        EXPECT_THAT(html, Not(HasSubstr(link))) << link;
+    }
+    EXPECT_THAT(html, HasSubstr("<p class=\"translation\">love</p>"));
+    world.settings.setValue(std::string{"tr"}, "translation_language");
+    EXPECT_THAT(render().html, Not(HasSubstr("<p class=\"translation\">")));
+}
+
+} // namespace
+} // namespace lumora::exporting
