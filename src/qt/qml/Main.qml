@@ -50,6 +50,7 @@ Window {
         anchors.fill: parent
         enabled: !root.presenter.asking
         focus: true
+        onLoaded: item.focus = true
     }
     Loader {
         anchors.fill: parent
