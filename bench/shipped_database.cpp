@@ -14,8 +14,8 @@ ShippedDatabase::ShippedDatabase()
 
 platform::Services ShippedDatabase::services()
 {
-    return {notifications, settings, bundle_, device_,    clock_,     crashReporter_,
-            analytics_,    console_, views_,  presenter_, storyboard_};
+    return {notifications, settings, bundle_,    device_,     clock_,  crashReporter_, analytics_,
+            console_,      views_,   presenter_, storyboard_, speech_, audioSession_};
 }
 
 } // namespace lumora::bench

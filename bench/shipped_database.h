@@ -8,10 +8,12 @@
 #include "platform/notification_center.h"
 #include "platform/services.h"
 #include "platform/settings_store.h"
+#include "support/fake_audio_session.h"
 #include "support/fake_bundle.h"
 #include "support/fake_clock.h"
 #include "support/fake_device.h"
 #include "support/fake_presenter.h"
+#include "support/fake_speech_synthesizer.h"
 #include "support/fake_table_view.h"
 #include "support/recording_analytics.h"
 #include "support/recording_crash_reporter.h"
@@ -47,6 +49,8 @@ private:
     support::FakeViewFactory views_;
     app::MainStoryboard storyboard_;
     support::FakePresenter presenter_{&storyboard_};
+    support::FakeSpeechSynthesizerFactory speech_;
+    support::FakeAudioSession audioSession_;
 };
 
 } // namespace lumora::bench

@@ -5,14 +5,16 @@
 
 #include "data/favourite_statements.h"
 #include "data/verb_reader.h"
+#include "detail/audio_utils.h"
 #include "detail/history_record.h"
-#include "detail/tense_table.h"
 #include "platform/analytics.h"
+#include "platform/audio_session.h"
 #include "platform/bundle.h"
 #include "platform/clock.h"
 #include "platform/crash_reporter.h"
 #include "platform/database_queue.h"
 #include "platform/device.h"
+#include "platform/presenter.h"
 #include "platform/settings_store.h"
 #include "platform/split_view_controller.h"
 #include "platform/view_factory.h"
@@ -20,7 +22,7 @@
 
 #include <algorithm>
 #include <any>
-#include <array>
+#include <ostream>
 #include <utility>
 
 namespace lumora::detail {
@@ -43,6 +45,12 @@ template <typename Counts>
 int countForSegment(const Counts& counts, int segment)
 {
     return segment >= 0 && segment < kMoodCount ? counts[static_cast<std::size_t>(segment)] : 0;
+}
+
+/// The mood whose rings belong to `segment`.
+std::size_t moodOf(int segment)
+{
+    return static_cast<std::size_t>(std::clamp(segment, 0, kMoodCount - 1));
 }
 
 std::shared_ptr<CERoundProgressView> makePlayIndicator()
@@ -345,23 +353,35 @@ platform::TableCell VerbDetailTableViewController::cellForRow(platform::IndexPat
     const auto& form = *(*block.forms)[static_cast<std::size_t>(path.row)];
     cell.text = form.pronoun;
     cell.detailText = form.verb;
-    cell.control = playControlFor(path);
+    cell.control = platform::PlayControl{indicatorFor(path)};
     return cell;
 }
 
-platform::PlayControl VerbDetailTableViewController::playControlFor(platform::IndexPath path)
+void VerbDetailTableViewController::accessoryButtonTapped(platform::IndexPath path)
+{
+    const auto block = blockAt(verbTypeSegmentedControl.selected, path.section - 1);
+    if (block.forms != nullptr && path.row >= 0 &&
+        static_cast<std::size_t>(path.row) < block.forms->size()) {
+        const auto form = (*block.forms)[static_cast<std::size_t>(path.row)];
+        play(*form, indicatorFor(path));
+    }
+}
+
+std::shared_ptr<CERoundProgressView>
+VerbDetailTableViewController::indicatorFor(platform::IndexPath path)
 {
     // Kept for the row, so that a redrawn row shows the ring it had.
     const auto section = static_cast<std::size_t>(path.section);
     const auto row = static_cast<std::size_t>(path.row);
-    if (rowIndicators_.size() <= section) {
-        rowIndicators_.resize(section + 1);
+    auto& sections = rowIndicators_[moodOf(verbTypeSegmentedControl.selected)];
+    if (sections.size() <= section) {
+        sections.resize(section + 1);
     }
-    auto& indicators = rowIndicators_[section];
+    auto& indicators = sections[section];
     while (indicators.size() <= row) {
         indicators.push_back(makePlayIndicator());
     }
-    return {indicators[row]};
+    return indicators[row];
 }
 
 int VerbDetailTableViewController::numberOfItems()
@@ -373,23 +393,30 @@ int VerbDetailTableViewController::numberOfItems()
     return countForSegment(kCollectionItems, verbTypeSegmentedControl.selected);
 }
 
-platform::CollectionCell VerbDetailTableViewController::cellForItem(int item)
+VerbCollectionViewCell& VerbDetailTableViewController::collectionCell(int item)
 {
+    auto& cells = cells_[moodOf(verbTypeSegmentedControl.selected)];
     const auto index = static_cast<std::size_t>(std::max(item, 0));
-    if (cells_.size() <= index) {
-        cells_.resize(index + 1);
+    if (cells.size() <= index) {
+        cells.resize(index + 1);
     }
-    auto& cell = cells_[index];
-    const auto block = blockAt(verbTypeSegmentedControl.selected, item);
-
-    cell.audioWidthConstraint.fill(0);
-    cell.audioPaddingConstraint.fill(0);
-    cell.titleLabel = block.title.value_or(std::string{});
+    auto& cell = cells[index];
     for (auto& indicator : cell.progressView) {
         if (!indicator) {
             indicator = makePlayIndicator();
         }
     }
+    return cell;
+}
+
+platform::CollectionCell VerbDetailTableViewController::cellForItem(int item)
+{
+    auto& cell = collectionCell(item);
+    const auto block = blockAt(verbTypeSegmentedControl.selected, item);
+
+    cell.audioWidthConstraint.fill(0);
+    cell.audioPaddingConstraint.fill(0);
+    cell.titleLabel = block.title.value_or(std::string{});
     const std::size_t count = block.forms == nullptr ? 0 : block.forms->size();
     for (std::size_t line = 0; line < VerbCollectionViewCell::kLines; ++line) {
         const bool filled = line < count;
@@ -418,6 +445,108 @@ platform::CollectionLayout VerbDetailTableViewController::layout()
     return {300, 300, 20, 20};
 }
 
-void VerbDetailTableViewController::audioTapped(int /*item*/, int /*row*/) {}
+void VerbDetailTableViewController::audioTapped(int item, int row)
+{
+    const int segment = verbTypeSegmentedControl.selected;
+    if (!selectedVerb || item < 0 || item >= countForSegment(kCollectionItems, segment)) {
+        return;
+    }
+    constexpr int kSection = 0;
+    services_.console << "Row " << item << ", section: " << kSection << std::endl;
+    const auto block = blockAt(segment, item);
+    const auto line = static_cast<std::size_t>(std::max(row, 0));
+    if (row >= 0 && line < VerbCollectionViewCell::kLines && block.forms != nullptr &&
+        line < block.forms->size()) {
+        const auto form = (*block.forms)[line];
+        play(*form, collectionCell(item).progressView[line]);
+    }
+}
+
+void VerbDetailTableViewController::play(const data::Conjugation& form,
+                                         std::shared_ptr<CERoundProgressView> indicator)
+{
+    if (!selectedVerb) {
+        services_.console << "It shouldn't be possible for the verb to be null when we reach here."
+                          << std::endl;
+        return;
+    }
+    warnOfLowVolume();
+    if (speechSynthesizer().isSpeaking()) {
+        stopPlayback();
+    }
+    currentAudioProgress = std::move(indicator);
+    prepareAudioSession();
+    speechSynthesizer().setDelegate(this);
+    speechSynthesizer().speak(AudioUtils::utteranceFor(form, services_.settings));
+}
+
+platform::SpeechSynthesizer& VerbDetailTableViewController::speechSynthesizer()
+{
+    if (!speechSynthesizer_) {
+        speechSynthesizer_ = services_.speech.makeSpeechSynthesizer();
+    }
+    return *speechSynthesizer_;
+}
+
+void VerbDetailTableViewController::warnOfLowVolume()
+{
+    const double now = services_.clock.secondsSince1970();
+    if (!AudioUtils::isVolumeWarningDue(services_.audioSession.outputVolume(), now,
+                                        services_.settings)) {
+        return;
+    }
+    services_.presenter.presentAlert(*this,
+                                     {std::nullopt,
+                                      localizedString(services_.bundle, "volume.low.warning"),
+                                      {{localizedString(services_.bundle, "common.ok"),
+                                        platform::ActionStyle::Cancel, nullptr}}});
+    services_.settings.setValue(now, settings::kTimeAudioWarning);
+    if (const auto written = services_.settings.synchronize(); !written) {
+        services_.console << "Unable to write the settings: " << written.error().message
+                          << std::endl;
+    }
+}
+
+void VerbDetailTableViewController::prepareAudioSession()
+{
+    auto& session = services_.audioSession;
+    const auto ready = session.setCategoryPlayback().and_then([&] { return session.activate(); });
+    if (!ready) {
+        services_.console << "Error: Could not set audio category: " << ready.error().message
+                          << ", {code = " << ready.error().code << '}' << std::endl;
+    }
+}
+
+void VerbDetailTableViewController::stopPlayback()
+{
+    speechSynthesizer().stopSpeaking();
+    if (currentAudioProgress) {
+        currentAudioProgress->setProgress(0);
+    }
+    if (const auto invalidate = std::exchange(audioTimer, nullptr)) {
+        invalidate();
+    }
+}
+
+void VerbDetailTableViewController::willSpeakRange(std::size_t location, std::size_t /*length*/,
+                                                   const platform::Utterance& utterance)
+{
+    if (currentAudioProgress) {
+        currentAudioProgress->setProgress(AudioUtils::progressAt(location, utterance), false);
+    }
+}
+
+void VerbDetailTableViewController::didFinish(const platform::Utterance& /*utterance*/)
+{
+    if (currentAudioProgress) {
+        currentAudioProgress->setProgress(1);
+    }
+    stopPlayback();
+}
+
+void VerbDetailTableViewController::didCancel(const platform::Utterance& /*utterance*/)
+{
+    stopPlayback();
+}
 
 } // namespace lumora::detail

@@ -4,13 +4,17 @@
 #pragma once
 
 #include "data/verb.h"
+#include "detail/tense_table.h"
 #include "detail/verb_collection_view_cell.h"
 #include "platform/collection_view.h"
 #include "platform/notification_center.h"
 #include "platform/services.h"
+#include "platform/speech_synthesizer.h"
 #include "platform/table_view.h"
 #include "platform/view_controller.h"
 
+#include <array>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -45,13 +49,15 @@ struct Toolbar {
 };
 
 /// One verb: its conjugations by mood, as a table and as a collection of the
-/// same data, the favourite toggle, and the record of having been seen.
+/// same data, spoken one at a time, the favourite toggle, and the record of
+/// having been seen.
 ///
 /// The verb is handed over before the screen is built; a screen shows one verb
 /// for its life. GUI thread only.
 class VerbDetailTableViewController final : public platform::ViewController,
                                             public platform::TableDataSource,
-                                            public platform::CollectionDataSource {
+                                            public platform::CollectionDataSource,
+                                            public platform::SpeechSynthesizerDelegate {
 public:
     explicit VerbDetailTableViewController(const platform::Services& services);
     ~VerbDetailTableViewController() override;
@@ -73,6 +79,11 @@ public:
     /// The shared queue. Not owned.
     platform::DatabaseQueue* queue = nullptr;
     data::VerbPtr selectedVerb;
+    /// Invalidates a timer. Nothing is ever scheduled: the speech alone moves
+    /// the ring.
+    std::function<void()> audioTimer;
+    /// The ring of the row spoken last.
+    std::shared_ptr<CERoundProgressView> currentAudioProgress;
     /// Whether the screen is shown as a preview.
     bool isPeeking = false;
 
@@ -92,12 +103,18 @@ public:
     int numberOfRowsInSection(int section) override;
     std::optional<std::string> titleForHeaderInSection(int section) override;
     platform::TableCell cellForRow(platform::IndexPath path) override;
+    void accessoryButtonTapped(platform::IndexPath path) override;
 
     int numberOfItems() override;
     platform::CollectionCell cellForItem(int item) override;
     std::string headerText() override;
     platform::CollectionLayout layout() override;
     void audioTapped(int item, int row) override;
+
+    void willSpeakRange(std::size_t location, std::size_t length,
+                        const platform::Utterance& utterance) override;
+    void didFinish(const platform::Utterance& utterance) override;
+    void didCancel(const platform::Utterance& utterance) override;
 
 protected:
     void viewDidLoad() override;
@@ -122,15 +139,25 @@ private:
     void updateEmptyState(double toolbarHeight);
     void outletsChanged();
     void logReadingError(const platform::Database& database);
-    platform::PlayControl playControlFor(platform::IndexPath path);
+    std::shared_ptr<CERoundProgressView> indicatorFor(platform::IndexPath path);
+    VerbCollectionViewCell& collectionCell(int item);
+    void play(const data::Conjugation& form, std::shared_ptr<CERoundProgressView> indicator);
+    void stopPlayback();
+    void warnOfLowVolume();
+    void prepareAudioSession();
+    platform::SpeechSynthesizer& speechSynthesizer();
 
     platform::Services services_;
-    std::vector<VerbCollectionViewCell> cells_;
-    std::vector<std::vector<std::shared_ptr<CERoundProgressView>>> rowIndicators_;
+    // By mood, so that a ring stays with its form when the mood changes.
+    std::array<std::vector<VerbCollectionViewCell>, kMoodCount> cells_;
+    std::array<std::vector<std::vector<std::shared_ptr<CERoundProgressView>>>, kMoodCount>
+        rowIndicators_;
     std::function<void()> outletListener_;
     bool buttonsEnabled_ = false;
     platform::NotificationCenter::Subscription refresh_;
     platform::NotificationCenter::Subscription favouriteToggled_;
+    /// Made on first use.
+    std::unique_ptr<platform::SpeechSynthesizer> speechSynthesizer_;
 };
 
 } // namespace lumora::detail

@@ -8,6 +8,7 @@
 namespace lumora::platform {
 
 class Analytics;
+class AudioSession;
 class Bundle;
 class Clock;
 class CrashReporter;
@@ -15,6 +16,7 @@ class Device;
 class NotificationCenter;
 class Presenter;
 class SettingsStore;
+class SpeechSynthesizerFactory;
 class Storyboard;
 class ViewFactory;
 
@@ -33,6 +35,8 @@ struct Services {
     ViewFactory& views;
     Presenter& presenter;
     Storyboard& storyboard;
+    SpeechSynthesizerFactory& speech;
+    AudioSession& audioSession;
 };
 
 } // namespace lumora::platform

@@ -91,6 +91,13 @@ bool scalarLess(std::string_view left, std::string_view right)
     return composed(left) < composed(right);
 }
 
+std::size_t characterCount(std::string_view text)
+{
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80;
+    }));
+}
+
 std::string wellFormed(std::string_view text)
 {
     return isPlainLatin(text) ? std::string(text) : encoded(decoded(text));

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,9 @@ std::string composed(std::string_view text);
 
 /// Orders by the scalar values of the composed forms, no collation.
 bool scalarLess(std::string_view left, std::string_view right);
+
+/// How many scalar values a well-formed text has.
+std::size_t characterCount(std::string_view text);
 
 /// Well-formed UTF-8 with each malformed sequence replaced.
 std::string wellFormed(std::string_view text);

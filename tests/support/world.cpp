@@ -70,8 +70,8 @@ World::~World() = default;
 
 platform::Services World::services()
 {
-    return {notifications, settings, bundle, device,    clock,     crashReporter,
-            analytics,     console,  views,  presenter, storyboard};
+    return {notifications, settings, bundle,    device,     clock,  crashReporter, analytics,
+            console,       views,    presenter, storyboard, speech, audioSession};
 }
 
 void World::execute(const std::string& sql)

@@ -10,10 +10,12 @@
 #include "platform/services.h"
 #include "platform/settings_store.h"
 #include "platform/table_view_controller.h"
+#include "support/fake_audio_session.h"
 #include "support/fake_bundle.h"
 #include "support/fake_clock.h"
 #include "support/fake_device.h"
 #include "support/fake_presenter.h"
+#include "support/fake_speech_synthesizer.h"
 #include "support/fake_table_view.h"
 #include "support/recording_analytics.h"
 #include "support/recording_crash_reporter.h"
@@ -70,6 +72,8 @@ public:
     FakeViewFactory views;
     app::MainStoryboard storyboard;
     FakePresenter presenter{&storyboard};
+    FakeSpeechSynthesizerFactory speech;
+    FakeAudioSession audioSession;
     std::unique_ptr<platform::DatabaseQueue> queue;
 
 private:

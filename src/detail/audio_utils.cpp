@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "detail/audio_utils.h"
+
+#include "data/conjugation.h"
+#include "platform/settings_store.h"
+#include "platform/text.h"
+#include "settings/setting_keys.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <variant>
+
+namespace lumora::detail {
+
+namespace {
+
+constexpr std::string_view kLanguage = "fr";
+constexpr float kLowVolume = 0.15F;
+constexpr double kSecondsOfADay = 86400;
+/// Visible from the first word on.
+constexpr float kLeastProgress = 0.1F;
+/// Ahead of the voice, so that the ring looks full when the last word begins.
+constexpr float kHaste = 1.1F;
+
+std::string spokenText(const data::Conjugation& form)
+{
+    std::string text;
+    for (const char c : form.pronoun) {
+        if (c == '/') {
+            text += " ou ";
+        } else {
+            text += c;
+        }
+    }
+    if (!text.ends_with('\'')) {
+        text += ' ';
+    }
+    return text + form.verb;
+}
+
+/// As precise as stored: a float would be minutes off.
+double numberOf(const platform::SettingValue& value)
+{
+    return std::visit(
+        [](const auto& stored) {
+            if constexpr (std::is_arithmetic_v<std::decay_t<decltype(stored)>>) {
+                return static_cast<double>(stored);
+            } else {
+                return 0.0;
+            }
+        },
+        value);
+}
+
+} // namespace
+
+platform::Utterance AudioUtils::utteranceFor(const data::Conjugation& form,
+                                             const platform::SettingsStore& settings)
+{
+    const float speed = settings.floatForKey(settings::kAudioSpeed);
+    const float factor = speed > 0 ? speed : 1;
+    return {spokenText(form), std::string{kLanguage}, platform::kDefaultSpeechRate * factor};
+}
+
+float AudioUtils::progressAt(std::size_t location, const platform::Utterance& utterance)
+{
+    const auto count = std::max<std::size_t>(platform::characterCount(utterance.text), 1);
+    return std::max(kLeastProgress,
+                    static_cast<float>(location) / static_cast<float>(count) * kHaste);
+}
+
+bool AudioUtils::isVolumeWarningDue(float volume, double now,
+                                    const platform::SettingsStore& settings)
+{
+    if (volume >= kLowVolume) {
+        return false;
+    }
+    const auto last = settings.objectForKey(settings::kTimeAudioWarning);
+    return !last || now - numberOf(*last) > kSecondsOfADay;
+}
+
+} // namespace lumora::detail

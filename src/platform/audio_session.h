@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/error.h"
+
+namespace lumora::platform {
+
+/// The program's part in what the machine plays. No call waits for the machine.
+class AudioSession {
+public:
+    virtual ~AudioSession() = default;
+    /// 0 to 1; 0 while the output is muted, 1 where there is none.
+    virtual float outputVolume() const = 0;
+    /// The program is about to play, and to go on when the machine is silenced.
+    virtual Result<void> setCategoryPlayback() = 0;
+    virtual Result<void> activate() = 0;
+};
+
+} // namespace lumora::platform

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/espeak_voice.h"
+
+#include "qt/spoken_text.h"
+#include "qt/time_stretch.h"
+
+#include <espeak-ng/speak_lib.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <mutex>
+#include <string>
+#include <utility>
+
+namespace lumora::qt {
+
+namespace {
+
+/// Slower would be no speech any more, and no end of samples.
+constexpr float kSlowestRate = platform::kDefaultSpeechRate / 10;
+
+std::mutex& libraryLock()
+{
+    static std::mutex lock;
+    return lock;
+}
+
+int initializeLibrary()
+{
+    static const int sampleRate =
+        espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, 0, nullptr, espeakINITIALIZE_DONT_EXIT);
+    return sampleRate;
+}
+
+/// What the library's callback fills.
+struct Recording {
+    const SpokenText& text;
+    const std::atomic<bool>& cancelled;
+    Speech speech;
+};
+
+void recordEvent(Recording& recording, const espeak_EVENT& event)
+{
+    // Clauses end with an empty word, which is not one.
+    if (event.type != espeakEVENT_WORD || event.length <= 0 || event.text_position <= 0) {
+        return;
+    }
+    const auto [location, length] = recording.text.writtenRange(
+        static_cast<std::size_t>(event.text_position - 1), static_cast<std::size_t>(event.length));
+    recording.speech.words.push_back(
+        {location, length, static_cast<std::size_t>(std::max(event.sample, 0))});
+}
+
+int onSamples(short* samples, int count, espeak_EVENT* events)
+{
+    auto& recording = *static_cast<Recording*>(events->user_data);
+    for (const auto* event = events; event->type != espeakEVENT_LIST_TERMINATED; ++event) {
+        recordEvent(recording, *event);
+    }
+    if (samples != nullptr && count > 0) {
+        recording.speech.samples.insert(recording.speech.samples.end(), samples, samples + count);
+    }
+    return recording.cancelled ? 1 : 0;
+}
+
+platform::Result<Speech> speakAtRate(const SpokenText& text, int wordsAMinute, int sampleRate,
+                                     const std::atomic<bool>& cancelled)
+{
+    Recording recording{text, cancelled, {sampleRate, {}, {}}};
+    espeak_SetSynthCallback(&onSamples);
+    espeak_SetParameter(espeakRATE, wordsAMinute, 0);
+    const auto done = espeak_Synth(text.text().c_str(), text.text().size() + 1, 0, POS_CHARACTER, 0,
+                                   espeakCHARS_UTF8, nullptr, &recording);
+    if (cancelled) {
+        return tl::unexpected{platform::Error{"Cancelled", 0}};
+    }
+    if (done != EE_OK) {
+        return tl::unexpected{platform::Error{"The engine could not speak", done}};
+    }
+    return std::move(recording.speech);
+}
+
+void stretch(Speech& speech, std::size_t length)
+{
+    const auto before = speech.samples.size();
+    speech.samples = stretched(speech.samples, speech.sampleRate, length);
+    for (auto& word : speech.words) {
+        word.sample = before == 0 ? 0 : word.sample * speech.samples.size() / before;
+    }
+}
+
+} // namespace
+
+EspeakVoice::EspeakVoice() : sampleRate_{initializeLibrary()} {}
+
+platform::Result<Speech> EspeakVoice::synthesize(const platform::Utterance& utterance,
+                                                 const std::atomic<bool>& cancelled) const
+{
+    if (sampleRate_ <= 0) {
+        return tl::unexpected{platform::Error{"The engine's data are missing", sampleRate_}};
+    }
+    const std::scoped_lock lock{libraryLock()};
+    if (const auto chosen = espeak_SetVoiceByName(utterance.language.c_str()); chosen != EE_OK) {
+        return tl::unexpected{platform::Error{"No voice speaks " + utterance.language, chosen}};
+    }
+    const SpokenText text{utterance.text};
+    if (utterance.rate >= espeakRATE_MINIMUM) {
+        const auto rate = std::min(utterance.rate, static_cast<float>(espeakRATE_MAXIMUM));
+        return speakAtRate(text, static_cast<int>(std::lround(rate)), sampleRate_, cancelled);
+    }
+    // The engine's slowest, and then as long as the rate asks for. Its rates are
+    // rough, so the length comes from the speech itself at the usual one.
+    const auto usual =
+        speakAtRate(text, static_cast<int>(platform::kDefaultSpeechRate), sampleRate_, cancelled);
+    auto speech = speakAtRate(text, espeakRATE_MINIMUM, sampleRate_, cancelled);
+    if (usual && speech) {
+        const float factor = platform::kDefaultSpeechRate / std::max(utterance.rate, kSlowestRate);
+        stretch(*speech, static_cast<std::size_t>(
+                             std::lround(static_cast<float>(usual->samples.size()) * factor)));
+    }
+    return speech;
+}
+
+} // namespace lumora::qt

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/error.h"
+#include "platform/speech_synthesizer.h"
+#include "qt/speech.h"
+
+#include <atomic>
+
+namespace lumora::qt {
+
+/// Turns utterances into sound with the eSpeak NG library.
+///
+/// Made on the GUI thread, before other threads look at the locale, which the
+/// library sets; speaks on any one. The library has one state for the whole
+/// process and keeps it.
+class EspeakVoice {
+public:
+    EspeakVoice();
+
+    /// Ends early with an error once `cancelled` is true. Slower than the
+    /// engine goes, the sound is stretched.
+    platform::Result<Speech> synthesize(const platform::Utterance& utterance,
+                                        const std::atomic<bool>& cancelled) const;
+
+private:
+    /// In a second; negative when the engine has no data to work with.
+    int sampleRate_;
+};
+
+} // namespace lumora::qt

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/pulse_audio_session.h"
+
+#include <pulse/context.h>
+#include <pulse/error.h>
+#include <pulse/introspect.h>
+#include <pulse/subscribe.h>
+#include <pulse/thread-mainloop.h>
+#include <pulse/volume.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace lumora::qt {
+
+namespace {
+
+constexpr float kNoOutput = 1;
+/// The server counts in steps that do not meet the percent of its sliders.
+constexpr double kPrecision = 1000;
+
+/// Holds the client library's thread up for its scope.
+class LoopLock {
+public:
+    explicit LoopLock(pa_threaded_mainloop* loop) : loop_{loop} { pa_threaded_mainloop_lock(loop); }
+    LoopLock(const LoopLock&) = delete;
+    LoopLock& operator=(const LoopLock&) = delete;
+    ~LoopLock() { pa_threaded_mainloop_unlock(loop_); }
+
+private:
+    pa_threaded_mainloop* loop_;
+};
+
+void drop(pa_operation* operation)
+{
+    if (operation != nullptr) {
+        pa_operation_unref(operation);
+    }
+}
+
+float volumeOf(const pa_sink_info& info)
+{
+    if (info.mute != 0) {
+        return 0;
+    }
+    const double part = static_cast<double>(pa_cvolume_max(&info.volume)) / PA_VOLUME_NORM;
+    return static_cast<float>(std::clamp(std::round(part * kPrecision) / kPrecision, 0.0, 1.0));
+}
+
+} // namespace
+
+void PulseAudioSession::LoopDeleter::operator()(pa_threaded_mainloop* loop) const
+{
+    pa_threaded_mainloop_free(loop);
+}
+
+void PulseAudioSession::ContextDeleter::operator()(pa_context* context) const
+{
+    pa_context_set_state_callback(context, nullptr, nullptr);
+    pa_context_set_subscribe_callback(context, nullptr, nullptr);
+    pa_context_disconnect(context);
+    pa_context_unref(context);
+}
+
+PulseAudioSession::PulseAudioSession() : loop_{pa_threaded_mainloop_new()}
+{
+    if (!loop_ || pa_threaded_mainloop_start(loop_.get()) < 0) {
+        error_ = PA_ERR_INTERNAL;
+        loop_.reset();
+        return;
+    }
+    const LoopLock lock{loop_.get()};
+    connect();
+}
+
+PulseAudioSession::~PulseAudioSession()
+{
+    if (loop_) {
+        {
+            const LoopLock lock{loop_.get()};
+            context_.reset();
+        }
+        pa_threaded_mainloop_stop(loop_.get());
+    }
+}
+
+platform::Result<void> PulseAudioSession::activate()
+{
+    const int error = error_;
+    if (error == 0) {
+        return {};
+    }
+    if (loop_) {
+        const LoopLock lock{loop_.get()};
+        connect();
+    }
+    return tl::unexpected{platform::Error{pa_strerror(error), error}};
+}
+
+void PulseAudioSession::connect()
+{
+    error_ = 0;
+    context_.reset(pa_context_new(pa_threaded_mainloop_get_api(loop_.get()), "Lumora"));
+    if (!context_) {
+        error_ = PA_ERR_INTERNAL;
+        return;
+    }
+    pa_context_set_state_callback(
+        context_.get(),
+        [](pa_context* context, void* self) {
+            static_cast<PulseAudioSession*>(self)->stateChanged(context);
+        },
+        this);
+    if (pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
+        error_ = pa_context_errno(context_.get());
+    }
+}
+
+void PulseAudioSession::stateChanged(pa_context* context)
+{
+    const auto state = pa_context_get_state(context);
+    if (!PA_CONTEXT_IS_GOOD(state)) {
+        error_ = std::max(pa_context_errno(context), 1);
+        volume_ = kNoOutput;
+    } else if (state == PA_CONTEXT_READY) {
+        pa_context_set_subscribe_callback(
+            context,
+            [](pa_context* changed, pa_subscription_event_type_t, std::uint32_t, void* self) {
+                static_cast<PulseAudioSession*>(self)->query(changed);
+            },
+            this);
+        // The server itself says when another output becomes the default.
+        drop(pa_context_subscribe(context,
+                                  static_cast<pa_subscription_mask_t>(PA_SUBSCRIPTION_MASK_SINK |
+                                                                      PA_SUBSCRIPTION_MASK_SERVER),
+                                  nullptr, nullptr));
+        query(context);
+    }
+}
+
+void PulseAudioSession::query(pa_context* context)
+{
+    drop(pa_context_get_sink_info_by_name(
+        context, "@DEFAULT_SINK@",
+        [](pa_context*, const pa_sink_info* info, int end, void* self) {
+            static_cast<PulseAudioSession*>(self)->sinkInfo(info, end);
+        },
+        this));
+}
+
+void PulseAudioSession::sinkInfo(const pa_sink_info* info, int end)
+{
+    if (info != nullptr) {
+        volume_ = volumeOf(*info);
+    } else if (end < 0) {
+        volume_ = kNoOutput;
+    }
+}
+
+} // namespace lumora::qt

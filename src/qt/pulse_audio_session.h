@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/audio_session.h"
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+
+struct pa_context;
+struct pa_sink_info;
+struct pa_threaded_mainloop;
+
+namespace lumora::qt {
+
+/// The default output of the sound server, PulseAudio or PipeWire. A thread of
+/// the client library follows its volume, so that asking for it never waits.
+class PulseAudioSession final : public platform::AudioSession {
+public:
+    /// Begins to connect; never starts a server.
+    PulseAudioSession();
+    ~PulseAudioSession() override;
+
+    float outputVolume() const override { return volume_; }
+    /// A desktop has no such categories.
+    platform::Result<void> setCategoryPlayback() override { return {}; }
+    /// Fails while there is no server, and tries again to reach one.
+    platform::Result<void> activate() override;
+
+private:
+    struct LoopDeleter {
+        void operator()(pa_threaded_mainloop* loop) const;
+    };
+    struct ContextDeleter {
+        void operator()(pa_context* context) const;
+    };
+
+    void connect();
+    // On the library's thread.
+    void stateChanged(pa_context* context);
+    void query(pa_context* context);
+    void sinkInfo(const pa_sink_info* info, int end);
+
+    std::atomic<float> volume_ = 1;
+    /// The library's code of why there is no connection; 0 while there may be.
+    std::atomic<int> error_ = 0;
+    std::unique_ptr<pa_threaded_mainloop, LoopDeleter> loop_;
+    std::unique_ptr<pa_context, ContextDeleter> context_;
+};
+
+} // namespace lumora::qt

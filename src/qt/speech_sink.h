@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "qt/speech.h"
+
+#include <QAudioSink>
+
+#include <chrono>
+#include <memory>
+
+namespace lumora::qt {
+
+/// Plays one speech on the default output device, silently where there is none.
+/// Gone, it is silent at once.
+class SpeechSink {
+public:
+    explicit SpeechSink(const Speech& speech);
+    ~SpeechSink();
+
+    /// How long after its last sample the speech may still be sounding.
+    std::chrono::milliseconds afterlife() const;
+
+private:
+    std::unique_ptr<QAudioSink> sink_;
+};
+
+} // namespace lumora::qt

@@ -1,0 +1,311 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "detail/verb_detail_table_view_controller.h"
+#include "support/world.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace lumora {
+namespace {
+
+using detail::VerbDetailTableViewController;
+using support::FakeSpeechSynthesizer;
+using support::World;
+
+class Pronunciation : public testing::Test {
+protected:
+    Pronunciation()
+    {
+        detail.queue = world.queue.get();
+        detail.selectedVerb = world.verb(3);
+        detail.loadViewIfNeeded();
+    }
+
+    FakeSpeechSynthesizer& voice() { return *world.speech.synthesizers.at(0); }
+    std::size_t spokenCount() const
+    {
+        return world.speech.synthesizers.empty() ? 0 : world.speech.synthesizers[0]->spoken.size();
+    }
+    void say(const std::string& pronoun, const std::string& form)
+    {
+        auto row = std::make_shared<data::Conjugation>();
+        row->pronoun = pronoun;
+        row->verb = form;
+        detail.selectedVerb->indicatifPresent = {row};
+        detail.accessoryButtonTapped({1, 0});
+    }
+    float ringOfRow(platform::IndexPath path)
+    {
+        return ring(std::get<platform::PlayControl>(detail.cellForRow(path).control));
+    }
+    float ringOfLine(int item, std::size_t line)
+    {
+        return ring(detail.cellForItem(item).rows.at(line).control);
+    }
+
+    World world;
+    VerbDetailTableViewController detail{world.services()};
+
+private:
+    static float ring(const platform::PlayControl& control)
+    {
+        return dynamic_cast<const detail::CERoundProgressView&>(*control.indicator).progress();
+    }
+};
+
+TEST_F(Pronunciation, SpeaksThePronounWithTheForm)
+{
+    struct Case {
+        const char* pronoun;
+        const char* form;
+        const char* spoken;
+        const char* why;
+    };
+    const Case cases[] = {
+        {"j'", "aime", "j'aime", "elided: no space"},
+        {"je", "vais", "je vais", "plain"},
+        {"il/elle/on", "aime", "il ou elle ou on aime", "every slash"},
+        {"que je m'", "avère", "que je m'avère", "elided at the end"},
+        {"qu'il/elle/on", "ait", "qu'il ou elle ou on ait", "an apostrophe inside elides nothing"},
+        {"", "va", " va", "without a pronoun the space stays"},
+        {"je", "paie/paye", "je paie/paye", "slashes of the form stay"},
+        {"nous", "sommes allé(e)s", "nous sommes allé(e)s", "the brackets are the voice's matter"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        say(c.pronoun, c.form);
+        EXPECT_EQ(voice().spoken.back().text, c.spoken);
+        EXPECT_EQ(voice().spoken.back().language, "fr");
+    }
+    EXPECT_EQ(world.speech.synthesizers.size(), 1U) << "one synthesizer for the screen";
+}
+
+TEST_F(Pronunciation, TheSettingIsAFactorOnTheDefaultRate)
+{
+    struct Case {
+        std::optional<platform::SettingValue> speed;
+        float factor;
+    };
+    const Case cases[] = {{std::nullopt, 1}, {std::int64_t{0}, 1}, {-0.5, 1},
+                          {0.5, 0.5F},       {0.25, 0.25F},        {0.75, 0.75F},
+                          {2.0, 2},          {std::int64_t{1}, 1}, {std::string{}, 1},
+                          {false, 1}};
+    for (const auto& c : cases) {
+        world.settings.removeValue("audio_speed");
+        if (c.speed) {
+            world.settings.setValue(*c.speed, "audio_speed");
+        }
+        say("je", "vais");
+        EXPECT_EQ(voice().spoken.back().rate, platform::kDefaultSpeechRate * c.factor);
+    }
+}
+
+TEST_F(Pronunciation, WarnsOfALowVolumeOnceADay)
+{
+    struct Case {
+        float volume;
+        std::optional<platform::SettingValue> warned;
+        bool warns;
+        const char* why;
+    };
+    const double now = 1'700'000'000.25;
+    const Case cases[] = {
+        {0.1F, std::nullopt, true, "never warned"},
+        {0.149F, std::nullopt, true, "just below"},
+        {0.15F, std::nullopt, false, "loud enough"},
+        {1, now - 1e6, false, "loud, long after"},
+        {0, now - 86400, false, "a day exactly"},
+        {0, now - 86400.125, true, "more than a day; a float would not tell"},
+        {0, std::int64_t{1'600'000'000}, true, "stored whole"},
+        {0, now + 10, false, "the clock was set back"},
+    };
+    world.clock.now = now;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        world.presenter.alerts.clear();
+        world.settings.removeValue("time_audio_warning");
+        if (c.warned) {
+            world.settings.setValue(*c.warned, "time_audio_warning");
+        }
+        world.audioSession.volume = c.volume;
+        const auto before = spokenCount();
+
+        say("je", "vais");
+
+        EXPECT_EQ(spokenCount(), before + 1) << "the warning holds nothing up";
+        ASSERT_EQ(world.presenter.alerts.size(), c.warns ? 1U : 0U);
+        const auto stored = world.settings.objectForKey("time_audio_warning");
+        if (c.warns) {
+            EXPECT_EQ(stored, platform::SettingValue{now});
+            const auto& [on, alert] = world.presenter.alerts.back();
+            EXPECT_EQ(on, &detail);
+            EXPECT_EQ(alert.title, std::nullopt);
+            EXPECT_EQ(alert.message, "volume.low.warning");
+            ASSERT_EQ(alert.actions.size(), 1U);
+            EXPECT_EQ(alert.actions[0].title, "common.ok");
+            EXPECT_EQ(alert.actions[0].style, platform::ActionStyle::Cancel);
+        } else {
+            EXPECT_EQ(stored, c.warned);
+        }
+    }
+}
+
+TEST_F(Pronunciation, TheRingRunsAheadOfTheWordsAndEmptiesAtTheEnd)
+{
+    say("il/elle", "était");
+    // "il ou elle était" has 16 characters and one more byte.
+    struct Case {
+        std::size_t location;
+        float progress;
+    };
+    const Case cases[] = {
+        {0, 0.1F}, {1, 0.1F}, {6, 6 / 16.0F * 1.1F}, {11, 11 / 16.0F * 1.1F}, {16, 1}};
+    for (const auto& c : cases) {
+        voice().reachWord(c.location, 2);
+        EXPECT_FLOAT_EQ(ringOfRow({1, 0}), c.progress);
+    }
+    int invalidated = 0;
+    detail.audioTimer = [&] { ++invalidated; };
+
+    voice().reachEnd();
+
+    EXPECT_EQ(ringOfRow({1, 0}), 0);
+    EXPECT_EQ(invalidated, 1);
+    EXPECT_FALSE(detail.audioTimer);
+    EXPECT_NE(detail.currentAudioProgress, nullptr);
+    EXPECT_EQ(voice().stops, 0);
+}
+
+TEST_F(Pronunciation, ASecondTapStopsTheFirst)
+{
+    detail.accessoryButtonTapped({1, 0});
+    voice().reachWord(3, 4);
+    EXPECT_GT(ringOfRow({1, 0}), 0.1F);
+    int invalidated = 0;
+    detail.audioTimer = [&] { ++invalidated; };
+
+    detail.accessoryButtonTapped({1, 1});
+
+    EXPECT_EQ(voice().stops, 1);
+    EXPECT_EQ(invalidated, 1);
+    EXPECT_EQ(ringOfRow({1, 0}), 0);
+    EXPECT_EQ(voice().spoken.back().text, "tu vas");
+    EXPECT_TRUE(voice().isSpeaking());
+    voice().reachWord(0, 2);
+    EXPECT_EQ(ringOfRow({1, 0}), 0);
+    EXPECT_FLOAT_EQ(ringOfRow({1, 1}), 0.1F);
+}
+
+TEST_F(Pronunciation, ACancelledUtteranceEmptiesTheRing)
+{
+    detail.accessoryButtonTapped({1, 0});
+    voice().reachWord(3, 4);
+
+    voice().stopSpeaking();
+
+    EXPECT_EQ(ringOfRow({1, 0}), 0);
+    EXPECT_FALSE(voice().isSpeaking());
+}
+
+TEST_F(Pronunciation, AnotherMoodNeitherStopsTheSpeechNorShowsItsRing)
+{
+    detail.accessoryButtonTapped({1, 0});
+    voice().reachWord(3, 4);
+
+    detail.selectVerbTypes(3);
+
+    EXPECT_TRUE(voice().isSpeaking());
+    EXPECT_EQ(ringOfRow({1, 0}), 0) << "the imperative is not being spoken";
+    EXPECT_EQ(ringOfLine(0, 0), 0);
+    detail.selectVerbTypes(0);
+    EXPECT_GT(ringOfRow({1, 0}), 0.1F);
+    voice().reachEnd();
+    EXPECT_EQ(ringOfRow({1, 0}), 0);
+}
+
+TEST_F(Pronunciation, ALineOfTheCollectionSpeaksWithItsOwnRing)
+{
+    detail.audioTapped(0, 1);
+
+    EXPECT_EQ(world.console.str(), "Row 0, section: 0\n");
+    EXPECT_EQ(voice().spoken.back().text, "tu vas");
+    voice().reachWord(3, 3);
+    EXPECT_GT(ringOfLine(0, 1), 0.1F);
+    EXPECT_EQ(ringOfLine(0, 0), 0);
+    detail.audioTapped(1, 0);
+    EXPECT_EQ(world.console.str(), "Row 0, section: 0\nRow 1, section: 0\n");
+    EXPECT_TRUE(voice().isSpeaking()) << "a square without forms changes nothing";
+}
+
+TEST_F(Pronunciation, ATapThatFindsNoFormDoesNothing)
+{
+    const std::function<void()> taps[] = {
+        [&] {
+            detail.accessoryButtonTapped({0, 0});
+        },
+        [&] {
+            detail.accessoryButtonTapped({1, 2});
+        },
+        [&] {
+            detail.accessoryButtonTapped({1, -1});
+        },
+        [&] {
+            detail.accessoryButtonTapped({9, 0});
+        },
+        [&] { detail.audioTapped(-1, 0); },
+        [&] { detail.audioTapped(8, 0); },
+        [&] { detail.audioTapped(0, 2); },
+        [&] { detail.audioTapped(0, -1); },
+        [&] { detail.audioTapped(0, 6); },
+    };
+    world.audioSession.volume = 0;
+    for (const auto& tap : taps) {
+        tap();
+    }
+    detail.selectedVerb = nullptr;
+    detail.accessoryButtonTapped({1, 0});
+    detail.audioTapped(0, 0);
+
+    EXPECT_EQ(spokenCount(), 0U);
+    EXPECT_TRUE(world.presenter.alerts.empty());
+    EXPECT_TRUE(world.audioSession.calls.empty());
+}
+
+TEST_F(Pronunciation, AFailingAudioSessionIsPrintedAndSpeechGoesOn)
+{
+    struct Case {
+        platform::Result<void> category;
+        platform::Result<void> activation;
+        const char* console;
+        std::size_t calls;
+    };
+    const Case cases[] = {
+        {{}, {}, "", 2},
+        {tl::unexpected{platform::Error{"Busy", 5}},
+         {},
+         "Error: Could not set audio category: Busy, {code = 5}\n",
+         1},
+        {{},
+         tl::unexpected{platform::Error{"No server", 6}},
+         "Error: Could not set audio category: No server, {code = 6}\n",
+         2},
+    };
+    for (const auto& c : cases) {
+        world.console.str({});
+        world.audioSession.calls.clear();
+        world.audioSession.categoryResult = c.category;
+        world.audioSession.activateResult = c.activation;
+        say("je", "vais");
+        EXPECT_EQ(world.console.str(), c.console);
+        EXPECT_EQ(world.audioSession.calls.size(), c.calls);
+        EXPECT_TRUE(voice().isSpeaking());
+    }
+}
+
+} // namespace
+} // namespace lumora

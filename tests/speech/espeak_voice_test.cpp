@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/espeak_voice.h"
+
+#include "qt/spoken_text.h"
+#include "qt/time_stretch.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace lumora::qt {
+namespace {
+
+using platform::kDefaultSpeechRate;
+using Ranges = std::vector<std::pair<std::size_t, std::size_t>>;
+
+Speech speak(const std::string& text, float rate = kDefaultSpeechRate)
+{
+    const std::atomic<bool> cancelled = false;
+    auto speech = EspeakVoice{}.synthesize({text, "fr", rate}, cancelled);
+    EXPECT_TRUE(speech) << speech.error().message;
+    return speech.value_or(Speech{});
+}
+
+Ranges rangesOf(const Speech& speech)
+{
+    Ranges ranges;
+    for (const auto& word : speech.words) {
+        ranges.emplace_back(word.location, word.length);
+    }
+    return ranges;
+}
+
+/// The mean amplitude from one sample up to another.
+double loudness(const Speech& speech, std::size_t begin, std::size_t end)
+{
+    double sum = 0;
+    for (auto sample = begin; sample < end; ++sample) {
+        sum += std::abs(speech.samples[sample]);
+    }
+    return sum / static_cast<double>(end - begin);
+}
+
+double ratio(std::size_t longer, std::size_t shorter)
+{
+    return static_cast<double>(longer) / static_cast<double>(shorter);
+}
+
+TEST(SpokenText, LeavesOutBracketedEndings)
+{
+    struct Case {
+        const char* written;
+        const char* spoken;
+        const char* why;
+    };
+    const Case cases[] = {
+        {"je suis allé(e)", "je suis allé", "one ending"},
+        {"vous êtes allé(e)(s)", "vous êtes allé", "two in a row"},
+        {"nous sommes allé(e)s", "nous sommes allés", "a letter after it is heard"},
+        {"dépris(es) ou non", "dépris ou non", "more letters, and a word after"},
+        {"(que) je", "(que) je", "no ending of anything"},
+        {"a (b)", "a (b)", "a word of its own"},
+        {"allé(e", "allé(e", "never closed"},
+        {"", "", "nothing"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(SpokenText{c.written}.text(), c.spoken) << c.why;
+    }
+}
+
+TEST(EspeakVoice, ReportsEachWordWhereItIsWritten)
+{
+    struct Case {
+        const char* text;
+        Ranges words;
+        const char* why;
+    };
+    const Case cases[] = {
+        {"je suis allé", {{0, 2}, {3, 4}, {8, 4}}, "plain"},
+        {"été prêt à être", {{0, 3}, {4, 4}, {9, 1}, {11, 4}}, "counted in characters"},
+        {" va", {{1, 2}}, "a space leads"},
+        {"il ou elle ou on aime",
+         {{0, 2}, {3, 2}, {6, 4}, {11, 2}, {14, 2}, {17, 4}},
+         "a pronoun that was split"},
+        {"allé(e)(s) et venu(e)", {{0, 10}, {11, 2}, {14, 7}}, "endings count in their word"},
+        {"je paie, je paye", {{0, 2}, {3, 4}, {9, 2}, {12, 4}}, "both of a double form"},
+        {" ", {}, "nothing to say"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        const auto speech = speak(c.text);
+        EXPECT_EQ(rangesOf(speech), c.words);
+        EXPECT_TRUE(std::is_sorted(
+            speech.words.begin(), speech.words.end(),
+            [](const auto& left, const auto& right) { return left.sample < right.sample; }));
+    }
+}
+
+TEST(EspeakVoice, EveryWordSoundsAndTheEndFadesOut)
+{
+    for (const char* text : {"j'aime", "nous sommes allé(e)s", "je paie, je paye",
+                             "qu'ils ou elles eussent compris"}) {
+        for (const float factor : {1.0F, 0.5F, 0.25F}) {
+            SCOPED_TRACE(text + std::string{" at "} + std::to_string(factor));
+            const auto speech = speak(text, kDefaultSpeechRate * factor);
+            ASSERT_FALSE(speech.words.empty());
+            for (std::size_t i = 0; i < speech.words.size(); ++i) {
+                const bool last = i + 1 == speech.words.size();
+                const auto end = last ? speech.samples.size() : speech.words[i + 1].sample;
+                EXPECT_GT(loudness(speech, speech.words[i].sample, end), 300) << "word " << i;
+            }
+            const auto size = speech.samples.size();
+            const auto tail = static_cast<std::size_t>(speech.sampleRate) / 200;
+            EXPECT_LT(loudness(speech, size - tail, size), loudness(speech, 0, size) / 4);
+        }
+    }
+}
+
+TEST(EspeakVoice, BracketsAndDoubleFormsAreHeardAsTheyAreMeant)
+{
+    EXPECT_NEAR(
+        ratio(speak("je suis allé(e)").samples.size(), speak("je suis allé").samples.size()), 1,
+        0.01);
+    EXPECT_NEAR(
+        ratio(speak("vous êtes allé(e)(s)").samples.size(), speak("vous êtes allé").samples.size()),
+        1, 0.01);
+    EXPECT_GT(ratio(speak("paie, paye").samples.size(), speak("paie").samples.size()), 1.6);
+}
+
+TEST(EspeakVoice, SpeaksAsSlowlyAsAsked)
+{
+    struct Case {
+        float factor;
+        double longer;
+        double tolerance;
+    };
+    // Down to its slowest the engine's own idea of a rate counts; below, ours.
+    const Case cases[] = {{2, 0.5, 0.25},     {0.75F, 1.33, 0.12}, {0.5F, 2, 0.15},
+                          {0.4F, 2.5, 0.05},  {0.25F, 4, 0.05},    {0.1F, 10, 0.05},
+                          {0.001F, 10, 0.05}, {1000, 0.39, 0.4}};
+    for (const char* text : {"je vais", "qu'il ou elle ou on ait compris", "j'aime"}) {
+        const auto usual = speak(text);
+        for (const auto& c : cases) {
+            SCOPED_TRACE(text + std::string{" at "} + std::to_string(c.factor));
+            const auto speech = speak(text, kDefaultSpeechRate * c.factor);
+            EXPECT_NEAR(ratio(speech.samples.size(), usual.samples.size()), c.longer,
+                        c.longer * c.tolerance);
+            ASSERT_EQ(rangesOf(speech), rangesOf(usual));
+            if (usual.words.size() > 1) {
+                EXPECT_NEAR(ratio(speech.words.back().sample, speech.samples.size()),
+                            ratio(usual.words.back().sample, usual.samples.size()), 0.1);
+            }
+        }
+    }
+}
+
+TEST(EspeakVoice, SaysWhyItCannotSpeak)
+{
+    const std::atomic<bool> no = false;
+    const auto unknown = EspeakVoice{}.synthesize({"je vais", "xx-none"}, no);
+    ASSERT_FALSE(unknown);
+    EXPECT_EQ(unknown.error().message, "No voice speaks xx-none");
+    const std::atomic<bool> yes = true;
+    EXPECT_FALSE(EspeakVoice{}.synthesize({"je vais", "fr"}, yes));
+    EXPECT_TRUE(EspeakVoice{}.synthesize({"je vais", "fr"}, no)) << "and speaks again";
+}
+
+TEST(TimeStretch, KeepsThePitch)
+{
+    constexpr int kRate = 22050;
+    constexpr double kPitch = 150;
+    std::vector<std::int16_t> tone(kRate);
+    for (std::size_t i = 0; i < tone.size(); ++i) {
+        tone[i] = static_cast<std::int16_t>(
+            8000 * std::sin(2 * std::numbers::pi * kPitch * static_cast<double>(i) / kRate));
+    }
+    const auto longer = stretched(tone, kRate, tone.size() * 2);
+    const auto crossings = [](const std::vector<std::int16_t>& samples) {
+        std::size_t count = 0;
+        for (std::size_t i = 1; i < samples.size(); ++i) {
+            count += (samples[i - 1] < 0) != (samples[i] < 0) ? 1U : 0U;
+        }
+        return count;
+    };
+    EXPECT_NEAR(ratio(longer.size(), tone.size()), 2, 0.05);
+    EXPECT_NEAR(ratio(crossings(longer), crossings(tone)), 2, 0.1);
+    EXPECT_TRUE(stretched({}, kRate, 100).empty());
+}
+
+} // namespace
+} // namespace lumora::qt

@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/pulse_audio_session.h"
+
+#include "qt/espeak_voice.h"
+#include "qt/qt_speech.h"
+#include "speech_listener.h"
+#include "support/temporary_folder.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace lumora::qt {
+namespace {
+
+using support::SpeechListener;
+
+/// A sound server of the test's own, whose one output leads nowhere.
+class SoundServer {
+public:
+    SoundServer()
+    {
+        qputenv("PULSE_SERVER", "unix:" + socket().toUtf8());
+        qputenv("PULSE_RUNTIME_PATH", folder_.path().c_str());
+        qputenv("PULSE_STATE_PATH", folder_.path().c_str());
+        qputenv("PULSE_COOKIE", (folder_ / "cookie").c_str());
+    }
+    ~SoundServer() { stop(); }
+
+    /// Why there is none now; empty when there is.
+    std::string start()
+    {
+        for (const char* program : {"pulseaudio", "pactl", "parec"}) {
+            if (QStandardPaths::findExecutable(QString::fromLatin1(program)).isEmpty()) {
+                return std::string{"there is no "} + program + " on this machine";
+            }
+        }
+        process_.setProcessChannelMode(QProcess::MergedChannels);
+        process_.start(QStringLiteral("pulseaudio"),
+                       {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
+                        QStringLiteral("--use-pid-file=no"), QStringLiteral("--exit-idle-time=-1"),
+                        QStringLiteral("--log-level=error"), QStringLiteral("-L"),
+                        QStringLiteral("module-native-protocol-unix socket=") + socket(),
+                        QStringLiteral("-L"),
+                        QStringLiteral("module-null-sink sink_name=nowhere")});
+        const auto runs = [this] { return process_.state() == QProcess::Running; };
+        process_.waitForStarted();
+        SpeechListener::waitUntil([&] { return !runs() || control({"info"}); }, 4000);
+        return runs() && control({"info"})
+                   ? std::string{}
+                   : "no sound server could be started: " + process_.readAll().toStdString();
+    }
+    void stop()
+    {
+        process_.kill();
+        process_.waitForFinished();
+    }
+
+    static bool control(const std::vector<const char*>& words)
+    {
+        QStringList arguments;
+        for (const char* word : words) {
+            arguments << QString::fromLatin1(word);
+        }
+        QProcess pactl;
+        pactl.start(QStringLiteral("pactl"), arguments);
+        return pactl.waitForFinished(2000) && pactl.exitCode() == 0;
+    }
+
+private:
+    QString socket() const { return QString::fromStdString((folder_ / "native").string()); }
+
+    support::TemporaryFolder folder_;
+    QProcess process_;
+};
+
+class PulseAudioSessionTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (const auto why = server.start(); !why.empty()) {
+            GTEST_SKIP() << why;
+        }
+    }
+
+    SoundServer server;
+};
+
+/// Over one server, since Qt looks for one only once.
+class PlaybackTest : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        server = std::make_unique<SoundServer>();
+        missing = server->start();
+    }
+    static void TearDownTestSuite() { server.reset(); }
+    void SetUp() override
+    {
+        if (!missing.empty()) {
+            GTEST_SKIP() << missing;
+        }
+    }
+
+private:
+    static inline std::unique_ptr<SoundServer> server;
+    static inline std::string missing;
+};
+
+/// What the output plays, as it plays it.
+class Recorder {
+public:
+    static constexpr int kRate = 22050;
+
+    Recorder()
+    {
+        process_.start(QStringLiteral("parec"),
+                       {QStringLiteral("--device=nowhere.monitor"), QStringLiteral("--raw"),
+                        QStringLiteral("--format=s16le"), QStringLiteral("--channels=1"),
+                        QStringLiteral("--rate=%1").arg(kRate),
+                        QStringLiteral("--latency-msec=20")});
+        SpeechListener::waitUntil([this] { return process_.bytesAvailable() > 0; });
+    }
+
+    /// From the first sample that sounds to the last, in seconds.
+    double secondsOfSound()
+    {
+        const auto bytes = process_.readAll();
+        const auto* begin = reinterpret_cast<const std::int16_t*>(bytes.constData());
+        const std::vector<std::int16_t> samples(begin, begin + bytes.size() / 2);
+        std::size_t first = samples.size();
+        std::size_t last = 0;
+        for (std::size_t i = 0; i < samples.size(); ++i) {
+            if (std::abs(samples[i]) > 200) {
+                first = std::min(first, i);
+                last = i;
+            }
+        }
+        return first > last ? 0 : static_cast<double>(last - first) / kRate;
+    }
+
+    ~Recorder()
+    {
+        process_.kill();
+        process_.waitForFinished();
+    }
+
+private:
+    QProcess process_;
+};
+
+TEST_F(PulseAudioSessionTest, FollowsTheVolumeOfTheDefaultOutput)
+{
+    const PulseAudioSession session;
+    struct Case {
+        std::vector<const char*> command;
+        float volume;
+        const char* why;
+    };
+    const Case cases[] = {
+        {{"set-sink-volume", "nowhere", "40%"}, 0.4F, "turned down"},
+        {{"set-sink-volume", "nowhere", "15%"}, 0.15F, "a percent is a percent"},
+        {{"set-sink-mute", "nowhere", "1"}, 0, "muted"},
+        {{"set-sink-mute", "nowhere", "0"}, 0.15F, "no longer"},
+        {{"set-sink-volume", "nowhere", "130%"}, 1, "louder than loud"},
+        {{"load-module", "module-null-sink", "sink_name=other"}, 1, "another output appears"},
+        {{"set-sink-volume", "other", "30%"}, 1, "which is not the default"},
+        {{"set-default-sink", "other"}, 0.3F, "and now is"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        ASSERT_TRUE(SoundServer::control(c.command));
+        EXPECT_TRUE(
+            SpeechListener::waitUntil([&] { return session.outputVolume() == c.volume; }, 2000))
+            << session.outputVolume();
+    }
+}
+
+TEST_F(PulseAudioSessionTest, IsMissedAndFoundAgain)
+{
+    PulseAudioSession session;
+    ASSERT_TRUE(SoundServer::control({"set-sink-volume", "nowhere", "40%"}));
+    ASSERT_TRUE(SpeechListener::waitUntil([&] { return session.outputVolume() == 0.4F; }));
+    EXPECT_TRUE(session.activate());
+
+    server.stop();
+
+    EXPECT_TRUE(SpeechListener::waitUntil([&] { return session.outputVolume() == 1; }));
+    const auto refused = session.activate();
+    ASSERT_FALSE(refused);
+    EXPECT_FALSE(refused.error().message.empty());
+    ASSERT_EQ(server.start(), "");
+    ASSERT_TRUE(SoundServer::control({"set-sink-volume", "nowhere", "20%"}));
+    EXPECT_TRUE(SpeechListener::waitUntil([&] {
+        SpeechListener::waitFor(20);
+        return session.activate() && session.outputVolume() == 0.2F;
+    }));
+}
+
+TEST_F(PlaybackTest, HearsAnUtteranceWhole)
+{
+    Recorder recorder;
+    SpeechListener listener;
+    QtSpeech speech;
+    const auto voice = speech.makeSpeechSynthesizer();
+    voice->setDelegate(&listener);
+    const platform::Utterance utterance{"nous avons compris", "fr"};
+
+    voice->speak(utterance);
+
+    ASSERT_TRUE(listener.waitForEnd());
+    EXPECT_EQ(listener.events.back().what, "finish");
+    SpeechListener::waitFor(300);
+    const std::atomic<bool> cancelled = false;
+    const auto expected = EspeakVoice{}.synthesize(utterance, cancelled);
+    ASSERT_TRUE(expected);
+    const double seconds = static_cast<double>(expected->duration().count()) / 1000;
+    EXPECT_NEAR(recorder.secondsOfSound(), seconds, 0.15 * seconds);
+}
+
+TEST_F(PlaybackTest, HearsNoMoreOfAStoppedUtterance)
+{
+    Recorder recorder;
+    QtSpeech speech;
+    const auto voice = speech.makeSpeechSynthesizer();
+    voice->speak({"qu'il ou elle ou on ait compris", "fr", platform::kDefaultSpeechRate / 2});
+    SpeechListener::waitFor(600);
+
+    voice->stopSpeaking();
+
+    SpeechListener::waitFor(1500);
+    const double seconds = recorder.secondsOfSound();
+    EXPECT_GT(seconds, 0.2);
+    EXPECT_LT(seconds, 0.8);
+}
+
+} // namespace
+} // namespace lumora::qt
