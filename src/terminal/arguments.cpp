@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "terminal/arguments.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <string_view>
+#include <utility>
+
+namespace lumora::terminal {
+
+const char* const kHelp =
+    R"help(Usage: lumora-cli COMMAND [OPTIONS]
+
+Commands:
+  conjugate VERB     print every mood and tense of a verb
+  search TEXT        print the verbs that begin with TEXT
+  export VERB        print a verb's conjugations as a document
+  --help             print this
+  --version          print the version
+
+A verb may be typed without its accents; a pronominal verb as "s'évanouir",
+"évanouir" or "évanouir (s')".
+
+Options of search:
+  --anywhere         TEXT may stand anywhere in the verb
+  --conjugations     search the conjugated forms too
+  --translations     search the translations too
+
+Options of export:
+  --html             a page to print or to show
+  --text             plain text for an e-mail
+
+Options of all commands:
+  --language CODE    translate into en, fr, de, es, pt, it or nl
+
+On a terminal the output is in columns, in a pipe it has tabs between fields.
+)help";
+
+namespace {
+
+constexpr std::string_view kLanguages[] = {"en", "fr", "de", "es", "pt", "it", "nl"};
+
+constexpr std::pair<std::string_view, Command> kCommands[] = {
+    {"conjugate", Command::Conjugate}, {"search", Command::Search}, {"export", Command::Export},
+    {"help", Command::Help},           {"--help", Command::Help},   {"-h", Command::Help},
+    {"--version", Command::Version},   {"-v", Command::Version},
+};
+
+constexpr std::pair<std::string_view, bool Arguments::*> kSearchOptions[] = {
+    {"--anywhere", &Arguments::anywhere},
+    {"--conjugations", &Arguments::conjugations},
+    {"--translations", &Arguments::translations},
+};
+
+constexpr std::pair<std::string_view, Format> kFormats[] = {
+    {"--html", Format::Html},
+    {"--text", Format::Text},
+};
+
+tl::unexpected<platform::Error> refusal(std::string message)
+{
+    return tl::unexpected(platform::Error{std::move(message), EINVAL});
+}
+
+std::string quoted(std::string_view word)
+{
+    return "\"" + std::string{word} + "\"";
+}
+
+template <typename Table>
+auto lookUp(const Table& table, std::string_view word)
+{
+    return std::find_if(std::begin(table), std::end(table),
+                        [&](const auto& entry) { return entry.first == word; });
+}
+
+/// One option without a value; an error where the command has none such.
+platform::Result<void> setOption(Arguments& arguments, std::string_view word)
+{
+    const auto* const option = lookUp(kSearchOptions, word);
+    if (option != std::end(kSearchOptions) && arguments.command == Command::Search) {
+        arguments.*option->second = true;
+        return {};
+    }
+    const auto* const format = lookUp(kFormats, word);
+    if (format != std::end(kFormats) && arguments.command == Command::Export) {
+        if (arguments.format && *arguments.format != format->second) {
+            return refusal("--html and --text exclude each other");
+        }
+        arguments.format = format->second;
+        return {};
+    }
+    return refusal("this command has no option " + quoted(word));
+}
+
+platform::Result<void> setLanguage(Arguments& arguments, std::string_view code)
+{
+    if (std::find(std::begin(kLanguages), std::end(kLanguages), code) == std::end(kLanguages)) {
+        return refusal("there are no translations into " + quoted(code) +
+                       ", only into en, fr, de, es, pt, it and nl");
+    }
+    arguments.language = code;
+    return {};
+}
+
+platform::Result<void> checkComplete(const Arguments& arguments)
+{
+    if (arguments.text.empty()) {
+        return refusal(arguments.command == Command::Search ? "which text?" : "which verb?");
+    }
+    if (arguments.command == Command::Export && !arguments.format) {
+        return refusal("export needs --html or --text");
+    }
+    return {};
+}
+
+platform::Result<void> readWords(Arguments& arguments, const std::vector<std::string>& words)
+{
+    static constexpr std::string_view kLanguage = "--language";
+
+    bool optionsEnded = false;
+    for (auto word = words.begin() + 1; word != words.end(); ++word) {
+        platform::Result<void> read;
+        if (optionsEnded || !word->starts_with('-')) {
+            // "se méfier" need not be quoted.
+            arguments.text += arguments.text.empty() ? "" : " ";
+            arguments.text += *word;
+        } else if (*word == "--") {
+            optionsEnded = true;
+        } else if (*word == "--help" || *word == "-h") {
+            arguments.command = Command::Help;
+            return {};
+        } else if (*word == kLanguage && word + 1 == words.end()) {
+            read = refusal("--language needs a code");
+        } else if (*word == kLanguage) {
+            read = setLanguage(arguments, *++word);
+        } else if (word->starts_with("--language=")) {
+            read = setLanguage(arguments, std::string_view{*word}.substr(kLanguage.size() + 1));
+        } else {
+            read = setOption(arguments, *word);
+        }
+        if (!read) {
+            return read;
+        }
+    }
+    return checkComplete(arguments);
+}
+
+} // namespace
+
+platform::Result<Arguments> parseArguments(const std::vector<std::string>& words)
+{
+    if (words.empty()) {
+        return refusal("no command; try --help");
+    }
+    const auto* const command = lookUp(kCommands, words.front());
+    if (command == std::end(kCommands)) {
+        return refusal("no command " + quoted(words.front()) + "; try --help");
+    }
+    Arguments arguments;
+    arguments.command = command->second;
+    if (arguments.command == Command::Help || arguments.command == Command::Version) {
+        return arguments;
+    }
+    return readWords(arguments, words).map([&] { return std::move(arguments); });
+}
+
+} // namespace lumora::terminal

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/error.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace lumora::terminal {
+
+enum class Command { Conjugate, Search, Export, Help, Version };
+enum class Format { Html, Text };
+
+/// What the user asked for, understood.
+struct Arguments {
+    Command command = Command::Help;
+    /// The verb or the text to search for.
+    std::string text;
+    bool anywhere = false;
+    bool conjugations = false;
+    bool translations = false;
+    std::optional<std::string> language;
+    std::optional<Format> format;
+};
+
+/// Without the program's name. The error's message is for the user.
+platform::Result<Arguments> parseArguments(const std::vector<std::string>& words);
+
+extern const char* const kHelp;
+
+} // namespace lumora::terminal

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/error.h"
+
+namespace lumora::terminal {
+
+struct Arguments;
+struct Output;
+class Session;
+
+// Each prints only when all is well; the error's message is for the user.
+
+platform::Result<void> conjugate(Session& session, const Arguments& arguments,
+                                 const Output& output);
+platform::Result<void> search(Session& session, const Arguments& arguments, const Output& output);
+platform::Result<void> exportDocument(Session& session, const Arguments& arguments,
+                                      const Output& output);
+
+} // namespace lumora::terminal

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "terminal/complaints.h"
+
+namespace lumora::terminal {
+
+void Complaints::logWithFormat(std::string_view format,
+                               const std::vector<platform::LogArgument>& arguments)
+{
+    text_ << platform::formattedLogLine(format, arguments) << '\n';
+}
+
+std::optional<std::string> Complaints::line() const
+{
+    std::istringstream lines{text_.str()};
+    std::optional<std::string> joined;
+    for (std::string line; std::getline(lines, line);) {
+        joined = joined ? *joined + "; " + line : line;
+    }
+    return joined;
+}
+
+} // namespace lumora::terminal

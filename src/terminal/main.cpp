@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/text.h"
+#include "qt/text_conversion.h"
+#include "qt/translations.h"
+#include "terminal/arguments.h"
+#include "terminal/commands.h"
+#include "terminal/output.h"
+#include "terminal/session.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <iostream>
+
+namespace {
+
+using namespace lumora;
+using terminal::Arguments;
+using terminal::Command;
+
+constexpr int kFailed = 1;
+constexpr int kMisused = 2;
+
+/// The toolkit warns of a locale without UTF-8 and copes; that is no news to
+/// who asks for a verb.
+void writeToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
+                         const QString& message)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
+        std::cerr << qt::toUtf8(message) << '\n';
+    }
+}
+
+int complain(const std::string& message, int status)
+{
+    std::cerr << "lumora-cli: " << message << '\n';
+    return status;
+}
+
+std::filesystem::path shareFolder()
+{
+    return std::filesystem::path{qt::toUtf8(QCoreApplication::applicationDirPath())}.parent_path() /
+           "share" / "lumora";
+}
+
+platform::Result<void> run(terminal::Session& session, const Arguments& arguments)
+{
+    const auto output = terminal::standardOutput();
+    switch (arguments.command) {
+    case Command::Help:
+        output.stream << terminal::kHelp;
+        return {};
+    case Command::Version:
+        output.stream
+            << "lumora-cli "
+            << session.services().bundle.infoValue("CFBundleShortVersionString").value_or("unknown")
+            << '\n';
+        return {};
+    default:
+        break;
+    }
+    session.configure(arguments);
+    if (auto opened = session.openDatabase(); !opened) {
+        return opened;
+    }
+    switch (arguments.command) {
+    case Command::Conjugate:
+        return terminal::conjugate(session, arguments, output);
+    case Command::Search:
+        return terminal::search(session, arguments, output);
+    default:
+        return terminal::exportDocument(session, arguments, output);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::vector<std::string> words;
+    for (int i = 1; i < argc; ++i) {
+        words.push_back(platform::wellFormed(argv[i]));
+    }
+    qInstallMessageHandler(writeToolkitMessage);
+    const QCoreApplication toolkit{argc, argv};
+    const qt::Translations translations{QLocale::system().uiLanguages()};
+
+    const auto arguments = terminal::parseArguments(words);
+    if (!arguments) {
+        return complain(arguments.error().message, kMisused);
+    }
+    terminal::Session session{shareFolder()};
+    if (const auto done = run(session, *arguments); !done) {
+        return complain(done.error().message, kFailed);
+    }
+    if (!std::cout.flush()) {
+        return complain("the output cannot be written", kFailed);
+    }
+    return 0;
+}

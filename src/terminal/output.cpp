@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "terminal/output.h"
+
+#include <algorithm>
+#include <iostream>
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace lumora::terminal {
+
+namespace {
+
+constexpr std::size_t kMargin = 2;
+constexpr std::size_t kGap = 3;
+constexpr std::size_t kUsualWidth = 80;
+
+std::string padded(const std::string& text, std::size_t columns)
+{
+    return text + std::string(columns - std::min(columns, columnsOf(text)), ' ');
+}
+
+} // namespace
+
+Output standardOutput()
+{
+    if (isatty(STDOUT_FILENO) == 0) {
+        return {std::cout, 0};
+    }
+    winsize size{};
+    const bool known = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return {std::cout, known ? size.ws_col : kUsualWidth};
+}
+
+std::size_t columnsOf(std::string_view utf8)
+{
+    return static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+    }));
+}
+
+void printBlocks(const std::vector<TextBlock>& blocks, const Output& output)
+{
+    std::size_t blockWidth = 1;
+    for (const auto& block : blocks) {
+        for (const auto& line : block) {
+            blockWidth = std::max(blockWidth, columnsOf(line));
+        }
+    }
+    const auto room = std::max(output.width, kMargin + blockWidth) - kMargin + kGap;
+    const auto across = std::max<std::size_t>(1, room / (blockWidth + kGap));
+    for (std::size_t first = 0; first < blocks.size(); first += across) {
+        const auto end = std::min(first + across, blocks.size());
+        std::size_t height = 0;
+        for (auto block = first; block < end; ++block) {
+            height = std::max(height, blocks[block].size());
+        }
+        for (std::size_t line = 0; line < height; ++line) {
+            std::string text;
+            for (auto block = first; block < end; ++block) {
+                const bool filled = line < blocks[block].size();
+                text += padded(filled ? blocks[block][line] : std::string{}, blockWidth + kGap);
+            }
+            const auto last = text.find_last_not_of(' ');
+            output.stream << std::string(kMargin, ' ') << text.substr(0, last + 1) << '\n';
+        }
+        output.stream << '\n';
+    }
+}
+
+} // namespace lumora::terminal

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <cstddef>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lumora::terminal {
+
+/// Where a command prints to.
+struct Output {
+    std::ostream& stream;
+    /// Columns of a terminal; 0 for a pipe or a file.
+    std::size_t width = 0;
+
+    bool isTerminal() const { return width > 0; }
+};
+
+/// Standard output as it is now.
+Output standardOutput();
+
+/// How many columns the text takes: one a character, which holds for the
+/// languages of ours.
+std::size_t columnsOf(std::string_view utf8);
+
+/// A few lines that stand together.
+using TextBlock = std::vector<std::string>;
+
+/// Puts blocks side by side, as many as fit, under a margin of two columns.
+void printBlocks(const std::vector<TextBlock>& blocks, const Output& output);
+
+} // namespace lumora::terminal

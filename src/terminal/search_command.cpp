@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "lists/search_results_table_view_controller.h"
+#include "terminal/arguments.h"
+#include "terminal/commands.h"
+#include "terminal/output.h"
+#include "terminal/session.h"
+
+#include <algorithm>
+#include <cerrno>
+
+namespace lumora::terminal {
+
+namespace {
+
+void printRows(const std::vector<TextRow>& rows, const Output& output)
+{
+    constexpr std::size_t kGap = 2;
+
+    std::size_t width = 0;
+    for (const auto& row : rows) {
+        width = std::max(width, columnsOf(row.text));
+    }
+    for (const auto& row : rows) {
+        const auto gap = output.isTerminal() ? std::string(width - columnsOf(row.text) + kGap, ' ')
+                                             : std::string{'\t'};
+        output.stream << row.text << gap << row.detailText << '\n';
+    }
+}
+
+} // namespace
+
+platform::Result<void> search(Session& session, const Arguments& arguments, const Output& output)
+{
+    lists::SearchResultsTableViewController results{session.services()};
+    results.queue = &session.queue();
+    results.search(arguments.text);
+    if (auto checked = session.check(); !checked) {
+        return checked;
+    }
+    if (results.verbs.empty()) {
+        return tl::unexpected(
+            platform::Error{"nothing found for \"" + arguments.text + "\"", ENOENT});
+    }
+    for (const auto& section : TerminalTableView::of(results.tableView()).sections()) {
+        printRows(section.rows, output);
+    }
+    return {};
+}
+
+} // namespace lumora::terminal

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "app/main_storyboard.h"
+#include "platform/database_queue.h"
+#include "platform/error.h"
+#include "platform/notification_center.h"
+#include "platform/services.h"
+#include "platform/settings_store.h"
+#include "qt/qt_bundle.h"
+#include "qt/qt_clock.h"
+#include "qt/qt_device.h"
+#include "qt/qt_java_script_context.h"
+#include "terminal/complaints.h"
+#include "terminal/silence.h"
+#include "terminal/terminal_views.h"
+
+#include <filesystem>
+#include <memory>
+
+namespace lumora::terminal {
+
+struct Arguments;
+
+/// The machine as the logic sees it for one command: the shipped database, read
+/// only, and settings in memory. Nothing of the application's is changed.
+class Session {
+public:
+    explicit Session(const std::filesystem::path& shareFolder);
+
+    /// Sets what the command's options say.
+    void configure(const Arguments& arguments);
+    platform::Result<void> openDatabase();
+
+    const platform::Services& services() const { return services_; }
+    platform::DatabaseQueue& queue() { return *queue_; }
+    platform::JavaScriptContextFactory& scripts() { return scripts_; }
+    /// An error once the logic has reported one.
+    platform::Result<void> check() const;
+
+private:
+    platform::NotificationCenter notifications_;
+    platform::MemorySettingsStore settings_;
+    qt::QtBundle bundle_;
+    qt::QtDevice device_;
+    qt::QtClock clock_;
+    Complaints complaints_;
+    SilentAnalytics analytics_;
+    TerminalViewFactory views_;
+    SilentPresenter presenter_;
+    app::MainStoryboard storyboard_;
+    SilentSpeech speech_;
+    SilentAudioSession audioSession_;
+    qt::QtJavaScriptContextFactory scripts_;
+    platform::Services services_;
+    std::unique_ptr<platform::DatabaseQueue> queue_;
+};
+
+} // namespace lumora::terminal

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/analytics.h"
+#include "platform/audio_session.h"
+#include "platform/presenter.h"
+#include "platform/speech_synthesizer.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+/// What a program that prints and ends has no use for.
+namespace lumora::terminal {
+
+class SilentAnalytics final : public platform::Analytics {
+public:
+    void logEvent(std::string_view /*name*/,
+                  const std::map<std::string, std::string>& /*parameters*/) override
+    {}
+    void setAnalyticsCollectionEnabled(bool /*enabled*/) override {}
+};
+
+class SilentPresenter final : public platform::Presenter {
+public:
+    void performSegue(platform::ViewController& /*source*/, std::string_view /*identifier*/,
+                      std::optional<platform::IndexPath> /*sender*/) override
+    {}
+    void presentAlert(platform::ViewController& /*on*/, const platform::Alert& /*alert*/) override
+    {}
+    void presentActionSheet(platform::ViewController& /*on*/,
+                            const platform::ActionSheet& /*sheet*/,
+                            platform::IndexPath /*anchor*/) override
+    {}
+    void dismiss(platform::ViewController& /*presented*/, std::function<void()> completed) override
+    {
+        if (completed) {
+            completed();
+        }
+    }
+};
+
+class SilentSpeechSynthesizer final : public platform::SpeechSynthesizer {
+public:
+    void setDelegate(platform::SpeechSynthesizerDelegate* delegate) override
+    {
+        delegate_ = delegate;
+    }
+    void speak(const platform::Utterance& utterance) override
+    {
+        if (delegate_ != nullptr) {
+            delegate_->didCancel(utterance);
+        }
+    }
+    void stopSpeaking() override {}
+    bool isSpeaking() const override { return false; }
+
+private:
+    platform::SpeechSynthesizerDelegate* delegate_ = nullptr;
+};
+
+class SilentSpeech final : public platform::SpeechSynthesizerFactory {
+public:
+    std::unique_ptr<platform::SpeechSynthesizer> makeSpeechSynthesizer() override
+    {
+        return std::make_unique<SilentSpeechSynthesizer>();
+    }
+};
+
+class SilentAudioSession final : public platform::AudioSession {
+public:
+    float outputVolume() const override { return 0; }
+    platform::Result<void> setCategoryPlayback() override { return {}; }
+    platform::Result<void> activate() override { return {}; }
+};
+
+} // namespace lumora::terminal

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "data/verb.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lumora::terminal {
+
+/// The verbs that a typed name means, homographs all. The closest reading that
+/// finds any wins: the name as it stands, then "évanouir" for "évanouir (s')",
+/// then both without accents.
+std::vector<data::VerbPtr> verbsNamed(std::string_view typed,
+                                      const std::vector<data::VerbPtr>& verbs);
+
+/// A few headwords that differ from it by a slip or two, the nearest first.
+std::vector<std::string> namesNear(std::string_view typed, const std::vector<data::VerbPtr>& verbs);
+
+} // namespace lumora::terminal

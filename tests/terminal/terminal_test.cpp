@@ -1,0 +1,277 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "installed_program.h"
+#include "support/world.h"
+
+#include <algorithm>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace lumora::terminal {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+class TerminalTest : public testing::Test {
+protected:
+    TerminalTest()
+    {
+        const auto queue = platform::DatabaseQueue::open(platform::fileUrl(database()));
+        for (const char* sql : {
+                 "INSERT INTO verb(_id, french, simplified_french, english) VALUES"
+                 "(7, 'pêcher', 'pecher', 'fish'), (8, 'pécher', 'pecher', 'sin'),"
+                 "(9, 'ressortir', 'ressortir', 'go out'), (10, 'ressortir', 'ressortir', 'fall'),"
+                 "(11, 'œuvrer', 'oeuvrer', 'work'), (12, 'méfier (se)', 'mefier', 'distrust'),"
+                 "(13, 'aimer', 'aimer', 'love')",
+                 "INSERT INTO conjugation(verbid, pronoun, verb, type, conj_order, display) VALUES"
+                 "(9, 'je', 'ressors', 'indicatifPresent', 1, 1),"
+                 "(10, 'je', 'ressortis', 'indicatifPresent', 1, 1),"
+                 "(13, 'j''', 'aime', 'indicatifPresent', 1, 1),"
+                 "(13, 'nous', 'aimons', 'indicatifPresent', 2, 1),"
+                 "(13, 'nous', 'aimions', 'indicatifImparfait', 3, 1)",
+                 "INSERT INTO conjugation(verbid, pronoun, verb, type, conj_order, display) "
+                 "SELECT _id, '', 'form of ' || french, 'participe', 9, 1 FROM verb",
+             }) {
+            support::executeOn(*queue, sql);
+        }
+    }
+
+    std::filesystem::path database() const { return program.share() / "verbs.db"; }
+
+    InstalledProgram program;
+};
+
+TEST_F(TerminalTest, ConjugatesInTabSeparatedLinesForAPipe)
+{
+    const auto run = program.run({"conjugate", "aimer"});
+
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, "aimer\tIndicative\tPresent\tj'\taime\n"
+                       "aimer\tIndicative\tPresent\tnous\taimons\n"
+                       "aimer\tIndicative\tImperfect\tnous\taimions\n"
+                       "aimer\tOther\tParticiple\t\tform of aimer\n");
+}
+
+TEST_F(TerminalTest, SpeaksTheUsersLanguage)
+{
+    const auto run = program.run({"conjugate", "aimer"}, "LC_ALL=C.UTF-8 LANGUAGE=fr");
+    EXPECT_TRUE(run.out.starts_with("aimer\tIndicatif\tPrésent\tj'\taime\n")) << run.out;
+}
+
+TEST_F(TerminalTest, FindsAVerbAsItIsTyped)
+{
+    struct {
+        std::vector<std::string> typed;
+        std::vector<std::string> found;
+        const char* why;
+    } cases[] = {
+        {{"être"}, {"être"}, "as it is written"},
+        {{"etre"}, {"être"}, "without accents"},
+        {{"e\u0302tre"}, {"être"}, "decomposed"},
+        {{" ÊTRE "}, {"être"}, "capitals and blanks"},
+        {{"oeuvrer"}, {"œuvrer"}, "an open ligature"},
+        {{"pêcher"}, {"pêcher"}, "an exact match wins"},
+        {{"pecher"}, {"pêcher", "pécher"}, "both differ by an accent"},
+        {{"pècher"}, {"pêcher", "pécher"}, "a wrong accent"},
+        {{"ressortir"}, {"ressortir", "ressortir"}, "homographs"},
+        {{"s'évanouir"}, {"évanouir (s')"}, "pronominal"},
+        {{"s\u2019evanouir"}, {"évanouir (s')"}, "typographic apostrophe, no accent"},
+        {{"évanouir"}, {"évanouir (s')"}, "without its pronoun"},
+        {{"évanouir (s')"}, {"évanouir (s')"}, "as it is listed"},
+        {{"Se", "méfier"}, {"méfier (se)"}, "two words"},
+        {{"--", "aller"}, {"aller"}, "after the end of the options"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        std::vector<std::string> arguments{"conjugate"};
+        arguments.insert(arguments.end(), c.typed.begin(), c.typed.end());
+
+        const auto run = program.run(arguments);
+
+        EXPECT_EQ(run.status, 0) << run.err;
+        std::vector<std::string> found;
+        std::istringstream lines{run.out};
+        for (std::string line; std::getline(lines, line);) {
+            if (const auto at = line.find("\tform of "); at != std::string::npos) {
+                found.push_back(line.substr(at + 9));
+                EXPECT_TRUE(line.starts_with(found.back() + '\t')) << line;
+            }
+        }
+        EXPECT_THAT(found, testing::UnorderedElementsAreArray(c.found));
+    }
+}
+
+TEST_F(TerminalTest, SearchesAsTheOptionsSay)
+{
+    struct {
+        std::vector<std::string> arguments;
+        const char* out;
+    } cases[] = {
+        {{"al"}, "aller\tgo\n"},
+        {{"llo", "--anywhere"}, "falloir\tfew\n"},
+        {{"suis", "--conjugations"}, "être\tbe\n"},
+        {{"--translations", "fis"}, "pêcher\tfish\n"},
+        {{"geh", "--translations", "--language", "de"}, "aller\tgehen\n"},
+        {{"al", "--language=de"}, "aller\tgehen\n"},
+        {{"S\u2019", "--anywhere"}, "évanouir (s')\tso\n"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.arguments.front());
+        auto arguments = c.arguments;
+        arguments.insert(arguments.begin(), "search");
+
+        const auto run = program.run(arguments);
+
+        EXPECT_EQ(run.out, c.out) << run.err;
+        EXPECT_EQ(run.err, "");
+        EXPECT_EQ(run.status, 0);
+    }
+}
+
+TEST_F(TerminalTest, ExportsBothDocuments)
+{
+    const auto text = program.run({"export", "aimer", "--text", "--language", "en"});
+    EXPECT_EQ(text.status, 0) << text.err;
+    EXPECT_TRUE(text.out.starts_with("aimer (love)\n")) << text.out;
+    EXPECT_THAT(text.out, HasSubstr("Present\n    j'aime\n    nous aimons\n"));
+    EXPECT_THAT(text.out, HasSubstr("=== Other forms ==="));
+
+    const auto html = program.run({"export", "--html", "s'évanouir"});
+    EXPECT_EQ(html.status, 0) << html.err;
+    EXPECT_TRUE(html.out.starts_with("<!DOCTYPE html>\n"));
+    EXPECT_THAT(html.out, HasSubstr("évanouir (s&#39;)</h1>"));
+    EXPECT_EQ(text.err + html.err, "");
+}
+
+TEST_F(TerminalTest, SaysWhatIsWrongInOneLine)
+{
+    struct {
+        std::vector<std::string> arguments;
+        int status;
+        const char* message;
+    } cases[] = {
+        {{}, 2, "no command; try --help"},
+        {{"conjugat", "être"}, 2, "no command \"conjugat\"; try --help"},
+        {{"conjugate"}, 2, "which verb?"},
+        {{"search", ""}, 2, "which text?"},
+        {{"search", "a", "--html"}, 2, "this command has no option \"--html\""},
+        {{"conjugate", "être", "--anywhere"}, 2, "this command has no option \"--anywhere\""},
+        {{"export", "être"}, 2, "export needs --html or --text"},
+        {{"export", "être", "--html", "--text"}, 2, "--html and --text exclude each other"},
+        {{"search", "a", "--language"}, 2, "--language needs a code"},
+        {{"search", "a", "--language", "tr"},
+         2,
+         "there are no translations into \"tr\", only into en, fr, de, es, pt, it and nl"},
+        {{"search", "qqq"}, 1, "nothing found for \"qqq\""},
+        {{"conjugate", "qqqqqq"}, 1, "no verb \"qqqqqq\""},
+        {{"conjugate", "allre"}, 1, "no verb \"allre\"; did you mean aller?"},
+        {{"export", "pechre", "--text"}, 1, "no verb \"pechre\"; did you mean pécher or pêcher?"},
+        {{"conjugate", "s'aller"}, 1, "no verb \"s'aller\"; did you mean aller?"},
+        {{"conjugate", "caf\xE9"}, 1, "no verb \"caf\uFFFD\""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.message);
+        const auto run = program.run(c.arguments);
+        EXPECT_EQ(run.status, c.status);
+        EXPECT_EQ(run.out, "");
+        EXPECT_EQ(run.err, std::string{"lumora-cli: "} + c.message + '\n');
+    }
+}
+
+TEST_F(TerminalTest, FailsInOneLineWhenAFileIsNotAsItShouldBe)
+{
+    struct {
+        const char* file;
+        std::optional<std::string> content;
+        std::vector<std::string> arguments;
+        const char* message;
+    } cases[] = {
+        {"export_txt.mustache", "`", {"export", "être", "--text"}, "JS Error: "},
+        {"export_html.mustache", "caf\xE9", {"export", "être", "--html"}, "is not UTF-8 text"},
+        {"mustache.min.js", {}, {"export", "être", "--text"}, "Unable to find mustache JS file"},
+        {"verbs.db", "no database at all, though long enough", {"search", "a"}, "not a database"},
+        {"verbs.db", "no database at all", {"conjugate", "a"}, "not a database"},
+        {"verbs.db", {}, {"search", "a"}, "the verb database is missing or cannot be read"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.message);
+        std::filesystem::remove(program.share() / c.file);
+        if (c.content) {
+            support::writeContent(program.share() / c.file, *c.content);
+        }
+
+        const auto run = program.run(c.arguments);
+
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.out, "");
+        EXPECT_TRUE(run.err.starts_with("lumora-cli: ")) << run.err;
+        EXPECT_THAT(run.err, HasSubstr(c.message));
+        EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+    }
+    EXPECT_FALSE(std::filesystem::exists(database())) << "a missing database is not made";
+}
+
+TEST_F(TerminalTest, LeavesEverythingAsItWas)
+{
+    const auto before = support::contentOf(database());
+    const auto filesBefore =
+        std::distance(std::filesystem::recursive_directory_iterator{program.share()}, {});
+
+    for (const char* verb : {"aller", "être"}) {
+        EXPECT_EQ(program.run({"conjugate", verb}).status, 0);
+        EXPECT_EQ(program.run({"export", verb, "--text"}).status, 0);
+    }
+
+    EXPECT_EQ(support::contentOf(database()), before) << "the history is in there";
+    EXPECT_EQ(std::distance(std::filesystem::recursive_directory_iterator{program.share()}, {}),
+              filesBefore);
+    // HOME is the folder with bin, share, out and err.
+    EXPECT_EQ(
+        std::distance(
+            std::filesystem::directory_iterator{program.share().parent_path().parent_path()}, {}),
+        4);
+}
+
+TEST_F(TerminalTest, PutsColumnsOnATerminalAsManyAsFit)
+{
+    const auto wide = program.runOnTerminal({"conjugate", "aimer"}, 80);
+    EXPECT_EQ(wide.status, 0);
+    EXPECT_TRUE(wide.out.starts_with("aimer (love)\r\n\r\nIndicative\r\n\r\n")) << wide.out;
+    EXPECT_THAT(wide.out, HasSubstr("\r\n     j'aime"));
+    EXPECT_THAT(wide.out, HasSubstr("\r\n  nous aimons"));
+    EXPECT_THAT(wide.out, HasSubstr("Present           Present perfect   Imperfect"));
+    EXPECT_THAT(wide.out, Not(HasSubstr("\t")));
+
+    const auto narrow = program.runOnTerminal({"conjugate", "aimer"}, 10);
+    EXPECT_THAT(narrow.out, HasSubstr("\r\n  Present\r\n"));
+
+    const auto results = program.runOnTerminal({"search", "p"}, 80);
+    EXPECT_THAT(results.out, HasSubstr("pêcher   fish\r\n"));
+    EXPECT_THAT(results.out, HasSubstr("pouvoir  Éclat\r\n"));
+}
+
+TEST_F(TerminalTest, HelpsAndTellsItsVersion)
+{
+    const auto help = program.run({"--help"});
+    EXPECT_EQ(help.status, 0);
+    for (const char* word : {"conjugate", "search", "export", "--anywhere", "--conjugations",
+                             "--translations", "--language", "--html", "--text", "--version"}) {
+        EXPECT_THAT(help.out, HasSubstr(word));
+    }
+    EXPECT_EQ(program.run({"search", "a", "--help"}).out, help.out);
+    EXPECT_EQ(program.run({"--version"}).out, "lumora-cli 9.8\n");
+}
+
+TEST_F(TerminalTest, NoticesThatTheOutputIsLost)
+{
+    const auto run = program.run({"export", "être", "--text"}, {}, ">/dev/full");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "lumora-cli: the output cannot be written\n");
+}
+
+} // namespace
+} // namespace lumora::terminal
