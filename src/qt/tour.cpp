@@ -210,6 +210,9 @@ private:
     void search()
     {
         if (auto* field = item("Search")) {
+            field->setProperty("text", QStringLiteral("qwx"));
+            settle();
+            picture("search-nothing");
             field->setProperty("text", QStringLiteral("all"));
             settle();
             picture("search");

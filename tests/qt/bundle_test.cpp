@@ -11,8 +11,11 @@
 #include <QFile>
 #include <QXmlStreamReader>
 
+#include <filesystem>
 #include <fstream>
 #include <map>
+#include <regex>
+#include <set>
 
 #include <gtest/gtest.h>
 
@@ -59,6 +62,48 @@ TEST(Translations, BothLanguagesHaveEveryKeyAndFrenchNamesAreFrenchInBoth)
             EXPECT_TRUE(english.contains(key)) << key;
             EXPECT_TRUE(english.contains(key + "_french")) << key;
         }
+    }
+}
+
+/// Every text literal of the sources that has the form of a key.
+std::set<std::string> keysInSources()
+{
+    static const std::regex kKey{R"~("([a-z][a-zA-Z]*(\.[a-zA-Z_]+)*)")~"};
+    std::set<std::string> keys;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator{LUMORA_SOURCES}) {
+        const auto extension = entry.path().extension();
+        if (extension != ".cpp" && extension != ".qml") {
+            continue;
+        }
+        const auto content = support::contentOf(entry.path());
+        for (std::sregex_iterator match{content.begin(), content.end(), kKey}, end; match != end;
+             ++match) {
+            keys.insert((*match)[1]);
+        }
+    }
+    return keys;
+}
+
+TEST(Translations, EveryKeyIsAskedForAndEveryKeyAskedForIsThere)
+{
+    const auto texts = textsOf(QStringLiteral("en"));
+    const auto literals = keysInSources();
+    std::set<std::string> families;
+    for (const auto& [key, text] : texts) {
+        families.insert(key.substr(0, key.find('.')));
+        auto asked = key;
+        if (asked.ends_with("_french")) {
+            asked.resize(asked.size() - std::string_view{"_french"}.size());
+        }
+        // Buttons are named by their identifiers.
+        const auto family = asked.substr(0, asked.find('.') + 1);
+        const bool built = family == "button." && literals.contains(asked.substr(family.size()));
+        EXPECT_TRUE(built || literals.contains(asked)) << "nobody asks for " << key;
+    }
+    for (const auto& literal : literals) {
+        const bool isKey = literal.find('.') != std::string::npos &&
+                           families.contains(literal.substr(0, literal.find('.')));
+        EXPECT_TRUE(!isKey || texts.contains(literal)) << "there is no text for " << literal;
     }
 }
 

@@ -161,6 +161,14 @@ TEST_F(WindowTest, TypingFindsAVerbAndOpensIt)
     EXPECT_EQ(topTitle(split().primary()), QStringLiteral("être"));
 }
 
+TEST_F(WindowTest, ASearchInVainSaysSo)
+{
+    start({390, 844});
+    tap("Search");
+    QTest::keyClick(application->window(), 'q');
+    EXPECT_TRUE(QTest::qWaitFor([&] { return find("nothingFound") != nullptr; }, kPatience));
+}
+
 TEST_F(WindowTest, AShortcutOpensItsTab)
 {
     start({390, 844}, "com.brindle.shortcut.favourite");

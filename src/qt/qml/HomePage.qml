@@ -48,6 +48,19 @@ ScreenPage {
                 objectName: "searchResults"
                 screen: root.home.searchResults
 
+                Text {
+                    objectName: "nothingFound"
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    y: Theme.touch
+                    width: Math.min(300, parent.width - 2 * Theme.margin)
+                    visible: results.list.count === 0
+                    text: qsTrId("search.empty")
+                    color: Theme.textSecondary
+                    font.pixelSize: Theme.title
+                    font.bold: true
+                    wrapMode: Text.WordWrap
+                    horizontalAlignment: Text.AlignHCenter
+                }
                 Connections {
                     target: root.home
                     function onSearchChanged() {

@@ -15,6 +15,10 @@
         <source></source>
         <translation>Play</translation>
     </message>
+    <message id="action.remove">
+        <source></source>
+        <translation>Remove</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Show or hide the list</translation>
@@ -42,6 +46,10 @@
     <message id="search.clear">
         <source></source>
         <translation>Clear the search</translation>
+    </message>
+    <message id="search.empty">
+        <source></source>
+        <translation>No verb found.</translation>
     </message>
     <message id="search.placeholder">
         <source></source>

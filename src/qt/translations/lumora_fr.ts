@@ -15,6 +15,10 @@
         <source></source>
         <translation>Écouter</translation>
     </message>
+    <message id="action.remove">
+        <source></source>
+        <translation>Supprimer</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Afficher ou masquer la liste</translation>
@@ -42,6 +46,10 @@
     <message id="search.clear">
         <source></source>
         <translation>Effacer la recherche</translation>
+    </message>
+    <message id="search.empty">
+        <source></source>
+        <translation>Aucun verbe trouvé.</translation>
     </message>
     <message id="search.placeholder">
         <source></source>
