@@ -14,6 +14,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -134,6 +135,126 @@ TEST_F(ShippedDatabase, GivesEachTenseItsPersonsInOrder)
                 << verb.entry.infinitive << " lacks forms and is not marked defective";
         }
     }
+}
+
+std::vector<std::string> variants(const std::string& text)
+{
+    std::vector<std::string> parts;
+    for (std::size_t begin = 0; begin <= text.size();) {
+        const auto end = std::min(text.find(", ", begin), text.size());
+        parts.push_back(text.substr(begin, end - begin));
+        begin = end + 2;
+    }
+    return parts;
+}
+
+/// The auxiliary of the forms that are shown.
+std::string shownAuxiliary(conjugator::Auxiliary auxiliary)
+{
+    return auxiliary == conjugator::Auxiliary::Avoir ||
+                   auxiliary == conjugator::Auxiliary::AvoirThenEtre
+               ? "avoir"
+               : "être";
+}
+
+/// Takes the ending of agreement with a person's subject off; false when the
+/// participle does not agree.
+bool removeAgreement(std::string& participle, std::size_t person)
+{
+    static const std::array<std::vector<std::string>, 6> endings{
+        {{"(e)"}, {"(e)"}, {"(e)"}, {"(e)s", "(es)"}, {"(e)(s)"}, {"(e)s", "(es)"}}};
+    const auto& possible = endings[person];
+    const auto ending =
+        std::find_if(possible.begin(), possible.end(),
+                     [&](const std::string& each) { return participle.ends_with(each); });
+    if (ending == possible.end()) {
+        return false;
+    }
+    participle.resize(participle.size() - ending->size());
+    return true;
+}
+
+/// The auxiliary's tense in each compound one.
+const std::map<std::string, std::string>& simpleTenses()
+{
+    static const std::map<std::string, std::string> tenses{
+        {"indicatifPasseCompose", "indicatifPresent"},
+        {"indicatifPlusQueParfait", "indicatifImparfait"},
+        {"indicatifFuturAnterieur", "indicatifFuturSimple"},
+        {"indicatifPasseAnterieur", "indicatifPasseSimple"},
+        {"subjonctifPasse", "subjonctifPresent"},
+        {"subjonctifPlusqueParfait", "subjonctifImparfait"},
+        {"conditionnelPasse1reForme", "conditionnelPresent"},
+        {"conditionnelPasse2eForme", "subjonctifImparfait"},
+    };
+    return tenses;
+}
+
+TEST_F(ShippedDatabase, MakesCompoundFormsOfAuxiliaryAndAgreeingParticiple)
+{
+    // By auxiliary, tense and person.
+    std::map<std::string, std::map<std::string, std::map<std::size_t, std::string>>> auxiliaries;
+    forEachRow("SELECT french, type, pronoun, conjugation.verb FROM conjugation JOIN verb ON"
+               " verb._id = verbid WHERE french IN ('avoir', 'être') AND display = 1 AND"
+               " pronoun <> ''",
+               [&](const Row& row) { auxiliaries[row[0]][row[1]][personOf(row[2])] = row[3]; });
+    std::map<std::string, std::set<std::string>> participles;
+    forEachRow("SELECT verbid, verb FROM conjugation WHERE type = 'participe' AND display = 1",
+               [&](const Row& row) {
+                   for (const auto& form : variants(row[1])) {
+                       participles[row[0]].insert(form);
+                   }
+               });
+    std::map<std::string, std::string> shown;
+    for (const auto& verb : readContent(LUMORA_CONTENT_DIR).verbs) {
+        shown[std::to_string(verb.id)] = shownAuxiliary(verb.entry.auxiliary);
+    }
+
+    forEachRow(
+        "SELECT verbid, type, pronoun, verb FROM conjugation WHERE display = 1 AND pronoun <> ''",
+        [&](const Row& row) {
+            const auto simple = simpleTenses().find(row[1]);
+            if (simple == simpleTenses().end()) {
+                return;
+            }
+            const auto person = personOf(row[2]);
+            const auto& auxiliary = auxiliaries[shown[row[0]]][simple->second][person];
+            for (auto form : variants(row[3])) {
+                const bool whole = form.starts_with(auxiliary + " ");
+                if (whole) {
+                    form.erase(0, auxiliary.size() + 1);
+                }
+                const bool agrees = shown[row[0]] == "avoir" || removeAgreement(form, person);
+                if (!whole || !agrees || !participles[row[0]].contains(form)) {
+                    ADD_FAILURE() << row[0] << ": " << row[2] << " " << row[3];
+                }
+            }
+        });
+}
+
+TEST_F(ShippedDatabase, ElidesBeforeVowelsAndMuteHOnly)
+{
+    std::set<std::string> aspirated;
+    for (const auto& verb : readContent(LUMORA_CONTENT_DIR).verbs) {
+        if (verb.entry.aspirated) {
+            aspirated.insert(std::to_string(verb.id));
+        }
+    }
+    constexpr std::string_view kVowels = "aeiou";
+    forEachRow("SELECT verbid, pronoun, verb, type FROM conjugation WHERE display = 1 AND"
+               " (pronoun LIKE '%j%' OR pronoun LIKE 'tu t%')",
+               [&](const Row& row) {
+                   const bool compound = simpleTenses().contains(row[3]);
+                   const auto plain = simplified(row[2]);
+                   const bool vowel = kVowels.find(plain[0]) != std::string_view::npos ||
+                                      plain[0] == 'h' ||
+                                      (plain[0] == 'y' && plain.size() > 1 &&
+                                       kVowels.find(plain[1]) == std::string_view::npos);
+                   const bool elides = vowel && (compound || !aspirated.contains(row[0]));
+                   if (row[1].ends_with("'") != elides) {
+                       ADD_FAILURE() << row[1] << " | " << row[2];
+                   }
+               });
 }
 
 TEST_F(ShippedDatabase, FoldsEveryHeadwordAndTranslation)
