@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <unordered_set>
 
 namespace lumora::verbdb {
 
@@ -53,6 +54,7 @@ CREATE TABLE conjugation (
     display INTEGER NOT NULL,
     PRIMARY KEY (verbid, conj_order)
 ) WITHOUT ROWID;
+CREATE TABLE packed_forms (verbid INTEGER PRIMARY KEY, forms BLOB NOT NULL);
 CREATE TABLE favourite (_id INTEGER PRIMARY KEY, verbid INTEGER);
 CREATE TABLE history (_id INTEGER PRIMARY KEY, verbid INTEGER, timestamp REAL);
 CREATE INDEX favourite_verbid ON favourite (verbid);
@@ -62,6 +64,8 @@ CREATE INDEX history_verbid ON history (verbid);
 constexpr auto kInsertVerb =
     "INSERT INTO verb VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14)";
 constexpr auto kInsertForm = "INSERT INTO conjugation VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7)";
+// Bound as text, whose NULs SQLite keeps.
+constexpr auto kInsertPacked = "INSERT INTO packed_forms VALUES (?1, CAST(?2 AS BLOB))";
 
 struct Closer {
     void operator()(sqlite3* database) const { sqlite3_close(database); }
@@ -132,10 +136,36 @@ private:
     int bound_ = 0;
 };
 
+/// A verb's distinct forms as the search reads them: NUL form NUL form NUL, with
+/// the case folded that LIKE does not tell apart, which is ASCII's alone.
+class PackedForms {
+public:
+    void add(std::string_view form)
+    {
+        std::string folded(form);
+        for (char& byte : folded) {
+            if (byte >= 'A' && byte <= 'Z') {
+                byte = static_cast<char>(byte - 'A' + 'a');
+            }
+        }
+        if (seen_.insert(folded).second) {
+            packed_ += folded;
+            packed_ += '\0';
+        }
+    }
+
+    std::string_view text() const { return packed_; }
+
+private:
+    std::string packed_ = std::string(1, '\0');
+    std::unordered_set<std::string> seen_;
+};
+
 void writeRows(const Content& content, Output& output)
 {
     Insertion insertVerb(output, kInsertVerb);
     Insertion insertForm(output, kInsertForm);
+    Insertion insertPacked(output, kInsertPacked);
     std::int64_t formId = 0;
     for (const auto& verb : content.verbs) {
         const auto headword = content.conjugator.headword(verb.entry);
@@ -154,12 +184,16 @@ void writeRows(const Content& content, Output& output)
         insertVerb.run();
 
         std::int64_t order = 0;
+        PackedForms packed;
         for (const auto& row : content.conjugator.rows(verb.entry)) {
             insertForm << ++formId << verb.id << std::string_view(row.pronoun)
                        << std::string_view(row.verb) << conjugator::name(row.tense) << ++order
                        << std::int64_t{row.shown};
             insertForm.run();
+            packed.add(row.verb);
         }
+        insertPacked << verb.id << packed.text();
+        insertPacked.run();
     }
 }
 
