@@ -8,10 +8,18 @@
 #include "lists/verb_cell.h"
 #include "platform/crash_reporter.h"
 #include "platform/database_queue.h"
+#include "platform/packed_search.h"
 
 #include <cstdlib>
+#include <optional>
 
 namespace lumora::lists {
+
+namespace {
+
+constexpr platform::PackedColumn kForms{"conjugation", "verbid", "verb", "packed_forms", "forms"};
+
+} // namespace
 
 void SearchResultsTableViewController::search(std::string_view text)
 {
@@ -24,6 +32,11 @@ void SearchResultsTableViewController::search(std::string_view text)
     queue->inDatabase([&](platform::Database& connection) {
         const std::vector<platform::SqlValue> values(
             static_cast<std::size_t>(statement.placeholders), statement.pattern);
+        // Declared before the rows, so that they go first.
+        std::optional<platform::PackedSearch> fast;
+        if (statement.statement.find(kForms.table) != std::string::npos) {
+            fast.emplace(connection, kForms);
+        }
         auto rows = connection.executeQuery(statement.statement, values);
         bool failed = !rows;
         if (rows) {

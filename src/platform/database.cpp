@@ -155,6 +155,8 @@ Result<void> Database::open()
         return tl::unexpected(closedReason_);
     }
     sqlite3_busy_timeout(connection_, kBusyMilliseconds);
+    // A sort of all rows would else end in a temporary file.
+    sqlite3_exec(connection_, "PRAGMA temp_store = MEMORY", nullptr, nullptr, nullptr);
     return {};
 }
 

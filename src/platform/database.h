@@ -21,6 +21,7 @@ namespace lumora::platform {
 using SqlValue = std::variant<std::nullptr_t, std::int64_t, double, std::string>;
 
 class Database;
+class PackedTexts;
 
 /// The rows of one statement, read by column name, one row per `next`.
 ///
@@ -77,6 +78,7 @@ public:
 
 private:
     friend class DatabaseQueue;
+    friend class PackedSearch;
     friend class ResultSet;
     explicit Database(std::string fileUrl);
     Result<void> open();
@@ -88,6 +90,8 @@ private:
     Error lastError_;
     /// Why statements fail while there is no connection.
     Error closedReason_;
+    /// Of PackedSearch, which reads them once for all connections of the queue.
+    std::shared_ptr<const PackedTexts> packedTexts_;
 };
 
 } // namespace lumora::platform
