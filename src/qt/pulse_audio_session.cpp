@@ -67,13 +67,16 @@ void PulseAudioSession::ContextDeleter::operator()(pa_context* context) const
 
 PulseAudioSession::PulseAudioSession() : loop_{pa_threaded_mainloop_new()}
 {
-    if (!loop_ || pa_threaded_mainloop_start(loop_.get()) < 0) {
+    if (!loop_) {
         error_ = PA_ERR_INTERNAL;
-        loop_.reset();
         return;
     }
-    const LoopLock lock{loop_.get()};
     connect();
+    if (pa_threaded_mainloop_start(loop_.get()) < 0) {
+        context_.reset();
+        loop_.reset();
+        error_ = PA_ERR_INTERNAL;
+    }
 }
 
 PulseAudioSession::~PulseAudioSession()

@@ -8,7 +8,7 @@
 #include <QIODevice>
 #include <QMediaDevices>
 
-#include <cstdint>
+#include <span>
 
 namespace lumora::qt {
 
@@ -31,7 +31,7 @@ SpeechSink::SpeechSink(const Speech& speech)
     }
     // All of it at once, a server has room for minutes: it begins to sound
     // without waiting for more, and nothing that holds the window up is heard.
-    const auto bytes = static_cast<qsizetype>(speech.samples.size() * sizeof(std::int16_t));
+    const auto bytes = static_cast<qsizetype>(std::as_bytes(std::span{speech.samples}).size());
     sink_ = std::make_unique<QAudioSink>(device, format);
     sink_->setBufferSize(bytes);
     if (auto* stream = sink_->start()) {

@@ -26,9 +26,10 @@ SpokenText::SpokenText(std::string_view written)
     std::size_t place = 0;
     bool afterLetter = false;
     while (!written.empty()) {
-        const auto close = written[0] == '(' && afterLetter ? written.find(')') : written.npos;
+        const auto close =
+            written[0] == '(' && afterLetter ? written.find(')') : std::string_view::npos;
         // What is left out keeps the letter before it: "(e)(s)".
-        const bool leftOut = close != written.npos;
+        const bool leftOut = close != std::string_view::npos;
         const auto part = written.substr(0, leftOut ? close + 1 : 1);
         const auto count = platform::characterCount(part);
         if (!leftOut) {

@@ -3,6 +3,9 @@
 
 #include "qt/application.h"
 
+#include "detail/ce_round_progress_layer.h"
+#include "qt/indicator_source.h"
+#include "qt/round_progress_item.h"
 #include "qt/table_screen.h"
 #include "qt/verb_detail_screen.h"
 #include "support/temporary_folder.h"
@@ -74,6 +77,23 @@ struct WindowTest : testing::Test {
         QTest::qWait(300);
     }
 
+    /// Taps the first play control on screen: its ring runs, and empties again.
+    void hearAForm()
+    {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return find("play") != nullptr; }, kPatience));
+        auto* ring = find("play")->findChild<RoundProgressItem*>();
+        ASSERT_NE(ring, nullptr);
+        ASSERT_NE(ring->source(), nullptr);
+        const auto progress = [&] {
+            return dynamic_cast<const detail::CERoundProgressLayer&>(ring->source()->layer())
+                .progress;
+        };
+        EXPECT_EQ(progress(), 0);
+        tap("play");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return progress() > 0.3F; }, kPatience));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return progress() == 0; }, kPatience));
+    }
+
     QString topTitle(const QList<QObject*>& screens)
     {
         return screens.isEmpty() ? QString{} : qobject_cast<Screen*>(screens.last())->title();
@@ -122,6 +142,20 @@ TEST_F(WindowTest, AVerbStaysOpenWhenTheWindowChangesItsPanes)
     ASSERT_TRUE(QTest::qWaitFor([&] { return !split().collapsed(); }, kPatience));
     EXPECT_EQ(split().secondary().last(), screen);
     EXPECT_EQ(split().primary().size(), 1);
+}
+
+TEST_F(WindowTest, OnAPhoneAPlayControlSpeaksItsRow)
+{
+    start({390, 844});
+    tap("aller");
+    hearAForm();
+}
+
+TEST_F(WindowTest, OnATabletAPlayControlSpeaksItsLine)
+{
+    start({1024, 768});
+    tap("aller");
+    hearAForm();
 }
 
 TEST_F(WindowTest, ASwipedRowMakesAFavouriteThatTheOtherTabShows)

@@ -9,6 +9,7 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -38,10 +39,9 @@ public:
 
     std::vector<std::string> whats() const
     {
-        std::vector<std::string> all;
-        for (const auto& event : events) {
-            all.push_back(event.what);
-        }
+        std::vector<std::string> all(events.size());
+        std::transform(events.begin(), events.end(), all.begin(),
+                       [](const Event& event) { return event.what; });
         return all;
     }
 

@@ -35,14 +35,18 @@ public:
     }
     bool isSpeaking() const override { return current_.has_value(); }
 
+    /// Nothing happens while nothing is spoken.
     void reachWord(std::size_t location, std::size_t length)
     {
-        delegate_->willSpeakRange(location, length, current_.value());
+        if (current_) {
+            delegate_->willSpeakRange(location, length, *current_);
+        }
     }
     void reachEnd()
     {
-        const auto finished = std::exchange(current_, {});
-        delegate_->didFinish(finished.value());
+        if (const auto finished = std::exchange(current_, {})) {
+            delegate_->didFinish(*finished);
+        }
     }
 
     std::vector<platform::Utterance> spoken;
