@@ -212,6 +212,13 @@ Forms imperativeOfTu(const Forms& present)
     return forms;
 }
 
+std::string twice(std::string_view part, std::string_view model)
+{
+    std::string text{"\""};
+    text.append(part).append("\" of model \"").append(model).append("\" stands twice");
+    return text;
+}
+
 } // namespace
 
 const std::vector<std::string>& ModelTable::header()
@@ -236,7 +243,7 @@ ModelTable::ModelTable(const TextTable& table)
         if (key == "like" || key == "ends") {
             auto& field = key == "like" ? model.parent : model.ends;
             if (!field.empty()) {
-                table.refuse(record, "\"" + key + "\" of model \"" + name + "\" stands twice");
+                table.refuse(record, twice(key, name));
             }
             if (value.empty()) {
                 table.refuse(record, "empty form");
@@ -264,7 +271,7 @@ ModelTable::ModelTable(const TextTable& table)
                 part.cells.push_back(std::move(forms));
             }
             const auto count = part.cells.size();
-            if (count != shape->cells && !(shape->stem && count == 1)) {
+            if (count != shape->cells && (!shape->stem || count != 1)) {
                 table.refuse(record, "expected " + std::to_string(shape->cells) + " forms, found " +
                                          std::to_string(count));
             }
@@ -276,7 +283,7 @@ ModelTable::ModelTable(const TextTable& table)
             table.refuse(record, "\"" + value + "\" does not end in a, i, in, u, ï or û");
         }
         if (!model.parts.emplace(key, std::move(part)).second) {
-            table.refuse(record, "\"" + key + "\" of model \"" + name + "\" stands twice");
+            table.refuse(record, twice(key, name));
         }
     }
 
@@ -349,6 +356,7 @@ void ModelTable::inherit(const std::string& name, const TextTable& table,
 std::vector<std::string> ModelTable::names() const
 {
     std::vector<std::string> names;
+    names.reserve(models_.size());
     for (const auto& [name, model] : models_) {
         names.push_back(name);
     }

@@ -16,6 +16,7 @@
 #include <chrono>
 #include <iostream>
 #include <system_error>
+#include <utility>
 
 // Written by the build: the module's types of this library.
 extern void qml_register_types_Lumora();
@@ -47,8 +48,8 @@ void registerInterface()
     [[maybe_unused]] void (*volatile registration)() = &qml_register_types_Lumora;
 }
 
-Application::Application(const ApplicationOptions& options)
-    : options_{options},
+Application::Application(ApplicationOptions options)
+    : options_{std::move(options)},
       settings_{options_.folders.config / "settings.json"},
       crashReporter_{options_.folders.state},
       analytics_{options_.folders.state, clock_},

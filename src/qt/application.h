@@ -46,7 +46,7 @@ class Application final : public QObject {
     Q_OBJECT
 
 public:
-    explicit Application(const ApplicationOptions& options);
+    explicit Application(ApplicationOptions options);
     ~Application() override;
 
     /// Opens the window with nothing but its colours and launches as soon as

@@ -6,6 +6,8 @@
 #include "platform/navigation_controller.h"
 #include "qt/qt_device.h"
 
+#include <algorithm>
+#include <ranges>
 #include <utility>
 
 namespace lumora::qt {
@@ -66,12 +68,9 @@ void SplitScreen::setWidth(double points)
 bool SplitScreen::back()
 {
     const auto panes = split_->viewControllers();
-    for (auto pane = panes.rbegin(); pane != panes.rend(); ++pane) {
-        if (popOne(dynamic_cast<NavigationController*>(*pane))) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(panes | std::views::reverse, [](auto* pane) {
+        return popOne(dynamic_cast<NavigationController*>(pane));
+    });
 }
 
 SplitScreen::Controllers SplitScreen::flatten(NavigationController& stack)

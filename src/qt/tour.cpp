@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <ranges>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -96,14 +97,14 @@ private:
     static QQuickItem* visibleItem(QQuickItem* parent, const QString& name)
     {
         const auto children = parent->childItems();
-        for (auto child = children.rbegin(); child != children.rend(); ++child) {
-            if (!(*child)->isVisible()) {
+        for (auto* child : std::views::reverse(children)) {
+            if (!child->isVisible()) {
                 continue;
             }
-            if ((*child)->objectName() == name && (*child)->width() > 0) {
-                return *child;
+            if (child->objectName() == name && child->width() > 0) {
+                return child;
             }
-            if (auto* found = visibleItem(*child, name)) {
+            if (auto* found = visibleItem(child, name)) {
                 return found;
             }
         }

@@ -51,8 +51,8 @@ public:
 
     Q_INVOKABLE void selectMood(int segment) { detail_->selectVerbTypes(segment); }
     /// The page is about to draw the collection.
-    Q_INVOKABLE void prepareCollection() { collection()->loadIfNeeded(); }
-    Q_INVOKABLE void prepareTable() { table()->model()->loadIfNeeded(); }
+    Q_INVOKABLE void prepareCollection() const { collection()->loadIfNeeded(); }
+    Q_INVOKABLE void prepareTable() const { table()->model()->loadIfNeeded(); }
 
 signals:
     void outletsChanged();
