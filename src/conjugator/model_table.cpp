@@ -54,7 +54,7 @@ struct PartShape {
     std::size_t cells;
     bool stem;
 };
-constexpr std::array<PartShape, 12> kParts{{
+constexpr std::array<PartShape, 13> kParts{{
     {"infinitive", 1, false},
     {"present", kPersons, false},
     {"imperfect", kPersons, true},
@@ -66,6 +66,7 @@ constexpr std::array<PartShape, 12> kParts{{
     {"imperative", 3, false},
     {"gerund", 1, false},
     {"participle", 4, true},
+    {"adjective", 4, false},
     {"persons", kPersons, false},
 }};
 
@@ -490,6 +491,7 @@ Paradigm ModelTable::conjugate(std::string_view model, std::string_view infiniti
             }
         },
         nothing);
+    fill(verb.adjective, "adjective", noStem, nothing);
 
     if (const auto* persons = find("persons"); persons != nullptr && !persons->missing) {
         for (std::size_t person = 0; person < kPersons; ++person) {

@@ -25,6 +25,8 @@ struct Paradigm {
     Forms gerund;
     /// Masculine and feminine singular, masculine and feminine plural.
     std::array<Forms, 4> participle;
+    /// A second participle that no auxiliary takes: "bénit" beside "béni".
+    std::array<Forms, 4> adjective;
 };
 
 } // namespace lumora::conjugator

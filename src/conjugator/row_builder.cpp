@@ -95,7 +95,9 @@ void RowBuilder::participles()
     add(Tense::Participe, "", forms);
     const std::size_t count = entry_.invariableParticiple ? 1 : verb_.participle.size();
     for (std::size_t form = 0; form < count; ++form) {
-        add(Tense::Participe, "", verb_.participle[form]);
+        auto both = verb_.participle[form];
+        both.insert(both.end(), verb_.adjective[form].begin(), verb_.adjective[form].end());
+        add(Tense::Participe, "", both);
     }
 }
 

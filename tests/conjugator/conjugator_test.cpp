@@ -276,6 +276,8 @@ TEST(Conjugator, FormsImperativesAndParticiples)
          " | ayant absous, ayant absout"},
         {"acquérir", "acquérir", kParticiple,
          "acquérant | acquis | acquise | acquis | acquises | ayant acquis"},
+        {"bénir", "bénir", kParticiple,
+         "bénissant | béni, bénit | bénie, bénite | bénis, bénits | bénies, bénites | ayant béni"},
         {"mourir", "mourir", kParticiple, "mourant | mort | morte | morts | mortes | ayant mort"},
         {"vivre", "vivre", kParticiple, "vivant | vécu | vécue | vécus | vécues | ayant vécu"},
         {"gésir", "gésir", kParticiple, "gisant"},
