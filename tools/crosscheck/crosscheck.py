@@ -197,7 +197,8 @@ def read_explained(path):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser = argparse.ArgumentParser(
+        description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("database")
     parser.add_argument("--lexicon", help="conjugations.json")
     parser.add_argument("--dictionary", help="fr.dic; fr.aff lies beside it")
