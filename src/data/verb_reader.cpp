@@ -55,6 +55,19 @@ VerbPtr VerbReader::readVerb(const platform::ResultSet& rows) const
     return verb;
 }
 
+bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
+               std::vector<VerbPtr>& verbs)
+{
+    if (!rows) {
+        return false;
+    }
+    const VerbReader reader{*rows, spellings};
+    while (rows->next()) {
+        verbs.push_back(reader.readVerb(*rows));
+    }
+    return !rows->failed();
+}
+
 ConjugationReader::ConjugationReader(const platform::ResultSet& rows)
     : pronoun_{rows.columnIndex("pronoun")},
       verb_{rows.columnIndex("verb")},

@@ -5,6 +5,7 @@
 
 #include "data/conjugation.h"
 #include "data/verb.h"
+#include "platform/error.h"
 
 namespace lumora::platform {
 class ResultSet;
@@ -34,6 +35,11 @@ private:
     int favouriteAvailable_;
     std::vector<TextColumn> texts_;
 };
+
+/// Appends the verbs of all rows. False when the statement failed, at once or
+/// on the way; what was read before stays.
+bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
+               std::vector<VerbPtr>& verbs);
 
 class ConjugationReader {
 public:

@@ -31,15 +31,7 @@ void RemovableVerbListController::reload(const std::string& statement)
     }
     queue->inDatabase([&](platform::Database& connection) {
         auto rows = connection.executeQuery(statement, {});
-        bool failed = !rows;
-        if (rows) {
-            const data::VerbReader reader{*rows, data::VerbReader::Spellings::Plain};
-            while (rows->next()) {
-                verbs.push_back(reader.readVerb(*rows));
-            }
-            failed = rows->failed();
-        }
-        if (failed) {
+        if (!data::readVerbs(rows, data::VerbReader::Spellings::Plain, verbs)) {
             services().crashReporter.logWithFormat(
                 "An error occurred when reading list of verbs: %@ (%d)",
                 {connection.lastErrorMessage(), connection.lastErrorCode()});

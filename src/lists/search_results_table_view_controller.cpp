@@ -38,15 +38,7 @@ void SearchResultsTableViewController::search(std::string_view text)
             fast.emplace(connection, kForms);
         }
         auto rows = connection.executeQuery(statement.statement, values);
-        bool failed = !rows;
-        if (rows) {
-            const data::VerbReader reader{*rows, data::VerbReader::Spellings::Plain};
-            while (rows->next()) {
-                verbs.push_back(reader.readVerb(*rows));
-            }
-            failed = rows->failed();
-        }
-        if (failed) {
+        if (!data::readVerbs(rows, data::VerbReader::Spellings::Plain, verbs)) {
             services().crashReporter.logWithFormat(
                 "An error occurred when performing search: %@ (%d)",
                 {connection.lastErrorMessage(), connection.lastErrorCode()});
