@@ -117,7 +117,9 @@ TEST(QtBundle, SpeaksTheFirstLanguageThatItHas)
     } cases[] = {
         {{"fr-CH", "en"}, "Verbes"},
         {{"en-GB", "fr"}, "Verbs"},
-        {{"de", "fr_FR"}, "Verbes"},
+        {{"sv", "fr_FR"}, "Verbes"},
+        {{"nl-BE", "fr"}, "Werkwoorden"},
+        {{"pt_BR"}, "Verbos"},
         {{"sv"}, "Verbs"},
         {{}, "Verbs"},
     };

@@ -1,0 +1,255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="action.favourite">
+        <source></source>
+        <translation>Favorit</translation>
+    </message>
+    <message id="action.favourite.remove">
+        <source></source>
+        <translation>Entfernen</translation>
+    </message>
+    <message id="action.play">
+        <source></source>
+        <translation>Anhören</translation>
+    </message>
+    <message id="action.remove">
+        <source></source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="button.displayMode">
+        <source></source>
+        <translation>Liste ein- oder ausblenden</translation>
+    </message>
+    <message id="button.favourite">
+        <source></source>
+        <translation>Favorit</translation>
+    </message>
+    <message id="common.ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="favourites.empty">
+        <source></source>
+        <translation>Sie haben noch keine Favoriten. Markieren Sie ein Verb mit dem Stern, um es hier wiederzufinden.</translation>
+    </message>
+    <message id="history.empty">
+        <source></source>
+        <translation>Sie haben noch keine Verben angesehen. Die Verben, die Sie öffnen, erscheinen hier.</translation>
+    </message>
+    <message id="navigation.back">
+        <source></source>
+        <translation>Zurück</translation>
+    </message>
+    <message id="search.clear">
+        <source></source>
+        <translation>Suche löschen</translation>
+    </message>
+    <message id="search.empty">
+        <source></source>
+        <translation>Kein Verb gefunden.</translation>
+    </message>
+    <message id="search.placeholder">
+        <source></source>
+        <translation>Verb suchen</translation>
+    </message>
+    <message id="select">
+        <source></source>
+        <translation>Wählen Sie ein Verb, um seine Konjugation zu sehen.</translation>
+    </message>
+    <message id="tabs.favourites">
+        <source></source>
+        <translation>Favoriten</translation>
+    </message>
+    <message id="tabs.history">
+        <source></source>
+        <translation>Verlauf</translation>
+    </message>
+    <message id="tabs.list">
+        <source></source>
+        <translation>Verben</translation>
+    </message>
+    <message id="tense.con">
+        <source></source>
+        <translation>Konditional</translation>
+    </message>
+    <message id="tense.con.firstpast">
+        <source></source>
+        <translation>Konditional II</translation>
+    </message>
+    <message id="tense.con.firstpast_french">
+        <source></source>
+        <translation>Conditionnel passé 1re forme</translation>
+    </message>
+    <message id="tense.con.present">
+        <source></source>
+        <translation>Konditional I</translation>
+    </message>
+    <message id="tense.con.present_french">
+        <source></source>
+        <translation>Conditionnel présent</translation>
+    </message>
+    <message id="tense.con.secondpast">
+        <source></source>
+        <translation>Konditional II, 2. Form</translation>
+    </message>
+    <message id="tense.con.secondpast_french">
+        <source></source>
+        <translation>Conditionnel passé 2e forme</translation>
+    </message>
+    <message id="tense.ind">
+        <source></source>
+        <translation>Indikativ</translation>
+    </message>
+    <message id="tense.ind.future">
+        <source></source>
+        <translation>Futur I</translation>
+    </message>
+    <message id="tense.ind.future_french">
+        <source></source>
+        <translation>Futur simple</translation>
+    </message>
+    <message id="tense.ind.imperfect">
+        <source></source>
+        <translation>Imperfekt</translation>
+    </message>
+    <message id="tense.ind.imperfect_french">
+        <source></source>
+        <translation>Imparfait</translation>
+    </message>
+    <message id="tense.ind.pastfuture">
+        <source></source>
+        <translation>Futur II</translation>
+    </message>
+    <message id="tense.ind.pastfuture_french">
+        <source></source>
+        <translation>Futur antérieur</translation>
+    </message>
+    <message id="tense.ind.pastperfect">
+        <source></source>
+        <translation>Historisches Plusquamperfekt</translation>
+    </message>
+    <message id="tense.ind.pastperfect_french">
+        <source></source>
+        <translation>Passé antérieur</translation>
+    </message>
+    <message id="tense.ind.pluperfect">
+        <source></source>
+        <translation>Plusquamperfekt</translation>
+    </message>
+    <message id="tense.ind.pluperfect_french">
+        <source></source>
+        <translation>Plus-que-parfait</translation>
+    </message>
+    <message id="tense.ind.present">
+        <source></source>
+        <translation>Präsens</translation>
+    </message>
+    <message id="tense.ind.present_french">
+        <source></source>
+        <translation>Présent</translation>
+    </message>
+    <message id="tense.ind.presentperfect">
+        <source></source>
+        <translation>Perfekt</translation>
+    </message>
+    <message id="tense.ind.presentperfect_french">
+        <source></source>
+        <translation>Passé composé</translation>
+    </message>
+    <message id="tense.ind.simplepast">
+        <source></source>
+        <translation>Historisches Perfekt</translation>
+    </message>
+    <message id="tense.ind.simplepast_french">
+        <source></source>
+        <translation>Passé simple</translation>
+    </message>
+    <message id="tense.other">
+        <source></source>
+        <translation>Andere Formen</translation>
+    </message>
+    <message id="tense.other.imperative">
+        <source></source>
+        <translation>Imperativ</translation>
+    </message>
+    <message id="tense.other.imperative_french">
+        <source></source>
+        <translation>Impératif</translation>
+    </message>
+    <message id="tense.other.participle">
+        <source></source>
+        <translation>Partizip</translation>
+    </message>
+    <message id="tense.other.participle_french">
+        <source></source>
+        <translation>Participe</translation>
+    </message>
+    <message id="tense.sub">
+        <source></source>
+        <translation>Konjunktiv</translation>
+    </message>
+    <message id="tense.sub.imperfect">
+        <source></source>
+        <translation>Konjunktiv Imperfekt</translation>
+    </message>
+    <message id="tense.sub.imperfect_french">
+        <source></source>
+        <translation>Subjonctif imparfait</translation>
+    </message>
+    <message id="tense.sub.past">
+        <source></source>
+        <translation>Konjunktiv Perfekt</translation>
+    </message>
+    <message id="tense.sub.past_french">
+        <source></source>
+        <translation>Subjonctif passé</translation>
+    </message>
+    <message id="tense.sub.pluperfect">
+        <source></source>
+        <translation>Konjunktiv Plusquamperfekt</translation>
+    </message>
+    <message id="tense.sub.pluperfect_french">
+        <source></source>
+        <translation>Subjonctif plus-que-parfait</translation>
+    </message>
+    <message id="tense.sub.present">
+        <source></source>
+        <translation>Konjunktiv Präsens</translation>
+    </message>
+    <message id="tense.sub.present_french">
+        <source></source>
+        <translation>Subjonctif présent</translation>
+    </message>
+    <message id="type.conditional.full">
+        <source></source>
+        <translation>Konditional</translation>
+    </message>
+    <message id="type.indicative.full">
+        <source></source>
+        <translation>Indikativ</translation>
+    </message>
+    <message id="type.other.full">
+        <source></source>
+        <translation>Andere</translation>
+    </message>
+    <message id="type.subjunctive.full">
+        <source></source>
+        <translation>Konjunktiv</translation>
+    </message>
+    <message id="verb.list">
+        <source></source>
+        <translation>Verben</translation>
+    </message>
+    <message id="verb.list.full">
+        <source></source>
+        <translation>Französische Verben</translation>
+    </message>
+    <message id="volume.low.warning">
+        <source></source>
+        <translation>Die Lautstärke ist sehr niedrig. Erhöhen Sie sie, um die Aussprache zu hören.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="action.favourite">
+        <source></source>
+        <translation>Favorito</translation>
+    </message>
+    <message id="action.favourite.remove">
+        <source></source>
+        <translation>Quitar</translation>
+    </message>
+    <message id="action.play">
+        <source></source>
+        <translation>Escuchar</translation>
+    </message>
+    <message id="action.remove">
+        <source></source>
+        <translation>Eliminar</translation>
+    </message>
+    <message id="button.displayMode">
+        <source></source>
+        <translation>Mostrar u ocultar la lista</translation>
+    </message>
+    <message id="button.favourite">
+        <source></source>
+        <translation>Favorito</translation>
+    </message>
+    <message id="common.ok">
+        <source></source>
+        <translation>Aceptar</translation>
+    </message>
+    <message id="favourites.empty">
+        <source></source>
+        <translation>Aún no tienes favoritos. Marca un verbo con la estrella para encontrarlo aquí.</translation>
+    </message>
+    <message id="history.empty">
+        <source></source>
+        <translation>Aún no has consultado ningún verbo. Los verbos que abras aparecerán aquí.</translation>
+    </message>
+    <message id="navigation.back">
+        <source></source>
+        <translation>Atrás</translation>
+    </message>
+    <message id="search.clear">
+        <source></source>
+        <translation>Borrar la búsqueda</translation>
+    </message>
+    <message id="search.empty">
+        <source></source>
+        <translation>No se ha encontrado ningún verbo.</translation>
+    </message>
+    <message id="search.placeholder">
+        <source></source>
+        <translation>Buscar un verbo</translation>
+    </message>
+    <message id="select">
+        <source></source>
+        <translation>Elige un verbo para ver su conjugación.</translation>
+    </message>
+    <message id="tabs.favourites">
+        <source></source>
+        <translation>Favoritos</translation>
+    </message>
+    <message id="tabs.history">
+        <source></source>
+        <translation>Historial</translation>
+    </message>
+    <message id="tabs.list">
+        <source></source>
+        <translation>Verbos</translation>
+    </message>
+    <message id="tense.con">
+        <source></source>
+        <translation>Condicional</translation>
+    </message>
+    <message id="tense.con.firstpast">
+        <source></source>
+        <translation>Condicional compuesto</translation>
+    </message>
+    <message id="tense.con.firstpast_french">
+        <source></source>
+        <translation>Conditionnel passé 1re forme</translation>
+    </message>
+    <message id="tense.con.present">
+        <source></source>
+        <translation>Condicional simple</translation>
+    </message>
+    <message id="tense.con.present_french">
+        <source></source>
+        <translation>Conditionnel présent</translation>
+    </message>
+    <message id="tense.con.secondpast">
+        <source></source>
+        <translation>Condicional compuesto, 2.ª forma</translation>
+    </message>
+    <message id="tense.con.secondpast_french">
+        <source></source>
+        <translation>Conditionnel passé 2e forme</translation>
+    </message>
+    <message id="tense.ind">
+        <source></source>
+        <translation>Indicativo</translation>
+    </message>
+    <message id="tense.ind.future">
+        <source></source>
+        <translation>Futuro simple</translation>
+    </message>
+    <message id="tense.ind.future_french">
+        <source></source>
+        <translation>Futur simple</translation>
+    </message>
+    <message id="tense.ind.imperfect">
+        <source></source>
+        <translation>Pretérito imperfecto</translation>
+    </message>
+    <message id="tense.ind.imperfect_french">
+        <source></source>
+        <translation>Imparfait</translation>
+    </message>
+    <message id="tense.ind.pastfuture">
+        <source></source>
+        <translation>Futuro compuesto</translation>
+    </message>
+    <message id="tense.ind.pastfuture_french">
+        <source></source>
+        <translation>Futur antérieur</translation>
+    </message>
+    <message id="tense.ind.pastperfect">
+        <source></source>
+        <translation>Pretérito anterior</translation>
+    </message>
+    <message id="tense.ind.pastperfect_french">
+        <source></source>
+        <translation>Passé antérieur</translation>
+    </message>
+    <message id="tense.ind.pluperfect">
+        <source></source>
+        <translation>Pretérito pluscuamperfecto</translation>
+    </message>
+    <message id="tense.ind.pluperfect_french">
+        <source></source>
+        <translation>Plus-que-parfait</translation>
+    </message>
+    <message id="tense.ind.present">
+        <source></source>
+        <translation>Presente</translation>
+    </message>
+    <message id="tense.ind.present_french">
+        <source></source>
+        <translation>Présent</translation>
+    </message>
+    <message id="tense.ind.presentperfect">
+        <source></source>
+        <translation>Pretérito perfecto compuesto</translation>
+    </message>
+    <message id="tense.ind.presentperfect_french">
+        <source></source>
+        <translation>Passé composé</translation>
+    </message>
+    <message id="tense.ind.simplepast">
+        <source></source>
+        <translation>Pretérito perfecto simple</translation>
+    </message>
+    <message id="tense.ind.simplepast_french">
+        <source></source>
+        <translation>Passé simple</translation>
+    </message>
+    <message id="tense.other">
+        <source></source>
+        <translation>Otras formas</translation>
+    </message>
+    <message id="tense.other.imperative">
+        <source></source>
+        <translation>Imperativo</translation>
+    </message>
+    <message id="tense.other.imperative_french">
+        <source></source>
+        <translation>Impératif</translation>
+    </message>
+    <message id="tense.other.participle">
+        <source></source>
+        <translation>Participio</translation>
+    </message>
+    <message id="tense.other.participle_french">
+        <source></source>
+        <translation>Participe</translation>
+    </message>
+    <message id="tense.sub">
+        <source></source>
+        <translation>Subjuntivo</translation>
+    </message>
+    <message id="tense.sub.imperfect">
+        <source></source>
+        <translation>Imperfecto de subjuntivo</translation>
+    </message>
+    <message id="tense.sub.imperfect_french">
+        <source></source>
+        <translation>Subjonctif imparfait</translation>
+    </message>
+    <message id="tense.sub.past">
+        <source></source>
+        <translation>Perfecto de subjuntivo</translation>
+    </message>
+    <message id="tense.sub.past_french">
+        <source></source>
+        <translation>Subjonctif passé</translation>
+    </message>
+    <message id="tense.sub.pluperfect">
+        <source></source>
+        <translation>Pluscuamperfecto de subjuntivo</translation>
+    </message>
+    <message id="tense.sub.pluperfect_french">
+        <source></source>
+        <translation>Subjonctif plus-que-parfait</translation>
+    </message>
+    <message id="tense.sub.present">
+        <source></source>
+        <translation>Presente de subjuntivo</translation>
+    </message>
+    <message id="tense.sub.present_french">
+        <source></source>
+        <translation>Subjonctif présent</translation>
+    </message>
+    <message id="type.conditional.full">
+        <source></source>
+        <translation>Condicional</translation>
+    </message>
+    <message id="type.indicative.full">
+        <source></source>
+        <translation>Indicativo</translation>
+    </message>
+    <message id="type.other.full">
+        <source></source>
+        <translation>Otros</translation>
+    </message>
+    <message id="type.subjunctive.full">
+        <source></source>
+        <translation>Subjuntivo</translation>
+    </message>
+    <message id="verb.list">
+        <source></source>
+        <translation>Verbos</translation>
+    </message>
+    <message id="verb.list.full">
+        <source></source>
+        <translation>Verbos franceses</translation>
+    </message>
+    <message id="volume.low.warning">
+        <source></source>
+        <translation>El volumen está muy bajo. Súbelo para oír la pronunciación.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="action.favourite">
+        <source></source>
+        <translation>Favoriet</translation>
+    </message>
+    <message id="action.favourite.remove">
+        <source></source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message id="action.play">
+        <source></source>
+        <translation>Beluisteren</translation>
+    </message>
+    <message id="action.remove">
+        <source></source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message id="button.displayMode">
+        <source></source>
+        <translation>Lijst tonen of verbergen</translation>
+    </message>
+    <message id="button.favourite">
+        <source></source>
+        <translation>Favoriet</translation>
+    </message>
+    <message id="common.ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="favourites.empty">
+        <source></source>
+        <translation>Je hebt nog geen favorieten. Markeer een werkwoord met de ster om het hier terug te vinden.</translation>
+    </message>
+    <message id="history.empty">
+        <source></source>
+        <translation>Je hebt nog geen werkwoorden bekeken. De werkwoorden die je opent, verschijnen hier.</translation>
+    </message>
+    <message id="navigation.back">
+        <source></source>
+        <translation>Terug</translation>
+    </message>
+    <message id="search.clear">
+        <source></source>
+        <translation>Zoekopdracht wissen</translation>
+    </message>
+    <message id="search.empty">
+        <source></source>
+        <translation>Geen werkwoord gevonden.</translation>
+    </message>
+    <message id="search.placeholder">
+        <source></source>
+        <translation>Zoek een werkwoord</translation>
+    </message>
+    <message id="select">
+        <source></source>
+        <translation>Kies een werkwoord om de vervoeging te zien.</translation>
+    </message>
+    <message id="tabs.favourites">
+        <source></source>
+        <translation>Favorieten</translation>
+    </message>
+    <message id="tabs.history">
+        <source></source>
+        <translation>Geschiedenis</translation>
+    </message>
+    <message id="tabs.list">
+        <source></source>
+        <translation>Werkwoorden</translation>
+    </message>
+    <message id="tense.con">
+        <source></source>
+        <translation>Conditionalis</translation>
+    </message>
+    <message id="tense.con.firstpast">
+        <source></source>
+        <translation>Conditionalis verleden tijd</translation>
+    </message>
+    <message id="tense.con.firstpast_french">
+        <source></source>
+        <translation>Conditionnel passé 1re forme</translation>
+    </message>
+    <message id="tense.con.present">
+        <source></source>
+        <translation>Conditionalis tegenwoordige tijd</translation>
+    </message>
+    <message id="tense.con.present_french">
+        <source></source>
+        <translation>Conditionnel présent</translation>
+    </message>
+    <message id="tense.con.secondpast">
+        <source></source>
+        <translation>Conditionalis verleden tijd, 2e vorm</translation>
+    </message>
+    <message id="tense.con.secondpast_french">
+        <source></source>
+        <translation>Conditionnel passé 2e forme</translation>
+    </message>
+    <message id="tense.ind">
+        <source></source>
+        <translation>Indicatief</translation>
+    </message>
+    <message id="tense.ind.future">
+        <source></source>
+        <translation>Toekomende tijd</translation>
+    </message>
+    <message id="tense.ind.future_french">
+        <source></source>
+        <translation>Futur simple</translation>
+    </message>
+    <message id="tense.ind.imperfect">
+        <source></source>
+        <translation>Onvoltooid verleden tijd</translation>
+    </message>
+    <message id="tense.ind.imperfect_french">
+        <source></source>
+        <translation>Imparfait</translation>
+    </message>
+    <message id="tense.ind.pastfuture">
+        <source></source>
+        <translation>Voltooid toekomende tijd</translation>
+    </message>
+    <message id="tense.ind.pastfuture_french">
+        <source></source>
+        <translation>Futur antérieur</translation>
+    </message>
+    <message id="tense.ind.pastperfect">
+        <source></source>
+        <translation>Passé antérieur</translation>
+    </message>
+    <message id="tense.ind.pastperfect_french">
+        <source></source>
+        <translation>Passé antérieur</translation>
+    </message>
+    <message id="tense.ind.pluperfect">
+        <source></source>
+        <translation>Voltooid verleden tijd</translation>
+    </message>
+    <message id="tense.ind.pluperfect_french">
+        <source></source>
+        <translation>Plus-que-parfait</translation>
+    </message>
+    <message id="tense.ind.present">
+        <source></source>
+        <translation>Tegenwoordige tijd</translation>
+    </message>
+    <message id="tense.ind.present_french">
+        <source></source>
+        <translation>Présent</translation>
+    </message>
+    <message id="tense.ind.presentperfect">
+        <source></source>
+        <translation>Voltooid tegenwoordige tijd</translation>
+    </message>
+    <message id="tense.ind.presentperfect_french">
+        <source></source>
+        <translation>Passé composé</translation>
+    </message>
+    <message id="tense.ind.simplepast">
+        <source></source>
+        <translation>Passé simple</translation>
+    </message>
+    <message id="tense.ind.simplepast_french">
+        <source></source>
+        <translation>Passé simple</translation>
+    </message>
+    <message id="tense.other">
+        <source></source>
+        <translation>Overige vormen</translation>
+    </message>
+    <message id="tense.other.imperative">
+        <source></source>
+        <translation>Gebiedende wijs</translation>
+    </message>
+    <message id="tense.other.imperative_french">
+        <source></source>
+        <translation>Impératif</translation>
+    </message>
+    <message id="tense.other.participle">
+        <source></source>
+        <translation>Deelwoord</translation>
+    </message>
+    <message id="tense.other.participle_french">
+        <source></source>
+        <translation>Participe</translation>
+    </message>
+    <message id="tense.sub">
+        <source></source>
+        <translation>Conjunctief</translation>
+    </message>
+    <message id="tense.sub.imperfect">
+        <source></source>
+        <translation>Conjunctief verleden tijd</translation>
+    </message>
+    <message id="tense.sub.imperfect_french">
+        <source></source>
+        <translation>Subjonctif imparfait</translation>
+    </message>
+    <message id="tense.sub.past">
+        <source></source>
+        <translation>Conjunctief voltooide tijd</translation>
+    </message>
+    <message id="tense.sub.past_french">
+        <source></source>
+        <translation>Subjonctif passé</translation>
+    </message>
+    <message id="tense.sub.pluperfect">
+        <source></source>
+        <translation>Conjunctief voltooid verleden tijd</translation>
+    </message>
+    <message id="tense.sub.pluperfect_french">
+        <source></source>
+        <translation>Subjonctif plus-que-parfait</translation>
+    </message>
+    <message id="tense.sub.present">
+        <source></source>
+        <translation>Conjunctief tegenwoordige tijd</translation>
+    </message>
+    <message id="tense.sub.present_french">
+        <source></source>
+        <translation>Subjonctif présent</translation>
+    </message>
+    <message id="type.conditional.full">
+        <source></source>
+        <translation>Conditionalis</translation>
+    </message>
+    <message id="type.indicative.full">
+        <source></source>
+        <translation>Indicatief</translation>
+    </message>
+    <message id="type.other.full">
+        <source></source>
+        <translation>Overige</translation>
+    </message>
+    <message id="type.subjunctive.full">
+        <source></source>
+        <translation>Conjunctief</translation>
+    </message>
+    <message id="verb.list">
+        <source></source>
+        <translation>Werkwoorden</translation>
+    </message>
+    <message id="verb.list.full">
+        <source></source>
+        <translation>Franse werkwoorden</translation>
+    </message>
+    <message id="volume.low.warning">
+        <source></source>
+        <translation>Het volume staat erg laag. Zet het hoger om de uitspraak te horen.</translation>
+    </message>
+</context>
+</TS>
