@@ -14,8 +14,9 @@ ShippedDatabase::ShippedDatabase()
 
 platform::Services ShippedDatabase::services()
 {
-    return {notifications, settings, bundle_,    device_,     clock_,  crashReporter_, analytics_,
-            console_,      views_,   presenter_, storyboard_, speech_, audioSession_};
+    return {notifications, settings, bundle_,     device_,         clock_,      crashReporter_,
+            analytics_,    console_, views_,      presenter_,      storyboard_, speech_,
+            audioSession_, scripts_, shareSheet_, reviewPrompter_, mail_,       urlOpener_};
 }
 
 } // namespace lumora::bench

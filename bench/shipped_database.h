@@ -12,9 +12,11 @@
 #include "support/fake_bundle.h"
 #include "support/fake_clock.h"
 #include "support/fake_device.h"
+#include "support/fake_java_script_context.h"
 #include "support/fake_presenter.h"
 #include "support/fake_speech_synthesizer.h"
 #include "support/fake_table_view.h"
+#include "support/fake_ways_out.h"
 #include "support/recording_analytics.h"
 #include "support/recording_crash_reporter.h"
 #include "support/temporary_folder.h"
@@ -51,6 +53,11 @@ private:
     support::FakePresenter presenter_{&storyboard_};
     support::FakeSpeechSynthesizerFactory speech_;
     support::FakeAudioSession audioSession_;
+    support::FakeJavaScriptContextFactory scripts_;
+    support::FakeShareSheet shareSheet_;
+    support::FakeReviewPrompter reviewPrompter_;
+    support::FakeMailService mail_;
+    support::FakeUrlOpener urlOpener_;
 };
 
 } // namespace lumora::bench

@@ -72,4 +72,15 @@ MainStoryboard::instantiateDestination(std::string_view segueIdentifier)
     stopUnknown(segueIdentifier);
 }
 
+platform::SegueStyle MainStoryboard::segueStyle(std::string_view segueIdentifier) const
+{
+    if (segueIdentifier == "Navigation") {
+        return platform::SegueStyle::SideMenu;
+    }
+    if (segueIdentifier == "Options" || segueIdentifier == "MoreApps") {
+        return platform::SegueStyle::PresentModally;
+    }
+    return platform::SegueStyle::ShowDetail;
+}
+
 } // namespace lumora::app

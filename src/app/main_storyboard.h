@@ -29,6 +29,7 @@ public:
     instantiateViewController(std::string_view identifier) override;
     std::shared_ptr<platform::ViewController>
     instantiateDestination(std::string_view segueIdentifier) override;
+    platform::SegueStyle segueStyle(std::string_view segueIdentifier) const override;
 
 private:
     std::unique_ptr<platform::Services> services_;

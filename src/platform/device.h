@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,16 @@ public:
     /// Whether the application's window is in front of the user.
     virtual bool hasActiveScene() const = 0;
     virtual std::vector<std::string> launchArguments() const = 0;
+
+    /// What the machine is sold as, for example "ThinkPad X13".
+    virtual std::string modelName() const = 0;
+    /// The hardware's own name; none when it cannot be found out.
+    virtual std::optional<std::string> machineIdentifier() const = 0;
+    /// The operating system with its version.
+    virtual std::string systemVersion() const = 0;
+    /// The two letters of the country whose customs the user keeps, in upper
+    /// case, for example "DE".
+    virtual std::string regionCode() const = 0;
 };
 
 } // namespace lumora::platform

@@ -8,6 +8,7 @@
 #include "platform/view_controller.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -22,6 +23,8 @@ public:
     /// prepare it, and shows it. `sender` is the row that was tapped, if one was.
     virtual void performSegue(ViewController& source, std::string_view identifier,
                               std::optional<IndexPath> sender) = 0;
+    /// Shows a screen over `on` until it is dismissed.
+    virtual void present(ViewController& on, std::shared_ptr<ViewController> screen) = 0;
     virtual void presentAlert(ViewController& on, const Alert& alert) = 0;
     /// `anchor`: the row the sheet rises from.
     virtual void presentActionSheet(ViewController& on, const ActionSheet& sheet,

@@ -13,11 +13,16 @@ class Bundle;
 class Clock;
 class CrashReporter;
 class Device;
+class JavaScriptContextFactory;
+class MailService;
 class NotificationCenter;
 class Presenter;
+class ReviewPrompter;
 class SettingsStore;
+class ShareSheet;
 class SpeechSynthesizerFactory;
 class Storyboard;
+class UrlOpener;
 class ViewFactory;
 
 /// What every screen may ask of the machine. The composition root owns all of
@@ -37,6 +42,11 @@ struct Services {
     Storyboard& storyboard;
     SpeechSynthesizerFactory& speech;
     AudioSession& audioSession;
+    JavaScriptContextFactory& scripts;
+    ShareSheet& shareSheet;
+    ReviewPrompter& reviewPrompter;
+    MailService& mail;
+    UrlOpener& urlOpener;
 };
 
 } // namespace lumora::platform

@@ -10,6 +10,16 @@
 
 namespace lumora::platform {
 
+/// How the screen at the end of a step comes into view.
+enum class SegueStyle {
+    /// In the detail pane, or on top of the list where there is one pane.
+    ShowDetail,
+    /// Over everything until it is dismissed.
+    PresentModally,
+    /// From the left edge, over part of what is there.
+    SideMenu
+};
+
 /// Makes screens by the names they have in the interface description. An
 /// unknown name is a mistake in the program and stops it.
 class Storyboard {
@@ -20,6 +30,7 @@ public:
     /// The screen that a step from one screen leads to.
     virtual std::shared_ptr<ViewController>
     instantiateDestination(std::string_view segueIdentifier) = 0;
+    virtual SegueStyle segueStyle(std::string_view segueIdentifier) const = 0;
 };
 
 } // namespace lumora::platform

@@ -56,9 +56,10 @@ Application::Application(ApplicationOptions options)
       bundle_{options_.shareFolder},
       device_{options_.launchArguments},
       presenter_{storyboard_},
-      services_{notifications_, settings_,  bundle_,      device_, clock_,
-                crashReporter_, analytics_, std::cout,    views_,  presenter_,
-                storyboard_,    speech_,    audioSession_},
+      services_{notifications_,  settings_,  bundle_,       device_,  clock_,
+                crashReporter_,  analytics_, std::cout,     views_,   presenter_,
+                storyboard_,     speech_,    audioSession_, scripts_, shareSheet_,
+                reviewPrompter_, mail_,      urlOpener_},
       delegate_{services_,
                 {madeFolder(options_.folders.data), options_.folders.data.string()},
                 kAccentPrimary}

@@ -14,11 +14,13 @@
 #include "qt/qt_bundle.h"
 #include "qt/qt_clock.h"
 #include "qt/qt_device.h"
+#include "qt/qt_java_script_context.h"
 #include "qt/qt_presenter.h"
 #include "qt/qt_speech.h"
 #include "qt/qt_view_factory.h"
 #include "qt/split_screen.h"
 #include "qt/standard_folders.h"
+#include "qt/ways_out.h"
 
 #include <QQmlApplicationEngine>
 #include <QSize>
@@ -84,6 +86,11 @@ private:
     QtPresenter presenter_;
     QtSpeech speech_;
     PulseAudioSession audioSession_;
+    QtJavaScriptContextFactory scripts_;
+    NoShareSheet shareSheet_;
+    NoReviewPrompter reviewPrompter_;
+    NoMailService mail_;
+    NoUrlOpener urlOpener_;
     platform::Services services_;
     app::AppDelegate delegate_;
     std::unique_ptr<SplitScreen> splitScreen_;

@@ -7,6 +7,7 @@
 #include "qt/text_conversion.h"
 
 #include <QLocale>
+#include <QSysInfo>
 
 #include <utility>
 
@@ -29,6 +30,27 @@ std::vector<std::string> QtDevice::preferredLanguages() const
         languages.emplace_back("en");
     }
     return languages;
+}
+
+std::string QtDevice::modelName() const
+{
+    return toUtf8(QSysInfo::prettyProductName());
+}
+
+std::optional<std::string> QtDevice::machineIdentifier() const
+{
+    const auto architecture = toUtf8(QSysInfo::currentCpuArchitecture());
+    return architecture.empty() ? std::nullopt : std::optional{architecture};
+}
+
+std::string QtDevice::systemVersion() const
+{
+    return toUtf8(QSysInfo::productVersion());
+}
+
+std::string QtDevice::regionCode() const
+{
+    return toUtf8(QLocale::territoryToCode(QLocale::system().territory()));
 }
 
 bool QtDevice::isTablet() const

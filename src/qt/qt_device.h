@@ -20,6 +20,11 @@ public:
     bool hasActiveScene() const override { return sceneActive_; }
     std::vector<std::string> launchArguments() const override { return launchArguments_; }
 
+    std::string modelName() const override;
+    std::optional<std::string> machineIdentifier() const override;
+    std::string systemVersion() const override;
+    std::string regionCode() const override;
+
     /// Told by the window.
     void setWindowWidth(double points) { windowWidth_ = points; }
     void setSceneActive(bool active) { sceneActive_ = active; }

@@ -32,6 +32,14 @@ void QtPresenter::performSegue(platform::ViewController& source, std::string_vie
     }
 }
 
+void QtPresenter::present(platform::ViewController& /*on*/,
+                          std::shared_ptr<platform::ViewController> screen)
+{
+    screen->loadViewIfNeeded();
+    screen->viewWillAppear();
+    screen->viewDidAppear();
+}
+
 void QtPresenter::presentAlert(platform::ViewController& /*on*/, const platform::Alert& alert)
 {
     ask({alert.title, alert.message, alert.actions, false});

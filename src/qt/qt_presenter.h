@@ -11,6 +11,7 @@
 #include <QVariantList>
 
 #include <deque>
+#include <memory>
 #include <vector>
 
 namespace lumora::platform {
@@ -38,6 +39,8 @@ public:
 
     void performSegue(platform::ViewController& source, std::string_view identifier,
                       std::optional<platform::IndexPath> sender) override;
+    void present(platform::ViewController& on,
+                 std::shared_ptr<platform::ViewController> screen) override;
     void presentAlert(platform::ViewController& on, const platform::Alert& alert) override;
     void presentActionSheet(platform::ViewController& on, const platform::ActionSheet& sheet,
                             platform::IndexPath anchor) override;

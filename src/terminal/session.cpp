@@ -17,7 +17,8 @@ Session::Session(const std::filesystem::path& shareFolder)
       services_{notifications_, settings_,   bundle_,     device_,
                 clock_,         complaints_, analytics_,  complaints_.console(),
                 views_,         presenter_,  storyboard_, speech_,
-                audioSession_}
+                audioSession_,  scripts_,    shareSheet_, reviewPrompter_,
+                mail_,          urlOpener_}
 {
     storyboard_.setServices(services_);
     settings::seedDefaultSettings(settings_);

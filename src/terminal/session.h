@@ -54,6 +54,10 @@ private:
     SilentSpeech speech_;
     SilentAudioSession audioSession_;
     qt::QtJavaScriptContextFactory scripts_;
+    SilentShareSheet shareSheet_;
+    SilentReviewPrompter reviewPrompter_;
+    SilentMailService mail_;
+    SilentUrlOpener urlOpener_;
     platform::Services services_;
     std::unique_ptr<platform::DatabaseQueue> queue_;
 };

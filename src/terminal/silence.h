@@ -5,8 +5,12 @@
 
 #include "platform/analytics.h"
 #include "platform/audio_session.h"
+#include "platform/mail_composer.h"
 #include "platform/presenter.h"
+#include "platform/review_prompter.h"
+#include "platform/share_sheet.h"
 #include "platform/speech_synthesizer.h"
+#include "platform/url_opener.h"
 
 #include <functional>
 #include <memory>
@@ -28,6 +32,9 @@ class SilentPresenter final : public platform::Presenter {
 public:
     void performSegue(platform::ViewController& /*source*/, std::string_view /*identifier*/,
                       std::optional<platform::IndexPath> /*sender*/) override
+    {}
+    void present(platform::ViewController& /*on*/,
+                 std::shared_ptr<platform::ViewController> /*screen*/) override
     {}
     void presentAlert(platform::ViewController& /*on*/, const platform::Alert& /*alert*/) override
     {}
@@ -75,6 +82,42 @@ public:
     float outputVolume() const override { return 0; }
     platform::Result<void> setCategoryPlayback() override { return {}; }
     platform::Result<void> activate() override { return {}; }
+};
+
+class SilentShareSheet final : public platform::ShareSheet {
+public:
+    void present(platform::ViewController& /*on*/, platform::ShareItems /*items*/,
+                 std::string_view /*anchor*/) override
+    {}
+};
+
+class SilentReviewPrompter final : public platform::ReviewPrompter {
+public:
+    void requestReview() override {}
+};
+
+class SilentUrlOpener final : public platform::UrlOpener {
+public:
+    bool canOpen(std::string_view /*url*/) const override { return false; }
+    bool open(std::string_view /*url*/) override { return false; }
+};
+
+/// Its messages go nowhere and say nothing.
+class SilentMailComposer final : public platform::MailComposer {
+public:
+    void setMailComposeDelegate(platform::MailComposerDelegate* /*delegate*/) override {}
+    void setToRecipients(std::vector<std::string> /*addresses*/) override {}
+    void setSubject(std::string /*subject*/) override {}
+    void setMessageBody(std::string /*body*/, bool /*isHtml*/) override {}
+};
+
+class SilentMailService final : public platform::MailService {
+public:
+    bool canSendMail() const override { return false; }
+    std::shared_ptr<platform::MailComposer> makeMailComposer() override
+    {
+        return std::make_shared<SilentMailComposer>();
+    }
 };
 
 } // namespace lumora::terminal

@@ -20,6 +20,10 @@ public:
     {
         return nullptr;
     }
+    platform::SegueStyle segueStyle(std::string_view /*segueIdentifier*/) const override
+    {
+        return platform::SegueStyle::ShowDetail;
+    }
 };
 
 struct PresenterTest : testing::Test {

@@ -5,6 +5,7 @@
 
 #include "platform/device.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,10 +18,19 @@ public:
     bool hasActiveScene() const override { return activeScene; }
     std::vector<std::string> launchArguments() const override { return arguments; }
 
+    std::string modelName() const override { return model; }
+    std::optional<std::string> machineIdentifier() const override { return machine; }
+    std::string systemVersion() const override { return system; }
+    std::string regionCode() const override { return region; }
+
     std::vector<std::string> languages = {"en-GB"};
     bool tablet = false;
     bool activeScene = true;
     std::vector<std::string> arguments;
+    std::string model = "Slate 10";
+    std::optional<std::string> machine = "aarch64";
+    std::string system = "Debian 12";
+    std::string region = "DE";
 };
 
 } // namespace lumora::support

@@ -36,6 +36,11 @@ public:
         platform::IndexPath anchor;
     };
 
+    struct PresentedScreen {
+        platform::ViewController* on = nullptr;
+        std::shared_ptr<platform::ViewController> screen;
+    };
+
     explicit FakePresenter(platform::Storyboard* storyboard = nullptr) : storyboard_(storyboard) {}
 
     void performSegue(platform::ViewController& source, std::string_view identifier,
@@ -47,6 +52,11 @@ public:
             source.prepareForSegue({std::string(identifier), *destination, sender});
         }
         segues.push_back({&source, std::string(identifier), sender, std::move(destination)});
+    }
+    void present(platform::ViewController& on,
+                 std::shared_ptr<platform::ViewController> shown) override
+    {
+        presentedScreens.push_back({&on, std::move(shown)});
     }
     void presentAlert(platform::ViewController& on, const platform::Alert& alert) override
     {
@@ -66,6 +76,7 @@ public:
     }
 
     std::vector<PerformedSegue> segues;
+    std::vector<PresentedScreen> presentedScreens;
     std::vector<PresentedAlert> alerts;
     std::vector<PresentedSheet> sheets;
     std::vector<platform::ViewController*> dismissed;

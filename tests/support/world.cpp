@@ -70,8 +70,9 @@ World::~World() = default;
 
 platform::Services World::services()
 {
-    return {notifications, settings, bundle,    device,     clock,  crashReporter, analytics,
-            console,       views,    presenter, storyboard, speech, audioSession};
+    return {notifications, settings, bundle,     device,         clock,      crashReporter,
+            analytics,     console,  views,      presenter,      storyboard, speech,
+            audioSession,  scripts,  shareSheet, reviewPrompter, mail,       urlOpener};
 }
 
 void World::execute(const std::string& sql)

@@ -14,9 +14,11 @@
 #include "support/fake_bundle.h"
 #include "support/fake_clock.h"
 #include "support/fake_device.h"
+#include "support/fake_java_script_context.h"
 #include "support/fake_presenter.h"
 #include "support/fake_speech_synthesizer.h"
 #include "support/fake_table_view.h"
+#include "support/fake_ways_out.h"
 #include "support/recording_analytics.h"
 #include "support/recording_crash_reporter.h"
 #include "support/temporary_folder.h"
@@ -74,6 +76,11 @@ public:
     FakePresenter presenter{&storyboard};
     FakeSpeechSynthesizerFactory speech;
     FakeAudioSession audioSession;
+    FakeJavaScriptContextFactory scripts;
+    FakeShareSheet shareSheet;
+    FakeReviewPrompter reviewPrompter;
+    FakeMailService mail;
+    FakeUrlOpener urlOpener;
     std::unique_ptr<platform::DatabaseQueue> queue;
 
 private:
