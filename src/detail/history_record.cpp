@@ -12,6 +12,8 @@ namespace {
 // The row of this number, counted from the newest, is the first to go.
 constexpr int kFirstRowTooMany = 52;
 
+} // namespace
+
 platform::Result<void> trimHistory(platform::Database& database)
 {
     double cutOff = 0;
@@ -34,8 +36,6 @@ platform::Result<void> trimHistory(platform::Database& database)
     }
     return database.executeUpdate("DELETE FROM history WHERE timestamp <= ?", {cutOff});
 }
-
-} // namespace
 
 platform::Result<void> recordInHistory(platform::Database& database, std::int64_t verbId,
                                        double timestamp)

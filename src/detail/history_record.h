@@ -19,4 +19,7 @@ namespace lumora::detail {
 platform::Result<void> recordInHistory(platform::Database& database, std::int64_t verbId,
                                        double timestamp);
 
+/// The cutting alone.
+platform::Result<void> trimHistory(platform::Database& database);
+
 } // namespace lumora::detail
