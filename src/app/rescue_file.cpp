@@ -129,6 +129,7 @@ platform::Result<void> RescueFile::write(const UserData& data) const
 
 platform::Result<void> RescueFile::remove() const
 {
+    platform::removeAbandonedTemporaries(file_);
     return platform::removeDurably(file_);
 }
 

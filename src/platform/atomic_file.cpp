@@ -7,6 +7,8 @@
 
 #include <array>
 #include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <system_error>
 
 #include <fcntl.h>
@@ -91,15 +93,44 @@ Result<void> readPieces(const FileDescriptor& from, const std::filesystem::path&
     }
 }
 
+constexpr std::string_view kTemporarySuffix = ".tmp";
+
+/// The process in the name: two programs saving at once must not share it.
+std::string temporaryName(const std::string& file, pid_t process)
+{
+    return file + '.' + std::to_string(process) + std::string{kTemporarySuffix};
+}
+
+/// Whether the name is that of a temporary of `file` whose process has ended.
+bool isAbandoned(const std::string& name, const std::string& file)
+{
+    if (!name.starts_with(file + '.') || !name.ends_with(kTemporarySuffix)) {
+        return false;
+    }
+    pid_t process = 0;
+    std::from_chars(name.data() + file.size() + 1, name.data() + name.size(), process);
+    return process > 0 && name == temporaryName(file, process) && ::kill(process, 0) != 0 &&
+           errno == ESRCH;
+}
+
 } // namespace
+
+void removeAbandonedTemporaries(const std::filesystem::path& file)
+{
+    const std::string name = file.filename().string();
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry{folderOf(file), error}, end;
+         !error && entry != end; entry.increment(error)) {
+        if (isAbandoned(entry->path().filename().string(), name)) {
+            ::unlink(entry->path().c_str());
+        }
+    }
+}
 
 Result<void> writeFileAtomically(const std::filesystem::path& file, std::string_view content)
 {
-    // The process in the name: two programs saving at once must not share it.
-    std::filesystem::path temporary = file;
-    temporary += '.';
-    temporary += std::to_string(::getpid());
-    temporary += ".tmp";
+    removeAbandonedTemporaries(file);
+    const std::filesystem::path temporary = temporaryName(file.string(), ::getpid());
     auto written = writeDurably(temporary, [&](const FileDescriptor& descriptor) -> Result<void> {
         if (const int code = descriptor.write(content); code != 0) {
             return tl::unexpected(fileError(temporary, code));

@@ -16,8 +16,12 @@ namespace lumora::platform {
 /// Writes `content` under a temporary name in the same folder, syncs it,
 /// renames it over `file` and syncs the folder: after any interruption the
 /// file holds its old content or the new one, whole. On failure the temporary
-/// file is removed.
+/// file is removed; one that a killed program left goes too.
 Result<void> writeFileAtomically(const std::filesystem::path& file, std::string_view content);
+
+/// Removes what programs that are no more left of an unfinished
+/// writeFileAtomically of this file.
+void removeAbandonedTemporaries(const std::filesystem::path& file);
 
 /// Copies the bytes of `from` to `temporary` and syncs them; a copy that failed
 /// is removed.
