@@ -58,8 +58,8 @@ CrashReportLog::~CrashReportLog() = default;
 void CrashReportLog::logWithFormat(std::string_view format,
                                    const std::vector<LogArgument>& arguments)
 {
-    static_cast<void>(appendLine(folder_ / "log.txt", entry(formattedLogLine(format, arguments)),
-                                 kMaximumLogBytes));
+    static_cast<void>(
+        appendLine(folder_ / "log.txt", entry(formatted(format, arguments)), kMaximumLogBytes));
 }
 
 void CrashReportLog::setCustomValue(const CustomValue& value, std::string_view key)

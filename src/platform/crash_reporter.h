@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/text.h"
+
 #include <string>
 #include <string_view>
 #include <variant>
@@ -10,21 +12,17 @@
 
 namespace lumora::platform {
 
-using LogArgument = std::variant<std::string, int>;
+using LogArgument = FormatArgument;
 using CustomValue = std::variant<bool, std::string>;
 
 /// A log that stays on the machine and goes into a crash report.
 class CrashReporter {
 public:
     virtual ~CrashReporter() = default;
-    /// Each "%@" takes a text, each "%d" a number, in order; a placeholder
-    /// without an argument stays as it is.
+    /// One line: `formatted(format, arguments)`.
     virtual void logWithFormat(std::string_view format,
                                const std::vector<LogArgument>& arguments) = 0;
     virtual void setCustomValue(const CustomValue& value, std::string_view key) = 0;
 };
-
-/// The line that `logWithFormat` writes.
-std::string formattedLogLine(std::string_view format, const std::vector<LogArgument>& arguments);
 
 } // namespace lumora::platform

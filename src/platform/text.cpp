@@ -3,6 +3,7 @@
 
 #include "platform/text.h"
 
+#include <fmt/format.h>
 #include <unicode/locid.h>
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
@@ -101,6 +102,23 @@ std::size_t characterCount(std::string_view text)
 std::string wellFormed(std::string_view text)
 {
     return isPlainLatin(text) ? std::string(text) : encoded(decoded(text));
+}
+
+std::string formatted(std::string_view format, const std::vector<FormatArgument>& arguments)
+{
+    std::string line;
+    auto argument = arguments.begin();
+    for (std::size_t place = 0; place < format.size(); ++place) {
+        const std::string_view placeholder = format.substr(place, 2);
+        if (argument != arguments.end() && (placeholder == "%@" || placeholder == "%d")) {
+            std::visit([&line](const auto& value) { line += fmt::format("{}", value); },
+                       *argument++);
+            ++place;
+        } else {
+            line += format[place];
+        }
+    }
+    return line;
 }
 
 } // namespace lumora::platform

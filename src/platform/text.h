@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <variant>
+#include <vector>
 
 /// Unicode operations on UTF-8 texts. Malformed bytes become U+FFFD.
 namespace lumora::platform {
@@ -24,5 +26,11 @@ std::size_t characterCount(std::string_view text);
 
 /// Well-formed UTF-8 with each malformed sequence replaced.
 std::string wellFormed(std::string_view text);
+
+using FormatArgument = std::variant<std::string, int>;
+
+/// Each "%@" takes a text, each "%d" a number, in order; a placeholder without
+/// an argument stays as it is.
+std::string formatted(std::string_view format, const std::vector<FormatArgument>& arguments);
 
 } // namespace lumora::platform

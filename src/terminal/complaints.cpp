@@ -8,7 +8,7 @@ namespace lumora::terminal {
 void Complaints::logWithFormat(std::string_view format,
                                const std::vector<platform::LogArgument>& arguments)
 {
-    text_ << platform::formattedLogLine(format, arguments) << '\n';
+    text_ << platform::formatted(format, arguments) << '\n';
 }
 
 std::optional<std::string> Complaints::line() const

@@ -76,7 +76,7 @@ TEST(CrashReporter, FillsPlaceholdersInOrder)
         {"%d", {-2147483647 - 1}, "-2147483648"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(formattedLogLine(c.format, c.arguments), c.line);
+        EXPECT_EQ(formatted(c.format, c.arguments), c.line);
     }
 }
 

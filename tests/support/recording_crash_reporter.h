@@ -16,7 +16,7 @@ public:
     void logWithFormat(std::string_view format,
                        const std::vector<platform::LogArgument>& arguments) override
     {
-        lines.push_back(platform::formattedLogLine(format, arguments));
+        lines.push_back(platform::formatted(format, arguments));
     }
     void setCustomValue(const platform::CustomValue& value, std::string_view key) override
     {
