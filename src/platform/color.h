@@ -20,5 +20,7 @@ inline constexpr Color kWhiteColor{1, 1, 1, 1};
 inline constexpr Color kRedColor{1, 0, 0, 1};
 inline constexpr Color kLightGrayColor{2.0 / 3, 2.0 / 3, 2.0 / 3, 1};
 inline constexpr Color kDarkGrayColor{1.0 / 3, 1.0 / 3, 1.0 / 3, 1};
+/// For text on dark ground.
+inline constexpr Color kLightTextColor{1, 1, 1, 0.6};
 
 } // namespace lumora::platform

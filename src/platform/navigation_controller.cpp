@@ -12,7 +12,14 @@ namespace lumora::platform {
 NavigationController::NavigationController(std::shared_ptr<ViewController> root)
 {
     assert(root != nullptr);
-    stack_.push_back(std::move(root));
+    adopt(*stack_.emplace_back(std::move(root)));
+}
+
+NavigationController::~NavigationController()
+{
+    for (const auto& controller : stack_) {
+        release(*controller);
+    }
 }
 
 ViewController* NavigationController::topViewController() const
@@ -25,7 +32,7 @@ void NavigationController::pushViewController(std::shared_ptr<ViewController> co
     assert(controller != nullptr);
     // A local copy: loading may change the stack.
     const auto pushed = stack_.emplace_back(std::move(controller));
-    pushed->setSplitViewController(splitViewController());
+    adopt(*pushed);
     pushed->loadViewIfNeeded();
     stackChanged();
 }
@@ -38,7 +45,7 @@ std::shared_ptr<ViewController> NavigationController::popViewController()
     auto popped = std::move(stack_.back());
     stack_.pop_back();
     stackChanged();
-    popped->setSplitViewController(nullptr);
+    release(*popped);
     return popped;
 }
 
@@ -55,7 +62,7 @@ void NavigationController::setViewControllers(
     const auto before = std::exchange(stack_, std::move(controllers));
     const auto now = stack_;
     for (const auto& controller : now) {
-        controller->setSplitViewController(splitViewController());
+        adopt(*controller);
     }
     if (!now.empty()) {
         now.back()->loadViewIfNeeded();
@@ -63,7 +70,7 @@ void NavigationController::setViewControllers(
     stackChanged();
     for (const auto& controller : before) {
         if (std::find(now.begin(), now.end(), controller) == now.end()) {
-            controller->setSplitViewController(nullptr);
+            release(*controller);
         }
     }
 }
@@ -78,6 +85,21 @@ void NavigationController::setSplitViewController(SplitViewController* splitView
     ViewController::setSplitViewController(splitView);
     for (const auto& controller : stack_) {
         controller->setSplitViewController(splitView);
+    }
+}
+
+void NavigationController::adopt(ViewController& controller)
+{
+    controller.setNavigationController(this);
+    controller.setSplitViewController(splitViewController());
+}
+
+void NavigationController::release(ViewController& controller)
+{
+    // It may be on another stack by now.
+    if (controller.navigationController() == this) {
+        controller.setNavigationController(nullptr);
+        controller.setSplitViewController(nullptr);
     }
 }
 

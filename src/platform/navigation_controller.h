@@ -12,9 +12,10 @@
 namespace lumora::platform {
 
 /// A stack of screens, of which the top one shows.
-class NavigationController final : public ViewController {
+class NavigationController : public ViewController {
 public:
     explicit NavigationController(std::shared_ptr<ViewController> root);
+    ~NavigationController() override;
 
     const std::vector<std::shared_ptr<ViewController>>& viewControllers() const { return stack_; }
     /// Null only when the stack was emptied by setViewControllers.
@@ -32,10 +33,18 @@ public:
     void setSplitViewController(SplitViewController* splitView) override;
 
 private:
+    void adopt(ViewController& controller);
+    void release(ViewController& controller);
     void stackChanged();
 
     std::vector<std::shared_ptr<ViewController>> stack_;
     std::function<void()> stackListener_;
+};
+
+/// The stack of a menu that slides in from the left edge.
+class SideMenuNavigationController final : public NavigationController {
+public:
+    using NavigationController::NavigationController;
 };
 
 } // namespace lumora::platform

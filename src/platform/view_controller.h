@@ -75,6 +75,11 @@ public:
     SplitViewController* splitViewController() const { return splitViewController_; }
     virtual void setSplitViewController(SplitViewController* splitView);
 
+    /// The stack that this screen is on; null outside one.
+    NavigationController* navigationController() const { return navigationController_; }
+    /// For the stack: says so when the screen comes and goes.
+    void setNavigationController(NavigationController* stack) { navigationController_ = stack; }
+
 protected:
     virtual void viewDidLoad() {}
 
@@ -83,6 +88,7 @@ private:
     NavigationItem navigationItem_;
     std::function<void()> navigationItemListener_;
     SplitViewController* splitViewController_ = nullptr;
+    NavigationController* navigationController_ = nullptr;
 };
 
 } // namespace lumora::platform
