@@ -9,6 +9,9 @@
 #include "lists/search_results_table_view_controller.h"
 #include "lists/verb_list_table_view_controller.h"
 #include "navigation/home_view_controller.h"
+#include "navigation/more_apps_table_view_controller.h"
+#include "navigation/navigation_drawer_table_table_view_controller.h"
+#include "navigation/options_table_view_controller.h"
 #include "platform/navigation_controller.h"
 #include "platform/split_view_controller.h"
 
@@ -68,6 +71,18 @@ MainStoryboard::instantiateDestination(std::string_view segueIdentifier)
     if (segueIdentifier == "showDetail" || segueIdentifier == "showSearchResult") {
         return std::make_shared<NavigationController>(
             std::make_shared<detail::VerbDetailTableViewController>(*services_));
+    }
+    if (segueIdentifier == "Navigation") {
+        return std::make_shared<platform::SideMenuNavigationController>(
+            std::make_shared<navigation::NavigationDrawerTableTableViewController>(*services_));
+    }
+    if (segueIdentifier == "Options") {
+        return std::make_shared<NavigationController>(
+            std::make_shared<navigation::OptionsTableViewController>(*services_));
+    }
+    if (segueIdentifier == "MoreApps") {
+        return std::make_shared<NavigationController>(
+            std::make_shared<navigation::MoreAppsTableViewController>(*services_));
     }
     stopUnknown(segueIdentifier);
 }

@@ -4,7 +4,10 @@
 #include "navigation/home_view_controller.h"
 
 #include "detail/verb_detail_table_view_controller.h"
+#include "export/support_email_sender.h"
+#include "lists/history_table_view_controller.h"
 #include "lists/interstitial_table_view_controller.h"
+#include "lists/verb_list_table_view_controller.h"
 #include "platform/bundle.h"
 #include "platform/crash_reporter.h"
 #include "platform/device.h"
@@ -24,6 +27,13 @@
 namespace lumora::navigation {
 
 namespace {
+
+template <typename Controller>
+Controller& topOf(platform::ViewController& stack)
+{
+    return dynamic_cast<Controller&>(
+        *dynamic_cast<platform::NavigationController&>(stack).topViewController());
+}
 
 constexpr std::string_view kScreenOfTab[] = {
     "VerbListTableViewController", "FavouritesTableViewController", "HistoryTableViewController"};
@@ -67,6 +77,10 @@ void HomeViewController::viewDidLoad()
     };
     auto item = navigationItem();
     item.title = text("verb.list.full");
+    item.leftBarButton = {
+        .identifier = "menu", .title = {}, .image = "menu", .enabled = true, .action = [this] {
+            performSegue("Navigation");
+        }};
     setNavigationItem(std::move(item));
     searchBar.accessibilityIdentifier = "Search";
     searchBar.placeholder = text("search.placeholder");
@@ -207,24 +221,61 @@ void HomeViewController::focusSearchBar()
 void HomeViewController::didSelectSearchResult(const data::VerbPtr& verb)
 {
     selectedSearchResult = verb;
-    services_.presenter.performSegue(*this, "showSearchResult", std::nullopt);
+    performSegue("showSearchResult");
     if (services_.device.isTablet()) {
         searchBar.isFirstResponder = false;
         outletsChanged();
     }
 }
 
+void HomeViewController::performSegue(std::string_view identifier)
+{
+    services_.presenter.performSegue(*this, identifier, std::nullopt);
+}
+
 void HomeViewController::prepareForSegue(const platform::Segue& segue)
 {
-    if (segue.identifier != "showSearchResult") {
+    if (segue.identifier == "showSearchResult") {
+        auto& detail = topOf<detail::VerbDetailTableViewController>(segue.destination);
+        detail.selectedVerb = selectedSearchResult;
+        detail.queue = queue;
+        detail.isPeeking = false;
+        detail.offerDisplayModeButton(splitViewController());
+    } else if (segue.identifier == "Navigation") {
+        topOf<NavigationDrawerTableTableViewController>(segue.destination).delegate = this;
+    } else if (segue.identifier == "Options") {
+        auto& options = topOf<OptionsTableViewController>(segue.destination);
+        options.delegate = this;
+        options.queue = queue;
+    }
+}
+
+void HomeViewController::showOptions()
+{
+    performSegue("Options");
+}
+
+void HomeViewController::showMoreApps()
+{
+    performSegue("MoreApps");
+}
+
+void HomeViewController::contactSupport()
+{
+    supportEmailSender = std::make_shared<exporting::SupportEmailSender>(services_);
+    supportEmailSender->sender = this;
+    supportEmailSender->start();
+}
+
+void HomeViewController::optionsClosed(bool fieldsChanged)
+{
+    if (!fieldsChanged) {
         return;
     }
-    auto& stack = dynamic_cast<platform::NavigationController&>(segue.destination);
-    auto& detail = dynamic_cast<detail::VerbDetailTableViewController&>(*stack.topViewController());
-    detail.selectedVerb = selectedSearchResult;
-    detail.queue = queue;
-    detail.isPeeking = false;
-    detail.offerDisplayModeButton(splitViewController());
+    dynamic_cast<lists::VerbListTableViewController&>(*listFor(Tab::List)).reloadVerbs();
+    dynamic_cast<lists::HistoryTableViewController&>(*listFor(Tab::History)).reloadHistory();
+    services_.notifications.post({"RefreshConjugations", {}, {}});
+    sendCrashReportValues();
 }
 
 void HomeViewController::sendCrashReportValues()

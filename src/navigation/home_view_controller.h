@@ -5,6 +5,8 @@
 
 #include "data/verb.h"
 #include "lists/search_results_table_view_controller.h"
+#include "navigation/navigation_drawer_table_table_view_controller.h"
+#include "navigation/options_table_view_controller.h"
 #include "platform/notification_center.h"
 #include "platform/services.h"
 #include "platform/view_controller.h"
@@ -56,12 +58,15 @@ struct SearchBar {
     bool isFirstResponder = false;
 };
 
-/// The first screen: three lists behind a tab bar and the search over them.
+/// The first screen: three lists behind a tab bar, the search over them, and
+/// the way to the options and to what the drawer offers.
 ///
 /// A list screen is made when it is first shown and kept, as are the search
 /// results. GUI thread only.
 class HomeViewController final : public platform::ViewController,
-                                 public lists::SearchResultsTableViewControllerDelegate {
+                                 public lists::SearchResultsTableViewControllerDelegate,
+                                 public OptionsTableViewControllerDelegate,
+                                 public HomeViewControllerDelegate {
 public:
     explicit HomeViewController(const platform::Services& services);
     ~HomeViewController() override;
@@ -77,6 +82,8 @@ public:
     SearchBar searchBar;
     /// The verb last chosen among the search results.
     data::VerbPtr selectedSearchResult;
+
+    std::shared_ptr<exporting::SupportEmailSender> supportEmailSender;
 
     /// The list on show; null before the screen is built.
     const std::shared_ptr<platform::ViewController>& currentChild() const { return currentChild_; }
@@ -101,6 +108,10 @@ public:
     void focusSearchBar();
 
     void didSelectSearchResult(const data::VerbPtr& verb) override;
+    void optionsClosed(bool fieldsChanged) override;
+    void showOptions() override;
+    void showMoreApps() override;
+    void contactSupport() override;
 
     void viewWillAppear() override;
     void prepareForSegue(const platform::Segue& segue) override;
@@ -110,6 +121,7 @@ protected:
     void viewDidLoad() override;
 
 private:
+    void performSegue(std::string_view identifier);
     void openTab(const platform::Notification& notification);
     void makeSearchResultsController();
     void findDetailViewController();

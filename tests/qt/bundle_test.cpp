@@ -78,7 +78,10 @@ std::set<std::string> keysInSources()
         const auto content = support::contentOf(entry.path());
         for (std::sregex_iterator match{content.begin(), content.end(), kKey}, end; match != end;
              ++match) {
-            keys.insert((*match)[1]);
+            // A file of that name is no text.
+            if (!(*match)[1].str().ends_with(".json")) {
+                keys.insert((*match)[1]);
+            }
         }
     }
     return keys;

@@ -19,6 +19,10 @@
         <source></source>
         <translation>Remove</translation>
     </message>
+    <message id="app.title">
+        <source></source>
+        <translation>Lumora</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Show or hide the list</translation>
@@ -27,9 +31,33 @@
         <source></source>
         <translation>Favourite</translation>
     </message>
+    <message id="button.menu">
+        <source></source>
+        <translation>Menu</translation>
+    </message>
+    <message id="common.done">
+        <source></source>
+        <translation>Done</translation>
+    </message>
     <message id="common.ok">
         <source></source>
         <translation>OK</translation>
+    </message>
+    <message id="contact">
+        <source></source>
+        <translation>Contact us</translation>
+    </message>
+    <message id="export.cancel">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="export.email.error">
+        <source></source>
+        <translation>E-mail could not be sent</translation>
+    </message>
+    <message id="export.email.message">
+        <source></source>
+        <translation>Check that a mail program is set up on this device, then try again.</translation>
     </message>
     <message id="favourites.empty">
         <source></source>
@@ -39,9 +67,25 @@
         <source></source>
         <translation>You have not looked at any verbs yet. The verbs you open will be listed here.</translation>
     </message>
+    <message id="moreapps">
+        <source></source>
+        <translation>More apps</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Back</translation>
+    </message>
+    <message id="options.button">
+        <source></source>
+        <translation>Settings</translation>
+    </message>
+    <message id="privacy">
+        <source></source>
+        <translation>Privacy</translation>
+    </message>
+    <message id="privacy.url">
+        <source></source>
+        <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
     <message id="search.clear">
         <source></source>
@@ -58,6 +102,154 @@
     <message id="select">
         <source></source>
         <translation>Select a verb to see its conjugation.</translation>
+    </message>
+    <message id="settings">
+        <source></source>
+        <translation>Settings</translation>
+    </message>
+    <message id="settings.analytics">
+        <source></source>
+        <translation>Data collection</translation>
+    </message>
+    <message id="settings.analytics.info">
+        <source></source>
+        <translation>Counts which parts of the program are used. The counts stay on this device and are sent to nobody.</translation>
+    </message>
+    <message id="settings.audio.speed">
+        <source></source>
+        <translation>Speech rate</translation>
+    </message>
+    <message id="settings.conjugations">
+        <source></source>
+        <translation>Conjugations</translation>
+    </message>
+    <message id="settings.conjugations.info">
+        <source></source>
+        <translation>A search through the conjugated forms finds “être” by “suis” or “étaient” too.</translation>
+    </message>
+    <message id="settings.copyright">
+        <source></source>
+        <translation>© Brindle</translation>
+    </message>
+    <message id="settings.descriptions">
+        <source></source>
+        <translation>Tense names</translation>
+    </message>
+    <message id="settings.descriptions.original">
+        <source></source>
+        <translation>French</translation>
+    </message>
+    <message id="settings.descriptions.translated">
+        <source></source>
+        <translation>Translated</translation>
+    </message>
+    <message id="settings.history">
+        <source></source>
+        <translation>History</translation>
+    </message>
+    <message id="settings.history_cancel">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="settings.history_clear">
+        <source></source>
+        <translation>Clear history</translation>
+    </message>
+    <message id="settings.history_clear_yes">
+        <source></source>
+        <translation>Clear history</translation>
+    </message>
+    <message id="settings.history_info">
+        <source></source>
+        <translation>The history holds the last %d verbs you opened.</translation>
+    </message>
+    <message id="settings.history_items_clear">
+        <source></source>
+        <translation>Remove every verb from the history?</translation>
+    </message>
+    <message id="settings.includeconjugations">
+        <source></source>
+        <translation>Search conjugated forms</translation>
+    </message>
+    <message id="settings.includeenglish">
+        <source></source>
+        <translation>Search translations (%@)</translation>
+    </message>
+    <message id="settings.search">
+        <source></source>
+        <translation>Search</translation>
+    </message>
+    <message id="settings.searchtype.start">
+        <source></source>
+        <translation>Start of word</translation>
+    </message>
+    <message id="settings.searchtype.wildcard">
+        <source></source>
+        <translation>Anywhere</translation>
+    </message>
+    <message id="settings.sortby">
+        <source></source>
+        <translation>Sort by</translation>
+    </message>
+    <message id="settings.sortby.original">
+        <source></source>
+        <translation>French</translation>
+    </message>
+    <message id="settings.sortby.translated">
+        <source></source>
+        <translation>Translation</translation>
+    </message>
+    <message id="settings.translations">
+        <source></source>
+        <translation>Translations</translation>
+    </message>
+    <message id="settings.translations.automatic">
+        <source></source>
+        <translation>Automatic</translation>
+    </message>
+    <message id="settings.translations.dutch">
+        <source></source>
+        <translation>Dutch</translation>
+    </message>
+    <message id="settings.translations.english">
+        <source></source>
+        <translation>English</translation>
+    </message>
+    <message id="settings.translations.french">
+        <source></source>
+        <translation>French</translation>
+    </message>
+    <message id="settings.translations.german">
+        <source></source>
+        <translation>German</translation>
+    </message>
+    <message id="settings.translations.italian">
+        <source></source>
+        <translation>Italian</translation>
+    </message>
+    <message id="settings.translations.portuguese">
+        <source></source>
+        <translation>Portuguese</translation>
+    </message>
+    <message id="settings.translations.spanish">
+        <source></source>
+        <translation>Spanish</translation>
+    </message>
+    <message id="settings.translations.turkish">
+        <source></source>
+        <translation>Turkish</translation>
+    </message>
+    <message id="support.email">
+        <source></source>
+        <translation>support@brindle.example</translation>
+    </message>
+    <message id="support.emailsuccess.subject">
+        <source></source>
+        <translation>Thank you for your message. We will answer as soon as we can.</translation>
+    </message>
+    <message id="support.emailsuccess.title">
+        <source></source>
+        <translation>Message sent</translation>
     </message>
     <message id="tabs.favourites">
         <source></source>

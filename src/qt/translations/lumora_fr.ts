@@ -19,6 +19,10 @@
         <source></source>
         <translation>Supprimer</translation>
     </message>
+    <message id="app.title">
+        <source></source>
+        <translation>Lumora</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Afficher ou masquer la liste</translation>
@@ -27,9 +31,33 @@
         <source></source>
         <translation>Favori</translation>
     </message>
+    <message id="button.menu">
+        <source></source>
+        <translation>Menu</translation>
+    </message>
+    <message id="common.done">
+        <source></source>
+        <translation>Terminé</translation>
+    </message>
     <message id="common.ok">
         <source></source>
         <translation>OK</translation>
+    </message>
+    <message id="contact">
+        <source></source>
+        <translation>Nous contacter</translation>
+    </message>
+    <message id="export.cancel">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="export.email.error">
+        <source></source>
+        <translation>L’e-mail n’a pas pu être envoyé</translation>
+    </message>
+    <message id="export.email.message">
+        <source></source>
+        <translation>Vérifiez qu’un programme de messagerie est configuré sur cet appareil, puis réessayez.</translation>
     </message>
     <message id="favourites.empty">
         <source></source>
@@ -39,9 +67,25 @@
         <source></source>
         <translation>Vous n’avez encore consulté aucun verbe. Les verbes que vous ouvrez apparaîtront ici.</translation>
     </message>
+    <message id="moreapps">
+        <source></source>
+        <translation>Autres applications</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Retour</translation>
+    </message>
+    <message id="options.button">
+        <source></source>
+        <translation>Réglages</translation>
+    </message>
+    <message id="privacy">
+        <source></source>
+        <translation>Confidentialité</translation>
+    </message>
+    <message id="privacy.url">
+        <source></source>
+        <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
     <message id="search.clear">
         <source></source>
@@ -58,6 +102,154 @@
     <message id="select">
         <source></source>
         <translation>Choisissez un verbe pour afficher sa conjugaison.</translation>
+    </message>
+    <message id="settings">
+        <source></source>
+        <translation>Réglages</translation>
+    </message>
+    <message id="settings.analytics">
+        <source></source>
+        <translation>Collecte de données</translation>
+    </message>
+    <message id="settings.analytics.info">
+        <source></source>
+        <translation>Compte les fonctions utilisées. Ces données restent sur cet appareil et ne sont transmises à personne.</translation>
+    </message>
+    <message id="settings.audio.speed">
+        <source></source>
+        <translation>Vitesse de lecture</translation>
+    </message>
+    <message id="settings.conjugations">
+        <source></source>
+        <translation>Conjugaisons</translation>
+    </message>
+    <message id="settings.conjugations.info">
+        <source></source>
+        <translation>La recherche dans les formes conjuguées trouve aussi « être » à partir de « suis » ou de « étaient ».</translation>
+    </message>
+    <message id="settings.copyright">
+        <source></source>
+        <translation>© Brindle</translation>
+    </message>
+    <message id="settings.descriptions">
+        <source></source>
+        <translation>Noms des temps</translation>
+    </message>
+    <message id="settings.descriptions.original">
+        <source></source>
+        <translation>Français</translation>
+    </message>
+    <message id="settings.descriptions.translated">
+        <source></source>
+        <translation>Traduits</translation>
+    </message>
+    <message id="settings.history">
+        <source></source>
+        <translation>Historique</translation>
+    </message>
+    <message id="settings.history_cancel">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="settings.history_clear">
+        <source></source>
+        <translation>Effacer l’historique</translation>
+    </message>
+    <message id="settings.history_clear_yes">
+        <source></source>
+        <translation>Effacer l’historique</translation>
+    </message>
+    <message id="settings.history_info">
+        <source></source>
+        <translation>L’historique contient les %d derniers verbes consultés.</translation>
+    </message>
+    <message id="settings.history_items_clear">
+        <source></source>
+        <translation>Supprimer tous les verbes de l’historique ?</translation>
+    </message>
+    <message id="settings.includeconjugations">
+        <source></source>
+        <translation>Chercher dans les formes conjuguées</translation>
+    </message>
+    <message id="settings.includeenglish">
+        <source></source>
+        <translation>Chercher dans les traductions (%@)</translation>
+    </message>
+    <message id="settings.search">
+        <source></source>
+        <translation>Recherche</translation>
+    </message>
+    <message id="settings.searchtype.start">
+        <source></source>
+        <translation>Début du mot</translation>
+    </message>
+    <message id="settings.searchtype.wildcard">
+        <source></source>
+        <translation>N’importe où</translation>
+    </message>
+    <message id="settings.sortby">
+        <source></source>
+        <translation>Trier par</translation>
+    </message>
+    <message id="settings.sortby.original">
+        <source></source>
+        <translation>Français</translation>
+    </message>
+    <message id="settings.sortby.translated">
+        <source></source>
+        <translation>Traduction</translation>
+    </message>
+    <message id="settings.translations">
+        <source></source>
+        <translation>Traductions</translation>
+    </message>
+    <message id="settings.translations.automatic">
+        <source></source>
+        <translation>Automatique</translation>
+    </message>
+    <message id="settings.translations.dutch">
+        <source></source>
+        <translation>Néerlandais</translation>
+    </message>
+    <message id="settings.translations.english">
+        <source></source>
+        <translation>Anglais</translation>
+    </message>
+    <message id="settings.translations.french">
+        <source></source>
+        <translation>Français</translation>
+    </message>
+    <message id="settings.translations.german">
+        <source></source>
+        <translation>Allemand</translation>
+    </message>
+    <message id="settings.translations.italian">
+        <source></source>
+        <translation>Italien</translation>
+    </message>
+    <message id="settings.translations.portuguese">
+        <source></source>
+        <translation>Portugais</translation>
+    </message>
+    <message id="settings.translations.spanish">
+        <source></source>
+        <translation>Espagnol</translation>
+    </message>
+    <message id="settings.translations.turkish">
+        <source></source>
+        <translation>Turc</translation>
+    </message>
+    <message id="support.email">
+        <source></source>
+        <translation>support@brindle.example</translation>
+    </message>
+    <message id="support.emailsuccess.subject">
+        <source></source>
+        <translation>Merci de votre message. Nous vous répondrons dès que possible.</translation>
+    </message>
+    <message id="support.emailsuccess.title">
+        <source></source>
+        <translation>Message envoyé</translation>
     </message>
     <message id="tabs.favourites">
         <source></source>

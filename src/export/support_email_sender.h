@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/mail_composer.h"
+#include "platform/services.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace lumora::exporting {
+
+/// One e-mail to the support: what the program and the device are stands below
+/// the space for the user's words. Where no mail can be sent the maker's
+/// contact page opens instead.
+///
+/// Lives in a shared pointer that the starting screen keeps until its next
+/// e-mail. GUI thread only.
+class SupportEmailSender final : public platform::MailComposerDelegate,
+                                 public std::enable_shared_from_this<SupportEmailSender> {
+public:
+    explicit SupportEmailSender(const platform::Services& services);
+    SupportEmailSender(const SupportEmailSender&) = delete;
+    SupportEmailSender& operator=(const SupportEmailSender&) = delete;
+    ~SupportEmailSender() override;
+
+    /// The screen that started it, on which the composer and the alerts show.
+    /// Not owned; without one, presenting is a mistake and stops the program.
+    platform::ViewController* sender = nullptr;
+
+    void start();
+    void mailComposeDidFinish(platform::MailComposer& composer,
+                              platform::MailComposeResult result) override;
+
+private:
+    std::string messageBody() const;
+    void presentComposer();
+    platform::ViewController& presentingScreen() const;
+    void showAlert(std::string_view titleKey, std::string_view messageKey) const;
+    void showError() const;
+
+    platform::Services services_;
+    /// Told not to call back when this goes first.
+    std::weak_ptr<platform::MailComposer> composer_;
+};
+
+} // namespace lumora::exporting
