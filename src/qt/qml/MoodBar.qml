@@ -54,8 +54,8 @@ Rectangle {
                         border.color: Theme.accentText
                     }
                     contentItem: Text {
-                        leftPadding: 4
-                        rightPadding: 4
+                        leftPadding: 2
+                        rightPadding: 2
                         text: segment.text
                         color: segment.checked ? Theme.accentSecondaryInk : Theme.text
                         font.pixelSize: Theme.small + 1
