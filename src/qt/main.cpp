@@ -64,7 +64,7 @@ int main(int argc, char** argv)
     QGuiApplication toolkit{argc, argv};
     QCoreApplication::setApplicationName(QStringLiteral("lumora"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Lumora"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("lumora"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.brindle.lumora"));
     const QtBundle facts{shareFolder()};
     QCoreApplication::setApplicationVersion(
         toQString(facts.infoValue("CFBundleShortVersionString").value_or("unknown")));
