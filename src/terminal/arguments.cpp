@@ -10,42 +10,76 @@
 
 namespace lumora::terminal {
 
-const char* const kHelp =
-    R"help(Usage: lumora-cli COMMAND [OPTIONS]
+namespace {
+
+constexpr const char* kGeneralHelp =
+    R"help(Usage: lumora-cli COMMAND [OPTIONS] [TEXT]
+
+French verbs and all their forms.
 
 Commands:
   conjugate VERB     print every mood and tense of a verb
   search TEXT        print the verbs that begin with TEXT
   export VERB        print a verb's conjugations as a document
-  --help             print this
-  --version          print the version
-
-A verb may be typed without its accents; a pronominal verb as "s'évanouir",
-"évanouir" or "évanouir (s')".
-
-Options of search:
-  --anywhere         TEXT may stand anywhere in the verb
-  --conjugations     search the conjugated forms too
-  --translations     search the translations too
-
-Options of export:
-  --html             a page to print or to show
-  --text             plain text for an e-mail
-
-Options of all commands:
-  --language CODE    translate into en, fr, de, es, pt, it or nl
+  help [COMMAND]     print this, or the options of a command
+  version            print the version
 
 On a terminal the output is in columns, in a pipe it has tabs between fields.
 )help";
 
-namespace {
+constexpr const char* kConjugateHelp =
+    R"help(Usage: lumora-cli conjugate [--language CODE] VERB
+
+Print every mood and tense of a verb.
+
+VERB may be typed without its accents; a pronominal verb as "s'évanouir",
+"évanouir" or "évanouir (s')". Verbs that share a name are all printed.
+
+In a pipe each line holds verb, mood, tense, pronoun and form.
+)help";
+
+constexpr const char* kSearchHelp =
+    R"help(Usage: lumora-cli search [OPTIONS] TEXT
+
+Print the verbs that begin with TEXT, with their translation.
+
+Options:
+  --anywhere         TEXT may stand anywhere in the verb
+  --conjugations     search the conjugated forms too
+  --translations     search the translations too
+
+"%" stands for any letters, "_" for one.
+In a pipe each line holds verb and translation.
+)help";
+
+constexpr const char* kExportHelp =
+    R"help(Usage: lumora-cli export --html|--text [--language CODE] VERB
+
+Print a verb's conjugations as a document.
+
+Options:
+  --html             a page to print or to show
+  --text             plain text for an e-mail
+)help";
+
+constexpr const char* kCommonHelp = R"help(
+Options of every command:
+  --language CODE    translate into en, fr, de, es, pt, it or nl
+  -h, --help         print this
+)help";
+
+constexpr std::pair<Command, const char*> kHelpTexts[] = {
+    {Command::Conjugate, kConjugateHelp},
+    {Command::Search, kSearchHelp},
+    {Command::Export, kExportHelp},
+};
 
 constexpr std::string_view kLanguages[] = {"en", "fr", "de", "es", "pt", "it", "nl"};
 
 constexpr std::pair<std::string_view, Command> kCommands[] = {
-    {"conjugate", Command::Conjugate}, {"search", Command::Search}, {"export", Command::Export},
-    {"help", Command::Help},           {"--help", Command::Help},   {"-h", Command::Help},
-    {"--version", Command::Version},   {"-v", Command::Version},
+    {"conjugate", Command::Conjugate}, {"search", Command::Search},     {"export", Command::Export},
+    {"help", Command::Help},           {"--help", Command::Help},       {"-h", Command::Help},
+    {"version", Command::Version},     {"--version", Command::Version}, {"-v", Command::Version},
 };
 
 constexpr std::pair<std::string_view, bool Arguments::*> kSearchOptions[] = {
@@ -130,7 +164,7 @@ platform::Result<void> readWords(Arguments& arguments, const std::vector<std::st
         } else if (*word == "--") {
             optionsEnded = true;
         } else if (*word == "--help" || *word == "-h") {
-            arguments.command = Command::Help;
+            arguments.topic = std::exchange(arguments.command, Command::Help);
             return {};
         } else if (*word == kLanguage && word + 1 == words.end()) {
             read = refusal("--language needs a code");
@@ -148,21 +182,47 @@ platform::Result<void> readWords(Arguments& arguments, const std::vector<std::st
     return checkComplete(arguments);
 }
 
+platform::Result<Command> commandNamed(std::string_view word)
+{
+    const auto* const command = lookUp(kCommands, word);
+    if (command == std::end(kCommands)) {
+        return refusal("no command " + quoted(word) + "; try --help");
+    }
+    return command->second;
+}
+
 } // namespace
+
+std::string helpText(std::optional<Command> topic)
+{
+    const auto* const text = std::find_if(std::begin(kHelpTexts), std::end(kHelpTexts),
+                                          [&](const auto& entry) { return entry.first == topic; });
+    return text == std::end(kHelpTexts) ? std::string{kGeneralHelp}
+                                        : std::string{text->second} + kCommonHelp;
+}
 
 platform::Result<Arguments> parseArguments(const std::vector<std::string>& words)
 {
     if (words.empty()) {
         return refusal("no command; try --help");
     }
-    const auto* const command = lookUp(kCommands, words.front());
-    if (command == std::end(kCommands)) {
-        return refusal("no command " + quoted(words.front()) + "; try --help");
+    const auto command = commandNamed(words.front());
+    if (!command) {
+        return tl::unexpected(command.error());
     }
     Arguments arguments;
-    arguments.command = command->second;
-    if (arguments.command == Command::Help || arguments.command == Command::Version) {
+    arguments.command = *command;
+    if (arguments.command == Command::Version) {
         return arguments;
+    }
+    if (arguments.command == Command::Help) {
+        if (words.size() == 1) {
+            return arguments;
+        }
+        return commandNamed(words[1]).map([&](Command topic) {
+            arguments.topic = topic;
+            return std::move(arguments);
+        });
     }
     return readWords(arguments, words).map([&] { return std::move(arguments); });
 }

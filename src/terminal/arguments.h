@@ -24,11 +24,14 @@ struct Arguments {
     bool translations = false;
     std::optional<std::string> language;
     std::optional<Format> format;
+    /// Which command Help is about; none for all of them.
+    std::optional<Command> topic;
 };
 
 /// Without the program's name. The error's message is for the user.
 platform::Result<Arguments> parseArguments(const std::vector<std::string>& words);
 
-extern const char* const kHelp;
+/// What --help prints.
+std::string helpText(std::optional<Command> topic);
 
 } // namespace lumora::terminal

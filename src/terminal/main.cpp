@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <csignal>
 #include <iostream>
 
 namespace {
@@ -50,7 +51,7 @@ platform::Result<void> run(terminal::Session& session, const Arguments& argument
     const auto output = terminal::standardOutput();
     switch (arguments.command) {
     case Command::Help:
-        output.stream << terminal::kHelp;
+        output.stream << terminal::helpText(arguments.topic);
         return {};
     case Command::Version:
         output.stream
@@ -79,6 +80,8 @@ platform::Result<void> run(terminal::Session& session, const Arguments& argument
 
 int main(int argc, char** argv)
 {
+    // Whoever reads the output may stop early, also where that signal was off.
+    std::signal(SIGPIPE, SIG_DFL);
     std::vector<std::string> words;
     for (int i = 1; i < argc; ++i) {
         words.push_back(platform::wellFormed(argv[i]));

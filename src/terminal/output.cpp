@@ -3,7 +3,13 @@
 
 #include "terminal/output.h"
 
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+
 #include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <cstdlib>
 #include <iostream>
 
 #include <sys/ioctl.h>
@@ -22,12 +28,37 @@ std::string padded(const std::string& text, std::size_t columns)
     return text + std::string(columns - std::min(columns, columnsOf(text)), ' ');
 }
 
+/// What the user says in COLUMNS, 0 for nothing.
+std::size_t wantedWidth()
+{
+    std::size_t width = 0;
+    if (const char* const columns = std::getenv("COLUMNS")) {
+        const std::string_view text{columns};
+        std::from_chars(text.data(), text.data() + text.size(), width);
+    }
+    return width;
+}
+
+std::size_t columnsOf(UChar32 character)
+{
+    const auto category = u_charType(character);
+    if (category == U_NON_SPACING_MARK || category == U_ENCLOSING_MARK ||
+        category == U_FORMAT_CHAR) {
+        return 0;
+    }
+    const int width = u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH);
+    return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
+}
+
 } // namespace
 
 Output standardOutput()
 {
     if (isatty(STDOUT_FILENO) == 0) {
         return {std::cout, 0};
+    }
+    if (const auto wanted = wantedWidth(); wanted > 0) {
+        return {std::cout, wanted};
     }
     winsize size{};
     const bool known = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
@@ -36,9 +67,13 @@ Output standardOutput()
 
 std::size_t columnsOf(std::string_view utf8)
 {
-    return static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-    }));
+    const auto text =
+        icu::UnicodeString::fromUTF8({utf8.data(), static_cast<std::int32_t>(utf8.size())});
+    std::size_t columns = 0;
+    for (std::int32_t at = 0; at < text.length(); at = text.moveIndex32(at, 1)) {
+        columns += columnsOf(text.char32At(at));
+    }
+    return columns;
 }
 
 void printBlocks(const std::vector<TextBlock>& blocks, const Output& output)

@@ -23,8 +23,7 @@ struct Output {
 /// Standard output as it is now.
 Output standardOutput();
 
-/// How many columns the text takes: one a character, which holds for the
-/// languages of ours.
+/// How many columns the text takes on a terminal.
 std::size_t columnsOf(std::string_view utf8);
 
 /// A few lines that stand together.

@@ -77,6 +77,7 @@ Run InstalledProgram::runOnTerminal(const std::vector<std::string>& arguments,
     const auto child = forkpty(&terminal, nullptr, nullptr, &size);
     if (child == 0) {
         setenv("LC_ALL", "C", 1);
+        unsetenv("COLUMNS");
         execv(program.c_str(), pointers.data());
         _exit(127);
     }

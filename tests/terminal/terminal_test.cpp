@@ -25,7 +25,7 @@ protected:
                  "(7, 'pêcher', 'pecher', 'fish'), (8, 'pécher', 'pecher', 'sin'),"
                  "(9, 'ressortir', 'ressortir', 'go out'), (10, 'ressortir', 'ressortir', 'fall'),"
                  "(11, 'œuvrer', 'oeuvrer', 'work'), (12, 'méfier (se)', 'mefier', 'distrust'),"
-                 "(13, 'aimer', 'aimer', 'love')",
+                 "(13, 'aimer', 'aimer', 'love'), (14, 'pe\u0301ter', 'peter', 'burst')",
                  "INSERT INTO conjugation(verbid, pronoun, verb, type, conj_order, display) VALUES"
                  "(9, 'je', 'ressors', 'indicatifPresent', 1, 1),"
                  "(10, 'je', 'ressortis', 'indicatifPresent', 1, 1),"
@@ -252,25 +252,43 @@ TEST_F(TerminalTest, PutsColumnsOnATerminalAsManyAsFit)
     const auto results = program.runOnTerminal({"search", "p"}, 80);
     EXPECT_THAT(results.out, HasSubstr("pêcher   fish\r\n"));
     EXPECT_THAT(results.out, HasSubstr("pouvoir  Éclat\r\n"));
+    EXPECT_THAT(results.out, HasSubstr("pe\u0301ter    burst\r\n")) << "an accent takes no column";
 }
 
 TEST_F(TerminalTest, HelpsAndTellsItsVersion)
 {
-    const auto help = program.run({"--help"});
-    EXPECT_EQ(help.status, 0);
-    for (const char* word : {"conjugate", "search", "export", "--anywhere", "--conjugations",
-                             "--translations", "--language", "--html", "--text", "--version"}) {
-        EXPECT_THAT(help.out, HasSubstr(word));
+    struct {
+        std::vector<std::string> arguments;
+        const char* usage;
+        std::vector<const char*> words;
+    } cases[] = {
+        {{"--help"}, "COMMAND [OPTIONS]", {"conjugate", "search", "export", "help", "version"}},
+        {{"help", "conjugate"}, "conjugate", {"--language"}},
+        {{"search", "a", "--help"}, "search", {"--anywhere", "--conjugations", "--translations"}},
+        {{"export", "-h"}, "export", {"--html", "--text", "--language"}},
+    };
+    for (const auto& c : cases) {
+        const auto help = program.run(c.arguments);
+        EXPECT_EQ(help.status, 0) << help.err;
+        EXPECT_TRUE(help.out.starts_with(std::string{"Usage: lumora-cli "} + c.usage)) << help.out;
+        for (const char* word : c.words) {
+            EXPECT_THAT(help.out, HasSubstr(word));
+        }
     }
-    EXPECT_EQ(program.run({"search", "a", "--help"}).out, help.out);
     EXPECT_EQ(program.run({"--version"}).out, "lumora-cli 9.8\n");
 }
 
 TEST_F(TerminalTest, NoticesThatTheOutputIsLost)
 {
-    const auto run = program.run({"export", "être", "--text"}, {}, ">/dev/full");
-    EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.err, "lumora-cli: the output cannot be written\n");
+    const auto full = program.run({"export", "être", "--text"}, {}, ">/dev/full");
+    EXPECT_EQ(full.status, 1);
+    EXPECT_EQ(full.err, "lumora-cli: the output cannot be written\n");
+
+    // A reader that has seen enough is no fault to report.
+    const auto closed =
+        program.run({"export", "être", "--html"},
+                    "--ignore-signal=PIPE sh -c '{ sleep 0.2; \"$@\"; } | true' sh");
+    EXPECT_EQ(closed.err, "");
 }
 
 } // namespace
