@@ -1,0 +1,29 @@
+# SPDX-FileCopyrightText: The Lumora authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# The verbs that begin like the word. They are found without their accents too,
+# but a word that is already right is not to lose letters.
+_lumora_cli_verbs() {
+    local verbs exact
+    verbs=$(lumora-cli search -- "$1" 2> /dev/null | sed 's/\t.*//; s/ (.*//')
+    exact=$(compgen -W "$verbs" -- "$1")
+    mapfile -t COMPREPLY < <(printf '%s' "${exact:-$verbs}")
+}
+
+_lumora_cli() {
+    local current=${COMP_WORDS[COMP_CWORD]} words=
+    COMPREPLY=()
+    case "$COMP_CWORD ${COMP_WORDS[1]} ${COMP_WORDS[COMP_CWORD - 1]}" in
+        1\ * | 2\ help\ *) words="conjugate search export help version" ;;
+        *\ --language) words="en fr de es pt it nl" ;;
+        *\ conjugate\ *) words="--language --help" ;;
+        *\ search\ *) words="--anywhere --conjugations --translations --language --help" ;;
+        *\ export\ *) words="--html --text --language --help" ;;
+    esac
+    case "${COMP_WORDS[1]} $current" in
+        conjugate\ [!-]* | export\ [!-]*) _lumora_cli_verbs "$current" ;;
+        *) mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current") ;;
+    esac
+}
+
+complete -F _lumora_cli lumora-cli
