@@ -5,6 +5,8 @@
 #include "support/world.h"
 
 #include <algorithm>
+#include <regex>
+#include <set>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -276,6 +278,67 @@ TEST_F(TerminalTest, HelpsAndTellsItsVersion)
         }
     }
     EXPECT_EQ(program.run({"--version"}).out, "lumora-cli 9.8\n");
+}
+
+/// Every "--option" that the program's help names.
+std::set<std::string> optionsIn(const std::string& help)
+{
+    static const std::regex kOption{"--([a-z]+)"};
+    std::set<std::string> options;
+    for (std::sregex_iterator match{help.begin(), help.end(), kOption};
+         match != std::sregex_iterator{}; ++match) {
+        options.insert(match->str(1));
+    }
+    return options;
+}
+
+TEST_F(TerminalTest, EveryOptionIsInTheManualAndInTheCompletions)
+{
+    struct {
+        const char* file;
+        const char* before;
+    } files[] = {
+        {"man/lumora-cli.1", " Fl -"},
+        {"completions/lumora-cli.bash", "--"},
+        {"completions/_lumora-cli", "--"},
+        {"completions/lumora-cli.fish", " -l "},
+    };
+    std::string help;
+    for (const char* command : {"conjugate", "search", "export"}) {
+        help += program.run({"help", command}).out;
+    }
+    const auto options = optionsIn(help);
+    ASSERT_GT(options.size(), 6U);
+    for (const auto& file : files) {
+        SCOPED_TRACE(file.file);
+        const auto content =
+            support::contentOf(std::filesystem::path{LUMORA_PACKAGING} / file.file);
+        for (const auto& option : options) {
+            EXPECT_THAT(content, HasSubstr(file.before + option));
+        }
+    }
+}
+
+TEST_F(TerminalTest, CompletesCommandsOptionsAndVerbsInTheShell)
+{
+    struct {
+        const char* line;
+        const char* completions;
+    } cases[] = {
+        {"con", "conjugate\n"},      {"export --t", "--text\n"},    {"search --language p", "pt\n"},
+        {"conjugate al", "aller\n"}, {"export evan", "évanouir\n"},
+    };
+    // The program comes first among the shell's arguments.
+    const std::string shell =
+        "bash -c 'PATH=${1%/*}:$PATH; source \"$2\"; read -ra COMP_WORDS <<< \"lumora-cli $3\";"
+        " COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _lumora_cli;"
+        " printf \"%s\\n\" \"${COMPREPLY[@]}\"' bash";
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.line);
+        const auto run =
+            program.run({LUMORA_PACKAGING "/completions/lumora-cli.bash", c.line}, shell);
+        EXPECT_EQ(run.out, c.completions) << run.err;
+    }
 }
 
 TEST_F(TerminalTest, NoticesThatTheOutputIsLost)
