@@ -326,6 +326,8 @@ void OptionsTableViewController::segmentChanged(platform::IndexPath path, int se
 
 void OptionsTableViewController::didSelectRow(platform::IndexPath path)
 {
+    // What it leads to lies over the screen and needs no mark under it.
+    tableView().deselectRow(path);
     const auto row = rowAt(path);
     if (row == Row::Translations) {
         chooseTranslation(path);

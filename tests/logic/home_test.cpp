@@ -7,6 +7,7 @@
 #include "lists/favourites_table_view_controller.h"
 #include "lists/history_table_view_controller.h"
 #include "lists/verb_list_table_view_controller.h"
+#include "platform/navigation_controller.h"
 #include "support/world.h"
 
 #include <gtest/gtest.h>
@@ -34,6 +35,21 @@ protected:
             tags.push_back(item.tag);
         }
         return tags;
+    }
+
+    /// Where a step leads.
+    template <typename Step>
+    std::shared_ptr<platform::ViewController> perform(const Step& step)
+    {
+        step();
+        return world.presenter.segues.back().destination;
+    }
+
+    template <typename Controller>
+    static Controller& topOf(platform::ViewController& stack)
+    {
+        return dynamic_cast<Controller&>(
+            *dynamic_cast<platform::NavigationController&>(stack).topViewController());
     }
 
     World world;
@@ -128,6 +144,52 @@ TEST_F(Home, TellsTheCrashReportTheOptions)
         {"Locale", std::string{"de-CH"}},
     };
     EXPECT_EQ(world.crashReporter.customValues, expected);
+}
+
+TEST_F(Home, WhatTheOptionsChangeShowsWhenTheyClose)
+{
+    int refreshes = 0;
+    const auto subscription = world.notifications.addObserver(
+        "RefreshConjugations", [&](const platform::Notification&) { ++refreshes; });
+    const auto& list = dynamic_cast<lists::VerbListTableViewController&>(*home->currentChild());
+    auto& table = world.table(dynamic_cast<platform::TableViewController&>(*home->currentChild()));
+    const int reloads = table.reloads;
+    const auto stack = perform([&] { home->showOptions(); });
+    auto& options = topOf<navigation::OptionsTableViewController>(*stack);
+    EXPECT_EQ(options.queue, world.queue.get());
+    options.loadViewIfNeeded();
+    options.viewWillAppear();
+
+    options.close();
+    EXPECT_EQ(table.reloads, reloads);
+    EXPECT_EQ(refreshes, 0);
+
+    EXPECT_EQ(list.verbs.begin()->second.front()->french, "aller");
+    world.settings.setValue(std::string{"de"}, "translation_language");
+    options.segmentChanged({0, 2}, 0);
+    options.switchToggled({2, 0}, false);
+    EXPECT_EQ(tabs(), (std::vector{Tab::List, Tab::Favourites}));
+    options.close();
+    EXPECT_EQ(list.verbs.begin()->second.front()->french, "avoir") << "ärgern comes first";
+    EXPECT_EQ(refreshes, 1);
+    EXPECT_EQ(world.crashReporter.customValues["SortByLang"], platform::CustomValue{false});
+}
+
+TEST_F(Home, TheMenuButtonLeadsThroughTheDrawer)
+{
+    const auto drawerStack =
+        perform([&] { home->navigationItem().leftBarButton.value().action(); });
+    ASSERT_TRUE(dynamic_cast<platform::SideMenuNavigationController*>(drawerStack.get()));
+    auto& drawer = topOf<navigation::NavigationDrawerTableTableViewController>(*drawerStack);
+    drawer.didSelectRow({1, 0});
+    EXPECT_EQ(world.presenter.segues.back().identifier, "Options");
+    drawer.didSelectRow({1, 1});
+    EXPECT_EQ(world.presenter.segues.back().identifier, "MoreApps");
+    drawer.didSelectRow({1, 2});
+    ASSERT_EQ(world.presenter.presentedScreens.size(), 1U);
+    EXPECT_EQ(world.presenter.presentedScreens[0].on, home.get());
+    world.mail.composers.back()->finish(platform::MailComposeResult::Sent);
+    EXPECT_EQ(world.presenter.alerts.size(), 1U) << "the home screen keeps the sender";
 }
 
 } // namespace

@@ -70,8 +70,17 @@ public:
     void dismiss(platform::ViewController& presented, std::function<void()> completed) override
     {
         dismissed.push_back(&presented);
-        if (completed) {
-            completed();
+        dismissals_.push_back(std::move(completed));
+        if (!holdsDismissals) {
+            finishDismissals();
+        }
+    }
+    void finishDismissals()
+    {
+        for (const auto& completed : std::exchange(dismissals_, {})) {
+            if (completed) {
+                completed();
+            }
         }
     }
 
@@ -80,9 +89,12 @@ public:
     std::vector<PresentedAlert> alerts;
     std::vector<PresentedSheet> sheets;
     std::vector<platform::ViewController*> dismissed;
+    /// Whether screens take their time to go, until finishDismissals().
+    bool holdsDismissals = false;
 
 private:
     platform::Storyboard* storyboard_;
+    std::vector<std::function<void()>> dismissals_;
 };
 
 } // namespace lumora::support

@@ -42,6 +42,18 @@ void writeSmallDatabase(const std::filesystem::path& file);
 /// Runs one statement on a database file; stops the test on a failure.
 void executeOn(platform::DatabaseQueue& queue, const std::string& sql);
 
+/// Forgets everything, and counts how often it was to keep it.
+class FlushedSettingsStore final : public platform::SettingsStore {
+public:
+    platform::Result<void> synchronize() override
+    {
+        ++flushes;
+        return {};
+    }
+
+    int flushes = 0;
+};
+
 /// A machine with a small database on it, the real storyboard and notification
 /// centre, and fakes of the rest.
 class World {
@@ -64,7 +76,7 @@ public:
 
     TemporaryFolder folder;
     platform::NotificationCenter notifications;
-    platform::MemorySettingsStore settings;
+    FlushedSettingsStore settings;
     FakeBundle bundle;
     FakeDevice device;
     FakeClock clock;
