@@ -117,6 +117,7 @@ TEST_F(Options, EachRowShowsWhatTheStoreHolds)
         {{1, 2}, "audio_speed", -1.0, "100%"},
         {{1, 2}, "audio_speed", 0.999, "99%"},
         {{1, 2}, "audio_speed", 1e30, "1000000000%"},
+        {{2, 0}, "UseHistory", {}, "on"},
         {{2, 0}, "UseHistory", false, "off"},
         {{2, 1}, "UseHistory", {}, ""},
         {{3, 0}, "analytics_collection_enabled", {}, "on"},
@@ -255,8 +256,10 @@ TEST_F(Options, TheHistoryIsClearedAfterAYes)
     EXPECT_EQ(sheet.actions[1].style, platform::ActionStyle::Cancel);
     EXPECT_EQ(world.count("history"), 2);
 
+    world.execute("CREATE TEMP TABLE goes_with_the_connection(x)");
     sheet.actions[0].handler();
     EXPECT_EQ(world.count("history"), 0);
+    EXPECT_EQ(world.count("sqlite_temp_master"), 0);
     EXPECT_EQ(world.console.str(), "");
     world.execute("DROP TABLE history");
     sheet.actions[0].handler();
