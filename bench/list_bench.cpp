@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "benches.h"
+#include "database_world.h"
 #include "lists/verb_list_table_view_controller.h"
-#include "shipped_database.h"
 
-#include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
 #include <array>
@@ -30,51 +30,47 @@ struct BareRow {
 
 /// What the list costs at least: the same statement, the same columns copied
 /// into strings, on a connection opened for it as the list's is.
-void bareSqliteLoop(benchmark::State& state)
+void bareSqliteLoop(const std::filesystem::path& file)
 {
-    const ShippedDatabase database;
-    std::size_t count = 0;
-    for ([[maybe_unused]] auto _ : state) {
-        sqlite3* connection = nullptr;
-        sqlite3_stmt* statement = nullptr;
-        sqlite3_open(database.file().c_str(), &connection);
-        sqlite3_prepare_v2(connection, kListStatement, -1, &statement, nullptr);
-        std::vector<BareRow> rows;
-        while (sqlite3_step(statement) == SQLITE_ROW) {
-            auto& row = rows.emplace_back();
-            row.id = sqlite3_column_int64(statement, 0);
-            for (int column = 0; column < 14; ++column) {
-                const auto* text = sqlite3_column_text(statement, column + 1);
-                row.texts[static_cast<std::size_t>(column)].assign(
-                    reinterpret_cast<const char*>(text),
-                    static_cast<std::size_t>(sqlite3_column_bytes(statement, column + 1)));
-            }
-            row.favourite = sqlite3_column_int64(statement, 15);
+    sqlite3* connection = nullptr;
+    sqlite3_stmt* statement = nullptr;
+    sqlite3_open(file.c_str(), &connection);
+    sqlite3_prepare_v2(connection, kListStatement, -1, &statement, nullptr);
+    std::vector<BareRow> rows;
+    while (sqlite3_step(statement) == SQLITE_ROW) {
+        auto& row = rows.emplace_back();
+        row.id = sqlite3_column_int64(statement, 0);
+        for (int column = 0; column < 14; ++column) {
+            const auto* text = sqlite3_column_text(statement, column + 1);
+            row.texts[static_cast<std::size_t>(column)].assign(
+                reinterpret_cast<const char*>(text),
+                static_cast<std::size_t>(sqlite3_column_bytes(statement, column + 1)));
         }
-        sqlite3_finalize(statement);
-        sqlite3_close(connection);
-        count = rows.size();
-        benchmark::DoNotOptimize(rows.data());
+        row.favourite = sqlite3_column_int64(statement, 15);
     }
-    state.counters["verbs"] = static_cast<double>(count);
+    sqlite3_finalize(statement);
+    sqlite3_close(connection);
+    use(rows);
 }
-BENCHMARK(bareSqliteLoop)->Name("list/bare_sqlite_loop")->Unit(benchmark::kMillisecond);
-
-void reloadVerbs(benchmark::State& state)
-{
-    ShippedDatabase database;
-    lists::VerbListTableViewController list{database.services()};
-    list.queue = database.queue.get();
-    for ([[maybe_unused]] auto _ : state) {
-        list.reloadVerbs();
-    }
-    std::size_t count = 0;
-    for (const auto& [letter, verbs] : list.verbs) {
-        count += verbs.size();
-    }
-    state.counters["verbs"] = static_cast<double>(count);
-}
-BENCHMARK(reloadVerbs)->Name("list/reload_verbs")->Unit(benchmark::kMillisecond);
 
 } // namespace
+
+Figure listFigure(const std::filesystem::path& database, int rounds)
+{
+    DatabaseWorld world{database};
+    lists::VerbListTableViewController list{world.services()};
+    list.queue = &world.queue();
+    Figure figure{"list of all verbs", {}, "bare SQLite loop", {}, {}, {}};
+    for (int round = 0; round < rounds; ++round) {
+        figure.own.add(millisecondsOf([&] { list.reloadVerbs(); }));
+        figure.referenceSamples.add(millisecondsOf([&] { bareSqliteLoop(database); }));
+    }
+    return figure;
+}
+
+void measureList(Report& report, const std::filesystem::path& database)
+{
+    report.add(listFigure(database, 30));
+}
+
 } // namespace lumora::bench

@@ -1,122 +1,99 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "benches.h"
 #include "data/verb_reader.h"
+#include "database_world.h"
 #include "lists/search_query.h"
 #include "lists/search_results_table_view_controller.h"
-#include "shipped_database.h"
-#include "support/fake_device.h"
 #include "support/search_texts.h"
 
-#include <benchmark/benchmark.h>
+#include <fmt/format.h>
 
-#include <algorithm>
-#include <chrono>
-#include <cmath>
-#include <cstddef>
-#include <functional>
-#include <limits>
+#include <iterator>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace lumora::bench {
 namespace {
 
-using Milliseconds = std::chrono::duration<double, std::milli>;
+constexpr std::size_t kFewVerbs = 500;
 
-double millisecondsOf(const std::function<void()>& work)
+/// The statement of the search on the real tables, read as the search reads it.
+std::size_t searchByStockPlan(DatabaseWorld& world, const std::string& text)
 {
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return Milliseconds(std::chrono::steady_clock::now() - begin).count();
-}
-
-double percentile(std::vector<double> times, double part)
-{
-    std::sort(times.begin(), times.end());
-    return times[static_cast<std::size_t>(
-        std::lround(part * static_cast<double>(times.size() - 1)))];
-}
-
-/// Which texts of the list are measured, by the verbs that they find.
-struct Range {
-    std::size_t fewest = 0;
-    std::size_t most = std::numeric_limits<std::size_t>::max();
-};
-
-/// Searches for every text of the list, from the start and anywhere, as the
-/// results screen does; then with the same statement on the real table. The
-/// counters tell, in milliseconds, what a key costs.
-void searchList(benchmark::State& state, bool conjugations, Range range)
-{
-    constexpr int kRounds = 5;
-    ShippedDatabase database;
-    const support::FakeDevice device;
-    database.settings.setValue(true, "IncludeEnglish");
-    database.settings.setValue(conjugations, "IncludeConjugations");
-    lists::SearchResultsTableViewController results{database.services()};
-    results.queue = database.queue.get();
-    const double first = millisecondsOf([&] { results.search("parl"); });
-
-    std::vector<double> times;
-    std::vector<double> stockTimes;
     std::vector<data::VerbPtr> found;
-    for ([[maybe_unused]] auto _ : state) {
+    const auto query = lists::makeSearchQuery(text, world.settings(), world.world().device);
+    world.queue().inDatabase([&](platform::Database& connection) {
+        auto rows = connection.executeQuery(
+            query.statement, {static_cast<std::size_t>(query.placeholders), query.pattern});
+        const data::VerbReader reader{*rows, data::VerbReader::Spellings::Plain};
+        while (rows->next()) {
+            found.push_back(reader.readVerb(*rows));
+        }
+    });
+    return found.size();
+}
+
+} // namespace
+
+SearchFigures searchFigures(const std::filesystem::path& database, int rounds, std::size_t stride)
+{
+    DatabaseWorld world{database};
+    world.settings().setValue(true, "IncludeEnglish");
+    lists::SearchResultsTableViewController results{world.services()};
+    results.queue = &world.queue();
+    const auto all = world.verbIds().size();
+    SearchFigures figures{{"a key, conjugations searched", {}, "SQLite's own plan", {}, {}, {}},
+                          {"a key, up to 500 verbs match", {}, "SQLite's own plan", {}, {}, {}},
+                          {"a key, nearly all verbs match", {}, "SQLite's own plan", {}, {}, {}}};
+    for (const bool conjugations : {true, false}) {
+        world.settings().setValue(conjugations, "IncludeConjugations");
+        // Packs the forms, once for the life of the program.
+        results.search("parl");
         for (const char* from : {"S", "W"}) {
-            database.settings.setValue(std::string{from}, "SearchFrom");
-            for (const char* text : support::kSearchTexts) {
+            world.settings().setValue(std::string{from}, "SearchFrom");
+            for (std::size_t i = 0; i < std::size(support::kSearchTexts); i += stride) {
+                const char* text = support::kSearchTexts[i];
                 results.search(text);
-                if (results.verbs.size() < range.fewest || results.verbs.size() > range.most) {
+                const auto matches = results.verbs.size();
+                Figure* figure = &figures.withConjugations;
+                if (!conjugations && matches <= kFewVerbs) {
+                    figure = &figures.fewVerbs;
+                } else if (!conjugations && matches > all - all / 20) {
+                    figure = &figures.allVerbs;
+                } else if (!conjugations) {
                     continue;
                 }
-                for (int round = 0; round < kRounds; ++round) {
-                    times.push_back(millisecondsOf([&] { results.search(text); }));
+                for (int round = 0; round < rounds; ++round) {
+                    figure->own.add(millisecondsOf([&] { results.search(text); }));
                 }
-                stockTimes.push_back(millisecondsOf([&] {
-                    found.clear();
-                    const auto query = lists::makeSearchQuery(text, database.settings, device);
-                    database.queue->inDatabase([&](platform::Database& connection) {
-                        auto rows = connection.executeQuery(
-                            query.statement,
-                            {static_cast<std::size_t>(query.placeholders), query.pattern});
-                        const data::VerbReader reader{*rows, data::VerbReader::Spellings::Plain};
-                        while (rows->next()) {
-                            found.push_back(reader.readVerb(*rows));
-                        }
-                    });
-                }));
-                if (found.size() != results.verbs.size()) {
-                    state.SkipWithError("the two plans differ");
-                    return;
+                std::size_t matchesOfStock = 0;
+                figure->referenceSamples.add(
+                    millisecondsOf([&] { matchesOfStock = searchByStockPlan(world, text); }));
+                if (matchesOfStock != matches) {
+                    throw std::runtime_error(fmt::format("the plans differ for \"{}\"", text));
                 }
             }
         }
     }
-    state.counters["patterns"] = static_cast<double>(stockTimes.size());
-    state.counters["first"] = first;
-    state.counters["median"] = percentile(times, 0.5);
-    state.counters["p95"] = percentile(times, 0.95);
-    state.counters["worst"] = percentile(times, 1);
-    state.counters["stock_median"] = percentile(stockTimes, 0.5);
-    state.counters["stock_p95"] = percentile(stockTimes, 0.95);
-    state.counters["of_stock"] = percentile(times, 0.5) / percentile(stockTimes, 0.5);
+    return figures;
 }
 
-constexpr std::size_t kFew = 500;
-constexpr std::size_t kNearlyAll = 7000;
+void measureSearch(Report& report, const std::filesystem::path& database)
+{
+    auto figures = searchFigures(database, 5, 1);
+    auto& deep = figures.withConjugations;
+    deep.asked = "median 5 ms, 95 % in 16 ms";
+    deep.holds = deep.own.median() <= 5 && deep.own.p95() <= 16;
+    figures.fewVerbs.asked = "95 % in 2 ms";
+    figures.fewVerbs.holds = figures.fewVerbs.own.p95() <= 2;
+    figures.allVerbs.asked = "95 % in 16 ms";
+    figures.allVerbs.holds = figures.allVerbs.own.p95() <= 16;
+    report.add(deep);
+    report.add(figures.fewVerbs);
+    report.add(figures.allVerbs);
+}
 
-BENCHMARK_CAPTURE(searchList, with_conjugations, true, Range{})
-    ->Name("search/with_conjugations")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1);
-BENCHMARK_CAPTURE(searchList, headwords_few, false, Range{0, kFew})
-    ->Name("search/headwords/up_to_500_verbs")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1);
-BENCHMARK_CAPTURE(searchList, headwords_all, false, Range{kNearlyAll})
-    ->Name("search/headwords/all_verbs")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1);
-
-} // namespace
 } // namespace lumora::bench

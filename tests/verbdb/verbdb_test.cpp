@@ -47,11 +47,12 @@ protected:
 
     void TearDown() override { fs::remove_all(folder_); }
 
-    int build(const std::string& name)
+    int build(const std::string& name, std::vector<std::string> arguments = {})
     {
         std::ostringstream output;
         std::ostringstream errors;
-        const int code = run({folder_.string(), (folder_ / name).string()}, output, errors);
+        arguments.insert(arguments.end(), {folder_.string(), (folder_ / name).string()});
+        const int code = run(arguments, output, errors);
         errors_ = errors.str();
         return code;
     }
@@ -105,6 +106,20 @@ TEST_F(Verbdb, WritesVerbsAndTheirForms)
     EXPECT_EQ(query("SELECT pronoun, verb FROM conjugation WHERE verbid = 23 AND conj_order = 1"),
               Rows{"j'|aurais haï"});
     EXPECT_EQ(query("SELECT count(*) = count(DISTINCT _id) FROM conjugation"), Rows{"1"});
+}
+
+TEST_F(Verbdb, MakesUpMoreVerbsThatConjugateLikeTheirModels)
+{
+    ASSERT_EQ(build("verbs.db", {"--times", "4"}), 0) << errors_;
+
+    EXPECT_EQ(query("SELECT count(*), count(DISTINCT french) FROM verb"), Rows{"80|79"});
+    EXPECT_EQ(query("SELECT conjugation.verb FROM conjugation JOIN verb ON verb._id = verbid WHERE "
+                    "french = 'surmanger' AND type = 'indicatifPresent' AND pronoun = 'nous'"),
+              Rows{"surmangeons"});
+
+    for (const char* times : {"0", "17", "-1", "two", "2x", ""}) {
+        EXPECT_EQ(build("verbs.db", {"--times", times}), 2) << times;
+    }
 }
 
 TEST_F(Verbdb, KeepsTheColumnsOthersRelyOn)

@@ -11,6 +11,6 @@ namespace lumora::verbdb {
 
 /// The program behind its main function: arguments without the program's name,
 /// the exit code as result.
-int run(const std::vector<std::string>& arguments, std::ostream& output, std::ostream& errors);
+int run(std::vector<std::string> arguments, std::ostream& output, std::ostream& errors);
 
 } // namespace lumora::verbdb

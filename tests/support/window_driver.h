@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QPointF>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class QQuickItem;
+class QQuickWindow;
+
+namespace lumora::support {
+
+/// Touches a window of ours as a person does, and finds what is on it. GUI
+/// thread only; the window must live longer.
+class WindowDriver {
+public:
+    explicit WindowDriver(QQuickWindow& window) : window_{window} {}
+
+    /// The topmost visible item of that name; null when there is none.
+    QQuickItem* find(const QString& name) const;
+    /// The cells of tables that are wholly in the window, from its top.
+    std::vector<QQuickItem*> cells() const;
+    /// The list that scrolls the item; null when none does.
+    static QQuickItem* listOf(QQuickItem* item);
+    static QPointF middleOf(const QQuickItem& item);
+
+    void press(const QPointF& point) const;
+    void move(const QPointF& point) const;
+    void release(const QPointF& point) const;
+
+    /// Lets the program run for a while.
+    static void wait(int milliseconds);
+    /// Lets it run until that is so; false when it never was.
+    static bool waitUntil(const std::function<bool()>& condition);
+    /// Lets it run until its next frame is drawn; false when none came.
+    bool waitForFrame() const;
+
+private:
+    QQuickWindow& window_;
+};
+
+} // namespace lumora::support
