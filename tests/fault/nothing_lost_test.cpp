@@ -31,6 +31,8 @@ using fault::FaultHarness;
 
 /// How the calls of a run go wrong, one call a run.
 struct Kind {
+    friend void PrintTo(const Kind& kind, std::ostream* output) { *output << kind.name; }
+
     const char* name;
     std::optional<int> error;
     bool lasts = false;

@@ -227,7 +227,7 @@ TEST_F(Verbdb, AnswersItsArguments)
     std::ostringstream errors;
 
     EXPECT_EQ(run({"--help"}, output, errors), 0);
-    EXPECT_TRUE(output.str().starts_with("usage: verbdb CONTENT_DIR OUT.db\n"));
+    EXPECT_TRUE(output.str().starts_with("usage: verbdb [--times N] CONTENT_DIR OUT.db\n"));
     EXPECT_EQ(run({}, output, errors), 2);
     EXPECT_EQ(run({"--all", "x"}, output, errors), 2);
     output.str("");
