@@ -4,12 +4,20 @@
 #include "app/app_delegate.h"
 
 #include "app/database_preparation.h"
+#include "app/deep_link.h"
 #include "app/old_settings_file.h"
+#include "data/verb_finder.h"
+#include "data/verb_reader.h"
 #include "detail/verb_detail_table_view_controller.h"
 #include "navigation/home_view_controller.h"
+#include "platform/alert.h"
+#include "platform/bundle.h"
 #include "platform/clock.h"
+#include "platform/crash_reporter.h"
 #include "platform/device.h"
+#include "platform/navigation_controller.h"
 #include "platform/notification_center.h"
+#include "platform/presenter.h"
 #include "platform/settings_store.h"
 #include "settings/default_settings.h"
 
@@ -19,6 +27,7 @@
 #include <cstdlib>
 #include <ostream>
 #include <utility>
+#include <vector>
 
 namespace lumora::app {
 
@@ -30,6 +39,12 @@ constexpr std::pair<std::string_view, const char*> kTabShortcuts[] = {
     {"com.brindle.shortcut.history", "History"},
     {"com.brindle.shortcut.list", "List"},
 };
+
+constexpr std::string_view kEveryVerb =
+    "SELECT verb._id, english, italian, portuguese, german, spanish, french, dutch, "
+    "favourite._id as favourite_available\n"
+    "FROM verb LEFT OUTER JOIN favourite ON verb._id = favourite.verbid\n"
+    "ORDER BY verb._id";
 
 [[noreturn]] void stop(const char* why)
 {
@@ -109,13 +124,20 @@ void AppDelegate::wirePanes()
     split.setCollapsed(!services_.device.isTablet());
 }
 
-navigation::HomeViewController& AppDelegate::homeScreen()
+platform::NavigationController& AppDelegate::listStack()
 {
     auto* lists =
         dynamic_cast<platform::NavigationController*>(splitView().viewControllers().front());
-    auto* home = lists == nullptr
-                     ? nullptr
-                     : dynamic_cast<navigation::HomeViewController*>(lists->topViewController());
+    if (lists == nullptr || lists->viewControllers().empty()) {
+        stop("the list pane is not a navigation stack");
+    }
+    return *lists;
+}
+
+navigation::HomeViewController& AppDelegate::homeScreen()
+{
+    auto* home =
+        dynamic_cast<navigation::HomeViewController*>(listStack().viewControllers().front().get());
     if (home == nullptr) {
         stop("the first screen is not the home screen");
     }
@@ -162,6 +184,45 @@ void AppDelegate::openSearch()
             home->focusSearchBar();
         }
     });
+}
+
+void AppDelegate::openLink(std::string_view link)
+{
+    auto& home = homeScreen();
+    home.loadViewIfNeeded();
+    const auto target = DeepLink::parse(link);
+    const auto verb = target ? verbNamed(target->infinitive) : nullptr;
+    if (!verb) {
+        // Without the name: a stranger wrote it.
+        const auto text = [this](std::string_view key) {
+            return platform::localizedString(services_.bundle, key);
+        };
+        services_.presenter.presentAlert(
+            home, {{},
+                   text(target ? "link.unknown" : "link.malformed"),
+                   {{text("common.ok"), platform::ActionStyle::Cancel, {}}}});
+        return;
+    }
+    // However many links are followed, the way back is the list.
+    listStack().popToRootViewController();
+    home.didSelectSearchResult(verb);
+}
+
+data::VerbPtr AppDelegate::verbNamed(std::string_view infinitive)
+{
+    std::vector<data::VerbPtr> verbs;
+    if (queue != nullptr) {
+        queue->inDatabase([&](platform::Database& database) {
+            auto rows = database.executeQuery(kEveryVerb, {});
+            if (!data::readVerbs(rows, data::VerbReader::Spellings::Plain, verbs)) {
+                services_.crashReporter.logWithFormat(
+                    "An error occurred when looking up a link: %@ (%d)",
+                    {database.lastErrorMessage(), database.lastErrorCode()});
+            }
+        });
+    }
+    const auto found = data::verbsNamed(infinitive, verbs);
+    return found.empty() ? nullptr : found.front();
 }
 
 bool AppDelegate::collapseSecondaryViewControllerOntoPrimary(platform::ViewController& secondary,

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "data/verb.h"
 #include "platform/color.h"
 #include "platform/database_queue.h"
 #include "platform/services.h"
@@ -17,6 +18,10 @@
 
 namespace lumora::navigation {
 class HomeViewController;
+}
+
+namespace lumora::platform {
+class NavigationController;
 }
 
 namespace lumora::app {
@@ -76,6 +81,10 @@ public:
     void performActionForShortcutItem(const ShortcutItem& item,
                                       const std::function<void(bool)>& completed);
 
+    /// Opens the verb that the link names as if it had been found by searching,
+    /// or says that there is none.
+    void openLink(std::string_view link);
+
     const BarAppearance& appearance() const { return appearance_; }
 
     bool collapseSecondaryViewControllerOntoPrimary(platform::ViewController& secondary,
@@ -87,7 +96,10 @@ private:
     void wirePanes();
     void handleShortcutItem(const ShortcutItem& item);
     void openSearch();
+    /// Null when there is none; the first of homographs.
+    data::VerbPtr verbNamed(std::string_view infinitive);
     platform::SplitViewController& splitView();
+    platform::NavigationController& listStack();
     navigation::HomeViewController& homeScreen();
 
     platform::Services services_;

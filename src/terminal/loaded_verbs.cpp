@@ -3,9 +3,9 @@
 
 #include "terminal/loaded_verbs.h"
 
+#include "data/verb_finder.h"
 #include "lists/verb_list_table_view_controller.h"
 #include "terminal/session.h"
-#include "terminal/verb_finder.h"
 
 #include <cerrno>
 #include <string>
@@ -46,7 +46,7 @@ loadedVerbs(Session& session, std::string_view name)
         return tl::unexpected(checked.error());
     }
     std::vector<std::unique_ptr<detail::VerbDetailTableViewController>> screens;
-    for (const auto& verb : verbsNamed(name, verbs)) {
+    for (const auto& verb : data::verbsNamed(name, verbs)) {
         auto screen = std::make_unique<detail::VerbDetailTableViewController>(session.services());
         screen->queue = &session.queue();
         screen->selectedVerb = verb;
@@ -57,7 +57,7 @@ loadedVerbs(Session& session, std::string_view name)
         return tl::unexpected(checked.error());
     }
     if (screens.empty()) {
-        return tl::unexpected(unknownVerb(name, namesNear(name, verbs)));
+        return tl::unexpected(unknownVerb(name, data::namesNear(name, verbs)));
     }
     return screens;
 }

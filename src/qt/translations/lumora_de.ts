@@ -39,6 +39,14 @@
         <source></source>
         <translation>Sie haben noch keine Verben angesehen. Die Verben, die Sie öffnen, erscheinen hier.</translation>
     </message>
+    <message id="link.malformed">
+        <source></source>
+        <translation>Der Link führt zu keinem Verb.</translation>
+    </message>
+    <message id="link.unknown">
+        <source></source>
+        <translation>Der Link nennt ein Verb, das Lumora nicht hat.</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Zurück</translation>

@@ -67,6 +67,14 @@
         <source></source>
         <translation>You have not looked at any verbs yet. The verbs you open will be listed here.</translation>
     </message>
+    <message id="link.malformed">
+        <source></source>
+        <translation>The link does not lead to a verb.</translation>
+    </message>
+    <message id="link.unknown">
+        <source></source>
+        <translation>The link names a verb that Lumora does not have.</translation>
+    </message>
     <message id="moreapps">
         <source></source>
         <translation>More apps</translation>

@@ -39,6 +39,14 @@
         <source></source>
         <translation>Aún no has consultado ningún verbo. Los verbos que abras aparecerán aquí.</translation>
     </message>
+    <message id="link.malformed">
+        <source></source>
+        <translation>El enlace no lleva a ningún verbo.</translation>
+    </message>
+    <message id="link.unknown">
+        <source></source>
+        <translation>El enlace nombra un verbo que Lumora no tiene.</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Atrás</translation>

@@ -67,6 +67,14 @@
         <source></source>
         <translation>Vous n’avez encore consulté aucun verbe. Les verbes que vous ouvrez apparaîtront ici.</translation>
     </message>
+    <message id="link.malformed">
+        <source></source>
+        <translation>Le lien ne mène à aucun verbe.</translation>
+    </message>
+    <message id="link.unknown">
+        <source></source>
+        <translation>Le lien désigne un verbe que Lumora ne connaît pas.</translation>
+    </message>
     <message id="moreapps">
         <source></source>
         <translation>Autres applications</translation>

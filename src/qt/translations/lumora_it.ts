@@ -39,6 +39,14 @@
         <source></source>
         <translation>Non hai ancora consultato nessun verbo. I verbi che apri compariranno qui.</translation>
     </message>
+    <message id="link.malformed">
+        <source></source>
+        <translation>Il collegamento non porta a nessun verbo.</translation>
+    </message>
+    <message id="link.unknown">
+        <source></source>
+        <translation>Il collegamento indica un verbo che Lumora non ha.</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Indietro</translation>

@@ -39,6 +39,14 @@
         <source></source>
         <translation>Je hebt nog geen werkwoorden bekeken. De werkwoorden die je opent, verschijnen hier.</translation>
     </message>
+    <message id="link.malformed">
+        <source></source>
+        <translation>De link leidt niet naar een werkwoord.</translation>
+    </message>
+    <message id="link.unknown">
+        <source></source>
+        <translation>De link noemt een werkwoord dat Lumora niet heeft.</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Terug</translation>

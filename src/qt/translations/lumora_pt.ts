@@ -39,6 +39,14 @@
         <source></source>
         <translation>Ainda não consultou nenhum verbo. Os verbos que abrir aparecem aqui.</translation>
     </message>
+    <message id="link.malformed">
+        <source></source>
+        <translation>A ligação não conduz a nenhum verbo.</translation>
+    </message>
+    <message id="link.unknown">
+        <source></source>
+        <translation>A ligação indica um verbo que o Lumora não tem.</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Voltar</translation>

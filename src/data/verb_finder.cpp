@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "terminal/verb_finder.h"
+#include "data/verb_finder.h"
 
 #include <unicode/locid.h>
 #include <unicode/normalizer2.h>
@@ -16,7 +16,7 @@
 #include <numeric>
 #include <utility>
 
-namespace lumora::terminal {
+namespace lumora::data {
 
 namespace {
 
@@ -80,12 +80,11 @@ Name withoutAccents(const Name& name)
 }
 
 template <typename Condition>
-std::vector<data::VerbPtr> selected(const std::vector<data::VerbPtr>& verbs,
-                                    const Condition& condition)
+std::vector<VerbPtr> selected(const std::vector<VerbPtr>& verbs, const Condition& condition)
 {
-    std::vector<data::VerbPtr> result;
+    std::vector<VerbPtr> result;
     std::copy_if(verbs.begin(), verbs.end(), std::back_inserter(result),
-                 [&](const data::VerbPtr& verb) { return condition(nameOf(verb->french)); });
+                 [&](const VerbPtr& verb) { return condition(nameOf(verb->french)); });
     return result;
 }
 
@@ -116,8 +115,7 @@ int distance(const icu::UnicodeString& left, const icu::UnicodeString& right)
 
 } // namespace
 
-std::vector<data::VerbPtr> verbsNamed(std::string_view typed,
-                                      const std::vector<data::VerbPtr>& verbs)
+std::vector<VerbPtr> verbsNamed(std::string_view typed, const std::vector<VerbPtr>& verbs)
 {
     const auto name = nameOf(typed);
     const auto plain = withoutAccents(name);
@@ -137,7 +135,7 @@ std::vector<data::VerbPtr> verbsNamed(std::string_view typed,
     return found;
 }
 
-std::vector<std::string> namesNear(std::string_view typed, const std::vector<data::VerbPtr>& verbs)
+std::vector<std::string> namesNear(std::string_view typed, const std::vector<VerbPtr>& verbs)
 {
     constexpr std::size_t kMostNames = 3;
     constexpr std::int32_t kShort = 5;
@@ -163,4 +161,4 @@ std::vector<std::string> namesNear(std::string_view typed, const std::vector<dat
     return names;
 }
 
-} // namespace lumora::terminal
+} // namespace lumora::data
