@@ -56,6 +56,9 @@ Application::Application(ApplicationOptions options)
       bundle_{options_.shareFolder},
       device_{options_.launchArguments},
       presenter_{storyboard_},
+      mail_{options_.desktop},
+      urlOpener_{options_.desktop},
+      settingsPortal_{options_.desktop.bus},
       services_{notifications_,  settings_,  bundle_,       device_,  clock_,
                 crashReporter_,  analytics_, std::cout,     views_,   presenter_,
                 storyboard_,     speech_,    audioSession_, scripts_, shareSheet_,
@@ -69,6 +72,8 @@ Application::Application(ApplicationOptions options)
     device_.setWindowWidth(options_.windowSize.width());
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             &Application::applicationStateChanged);
+    connect(&settingsPortal_, &SettingsPortal::appearanceChanged, this,
+            [this] { setAppearance(settingsPortal_.appearance()); });
 }
 
 Application::~Application() = default;
@@ -113,12 +118,57 @@ void Application::launch()
     QQmlEngine::setObjectOwnership(splitScreen_.get(), QQmlEngine::CppOwnership);
     splitScreen_->setWidth(window_->width());
     window_->setProperty("split", QVariant::fromValue(splitScreen_.get()));
+    for (const auto& link : options_.links) {
+        delegate_.openLink(link);
+    }
+    for (const auto& request : std::exchange(waiting_, {})) {
+        open(request);
+    }
 }
 
-void Application::setDark(bool dark)
+void Application::setAppearance(const Appearance& appearance)
 {
     if (window_ != nullptr) {
-        window_->setProperty("dark", dark);
+        window_->setProperty("dark", appearance.dark);
+        window_->setProperty("textScale", appearance.textScale);
+        window_->setProperty("reducedMotion", appearance.reducedMotion);
+    }
+}
+
+void Application::serve(const InstanceRequest& request)
+{
+    raise(request.activationToken);
+    if (isLaunched()) {
+        open(request);
+    } else {
+        waiting_.push_back(request);
+    }
+}
+
+void Application::raise(const QString& activationToken)
+{
+    // Where the toolkit looks for it, on Wayland.
+    constexpr const char* kTokenVariable = "XDG_ACTIVATION_TOKEN";
+    if (window_ == nullptr) {
+        return;
+    }
+    if (!activationToken.isEmpty()) {
+        qputenv(kTokenVariable, activationToken.toUtf8());
+    }
+    window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
+    window_->raise();
+    window_->requestActivate();
+    // It holds once, and for no program started from here.
+    qunsetenv(kTokenVariable);
+}
+
+void Application::open(const InstanceRequest& request)
+{
+    if (request.shortcut) {
+        delegate_.performActionForShortcutItem({toUtf8(*request.shortcut)}, [](bool) {});
+    }
+    for (const auto& link : request.links) {
+        delegate_.openLink(toUtf8(link));
     }
 }
 

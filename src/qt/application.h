@@ -10,6 +10,11 @@
 #include "platform/local_analytics.h"
 #include "platform/notification_center.h"
 #include "platform/services.h"
+#include "qt/appearance.h"
+#include "qt/desktop.h"
+#include "qt/desktop_mail.h"
+#include "qt/desktop_review_prompter.h"
+#include "qt/desktop_url_opener.h"
 #include "qt/pulse_audio_session.h"
 #include "qt/qt_bundle.h"
 #include "qt/qt_clock.h"
@@ -18,6 +23,8 @@
 #include "qt/qt_presenter.h"
 #include "qt/qt_speech.h"
 #include "qt/qt_view_factory.h"
+#include "qt/running_instance.h"
+#include "qt/settings_portal.h"
 #include "qt/split_screen.h"
 #include "qt/standard_folders.h"
 #include "qt/ways_out.h"
@@ -39,6 +46,9 @@ struct ApplicationOptions {
     std::filesystem::path shareFolder;
     std::vector<std::string> launchArguments;
     std::optional<std::string> shortcut;
+    /// What to open once launched, as somebody outside wrote it.
+    std::vector<std::string> links;
+    Desktop desktop;
     QSize windowSize{390, 844};
 };
 
@@ -64,7 +74,9 @@ public:
     SplitScreen& splitScreen() { return *splitScreen_; }
     QtPresenter& presenter() { return presenter_; }
     platform::SettingsStore& settings() { return settings_; }
-    void setDark(bool dark);
+    void setAppearance(const Appearance& appearance);
+    /// Comes to the front and does what is asked for, as soon as it can.
+    void serve(const InstanceRequest& request);
     /// From now on a crash leaves a report. One application a process.
     void installCrashHandler() { crashReporter_.installCrashHandler(); }
     /// The program may be ended from now on: what is pending gets written.
@@ -72,6 +84,8 @@ public:
 
 private:
     void applicationStateChanged(Qt::ApplicationState state);
+    void raise(const QString& activationToken);
+    void open(const InstanceRequest& request);
 
     ApplicationOptions options_;
     platform::FileSettingsStore settings_;
@@ -88,12 +102,14 @@ private:
     PulseAudioSession audioSession_;
     QtJavaScriptContextFactory scripts_;
     NoShareSheet shareSheet_;
-    NoReviewPrompter reviewPrompter_;
-    NoMailService mail_;
-    NoUrlOpener urlOpener_;
+    DesktopMail mail_;
+    DesktopUrlOpener urlOpener_;
+    DesktopReviewPrompter reviewPrompter_{urlOpener_};
+    SettingsPortal settingsPortal_;
     platform::Services services_;
     app::AppDelegate delegate_;
     std::unique_ptr<SplitScreen> splitScreen_;
+    std::vector<InstanceRequest> waiting_;
     QQmlApplicationEngine engine_;
     QQuickWindow* window_ = nullptr;
 };

@@ -2,50 +2,61 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "qt/application.h"
+#include "qt/command_line.h"
+#include "qt/termination_signals.h"
 #include "qt/text_conversion.h"
 #include "qt/tour.h"
 #include "qt/translations.h"
+#include "qt/url_handlers.h"
 
-#include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QQuickWindow>
 
-#include <cstring>
+#include <algorithm>
 #include <iostream>
+#include <iterator>
+#include <utility>
 
 namespace {
 
 using namespace lumora::qt;
 
-bool asksFor(int argc, char** argv, const char* option)
+constexpr int kFailed = 1;
+constexpr int kMisused = 2;
+
+/// Whether the toolkit has anything to draw on, which it stops the program over.
+bool hasDisplay()
 {
-    const auto length = std::strlen(option);
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], option) == 0 ||
-            (std::strncmp(argv[i], option, length) == 0 && argv[i][length] == '=')) {
-            return true;
-        }
-    }
-    return false;
+    constexpr const char* kVariables[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    return std::any_of(std::begin(kVariables), std::end(kVariables), qEnvironmentVariableIsSet);
 }
 
 /// What must be settled before the toolkit starts.
-void prepareEnvironment(bool tour, bool withoutWindow)
+void prepareEnvironment(bool tour)
 {
     // Nothing is written outside the program's own folders. Switching the
     // cache off would throw away what was compiled at build time too.
     const auto cache = StandardFolders::fromEnvironment().state / "qml";
     qputenv("QML_DISK_CACHE_PATH", cache.c_str());
     QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
-    if (withoutWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
-        !qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
     if (tour) {
+        if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
+            !qEnvironmentVariableIsSet("DISPLAY") &&
+            !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
         qputenv("QML_DISABLE_DISK_CACHE", "1");
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     }
+}
+
+/// The desktop's leave for this start to take the keyboard; the toolkit takes
+/// it out of the environment.
+QString activationToken()
+{
+    const auto token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
+    return token.isEmpty() ? qEnvironmentVariable("DESKTOP_STARTUP_ID") : token;
 }
 
 std::filesystem::path shareFolder()
@@ -54,60 +65,98 @@ std::filesystem::path shareFolder()
            "share" / "lumora";
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+std::string version()
 {
-    const bool tour = asksFor(argc, argv, "--tour");
-    prepareEnvironment(tour, tour || asksFor(argc, argv, "--help") || asksFor(argc, argv, "-h") ||
-                                 asksFor(argc, argv, "--version") || asksFor(argc, argv, "-v"));
-    QGuiApplication toolkit{argc, argv};
-    QCoreApplication::setApplicationName(QStringLiteral("lumora"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Lumora"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("com.brindle.lumora"));
-    const QtBundle facts{shareFolder()};
-    QCoreApplication::setApplicationVersion(
-        toQString(facts.infoValue("CFBundleShortVersionString").value_or("unknown")));
+    return QtBundle{shareFolder()}.infoValue("CFBundleShortVersionString").value_or("unknown");
+}
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("The conjugations of French verbs."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption tourOption{
-        QStringLiteral("tour"),
-        QStringLiteral("Write a picture of every screen into <folder> and end."),
-        QStringLiteral("folder")};
-    const QCommandLineOption shortcutOption{QStringLiteral("shortcut"),
-                                            QStringLiteral("Open what the shortcut <type> names."),
-                                            QStringLiteral("type")};
-    parser.addOptions({tourOption, shortcutOption});
-    parser.addPositionalArgument(QStringLiteral("arguments"),
-                                 QStringLiteral("Passed on, for example ui_test."),
-                                 QStringLiteral("[arguments...]"));
-    parser.process(toolkit);
+/// What is printed needs no display.
+int print(const CommandLine& commandLine, int argc, char** argv)
+{
+    const QCoreApplication toolkit{argc, argv};
+    if (commandLine.help) {
+        std::cout << CommandLine::helpText();
+    } else {
+        std::cout << "lumora " << version() << '\n';
+    }
+    return 0;
+}
+
+int runApplication(const CommandLine& commandLine, const InstanceRequest& request)
+{
+    Desktop desktop{QDBusConnection::sessionBus(), hasUrlHandler};
+    RunningInstance instance{desktop.bus};
+    switch (instance.start(request)) {
+    case RunningInstance::Role::First:
+        break;
+    case RunningInstance::Role::Second:
+        return 0;
+    case RunningInstance::Role::Unheard:
+        std::cerr << "lumora: the program that runs already does not answer\n";
+        return kFailed;
+    }
 
     const Translations translations{QLocale::system().uiLanguages()};
     registerInterface();
-    if (parser.isSet(tourOption)) {
-        return runTour(toUtf8(parser.value(tourOption)), shareFolder());
-    }
-
     ApplicationOptions options;
     options.folders = StandardFolders::fromEnvironment();
     options.shareFolder = shareFolder();
-    for (const auto& argument : parser.positionalArguments()) {
+    for (const auto& argument : commandLine.launchArguments) {
         options.launchArguments.push_back(toUtf8(argument));
     }
-    if (parser.isSet(shortcutOption)) {
-        options.shortcut = toUtf8(parser.value(shortcutOption));
+    if (request.shortcut) {
+        options.shortcut = toUtf8(*request.shortcut);
     }
+    for (const auto& link : request.links) {
+        options.links.push_back(toUtf8(link));
+    }
+    options.desktop = std::move(desktop);
     Application application{options};
     application.installCrashHandler();
+    QObject::connect(&instance, &RunningInstance::requested, &application, &Application::serve);
+    const TerminationSignals termination;
+    QObject::connect(&termination, &TerminationSignals::received,
+                     [] { QCoreApplication::exit(0); });
     if (!application.show()) {
         std::cerr << "lumora: the window could not be built\n";
-        return 1;
+        return kFailed;
     }
     const int status = QGuiApplication::exec();
     application.enterBackground();
     return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QStringList arguments;
+    std::transform(argv, argv + argc, std::back_inserter(arguments),
+                   [](const char* argument) { return QString::fromLocal8Bit(argument); });
+    const auto commandLine = CommandLine::parse(arguments);
+    if (commandLine.error) {
+        std::cerr << "lumora: " << toUtf8(*commandLine.error) << '\n';
+        return kMisused;
+    }
+    if (commandLine.help || commandLine.version) {
+        return print(commandLine, argc, argv);
+    }
+
+    if (!commandLine.tourFolder && !commandLine.choosesPlatform && !hasDisplay()) {
+        std::cerr << "lumora: there is no display\n";
+        return kFailed;
+    }
+    prepareEnvironment(commandLine.tourFolder.has_value());
+    const InstanceRequest request{commandLine.shortcut, commandLine.links, activationToken()};
+    const QGuiApplication toolkit{argc, argv};
+    QCoreApplication::setApplicationName(QStringLiteral("lumora"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Lumora"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.brindle.lumora"));
+    QCoreApplication::setApplicationVersion(toQString(version()));
+    if (commandLine.tourFolder) {
+        const Translations translations{QLocale::system().uiLanguages()};
+        registerInterface();
+        return runTour(toUtf8(*commandLine.tourFolder), shareFolder());
+    }
+    return runApplication(commandLine, request);
 }

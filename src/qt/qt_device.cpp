@@ -4,12 +4,16 @@
 #include "qt/qt_device.h"
 
 #include "platform/split_view_controller.h"
+#include "platform/text.h"
+#include "qt/machine_model.h"
 #include "qt/text_conversion.h"
 
 #include <QLocale>
 #include <QSysInfo>
 
 #include <utility>
+
+#include <sys/utsname.h>
 
 namespace lumora::qt {
 
@@ -34,23 +38,28 @@ std::vector<std::string> QtDevice::preferredLanguages() const
 
 std::string QtDevice::modelName() const
 {
-    return toUtf8(QSysInfo::prettyProductName());
+    return machineModel().value_or("Unknown Platform");
 }
 
 std::optional<std::string> QtDevice::machineIdentifier() const
 {
-    const auto architecture = toUtf8(QSysInfo::currentCpuArchitecture());
-    return architecture.empty() ? std::nullopt : std::optional{architecture};
+    struct utsname names = {};
+    if (::uname(&names) != 0) {
+        return std::nullopt;
+    }
+    return platform::wellFormed(static_cast<const char*>(names.machine));
 }
 
 std::string QtDevice::systemVersion() const
 {
-    return toUtf8(QSysInfo::productVersion());
+    return toUtf8(QSysInfo::prettyProductName());
 }
 
 std::string QtDevice::regionCode() const
 {
-    return toUtf8(QLocale::territoryToCode(QLocale::system().territory()));
+    const auto code = toUtf8(QLocale::territoryToCode(QLocale::system().territory()));
+    // The "C" locale is at home nowhere.
+    return code.size() == 2 ? code : "US";
 }
 
 bool QtDevice::isTablet() const

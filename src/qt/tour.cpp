@@ -46,7 +46,7 @@ public:
     {
         tablet_ = size == kTablet;
         prefix_ = std::string{tablet_ ? "tablet" : "phone"} + (dark ? "-dark-" : "-light-");
-        application_.setDark(dark);
+        application_.setAppearance({.dark = dark});
         application_.window()->resize(size);
         settle();
     }

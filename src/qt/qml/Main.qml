@@ -14,6 +14,8 @@ Window {
     required property QtPresenter presenter
     required property color accent
     property bool dark: false
+    property real textScale: 1
+    property bool reducedMotion: false
 
     minimumWidth: 280
     minimumHeight: 360
@@ -33,6 +35,16 @@ Window {
         target: Theme
         property: "dark"
         value: root.dark
+    }
+    Binding {
+        target: Theme
+        property: "textScale"
+        value: root.textScale
+    }
+    Binding {
+        target: Theme
+        property: "reducedMotion"
+        value: root.reducedMotion
     }
     Binding {
         target: Theme

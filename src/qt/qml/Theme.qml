@@ -10,6 +10,8 @@ QtObject {
     property color accentPrimary: "#0b4ea2"
     // The person's wish for larger or smaller text.
     property real textScale: 1
+    // The person's wish to see nothing move.
+    property bool reducedMotion: false
 
     readonly property color accentSecondary: dark ? "#f2b84b" : "#9a5b00"
     readonly property color accentSecondaryInk: dark ? "#16191d" : "#ffffff"
@@ -47,5 +49,5 @@ QtObject {
     readonly property int rowHeight: Math.round(60 * Math.max(1, textScale))
     readonly property int headerHeight: Math.round(28 * Math.max(1, textScale))
     readonly property int radius: 10
-    readonly property int quick: 180
+    readonly property int quick: reducedMotion ? 0 : 180
 }

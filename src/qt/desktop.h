@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QDBusConnection>
+#include <QString>
+
+#include <functional>
+#include <string>
+
+namespace lumora::qt {
+
+/// As much of the desktop around the program as it may reach; of itself it
+/// may reach nothing.
+struct Desktop {
+    QDBusConnection bus{QString{}};
+    /// As hasUrlHandler().
+    std::function<bool(const std::string& scheme)> hasUrlHandler =
+        [](const std::string& /*scheme*/) { return false; };
+};
+
+} // namespace lumora::qt

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/desktop_url_opener.h"
+
+#include "qt/portal.h"
+#include "qt/text_conversion.h"
+
+#include <QProcess>
+#include <QUrl>
+
+#include <optional>
+#include <utility>
+
+namespace lumora::qt {
+
+namespace {
+
+const QString kOpenPortal = QStringLiteral("org.freedesktop.portal.OpenURI");
+
+/// None for what is never opened: another scheme, nothing behind it.
+std::optional<QUrl> openable(std::string_view text)
+{
+    QUrl url{toQString(text), QUrl::StrictMode};
+    const auto scheme = url.scheme();
+    const bool isPage = scheme == QLatin1String("https") || scheme == QLatin1String("http");
+    const bool isOther = scheme == QLatin1String("mailto") || scheme == QLatin1String("appstream");
+    if (!url.isValid() || !(isPage || isOther) ||
+        (isPage ? url.host() : url.host() + url.path()).isEmpty()) {
+        return std::nullopt;
+    }
+    return url;
+}
+
+/// Nearly every desktop has a program for these, also where the lists of
+/// programs are out of this program's reach.
+bool isForPortal(const QUrl& url)
+{
+    return url.scheme() != QLatin1String("appstream");
+}
+
+bool openInHandler(const QString& url)
+{
+    return QProcess::startDetached(QStringLiteral("xdg-open"), {url});
+}
+
+} // namespace
+
+DesktopUrlOpener::DesktopUrlOpener(Desktop desktop) : desktop_{std::move(desktop)} {}
+
+bool DesktopUrlOpener::canOpen(std::string_view url) const
+{
+    const auto address = openable(url);
+    return address && (desktop_.hasUrlHandler(toUtf8(address->scheme())) ||
+                       (isForPortal(*address) && portal::version(desktop_.bus, kOpenPortal)));
+}
+
+bool DesktopUrlOpener::open(std::string_view url)
+{
+    const auto address = openable(url);
+    if (!address) {
+        return false;
+    }
+    const auto encoded = QString::fromLatin1(address->toEncoded());
+    const bool handled = desktop_.hasUrlHandler(toUtf8(address->scheme()));
+    if (!isForPortal(*address) || !portal::version(desktop_.bus, kOpenPortal)) {
+        return handled && openInHandler(encoded);
+    }
+    const QString noParentWindow;
+    portal::Request::send(
+        desktop_.bus, kOpenPortal, QStringLiteral("OpenURI"), {noParentWindow, encoded}, {},
+        [encoded, handled](portal::Answer answer) {
+            if (answer == portal::Answer::Failed && handled) {
+                openInHandler(encoded);
+            }
+        },
+        this);
+    return true;
+}
+
+} // namespace lumora::qt

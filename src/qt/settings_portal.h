@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "qt/appearance.h"
+
+#include <QDBusConnection>
+#include <QDBusServiceWatcher>
+#include <QDBusVariant>
+#include <QObject>
+
+namespace lumora::qt {
+
+/// The appearance that is set on the desktop, read from its portal without
+/// waiting and followed from then on. Without a portal it stays as it is in a
+/// fresh Appearance.
+class SettingsPortal final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit SettingsPortal(QDBusConnection bus);
+
+    const Appearance& appearance() const { return appearance_; }
+
+signals:
+    void appearanceChanged();
+
+private:
+    Q_SLOT void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    void read();
+    void take(const Appearance& appearance);
+
+    QDBusConnection bus_;
+    QDBusServiceWatcher restarts_;
+    Appearance appearance_;
+};
+
+} // namespace lumora::qt

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/url_handlers.h"
+
+#include <gio/gio.h>
+
+#include <memory>
+
+namespace lumora::qt {
+
+bool hasUrlHandler(const std::string& scheme)
+{
+    const std::unique_ptr<GAppInfo, decltype(&g_object_unref)> handler{
+        g_app_info_get_default_for_uri_scheme(scheme.c_str()), g_object_unref};
+    return handler != nullptr;
+}
+
+} // namespace lumora::qt

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+
+namespace lumora::qt {
+
+/// Whether the desktop's lists name an installed program for addresses of
+/// `scheme`. Reads files.
+bool hasUrlHandler(const std::string& scheme);
+
+} // namespace lumora::qt

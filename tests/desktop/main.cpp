@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/application.h"
+#include "support/temporary_folder.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The desktop's lists of programs: one for mail, and one that is gone.
+void makeDesktop(const lumora::support::TemporaryFolder& folder)
+{
+    const auto applications = folder / "applications";
+    std::filesystem::create_directory(applications);
+    lumora::support::writeContent(applications / "letters.desktop",
+                                  "[Desktop Entry]\nType=Application\nName=Letters\n"
+                                  "Exec=/bin/true %u\nMimeType=x-scheme-handler/mailto;\n");
+    lumora::support::writeContent(applications / "mimeapps.list",
+                                  "[Default Applications]\n"
+                                  "x-scheme-handler/mailto=letters.desktop\n"
+                                  "x-scheme-handler/appstream=gone.desktop\n");
+    const auto text = folder.path().string();
+    for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME",
+                                 "XDG_DATA_DIRS", "XDG_CONFIG_DIRS"}) {
+        qputenv(variable, text.c_str());
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const lumora::support::TemporaryFolder home;
+    makeDesktop(home);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QML_DISABLE_DISK_CACHE", "1");
+    qputenv("PULSE_SERVER", "unix:/nonexistent/native");
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    testing::InitGoogleTest(&argc, argv);
+    const QGuiApplication toolkit{argc, argv};
+    lumora::qt::registerInterface();
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/application.h"
+#include "qt/home_screen.h"
+#include "qt/text_conversion.h"
+
+#include "desktop/stand_in_portal.h"
+#include "support/world.h"
+
+#include <QDBusConnectionInterface>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace lumora::qt {
+namespace {
+
+using support::MessageBus;
+using support::StandInPortal;
+
+constexpr int kPatience = 10000;
+const QString kName = QStringLiteral("com.brindle.lumora");
+
+/// The program as it is installed, in a process and a home of its own.
+class Program {
+public:
+    Program(const QString& busAddress, const QStringList& arguments, bool withDisplay = true)
+    {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"}) {
+            environment.insert(QString::fromLatin1(variable), toQString(home.path().string()));
+        }
+        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), busAddress);
+        environment.insert(QStringLiteral("XDG_ACTIVATION_TOKEN"), QStringLiteral("leave"));
+        if (!withDisplay) {
+            for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+                environment.remove(QString::fromLatin1(variable));
+            }
+        }
+        process_.setProcessEnvironment(environment);
+        process_.start(QStringLiteral(LUMORA_PROGRAM), arguments);
+        EXPECT_TRUE(process_.waitForStarted());
+    }
+    ~Program()
+    {
+        process_.kill();
+        process_.waitForFinished();
+    }
+
+    /// Its exit code; -1 when it does not end or crashes.
+    int end()
+    {
+        const bool ended =
+            QTest::qWaitFor([this] { return process_.state() == QProcess::NotRunning; }, kPatience);
+        return ended && process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
+    }
+    void send(int signal) const { ::kill(static_cast<pid_t>(process_.processId()), signal); }
+    QByteArray errors() { return process_.readAllStandardError(); }
+    std::string file(const char* name) const
+    {
+        return support::contentOf(home.path() / "lumora" / name);
+    }
+
+    support::TemporaryFolder home;
+
+private:
+    QProcess process_;
+};
+
+/// The program in this process, on a bus, with a database of six verbs.
+struct RunningProgram : testing::Test {
+    void start()
+    {
+        std::filesystem::create_directories(folder / "share");
+        support::writeSmallDatabase(folder / "share" / "verbs.db");
+        support::writeContent(folder / "share" / "bundle.json",
+                              R"({"CFBundleShortVersionString": "1"})");
+        ApplicationOptions options;
+        options.folders = {folder / "data", folder / "config", folder / "state"};
+        options.shareFolder = folder / "share";
+        options.launchArguments = {"ui_test"};
+        options.desktop.bus = bus.connect();
+        instance = std::make_unique<RunningInstance>(options.desktop.bus);
+        ASSERT_EQ(instance->start({}), RunningInstance::Role::First);
+        application = std::make_unique<Application>(options);
+        QObject::connect(instance.get(), &RunningInstance::requested, application.get(),
+                         [this](const InstanceRequest& request) {
+                             tokens.append(request.activationToken);
+                             application->serve(request);
+                         });
+        ASSERT_TRUE(application->show());
+        ASSERT_TRUE(QTest::qWaitForWindowActive(application->window()));
+    }
+
+    HomeScreen* home()
+    {
+        return qobject_cast<HomeScreen*>(application->splitScreen().primary().constFirst());
+    }
+    QString topTitle()
+    {
+        return qobject_cast<Screen*>(application->splitScreen().primary().constLast())->title();
+    }
+
+    support::TemporaryFolder folder;
+    MessageBus bus;
+    std::unique_ptr<RunningInstance> instance;
+    std::unique_ptr<Application> application;
+    QStringList tokens;
+};
+
+TEST_F(RunningProgram, ASecondStartHandsItsRequestOverAndEnds)
+{
+    start();
+    // Even before the launch is through.
+    Program favourites{
+        bus.address(),
+        {QStringLiteral("--shortcut"), QStringLiteral("com.brindle.shortcut.favourite")}};
+    EXPECT_EQ(favourites.end(), 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return application->isLaunched(); }, kPatience));
+    EXPECT_EQ(home()->selectedTab(), 1);
+    EXPECT_FALSE(std::filesystem::exists(favourites.home / "lumora")) << "it wrote nothing";
+
+    Program verb{bus.address(), {QStringLiteral("LUMORA://verb/%C3%A9vanouir")}};
+    EXPECT_EQ(verb.end(), 0);
+    EXPECT_EQ(topTitle(), QStringLiteral("évanouir (s')"));
+
+    Program search{bus.address(),
+                   {QStringLiteral("--shortcut"), QStringLiteral("com.brindle.shortcut.search")}};
+    EXPECT_EQ(search.end(), 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return home()->searchFocus(); }, kPatience));
+    QTest::qWait(400);
+    EXPECT_EQ(application->splitScreen().primary().size(), 1);
+    QTest::keyClick(application->window(), 'p');
+    EXPECT_EQ(home()->searchText(), QStringLiteral("p")) << "the cursor is in the field";
+
+    Program unknown{bus.address(), {QStringLiteral("lumora://verb/alller")}};
+    EXPECT_EQ(unknown.end(), 0);
+    EXPECT_TRUE(application->presenter().asking());
+    application->presenter().answer(0);
+
+    Program plain{bus.address(), {}};
+    EXPECT_EQ(plain.end(), 0);
+    EXPECT_FALSE(application->presenter().asking());
+    EXPECT_EQ(home()->searchText(), QStringLiteral("p")) << "nothing but the window was wanted";
+    EXPECT_EQ(tokens, QStringList(5, QStringLiteral("leave")));
+}
+
+TEST_F(RunningProgram, LooksAsTheDesktopIsSetAndFollowsIt)
+{
+    const auto appearance = QStringLiteral("org.freedesktop.appearance");
+    const auto interface = QStringLiteral("org.gnome.desktop.interface");
+    StandInPortal portal{
+        bus,
+        {.settings = {
+             {appearance, {{"color-scheme", 1U}}},
+             {interface,
+              {{"text-scaling-factor", 1.5}, {"enable-animations", false}, {"cursor-size", 24}}}}}};
+    start();
+    const auto now = [this] {
+        return Appearance{application->window()->property("dark").toBool(),
+                          application->window()->property("textScale").toDouble(),
+                          application->window()->property("reducedMotion").toBool()};
+    };
+    const auto becomes = [&](const Appearance& expected) {
+        return QTest::qWaitFor([&] { return now() == expected; }, kPatience);
+    };
+    EXPECT_TRUE(becomes({true, 1.5, true}));
+
+    portal.changeSetting(appearance, QStringLiteral("color-scheme"), 2U);
+    EXPECT_TRUE(becomes({false, 1.5, true}));
+    portal.changeSetting(interface, QStringLiteral("text-scaling-factor"), 9.0);
+    portal.changeSetting(interface, QStringLiteral("enable-animations"), true);
+    EXPECT_TRUE(becomes({false, kLargestTextScale, false}));
+    portal.changeSetting(appearance, QStringLiteral("color-scheme"), QStringLiteral("dark"));
+    portal.changeSetting(interface, QStringLiteral("text-scaling-factor"), QStringLiteral("big"));
+    portal.changeSetting(QStringLiteral("other"), QStringLiteral("color-scheme"), 1U);
+    portal.changeSetting(interface, QStringLiteral("enable-animations"), false);
+    EXPECT_TRUE(becomes({false, kLargestTextScale, true})) << "what makes no sense changes nothing";
+}
+
+TEST(Program, OpensItsLinkAndEndsInOrderOnASignal)
+{
+    MessageBus bus;
+    const QString addresses[] = {bus.address(), QStringLiteral("unix:path=/nonexistent")};
+    const int ends[] = {SIGTERM, SIGHUP};
+    for (std::size_t i = 0; i < std::size(ends); ++i) {
+        SCOPED_TRACE(i == 0 ? "with a bus" : "without a bus");
+        Program program{addresses[i], {QStringLiteral("lumora://verb/aller")}};
+        ASSERT_TRUE(QTest::qWaitFor(
+            [&] {
+                return program.file("analytics.jsonl").find("select_content") != std::string::npos;
+            },
+            kPatience))
+            << program.errors().toStdString();
+        program.send(ends[i]);
+        EXPECT_EQ(program.end(), 0) << program.errors().toStdString();
+        EXPECT_NE(program.file("settings.json").find("\"number_of_verbs_viewed\""),
+                  std::string::npos)
+            << "the last change is written";
+    }
+}
+
+TEST(Program, AnswersItsArgumentsWithoutADisplay)
+{
+    struct Case {
+        QStringList arguments;
+        int status;
+        QByteArray error;
+    };
+    const Case cases[] = {
+        {{"--frobnicate"}, 2, "lumora: Unknown option 'frobnicate'.\n"},
+        {{"-x"}, 2, "lumora: Unknown option 'x'.\n"},
+        {{"--shortcut"}, 2, "lumora: Missing value after '--shortcut'.\n"},
+        {{"--help"}, 0, ""},
+        {{"-v"}, 0, ""},
+        {{"-platform", "offscreen", "--version"}, 0, ""},
+        {{}, 1, "lumora: there is no display\n"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.arguments.join(' ').toStdString());
+        Program program{QStringLiteral("unix:path=/nonexistent"), c.arguments, false};
+        EXPECT_EQ(program.end(), c.status);
+        EXPECT_EQ(program.errors(), c.error);
+    }
+}
+
+} // namespace
+} // namespace lumora::qt

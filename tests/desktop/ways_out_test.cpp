@@ -1,0 +1,234 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/desktop_mail.h"
+#include "qt/desktop_review_prompter.h"
+#include "qt/desktop_url_opener.h"
+#include "qt/text_conversion.h"
+#include "qt/url_handlers.h"
+
+#include "desktop/stand_in_portal.h"
+
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+namespace lumora::qt {
+namespace {
+
+using platform::MailComposeResult;
+using support::MessageBus;
+using support::StandInPortal;
+
+constexpr int kPatience = 5000;
+const QString kEmail = QStringLiteral("org.freedesktop.portal.Email");
+const QString kOpenUri = QStringLiteral("org.freedesktop.portal.OpenURI");
+
+bool handlesAll(const std::string& /*scheme*/)
+{
+    return true;
+}
+
+struct Outcome final : platform::MailComposerDelegate {
+    void mailComposeDidFinish(platform::MailComposer& /*composer*/,
+                              MailComposeResult newResult) override
+    {
+        EXPECT_FALSE(result) << "told once";
+        result = newResult;
+    }
+
+    std::optional<MailComposeResult> result;
+};
+
+/// Composes a message and presents it; the composer is nobody's from then on.
+void compose(DesktopMail& mail, Outcome& outcome)
+{
+    const auto composer = mail.makeMailComposer();
+    composer->setMailComposeDelegate(&outcome);
+    composer->setToRecipients({"help@example.org"});
+    composer->setSubject("L'été");
+    composer->setMessageBody("<br /><br /><br /><hr />App: A &amp; B<br />Device: \"x\"", true);
+    composer->viewDidAppear();
+    EXPECT_FALSE(outcome.result) << "not from within the call";
+}
+
+const QString kBody = QStringLiteral("\n\n\n--------------------\nApp: A & B\nDevice: \"x\"");
+
+bool ends(const Outcome& outcome)
+{
+    return QTest::qWaitFor([&] { return outcome.result.has_value(); }, kPatience);
+}
+
+/// Programs of the desktop that write down how they were called.
+struct Programs {
+    explicit Programs(const char* name, int status)
+    {
+        support::writeContent(folder / name, "#!/bin/sh\nprintf '%s|' \"$@\" > " +
+                                                 (folder / "called").string() + "\nexit " +
+                                                 std::to_string(status) + "\n");
+        std::filesystem::permissions(folder / name, std::filesystem::perms::owner_all);
+        qputenv("PATH", folder.path().c_str());
+    }
+    ~Programs() { qputenv("PATH", before); }
+
+    std::string called() const { return support::contentOf(folder / "called"); }
+
+    QByteArray before = qgetenv("PATH");
+    support::TemporaryFolder folder;
+};
+
+TEST(DesktopMail, ThePortalTakesTheMessageAndItsAnswerIsTheOutcome)
+{
+    struct Case {
+        uint version;
+        uint response;
+        bool choosesPaths;
+        MailComposeResult result;
+    };
+    const Case cases[] = {
+        {3, 0, false, MailComposeResult::Sent},     {3, 1, false, MailComposeResult::Cancelled},
+        {3, 2, false, MailComposeResult::Failed},   {2, 0, false, MailComposeResult::Sent},
+        {1, 1, true, MailComposeResult::Cancelled},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.version * 10 + c.response);
+        MessageBus bus;
+        const StandInPortal portal{bus,
+                                   {.versions = {{kEmail, c.version}},
+                                    .response = c.response,
+                                    .choosesPaths = c.choosesPaths}};
+        DesktopMail mail{{bus.connect(), {}}};
+        EXPECT_TRUE(mail.canSendMail()) << "whatever programs there are";
+        Outcome outcome;
+        compose(mail, outcome);
+
+        ASSERT_TRUE(ends(outcome));
+        EXPECT_EQ(outcome.result, c.result);
+        ASSERT_EQ(portal.requests().size(), 1U);
+        const auto options = portal.requests()[0].options;
+        const auto to = c.version < 3 ? options.value("address").toStringList()
+                                      : options.value("addresses").toStringList();
+        EXPECT_EQ(to, QStringList{QStringLiteral("help@example.org")});
+        EXPECT_EQ(options.value("subject").toString(), QStringLiteral("L'été"));
+        EXPECT_EQ(options.value("body").toString(), kBody);
+    }
+}
+
+TEST(DesktopMail, APortalThatGoesAwayHasFailed)
+{
+    MessageBus bus;
+    auto portal = std::make_unique<StandInPortal>(
+        bus, StandInPortal::Behaviour{.versions = {{kEmail, 3}}, .response = {}});
+    DesktopMail mail{{bus.connect(), {}}};
+    Outcome outcome;
+    compose(mail, outcome);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !portal->requests().empty(); }, kPatience));
+
+    portal.reset();
+
+    ASSERT_TRUE(ends(outcome));
+    EXPECT_EQ(outcome.result, MailComposeResult::Failed);
+}
+
+TEST(DesktopMail, WithoutAPortalTheMailProgramSavesTheMessage)
+{
+    for (const int status : {0, 4}) {
+        SCOPED_TRACE(status);
+        MessageBus bus;
+        // A portal without mail.
+        const StandInPortal portal{bus, {.versions = {{kOpenUri, 4}}}};
+        const Programs programs{"xdg-email", status};
+        DesktopMail mail{{bus.connect(), hasUrlHandler}};
+        EXPECT_TRUE(mail.canSendMail());
+        Outcome outcome;
+        compose(mail, outcome);
+
+        ASSERT_TRUE(ends(outcome));
+        EXPECT_EQ(outcome.result,
+                  status == 0 ? MailComposeResult::Saved : MailComposeResult::Failed);
+        EXPECT_EQ(programs.called(),
+                  "--utf8|--subject|L'été|--body|" + toUtf8(kBody) + "|help@example.org|");
+    }
+}
+
+TEST(DesktopMail, NeedsAPortalOrAProgramForMailtoAddresses)
+{
+    const Programs programs{"xdg-email", 0};
+    EXPECT_TRUE(DesktopMail({QDBusConnection{QString{}}, handlesAll}).canSendMail());
+    EXPECT_FALSE(DesktopMail(Desktop{}).canSendMail()) << "xdg-email alone sends nothing";
+    const Programs others{"xdg-open", 0};
+    EXPECT_FALSE(DesktopMail({QDBusConnection{QString{}}, handlesAll}).canSendMail());
+}
+
+TEST(UrlHandlers, AreThePrograms)
+{
+    EXPECT_TRUE(hasUrlHandler("mailto"));
+    EXPECT_FALSE(hasUrlHandler("appstream")) << "listed and gone";
+    EXPECT_FALSE(hasUrlHandler("https"));
+}
+
+TEST(DesktopUrlOpener, TakesFewKindsOfAddresses)
+{
+    const Programs programs{"xdg-open", 0};
+    DesktopUrlOpener opener{{QDBusConnection{QString{}}, handlesAll}};
+    for (const char* url :
+         {"https://example.org/a?b=c", "mailto:help@example.org", "appstream://org.example.a"}) {
+        EXPECT_TRUE(opener.canOpen(url)) << url;
+    }
+    for (const char* url : {"file:///etc/passwd", "javascript:alert(1)", "https://", "https:/x",
+                            "mailto:", "example.org", "--help", "", "https://a b.org"}) {
+        EXPECT_FALSE(opener.canOpen(url)) << url;
+        EXPECT_FALSE(opener.open(url)) << url;
+    }
+    QTest::qWait(200);
+    EXPECT_EQ(programs.called(), "");
+
+    EXPECT_TRUE(opener.open("https://example.org/été?b='$(id)'"));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return programs.called() == "https://example.org/%C3%A9t%C3%A9?b='$(id)'|"; },
+        kPatience))
+        << programs.called();
+}
+
+TEST(DesktopUrlOpener, AsksThePortalAndThenThePrograms)
+{
+    for (const uint response : {0U, 2U}) {
+        SCOPED_TRACE(response);
+        MessageBus bus;
+        const StandInPortal portal{bus, {.versions = {{kOpenUri, 4}}, .response = response}};
+        const Programs programs{"xdg-open", 0};
+        DesktopUrlOpener opener{{bus.connect(), handlesAll}};
+
+        EXPECT_TRUE(opener.open("https://example.org/"));
+
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !portal.requests().empty(); }, kPatience));
+        EXPECT_EQ(portal.requests()[0].arguments.last().toString(),
+                  QStringLiteral("https://example.org/"));
+        if (response == 0) {
+            QTest::qWait(200);
+            EXPECT_EQ(programs.called(), "");
+        } else {
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !programs.called().empty(); }, kPatience));
+        }
+    }
+}
+
+TEST(DesktopReviewPrompter, OpensTheSoftwareCentreOnlyWhereThereIsOne)
+{
+    MessageBus bus;
+    const StandInPortal portal{bus, {.versions = {{kOpenUri, 4}}}};
+    const Programs programs{"xdg-open", 0};
+    DesktopUrlOpener bare{{bus.connect(), [](const std::string&) { return false; }}};
+    DesktopReviewPrompter{bare}.requestReview();
+    QTest::qWait(200);
+    EXPECT_TRUE(portal.requests().empty());
+
+    DesktopUrlOpener equipped{
+        {bus.connect(), [](const std::string& scheme) { return scheme == "appstream"; }}};
+    DesktopReviewPrompter{equipped}.requestReview();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return programs.called() == "appstream://com.brindle.lumora|"; }, kPatience));
+}
+
+} // namespace
+} // namespace lumora::qt
