@@ -114,7 +114,7 @@ void Application::launch()
     }
     device_.setWindowWidth(window_->width());
     delegate_.didFinishLaunching(launch);
-    splitScreen_ = std::make_unique<SplitScreen>(root, device_);
+    splitScreen_ = std::make_unique<SplitScreen>(root, device_, *presenter_.modals());
     QQmlEngine::setObjectOwnership(splitScreen_.get(), QQmlEngine::CppOwnership);
     splitScreen_->setWidth(window_->width());
     window_->setProperty("split", QVariant::fromValue(splitScreen_.get()));

@@ -46,6 +46,7 @@ public:
     bool searchFocus() const { return home_->searchBar.isFirstResponder; }
 
     Q_INVOKABLE void selectTab(int tag);
+    Q_INVOKABLE void focusSearch() { home_->focusSearchBar(); }
     Q_INVOKABLE void changeSearchText(const QString& text);
     /// The search field has got the keyboard or lost it.
     Q_INVOKABLE void searchFocusChanged(bool focused);

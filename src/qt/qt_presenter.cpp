@@ -3,8 +3,10 @@
 
 #include "qt/qt_presenter.h"
 
+#include "platform/mail_composer.h"
 #include "platform/split_view_controller.h"
 #include "platform/storyboard.h"
+#include "platform/table_view_controller.h"
 #include "qt/text_conversion.h"
 
 #include <QQmlEngine>
@@ -27,7 +29,10 @@ void QtPresenter::performSegue(platform::ViewController& source, std::string_vie
     }
     const auto destination = storyboard_.instantiateDestination(identifier);
     source.prepareForSegue({std::string{identifier}, *destination, sender});
-    if (auto* split = source.splitViewController()) {
+    const auto style = storyboard_.segueStyle(identifier);
+    if (style != platform::SegueStyle::ShowDetail) {
+        modals_.present(destination, style);
+    } else if (auto* split = source.splitViewController()) {
         split->showDetailViewController(destination);
     }
 }
@@ -35,26 +40,44 @@ void QtPresenter::performSegue(platform::ViewController& source, std::string_vie
 void QtPresenter::present(platform::ViewController& /*on*/,
                           std::shared_ptr<platform::ViewController> screen)
 {
-    screen->loadViewIfNeeded();
-    screen->viewWillAppear();
-    screen->viewDidAppear();
+    auto mail = std::dynamic_pointer_cast<platform::MailComposer>(screen);
+    if (!mail) {
+        modals_.present(std::move(screen), platform::SegueStyle::PresentModally);
+        return;
+    }
+    // Its window is another program's: there is nothing of it to show here.
+    mails_.push_back(mail);
+    mail->loadViewIfNeeded();
+    mail->viewWillAppear();
+    mail->viewDidAppear();
 }
 
 void QtPresenter::presentAlert(platform::ViewController& /*on*/, const platform::Alert& alert)
 {
-    ask({alert.title, alert.message, alert.actions, false});
+    ask({alert.title, alert.message, alert.actions, false, {}, {}});
 }
 
-void QtPresenter::presentActionSheet(platform::ViewController& /*on*/,
-                                     const platform::ActionSheet& sheet,
-                                     platform::IndexPath /*anchor*/)
+void QtPresenter::presentActionSheet(platform::ViewController& on,
+                                     const platform::ActionSheet& sheet, platform::IndexPath anchor)
 {
-    ask({sheet.title, {}, sheet.actions, true});
+    auto* screen = dynamic_cast<platform::TableViewController*>(&on);
+    auto* table = screen == nullptr ? nullptr : dynamic_cast<QtTableView*>(&screen->tableView());
+    ask({sheet.title, {}, sheet.actions, true, table, anchor});
 }
 
-void QtPresenter::dismiss(platform::ViewController& /*presented*/, std::function<void()> completed)
+void QtPresenter::dismiss(platform::ViewController& presented, std::function<void()> completed)
 {
-    // No step leads to a screen on top of the others yet.
+    const auto mail =
+        std::ranges::find(mails_, &presented, [](const auto& each) { return each.get(); });
+    if (mail == mails_.end()) {
+        modals_.dismiss(presented, std::move(completed));
+        return;
+    }
+    // Kept until the composer, which may be calling, is through.
+    QMetaObject::invokeMethod(
+        this, [kept = *mail] {}, Qt::QueuedConnection);
+    mails_.erase(mail);
+    presented.viewDidDisappear();
     if (completed) {
         completed();
     }
@@ -91,6 +114,17 @@ QVariantList QtPresenter::answers() const
             {QStringLiteral("cancel"), action.style == platform::ActionStyle::Cancel}});
     }
     return list;
+}
+
+QtTableView* QtPresenter::anchorTable() const
+{
+    return asking() ? questions_.front().anchorTable.data() : nullptr;
+}
+
+int QtPresenter::anchorRow() const
+{
+    const auto* table = anchorTable();
+    return table == nullptr ? -1 : table->model()->listRow(questions_.front().anchor);
 }
 
 int QtPresenter::cancelIndex() const

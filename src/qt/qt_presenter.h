@@ -4,8 +4,11 @@
 #pragma once
 
 #include "platform/presenter.h"
+#include "qt/modal_stack.h"
+#include "qt/qt_table_view.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 #include <QVariantList>
@@ -15,13 +18,13 @@
 #include <vector>
 
 namespace lumora::platform {
-class Storyboard;
+class MailComposer;
 }
 
 namespace lumora::qt {
 
-/// Takes the steps between screens and holds the questions that QML asks, one
-/// at a time. GUI thread only.
+/// Takes the steps between screens, keeps those that lie over the others, and
+/// holds the questions that QML asks, one at a time. GUI thread only.
 class QtPresenter final : public QObject, public platform::Presenter {
     Q_OBJECT
     QML_ELEMENT
@@ -32,6 +35,9 @@ class QtPresenter final : public QObject, public platform::Presenter {
     Q_PROPERTY(QString questionMessage READ questionMessage NOTIFY questionChanged)
     Q_PROPERTY(QVariantList answers READ answers NOTIFY questionChanged)
     Q_PROPERTY(bool cancellable READ isCancellable NOTIFY questionChanged)
+    Q_PROPERTY(lumora::qt::QtTableView* anchorTable READ anchorTable NOTIFY questionChanged)
+    Q_PROPERTY(int anchorRow READ anchorRow NOTIFY questionChanged)
+    Q_PROPERTY(lumora::qt::ModalStack* modals READ modals CONSTANT)
 
 public:
     /// The storyboard must outlive this; steps are taken only once it is whole.
@@ -55,6 +61,10 @@ public:
     /// Whether the question may be left without one of its answers: a sheet
     /// always, an alert when one of its answers cancels.
     bool isCancellable() const;
+    /// The row that a sheet rises from; null and -1 when there is none.
+    QtTableView* anchorTable() const;
+    int anchorRow() const;
+    ModalStack* modals() { return &modals_; }
 
     Q_INVOKABLE void answer(int index);
     Q_INVOKABLE void cancel();
@@ -68,12 +78,17 @@ private:
         std::string message;
         std::vector<platform::AlertAction> actions;
         bool sheet = false;
+        QPointer<QtTableView> anchorTable;
+        platform::IndexPath anchor;
     };
 
     void ask(Question question);
     int cancelIndex() const;
 
     platform::Storyboard& storyboard_;
+    ModalStack modals_{this};
+    /// On show in another program's window.
+    std::vector<std::shared_ptr<platform::MailComposer>> mails_;
     std::deque<Question> questions_;
 };
 

@@ -6,6 +6,7 @@
 #include "qt/table_item_model.h"
 
 #include <QObject>
+#include <QPointer>
 
 namespace lumora::qt {
 
@@ -22,11 +23,13 @@ class QtTableView final : public QObject, public platform::TableView {
     Q_PROPERTY(bool emptyBold READ emptyBold NOTIFY looksChanged)
     Q_PROPERTY(double emptyFontSize READ emptyFontSize NOTIFY looksChanged)
     Q_PROPERTY(double emptyWidth READ emptyWidth NOTIFY looksChanged)
+    Q_PROPERTY(QObject* list MEMBER list_ NOTIFY listChanged)
 
 public:
     explicit QtTableView(platform::TableDataSource& source);
 
     TableItemModel* model() { return &model_; }
+    const TableItemModel* model() const { return &model_; }
     bool separators() const { return separatorStyle_ == platform::SeparatorStyle::SingleLine; }
     bool emptyStateVisible() const { return background_.has_value() && !backgroundHidden_; }
     QString emptyText() const;
@@ -47,12 +50,15 @@ public:
 
 signals:
     void looksChanged();
+    void listChanged();
 
 private:
     TableItemModel model_;
     platform::SeparatorStyle separatorStyle_ = platform::SeparatorStyle::SingleLine;
     std::optional<platform::EmptyStateView> background_;
     bool backgroundHidden_ = false;
+    /// The list that draws the rows, if one does.
+    QPointer<QObject> list_;
 };
 
 } // namespace lumora::qt

@@ -4,6 +4,8 @@
 #include "qt/split_screen.h"
 
 #include "platform/navigation_controller.h"
+#include "qt/home_screen.h"
+#include "qt/modal_stack.h"
 #include "qt/qt_device.h"
 
 #include <algorithm>
@@ -30,11 +32,13 @@ bool popOne(NavigationController* stack)
 
 } // namespace
 
-SplitScreen::SplitScreen(std::shared_ptr<platform::SplitViewController> split, QtDevice& device)
-    : split_{std::move(split)}, device_{device}
+SplitScreen::SplitScreen(std::shared_ptr<platform::SplitViewController> split, QtDevice& device,
+                         ModalStack& modals)
+    : split_{std::move(split)}, device_{device}, modals_{modals}
 {
     split_->setPaneListener([this] { synchronize(); });
     connect(&registry_, &ScreenRegistry::childrenChanged, this, &SplitScreen::synchronize);
+    connect(&modals_, &ModalStack::changed, this, &SplitScreen::synchronize);
 }
 
 SplitScreen::~SplitScreen()
@@ -60,6 +64,7 @@ void SplitScreen::setWidth(double points)
     // One picture of the panes when all is in its place, none in between.
     changing_ = true;
     split_->setCollapsed(collapse);
+    modals_.setFullScreen(collapse);
     changing_ = false;
     shown_ = true;
     synchronize();
@@ -73,20 +78,63 @@ bool SplitScreen::back()
     });
 }
 
+HomeScreen* SplitScreen::home() const
+{
+    return primary_.isEmpty() ? nullptr : qobject_cast<HomeScreen*>(primary_.first());
+}
+
+void SplitScreen::backToHome()
+{
+    if (auto* lists = dynamic_cast<NavigationController*>(split_->viewControllers().front())) {
+        lists->popToRootViewController();
+    }
+    if (!collapsed() && primaryHidden()) {
+        split_->displayModeButtonItem().action();
+    }
+}
+
+SplitScreen::Controllers
+SplitScreen::screensOf(const std::shared_ptr<platform::ViewController>& container)
+{
+    const auto stack = std::dynamic_pointer_cast<NavigationController>(container);
+    if (stack == nullptr) {
+        return {container};
+    }
+    listenedStacks_.push_back(stack);
+    return flatten(*stack);
+}
+
 SplitScreen::Controllers SplitScreen::flatten(NavigationController& stack)
 {
     stack.setStackListener([this] { synchronize(); });
     Controllers screens;
     for (const auto& controller : stack.viewControllers()) {
-        if (const auto inner = std::dynamic_pointer_cast<NavigationController>(controller)) {
-            listenedStacks_.push_back(inner);
-            const auto within = flatten(*inner);
-            screens.insert(screens.end(), within.begin(), within.end());
-        } else {
-            screens.push_back(controller);
-        }
+        const auto within = screensOf(controller);
+        screens.insert(screens.end(), within.begin(), within.end());
     }
     return screens;
+}
+
+QList<QObject*> SplitScreen::wrappersOf(const Controllers& controllers)
+{
+    QList<QObject*> screens;
+    for (const auto& controller : controllers) {
+        screens.append(registry_.screenFor(controller));
+    }
+    return screens;
+}
+
+void SplitScreen::synchronizeModals(Controllers& all, Controllers& visible)
+{
+    for (const auto& modal : modals_.modals()) {
+        const auto controllers = screensOf(modal->controller());
+        modal->setScreens(wrappersOf(controllers));
+        all.insert(all.end(), controllers.begin(), controllers.end());
+        if (modals_.isFullScreen() && !modal->isSideMenu()) {
+            visible.clear();
+        }
+        visible.push_back(controllers.back());
+    }
 }
 
 void SplitScreen::synchronize()
@@ -105,15 +153,15 @@ void SplitScreen::synchronize()
             continue;
         }
         const auto controllers = flatten(*stack);
-        for (const auto& controller : controllers) {
-            screens[pane].append(registry_.screenFor(controller));
-        }
+        screens[pane] = wrappersOf(controllers);
         all.insert(all.end(), controllers.begin(), controllers.end());
         const bool hidden = pane == 0 && panes.size() > 1 && split_->isPrimaryHidden();
         if (!controllers.empty() && !hidden) {
             visible.push_back(controllers.back());
         }
     }
+
+    synchronizeModals(all, visible);
 
     // Loaded here, so that a screen's children are known.
     for (const auto& controller : visible) {

@@ -16,11 +16,13 @@
 
 namespace lumora::qt {
 
+class HomeScreen;
+class ModalStack;
 class QtDevice;
 
-/// The window's panes for QML: the stack of screens in each. It hears every
-/// change of the controllers' stacks and tells the screens when they come and
-/// go. GUI thread only.
+/// The window's panes for QML: the stack of screens in each, and of the screens
+/// over them. It hears every change of the controllers' stacks and tells the
+/// screens when they come and go. GUI thread only.
 class SplitScreen final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -29,10 +31,12 @@ class SplitScreen final : public QObject {
     Q_PROPERTY(bool primaryHidden READ primaryHidden NOTIFY changed)
     Q_PROPERTY(QList<QObject*> primary READ primary NOTIFY changed)
     Q_PROPERTY(QList<QObject*> secondary READ secondary NOTIFY changed)
+    Q_PROPERTY(lumora::qt::HomeScreen* home READ home NOTIFY changed)
 
 public:
-    /// The device must outlive this.
-    SplitScreen(std::shared_ptr<platform::SplitViewController> split, QtDevice& device);
+    /// The device and the modals must outlive this.
+    SplitScreen(std::shared_ptr<platform::SplitViewController> split, QtDevice& device,
+                ModalStack& modals);
     ~SplitScreen() override;
 
     bool collapsed() const { return split_->isCollapsed(); }
@@ -41,11 +45,15 @@ public:
     /// while there is one pane.
     QList<QObject*> primary() const { return primary_; }
     QList<QObject*> secondary() const { return secondary_; }
+    /// At the bottom of the first pane; null before the screens are shown.
+    HomeScreen* home() const;
 
     /// The window is as wide as this now; the first call shows the screens.
     Q_INVOKABLE void setWidth(double points);
     /// Takes the top screen away; false when there is none to go back from.
     Q_INVOKABLE bool back();
+    /// Brings the home screen into view, whatever hides it.
+    Q_INVOKABLE void backToHome();
 
     std::size_t screenCount() const { return registry_.size(); }
 
@@ -56,11 +64,15 @@ private:
     using Controllers = std::vector<std::shared_ptr<platform::ViewController>>;
 
     void synchronize();
+    /// The screens of a container, or the screen itself.
+    Controllers screensOf(const std::shared_ptr<platform::ViewController>& container);
     Controllers flatten(platform::NavigationController& stack);
-    void tellAppearances();
+    void synchronizeModals(Controllers& all, Controllers& visible);
+    QList<QObject*> wrappersOf(const Controllers& controllers);
 
     std::shared_ptr<platform::SplitViewController> split_;
     QtDevice& device_;
+    ModalStack& modals_;
     ScreenRegistry registry_;
     platform::AppearanceTracker appearances_;
     QList<QObject*> primary_;

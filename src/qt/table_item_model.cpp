@@ -9,6 +9,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace lumora::qt {
@@ -71,7 +72,8 @@ QHash<int, QByteArray> TableItemModel::roleNames() const
             {CanEditRole, "canEdit"},
             {IdentifierRole, "identifier"},
             {ReuseIdentifierRole, "reuseIdentifier"},
-            {SelectedRole, "selected"}};
+            {SelectedRole, "selected"},
+            {LastInSectionRole, "lastInSection"}};
 }
 
 QVariant TableItemModel::data(const QModelIndex& index, int role) const
@@ -96,6 +98,11 @@ QVariant TableItemModel::data(const QModelIndex& index, int role) const
     }
     case SelectedRole:
         return isCell && selected_ == row.path;
+    case LastInSectionRole: {
+        const auto next = static_cast<std::size_t>(index.row()) + 1;
+        return isCell && (next == rows_.size() || rows_[next].kind != RowKind::Cell ||
+                          rows_[next].path.section != row.path.section);
+    }
     default:
         break;
     }
@@ -365,6 +372,20 @@ int TableItemModel::nextHeaderRow(int row) const
     return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 
+int TableItemModel::cellAway(int row, int steps) const
+{
+    const int step = steps < 0 ? -1 : 1;
+    int found = -1;
+    for (int left = std::abs(steps), next = row + step; left > 0 && next >= 0 && next < rowCount();
+         next += step) {
+        if (rows_[static_cast<std::size_t>(next)].kind == RowKind::Cell) {
+            found = next;
+            --left;
+        }
+    }
+    return found;
+}
+
 QVariantList TableItemModel::trailingActions(int row)
 {
     actions_.clear();
@@ -459,6 +480,7 @@ void TableItemModel::toggleSwitch(int row, bool on)
     if (const auto path = cellPath(row)) {
         cell_.reset();
         source_.switchToggled(*path, on);
+        rowChanged(*path);
     }
 }
 
@@ -467,6 +489,7 @@ void TableItemModel::changeSegment(int row, int segment)
     if (const auto path = cellPath(row)) {
         cell_.reset();
         source_.segmentChanged(*path, segment);
+        rowChanged(*path);
     }
 }
 

@@ -54,6 +54,7 @@ public:
         IdentifierRole,
         ReuseIdentifierRole,
         SelectedRole,
+        LastInSectionRole,
     };
 
     explicit TableItemModel(platform::TableDataSource& source, QObject* parent = nullptr);
@@ -69,6 +70,9 @@ public:
     void loadIfNeeded();
     void reloadRow(platform::IndexPath path);
 
+    /// Where a cell stands among all rows; -1 when it is not there.
+    int listRow(platform::IndexPath path) const;
+
     std::optional<platform::IndexPath> selectedPath() const { return selected_; }
     void deselect(platform::IndexPath path);
 
@@ -80,6 +84,9 @@ public:
     Q_INVOKABLE QString sectionTitle(int row) const;
     /// The list row of the first header after `row`; -1 for none.
     Q_INVOKABLE int nextHeaderRow(int row) const;
+    /// The cell that many cells after a row, or before it; the outermost one
+    /// where there are fewer, -1 where there is none.
+    Q_INVOKABLE int cellAway(int row, int steps) const;
 
     /// What a swipe over the row offers: maps of title, image, destructive and
     /// background (absent for the toolkit's own colour).
@@ -112,7 +119,6 @@ private:
     void load();
     void replaceRows(std::vector<Row> rows, std::vector<Section> sections);
     std::optional<platform::IndexPath> cellPath(int row) const;
-    int listRow(platform::IndexPath path) const;
     const platform::TableCell& cell(platform::IndexPath path) const;
     QVariant cellData(platform::IndexPath path, int role) const;
     void hide(platform::IndexPath path);

@@ -16,6 +16,7 @@ ScreenPage {
         id: search
         width: parent.width
         home: root.home
+        onListWanted: area.takeKeyboard()
     }
     FocusScope {
         id: area
@@ -25,16 +26,28 @@ ScreenPage {
         width: parent.width
         clip: true
 
-        Repeater {
-            model: root.home.lists
+        function takeKeyboard() {
+            forceActiveFocus(Qt.TabFocusReason);
+        }
 
-            VerbTable {
-                required property TableScreen modelData
+        // Each list keeps its place once it was there.
+        Repeater {
+            model: 3
+
+            Loader {
+                id: place
+
+                required property int index
+                readonly property TableScreen list: root.home.lists[index] ?? null
 
                 anchors.fill: parent
-                screen: modelData
-                visible: !root.searching && modelData === root.home.currentList
+                active: list !== null
+                visible: !root.searching && list === root.home.currentList
                 focus: visible
+
+                sourceComponent: VerbTable {
+                    screen: place.list
+                }
             }
         }
         Loader {

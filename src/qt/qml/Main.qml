@@ -13,6 +13,7 @@ Window {
     property SplitScreen split: null
     required property QtPresenter presenter
     required property color accent
+    readonly property ModalStack modals: presenter.modals
     property bool dark: false
     property real textScale: 1
     property bool reducedMotion: false
@@ -60,14 +61,46 @@ Window {
     Loader {
         id: panes
         anchors.fill: parent
-        enabled: !root.presenter.asking
-        focus: true
+        enabled: !root.presenter.asking && root.modals.count === 0
+        focus: enabled
+        onLoaded: item.focus = true
+    }
+    EdgePull {
+        id: pull
+        height: parent.height
+        enabled: active || panes.enabled && panes.item !== null && panes.item.homeOnTop
+        onBegun: root.split.home.press("menu")
+    }
+    Loader {
+        id: modalLayer
+
+        readonly property bool wanted: root.modals.count > 0
+
+        anchors.fill: parent
+        enabled: wanted && !root.presenter.asking
+        focus: enabled
+        onWantedChanged: if (status === Loader.Null)
+            setSource("qrc:/Lumora/ModalLayer.qml", {
+                "stack": root.modals,
+                "pull": pull
+            })
         onLoaded: item.focus = true
     }
     Loader {
+        id: question
+
+        readonly property bool wanted: root.presenter.asking
+
         anchors.fill: parent
-        active: root.presenter.asking
-        source: active ? "qrc:/Lumora/QuestionDialog.qml" : ""
-        onLoaded: (item as QuestionDialog).presenter = root.presenter
+        focus: wanted
+        onWantedChanged: {
+            if (wanted)
+                setSource("qrc:/Lumora/QuestionDialog.qml", {
+                    "presenter": root.presenter
+                });
+            else
+                source = "";
+        }
+        onLoaded: item.forceActiveFocus()
     }
 }

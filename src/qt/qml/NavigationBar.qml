@@ -12,12 +12,22 @@ Rectangle {
     required property Screen screen
     property bool canGoBack: false
     property bool wide: false
+    property real cornerRadius: 0
 
     signal backRequested
 
     implicitHeight: Theme.barHeight
+    radius: cornerRadius
     color: Theme.barBackground
 
+    Rectangle {
+        // The lower corners stay square.
+        visible: root.radius > 0
+        y: root.radius
+        width: parent.width
+        height: parent.height - y
+        color: root.color
+    }
     Row {
         id: left
         anchors.left: parent.left

@@ -10,6 +10,7 @@ FocusScope {
 
     required property SplitScreen split
     readonly property bool twoPanes: !split.collapsed
+    readonly property bool homeOnTop: split.primary.length === 1 && !split.primaryHidden
     readonly property int listWidth: Math.max(320, Math.min(360, Math.round(width * 0.34)))
 
     ScreenStack {
@@ -54,4 +55,33 @@ FocusScope {
     }
     Keys.onEscapePressed: event => event.accepted = root.split.back()
     Keys.onBackPressed: event => event.accepted = root.split.back()
+
+    Shortcut {
+        sequences: [StandardKey.Find]
+        enabled: root.enabled
+        onActivated: {
+            root.split.backToHome();
+            root.split.home.focusSearch();
+        }
+    }
+    Shortcut {
+        sequence: "F10"
+        enabled: root.enabled
+        onActivated: root.split.home.press("menu")
+    }
+    Instantiator {
+        model: root.split.home?.tabs
+
+        Shortcut {
+            required property int index
+            required property var modelData
+
+            sequence: "Ctrl+" + (index + 1)
+            enabled: root.enabled
+            onActivated: {
+                root.split.backToHome();
+                root.split.home.selectTab(modelData.tag);
+            }
+        }
+    }
 }

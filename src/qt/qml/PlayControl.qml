@@ -17,6 +17,8 @@ T.AbstractButton {
     objectName: "play"
     focusPolicy: Qt.TabFocus
     Accessible.name: qsTrId("action.play") + " " + spoken
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
 
     contentItem: Item {
         RoundProgress {

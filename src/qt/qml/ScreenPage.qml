@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import QtQuick.Controls.Basic
 import Lumora
 
 // What every page of a stack has: its screen's bar above its content.
@@ -12,6 +13,8 @@ FocusScope {
     property bool canGoBack: false
     // Stands beside another pane.
     property bool wide: false
+    property color color: Theme.background
+    readonly property real cornerRadius: StackView.view?.cornerRadius ?? 0
     default property alias content: area.data
 
     signal backRequested
@@ -20,7 +23,8 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: Theme.background
+        anchors.topMargin: root.cornerRadius
+        color: root.color
     }
     NavigationBar {
         id: bar
@@ -28,6 +32,7 @@ FocusScope {
         screen: root.screen
         canGoBack: root.canGoBack
         wide: root.wide
+        cornerRadius: root.cornerRadius
         onBackRequested: root.backRequested()
     }
     FocusScope {

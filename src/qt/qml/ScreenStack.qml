@@ -12,6 +12,8 @@ StackView {
 
     property var screens: []
     property bool wide: false
+    // Of the upper corners.
+    property real cornerRadius: 0
 
     signal backRequested
 

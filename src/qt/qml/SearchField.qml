@@ -10,7 +10,10 @@ Rectangle {
 
     required property HomeScreen home
 
-    implicitHeight: 52
+    // To what was found, by keyboard.
+    signal listWanted
+
+    implicitHeight: Math.round(52 * Math.max(1, Theme.textScale))
     color: Theme.barBackground
 
     Rectangle {
@@ -62,6 +65,9 @@ Rectangle {
             Accessible.name: root.home.searchPlaceholder
             onTextChanged: root.home.changeSearchText(text)
             onActiveFocusChanged: root.home.searchFocusChanged(activeFocus)
+            Keys.onDownPressed: root.listWanted()
+            Keys.onReturnPressed: root.listWanted()
+            Keys.onEnterPressed: root.listWanted()
             Keys.onEscapePressed: event => {
                 event.accepted = text !== "";
                 text = "";

@@ -44,6 +44,8 @@ Rectangle {
                 Accessible.name: text
                 Accessible.selected: checked
                 onClicked: root.home.selectTab(modelData.tag)
+                Keys.onReturnPressed: click()
+                Keys.onEnterPressed: click()
 
                 background: Rectangle {
                     color: tab.down ? Theme.pressed : "transparent"

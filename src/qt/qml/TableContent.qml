@@ -3,17 +3,86 @@
 
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import Lumora
 
 // A table: its rows, the header that stays on top, the index down the edge and
-// what stands in an empty one.
-Item {
+// what stands in an empty one. With the keyboard one moves from cell to cell.
+T.Control {
     id: root
 
     required property QtTableView table
     property alias delegate: list.delegate
     property alias list: list
+    property bool stickyHeaders: true
     readonly property int indexWidth: index.visible ? index.width : 0
+    // The row that is swiped open, if one is.
+    property T.SwipeDelegate openRow: null
+
+    function rowSwiped(row) {
+        if (openRow !== row)
+            openRow?.swipe.close();
+        openRow = row;
+    }
+    function moveTo(row) {
+        if (row < 0)
+            return;
+        list.currentIndex = row;
+        list.positionViewAtIndex(row, ListView.Contain);
+        const hidden = stickyHeaders && list.currentItem ? list.contentY + Theme.headerHeight - list.currentItem.y : 0;
+        if (hidden > 0)
+            list.contentY = Math.max(list.originY, list.contentY - hidden);
+    }
+    function move(steps) {
+        moveTo(table.model.cellAway(list.currentIndex, steps));
+    }
+    function movePage(direction) {
+        move(direction * Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1));
+    }
+    // Only now is there a menu: few ever ask for it.
+    function showMenu(row, point) {
+        if (menu.status === Loader.Null)
+            menu.setSource("qrc:/Lumora/RowMenu.qml", {
+                "table": root.table
+            });
+        menu.item.openFor(row, root, point);
+    }
+    function showMenuOfCurrent() {
+        const item = list.currentItem;
+        if (item !== null)
+            showMenu(list.currentIndex, item.mapToItem(root, 2 * Theme.margin, item.height / 2));
+    }
+
+    focus: true
+    focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.List
+    onVisualFocusChanged: if (visualFocus && list.currentIndex < 0)
+        moveTo(table.model.cellAway(list.indexAt(0, list.contentY + (stickyHeaders ? Theme.headerHeight : 0)) - 1, 1))
+
+    Keys.onPressed: event => {
+        const row = list.currentItem;
+        event.accepted = true;
+        if (event.key === Qt.Key_Down)
+            move(1);
+        else if (event.key === Qt.Key_Up)
+            move(-1);
+        else if (event.key === Qt.Key_PageDown)
+            movePage(1);
+        else if (event.key === Qt.Key_PageUp)
+            movePage(-1);
+        else if (event.key === Qt.Key_Home)
+            moveTo(table.model.cellAway(-1, 1));
+        else if (event.key === Qt.Key_End)
+            moveTo(table.model.cellAway(list.count, -1));
+        else if (event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
+            showMenuOfCurrent();
+        else if (row !== null && [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key))
+            row.activate();
+        else if (row !== null && (event.key === Qt.Key_Left || event.key === Qt.Key_Right))
+            event.accepted = row.adjust(event.key === Qt.Key_Left ? -1 : 1);
+        else
+            event.accepted = false;
+    }
 
     ListView {
         id: list
@@ -24,21 +93,18 @@ Item {
         model: root.table.model
         reuseItems: true
         clip: true
-        focus: true
-        activeFocusOnTab: true
-        keyNavigationEnabled: true
+        keyNavigationEnabled: false
         highlightFollowsCurrentItem: false
         currentIndex: -1
         cacheBuffer: 600
         boundsBehavior: Flickable.StopAtBounds
         maximumFlickVelocity: 6000
-        Accessible.role: Accessible.List
+        Component.onCompleted: root.table.list = list
+        onMovementStarted: root.openRow?.swipe.close()
 
         ScrollBar.vertical: ScrollBar {
             visible: !index.visible
         }
-        Keys.onReturnPressed: root.table.model.tap(currentIndex)
-        Keys.onSpacePressed: root.table.model.tap(currentIndex)
 
         Connections {
             target: root.table.model
@@ -53,6 +119,7 @@ Item {
     }
     StickyHeader {
         width: parent.width
+        visible: root.stickyHeaders && title !== ""
         list: list
         table: root.table
     }
@@ -67,5 +134,12 @@ Item {
         anchors.centerIn: parent
         maximumWidth: parent.width - 2 * Theme.margin
         table: root.table
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => root.showMenu(list.indexAt(eventPoint.position.x, eventPoint.position.y + list.contentY), eventPoint.position)
+    }
+    Loader {
+        id: menu
     }
 }

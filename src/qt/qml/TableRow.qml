@@ -21,12 +21,28 @@ T.SwipeDelegate {
     property int cellHeight: Theme.rowHeight
     // Kept free at the right, for the index.
     property int trailingSpace: 0
+    property color color: Theme.background
+    property color pressedColor: Theme.pressed
+    property color separatorColor: Theme.separator
+    property color focusColor: Theme.accentText
+    property int focusInset: 0
+    property Component headerText: plainHeader
+    property Component footerText: plainFooter
     default property alias cellContent: holder.data
     readonly property bool isCell: kind === TableItemModel.Cell
-    readonly property bool isCurrent: ListView.isCurrentItem && ListView.view !== null && ListView.view.activeFocus
+    readonly property bool isCurrent: ListView.isCurrentItem && ListView.view !== null && ListView.view.parent.activeFocus
+    readonly property bool swiped: swipe.position !== 0
+
+    // The keyboard's way to do what a tap does, and to step through values.
+    function activate() {
+        table.model.tap(index);
+    }
+    function adjust(step) {
+        return false;
+    }
 
     objectName: identifier
-    implicitHeight: isCell ? cellHeight : kind === TableItemModel.Header ? Theme.headerHeight : texts.implicitHeight
+    implicitHeight: isCell ? cellHeight : texts.implicitHeight
     focusPolicy: Qt.NoFocus
     swipe.enabled: isCell && canEdit
     swipe.right: isCell && canEdit ? actions : null
@@ -35,17 +51,20 @@ T.SwipeDelegate {
     onClicked: if (isCell && swipe.position === 0)
         table.model.tap(index)
 
+    onSwipedChanged: if (swiped)
+        ListView.view.parent.rowSwiped(root)
+
     ListView.onPooled: swipe.close()
 
     background: Rectangle {
-        color: root.isCell && root.selectable && (root.down || root.selected) ? Theme.pressed : Theme.background
+        color: root.isCell && root.selectable && (root.down || root.selected) ? root.pressedColor : root.color
 
         Rectangle {
             visible: root.isCell && root.table !== null && root.table.separators
             anchors.bottom: parent.bottom
             width: parent.width
             height: 1
-            color: Theme.separator
+            color: root.separatorColor
         }
     }
     contentItem: Item {
@@ -58,30 +77,33 @@ T.SwipeDelegate {
             id: texts
             width: parent.width
             active: !root.isCell
-            sourceComponent: root.kind === TableItemModel.Header ? header : footer
+            sourceComponent: root.kind === TableItemModel.Header ? root.headerText : root.footerText
         }
         Loader {
             anchors.fill: parent
+            anchors.leftMargin: root.focusInset
+            anchors.rightMargin: root.focusInset
             active: root.isCurrent
 
             sourceComponent: Rectangle {
                 color: "transparent"
+                radius: root.focusInset > 0 ? Theme.radius : 0
                 border.width: 2
-                border.color: Theme.accentText
+                border.color: root.focusColor
             }
         }
     }
 
     Component {
-        id: header
+        id: plainHeader
 
         SectionLabel {
-            height: Theme.headerHeight
+            implicitHeight: Theme.headerHeight
             text: root.title
         }
     }
     Component {
-        id: footer
+        id: plainFooter
 
         Text {
             padding: Theme.gap

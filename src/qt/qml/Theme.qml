@@ -18,6 +18,7 @@ QtObject {
     // Accent on the page rather than behind white text.
     readonly property color accentText: dark ? "#8ab8f5" : accentPrimary
     readonly property color barBackground: dark ? "#10325f" : accentPrimary
+    readonly property color menu: dark ? "#0d2444" : Qt.darker(accentPrimary, 1.25)
     readonly property color barText: "#ffffff"
     readonly property color barTextDisabled: "#8fa9cc"
     readonly property color background: dark ? "#121417" : "#ffffff"
@@ -30,6 +31,8 @@ QtObject {
     readonly property color segment: dark ? "#2b3138" : "#dde3ec"
     readonly property color pressed: dark ? "#2a3038" : "#e3eaf4"
     readonly property color field: dark ? "#0b1c33" : "#ffffff"
+    readonly property color switchOn: dark ? "#3d7fd6" : accentPrimary
+    readonly property color switchOff: dark ? "#4a525c" : "#b7bfca"
     readonly property color star: dark ? "#f2b84b" : "#d98a00"
     readonly property color danger: dark ? "#ff8a80" : "#b3261e"
     readonly property color shade: "#80000000"
@@ -49,5 +52,7 @@ QtObject {
     readonly property int rowHeight: Math.round(60 * Math.max(1, textScale))
     readonly property int headerHeight: Math.round(28 * Math.max(1, textScale))
     readonly property int radius: 10
+    readonly property int sheetRadius: 14
     readonly property int quick: reducedMotion ? 0 : 180
+    readonly property int slow: Math.round(quick * 1.4)
 }

@@ -16,6 +16,8 @@ T.AbstractButton {
     implicitHeight: Math.max(Theme.touch, implicitContentHeight + topPadding + bottomPadding)
     focusPolicy: Qt.TabFocus
     Accessible.name: text
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
 
     background: Rectangle {
         radius: Theme.radius

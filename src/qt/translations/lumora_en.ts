@@ -11,6 +11,10 @@
         <source></source>
         <translation>Remove</translation>
     </message>
+    <message id="action.open">
+        <source></source>
+        <translation>Open</translation>
+    </message>
     <message id="action.play">
         <source></source>
         <translation>Play</translation>

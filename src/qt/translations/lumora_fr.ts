@@ -11,6 +11,10 @@
         <source></source>
         <translation>Retirer</translation>
     </message>
+    <message id="action.open">
+        <source></source>
+        <translation>Ouvrir</translation>
+    </message>
     <message id="action.play">
         <source></source>
         <translation>Écouter</translation>

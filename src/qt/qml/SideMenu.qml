@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Lumora
+
+// The menu that slides in from the left over part of the window.
+FocusScope {
+    id: root
+
+    required property Modal modal
+    required property EdgePull pull
+    readonly property TableScreen screen: modal.screens.length > 0 ? modal.screens[0] : null
+
+    // Let go of halfway, it goes where it was going.
+    function settle(velocity) {
+        if (velocity > 100 || velocity > -100 && presence.value > 0.5)
+            presence.comeIn();
+        else
+            modal.close();
+    }
+
+    ModalPresence {
+        id: presence
+        modal: root.modal
+        held: root.pull.active || drag.active
+    }
+    Binding {
+        target: presence
+        property: "value"
+        value: Math.min(1, root.pull.distance / panel.width)
+        when: root.pull.active
+        restoreMode: Binding.RestoreNone
+    }
+    Connections {
+        target: root.pull
+        function onActiveChanged() {
+            if (!root.pull.active)
+                root.settle(root.pull.velocity);
+        }
+    }
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.shade
+        opacity: presence.value
+
+        MouseArea {
+            objectName: "besideMenu"
+            anchors.fill: parent
+            onClicked: root.modal.close()
+            onWheel: wheel => wheel.accepted = true
+        }
+    }
+    Rectangle {
+        id: panel
+        objectName: "sideMenu"
+        x: (presence.value - 1) * width
+        width: Math.min(Math.round(root.width * 0.82), 300)
+        height: root.height
+        color: Theme.menu
+        Accessible.role: Accessible.PopupMenu
+        Accessible.name: title.text
+
+        MouseArea {
+            anchors.fill: parent
+            onWheel: wheel => wheel.accepted = true
+        }
+        Text {
+            id: title
+            width: parent.width
+            padding: Theme.margin
+            topPadding: 2 * Theme.margin
+            text: qsTrId("app.title")
+            color: Theme.barText
+            font.pixelSize: Theme.headline
+            font.weight: Font.DemiBold
+            wrapMode: Text.WordWrap
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+        Loader {
+            anchors.top: title.bottom
+            anchors.bottom: parent.bottom
+            width: parent.width
+            focus: true
+            active: root.screen !== null
+            onLoaded: item.focus = true
+
+            sourceComponent: TableContent {
+                id: rows
+                table: root.screen.table
+                stickyHeaders: false
+                delegate: MenuRow {
+                    width: ListView.view.width
+                    table: rows.table
+                }
+                Component.onCompleted: {
+                    root.screen.attach(rows);
+                    root.screen.prepare();
+                }
+            }
+        }
+        DragHandler {
+            id: drag
+            target: null
+            yAxis.enabled: false
+            grabPermissions: PointerHandler.CanTakeOverFromAnything
+            onActiveTranslationChanged: if (active)
+                presence.value = Math.max(0, Math.min(1, 1 + activeTranslation.x / panel.width))
+            onActiveChanged: if (!active)
+                root.settle(centroid.velocity.x)
+        }
+    }
+}
