@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QPainter>
+#include <QPainterPath>
 #include <QSvgRenderer>
 
 namespace lumora::qt {
@@ -34,8 +35,15 @@ QImage IconProvider::requestImage(const QString& id, QSize* size, const QSize& r
         qWarning("no icon is called %s", qUtf8Printable(name));
         return image;
     }
+    const double radius = id.section(u'/', 2, 2).toDouble();
     QSvgRenderer renderer{file.readAll().replace("currentColor", "#" + color)};
     QPainter painter{&image};
+    if (radius > 0) {
+        QPainterPath shape;
+        shape.addRoundedRect(image.rect(), radius, radius);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setClipPath(shape);
+    }
     renderer.render(&painter);
     return image;
 }

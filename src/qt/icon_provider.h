@@ -7,9 +7,9 @@
 
 namespace lumora::qt {
 
-/// The program's own drawings in any colour and size: "image://icon/NAME/COLOUR",
-/// COLOUR being six hexadecimal digits that stand for the drawing's
-/// "currentColor".
+/// The program's own drawings in any colour and size:
+/// "image://icon/NAME/COLOUR/RADIUS", COLOUR being six hexadecimal digits that
+/// stand for the drawing's "currentColor", RADIUS pixels that its corners lose.
 class IconProvider final : public QQuickImageProvider {
 public:
     IconProvider();

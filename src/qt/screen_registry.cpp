@@ -3,7 +3,9 @@
 
 #include "qt/screen_registry.h"
 
+#include "navigation/more_apps_table_view_controller.h"
 #include "qt/home_screen.h"
+#include "qt/options_screen.h"
 #include "qt/table_screen.h"
 #include "qt/verb_detail_screen.h"
 
@@ -40,6 +42,14 @@ ScreenRegistry::makeScreen(const std::shared_ptr<platform::ViewController>& cont
     }
     if (auto verb = std::dynamic_pointer_cast<detail::VerbDetailTableViewController>(controller)) {
         return std::make_unique<VerbDetailScreen>(std::move(verb));
+    }
+    if (auto options =
+            std::dynamic_pointer_cast<navigation::OptionsTableViewController>(controller)) {
+        return std::make_unique<OptionsScreen>(std::move(options));
+    }
+    if (const auto apps =
+            std::dynamic_pointer_cast<navigation::MoreAppsTableViewController>(controller)) {
+        return std::make_unique<TableScreen>(apps, QStringLiteral("MoreAppsPage"));
     }
     if (auto table = std::dynamic_pointer_cast<platform::TableViewController>(controller)) {
         return std::make_unique<TableScreen>(table);

@@ -128,6 +128,8 @@ void SplitScreen::synchronizeModals(Controllers& all, Controllers& visible)
 {
     for (const auto& modal : modals_.modals()) {
         const auto controllers = screensOf(modal->controller());
+        // Its page shows what loading fills in.
+        controllers.back()->loadViewIfNeeded();
         modal->setScreens(wrappersOf(controllers));
         all.insert(all.end(), controllers.begin(), controllers.end());
         if (modals_.isFullScreen() && !modal->isSideMenu()) {

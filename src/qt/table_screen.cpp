@@ -5,9 +5,9 @@
 
 namespace lumora::qt {
 
-TableScreen::TableScreen(const std::shared_ptr<platform::TableViewController>& controller)
-    : Screen{controller, QStringLiteral("TablePage")},
-      table_{dynamic_cast<QtTableView&>(controller->tableView())}
+TableScreen::TableScreen(const std::shared_ptr<platform::TableViewController>& controller,
+                         const QString& pageName)
+    : Screen{controller, pageName}, table_{dynamic_cast<QtTableView&>(controller->tableView())}
 {}
 
 } // namespace lumora::qt

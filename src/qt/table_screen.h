@@ -17,7 +17,8 @@ class TableScreen final : public Screen {
     Q_PROPERTY(lumora::qt::QtTableView* table READ table CONSTANT)
 
 public:
-    explicit TableScreen(const std::shared_ptr<platform::TableViewController>& controller);
+    explicit TableScreen(const std::shared_ptr<platform::TableViewController>& controller,
+                         const QString& pageName = QStringLiteral("TablePage"));
 
     QtTableView* table() const { return &table_; }
     /// The page is about to draw the table.

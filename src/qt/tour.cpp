@@ -6,9 +6,11 @@
 #include "qt/application.h"
 #include "qt/text_conversion.h"
 
+#include <QDateTime>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QImage>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -28,7 +30,7 @@ namespace lumora::qt {
 namespace {
 
 /// Long enough for every animation of ours.
-constexpr int kSettleMilliseconds = 450;
+constexpr int kSettleMilliseconds = 600;
 constexpr QSize kPhone{390, 844};
 constexpr QSize kTablet{1024, 768};
 /// Below the bar and the search field, above the tabs.
@@ -66,6 +68,8 @@ public:
             settle();
         }
         tabs();
+        rowMenu();
+        sideMenu();
     }
 
 private:
@@ -120,15 +124,18 @@ private:
         return found;
     }
 
-    void mouse(QEvent::Type type, const QPointF& point) const
+    void mouse(QEvent::Type type, const QPointF& point,
+               Qt::MouseButton button = Qt::LeftButton) const
     {
         const bool up = type == QEvent::MouseButtonRelease;
         QMouseEvent event{type,
                           point,
                           application_.window()->mapToGlobal(point),
-                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                          up ? Qt::NoButton : Qt::LeftButton,
+                          type == QEvent::MouseMove ? Qt::NoButton : button,
+                          up ? Qt::NoButton : button,
                           Qt::NoModifier};
+        // Without the time a press looks like a fast move.
+        event.setTimestamp(static_cast<quint64>(QDateTime::currentMSecsSinceEpoch()));
         QCoreApplication::sendEvent(application_.window(), &event);
         QCoreApplication::processEvents();
     }
@@ -246,6 +253,51 @@ private:
             tap(("tab" + std::to_string(tab)).c_str());
             picture(std::string{"tab-"} + kNames[tab]);
         }
+    }
+
+    void rowMenu()
+    {
+        tap("tab0");
+        if (const auto all = rows(); !all.empty()) {
+            const auto middle = all[0]->mapToScene({all[0]->width() / 2, all[0]->height() / 2});
+            mouse(QEvent::MouseButtonPress, middle, Qt::RightButton);
+            mouse(QEvent::MouseButtonRelease, middle, Qt::RightButton);
+            settle();
+            picture("row-menu");
+            press(Qt::Key_Escape);
+        }
+    }
+
+    void sideMenu()
+    {
+        tap("bar.menu");
+        picture("menu");
+        tap("IconMoreApps");
+        picture("more-apps");
+        tap("bar.done");
+        tap("bar.menu");
+        tap("IconSettings");
+        picture("options");
+        // To the row of the translation language, and to the last one.
+        press(Qt::Key_End);
+        picture("options-end");
+        press(Qt::Key_Home);
+        for (int row = 0; row < 5; ++row) {
+            press(Qt::Key_Down);
+        }
+        press(Qt::Key_Return);
+        picture("options-chooser");
+        press(Qt::Key_Escape);
+        tap("bar.done");
+    }
+
+    void press(Qt::Key key)
+    {
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event{type, key, Qt::NoModifier};
+            QCoreApplication::sendEvent(application_.window(), &event);
+        }
+        settle();
     }
 
     Application& application_;

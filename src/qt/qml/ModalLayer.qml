@@ -16,42 +16,10 @@ FocusScope {
     Repeater {
         model: root.stack
 
-        FocusScope {
-            id: layer
-
-            required property Modal modal
-            required property int index
-            readonly property bool topmost: index === root.stack.count - 1
-
+        ModalPlace {
             anchors.fill: parent
-            enabled: topmost && !modal.leaving
-            focus: topmost
-            Keys.onEscapePressed: modal.close()
-            Keys.onBackPressed: modal.close()
-            Component.onCompleted: modal.attach()
-
-            Loader {
-                anchors.fill: parent
-                focus: true
-                sourceComponent: layer.modal.sideMenu ? menu : sheet
-                onLoaded: item.focus = true
-            }
-            Component {
-                id: menu
-
-                SideMenu {
-                    modal: layer.modal
-                    pull: root.pull
-                }
-            }
-            Component {
-                id: sheet
-
-                ModalSheet {
-                    modal: layer.modal
-                    fullScreen: root.stack.fullScreen
-                }
-            }
+            stack: root.stack
+            pull: root.pull
         }
     }
 }

@@ -51,5 +51,14 @@ FocusScope {
             cornerRadius: sheet.radius
             onBackRequested: root.modal.close()
         }
+        Rectangle {
+            // Sets the sheet off where the shade around it is as dark.
+            anchors.fill: parent
+            visible: Theme.dark && !root.fullScreen
+            radius: sheet.radius
+            color: "transparent"
+            border.width: 1
+            border.color: Theme.separator
+        }
     }
 }

@@ -27,8 +27,15 @@ T.Control {
     function moveTo(row) {
         if (row < 0)
             return;
+        list.moved = true;
         list.currentIndex = row;
-        list.positionViewAtIndex(row, ListView.Contain);
+        // With the outermost cells comes what is above or below them.
+        if (table.model.cellAway(row, -1) < 0)
+            list.positionViewAtBeginning();
+        else if (table.model.cellAway(row, 1) < 0)
+            list.positionViewAtEnd();
+        else
+            list.positionViewAtIndex(row, ListView.Contain);
         const hidden = stickyHeaders && list.currentItem ? list.contentY + Theme.headerHeight - list.currentItem.y : 0;
         if (hidden > 0)
             list.contentY = Math.max(list.originY, list.contentY - hidden);
@@ -88,6 +95,7 @@ T.Control {
         id: list
 
         property real keptPosition: 0
+        property bool moved: false
 
         anchors.fill: parent
         model: root.table.model
@@ -100,7 +108,10 @@ T.Control {
         boundsBehavior: Flickable.StopAtBounds
         maximumFlickVelocity: 6000
         Component.onCompleted: root.table.list = list
-        onMovementStarted: root.openRow?.swipe.close()
+        onMovementStarted: {
+            moved = true;
+            root.openRow?.swipe.close();
+        }
 
         ScrollBar.vertical: ScrollBar {
             visible: !index.visible

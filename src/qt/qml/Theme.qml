@@ -29,6 +29,8 @@ QtObject {
     readonly property color textSecondary: dark ? "#aab2bd" : "#59626e"
     readonly property color separator: dark ? "#31373e" : "#d9dee6"
     readonly property color segment: dark ? "#2b3138" : "#dde3ec"
+    readonly property color segmentOn: dark ? "#c3cad3" : "#47515d"
+    readonly property color segmentInk: dark ? "#16191d" : "#ffffff"
     readonly property color pressed: dark ? "#2a3038" : "#e3eaf4"
     readonly property color field: dark ? "#0b1c33" : "#ffffff"
     readonly property color switchOn: dark ? "#3d7fd6" : accentPrimary

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtQuick.Templates as T
+import Lumora
+
+// A switch that shows what it is told and asks for changes.
+T.Switch {
+    id: root
+
+    required property string label
+    property bool on: false
+
+    signal changed(bool on)
+
+    function toggleByUser() {
+        changed(!on);
+    }
+
+    objectName: "switch"
+    implicitWidth: 52
+    implicitHeight: 32
+    padding: 0
+    focusPolicy: Qt.NoFocus
+    checked: on
+    Accessible.name: label
+    onToggled: {
+        changed(checked);
+        checked = Qt.binding(() => on);
+    }
+
+    indicator: Rectangle {
+        width: root.width
+        height: root.height
+        radius: height / 2
+        color: root.checked ? Theme.switchOn : Theme.switchOff
+
+        Rectangle {
+            x: 3 + root.visualPosition * (parent.width - width - 6)
+            y: 3
+            width: 26
+            height: 26
+            radius: 13
+            color: "#ffffff"
+
+            Behavior on x {
+                enabled: !root.down
+                NumberAnimation {
+                    duration: Theme.quick
+                }
+            }
+        }
+        Behavior on color {
+            ColorAnimation {
+                duration: Theme.quick
+            }
+        }
+    }
+}
