@@ -19,6 +19,10 @@
         <source></source>
         <translation>Löschen</translation>
     </message>
+    <message id="app.title">
+        <source></source>
+        <translation>Lumora</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Liste ein- oder ausblenden</translation>
@@ -27,9 +31,33 @@
         <source></source>
         <translation>Favorit</translation>
     </message>
+    <message id="button.menu">
+        <source></source>
+        <translation>Menü</translation>
+    </message>
+    <message id="common.done">
+        <source></source>
+        <translation>Fertig</translation>
+    </message>
     <message id="common.ok">
         <source></source>
         <translation>OK</translation>
+    </message>
+    <message id="contact">
+        <source></source>
+        <translation>Kontakt</translation>
+    </message>
+    <message id="export.cancel">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="export.email.error">
+        <source></source>
+        <translation>E-Mail konnte nicht gesendet werden</translation>
+    </message>
+    <message id="export.email.message">
+        <source></source>
+        <translation>Prüfen Sie, ob auf diesem Gerät ein E-Mail-Programm eingerichtet ist, und versuchen Sie es erneut.</translation>
     </message>
     <message id="favourites.empty">
         <source></source>
@@ -47,9 +75,25 @@
         <source></source>
         <translation>Der Link nennt ein Verb, das Lumora nicht hat.</translation>
     </message>
+    <message id="moreapps">
+        <source></source>
+        <translation>Weitere Apps</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Zurück</translation>
+    </message>
+    <message id="options.button">
+        <source></source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="privacy">
+        <source></source>
+        <translation>Datenschutz</translation>
+    </message>
+    <message id="privacy.url">
+        <source></source>
+        <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
     <message id="search.clear">
         <source></source>
@@ -66,6 +110,154 @@
     <message id="select">
         <source></source>
         <translation>Wählen Sie ein Verb, um seine Konjugation zu sehen.</translation>
+    </message>
+    <message id="settings">
+        <source></source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="settings.analytics">
+        <source></source>
+        <translation>Datenerfassung</translation>
+    </message>
+    <message id="settings.analytics.info">
+        <source></source>
+        <translation>Zählt, welche Teile des Programms verwendet werden. Die Zahlen bleiben auf diesem Gerät und werden an niemanden gesendet.</translation>
+    </message>
+    <message id="settings.audio.speed">
+        <source></source>
+        <translation>Sprechtempo</translation>
+    </message>
+    <message id="settings.conjugations">
+        <source></source>
+        <translation>Konjugationen</translation>
+    </message>
+    <message id="settings.conjugations.info">
+        <source></source>
+        <translation>Die Suche in konjugierten Formen findet „être“ auch über „suis“ oder „étaient“.</translation>
+    </message>
+    <message id="settings.copyright">
+        <source></source>
+        <translation>© Brindle</translation>
+    </message>
+    <message id="settings.descriptions">
+        <source></source>
+        <translation>Namen der Zeiten</translation>
+    </message>
+    <message id="settings.descriptions.original">
+        <source></source>
+        <translation>Französisch</translation>
+    </message>
+    <message id="settings.descriptions.translated">
+        <source></source>
+        <translation>Übersetzt</translation>
+    </message>
+    <message id="settings.history">
+        <source></source>
+        <translation>Verlauf</translation>
+    </message>
+    <message id="settings.history_cancel">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="settings.history_clear">
+        <source></source>
+        <translation>Verlauf löschen</translation>
+    </message>
+    <message id="settings.history_clear_yes">
+        <source></source>
+        <translation>Verlauf löschen</translation>
+    </message>
+    <message id="settings.history_info">
+        <source></source>
+        <translation>Der Verlauf enthält die letzten %d Verben, die Sie geöffnet haben.</translation>
+    </message>
+    <message id="settings.history_items_clear">
+        <source></source>
+        <translation>Alle Verben aus dem Verlauf entfernen?</translation>
+    </message>
+    <message id="settings.includeconjugations">
+        <source></source>
+        <translation>Konjugierte Formen durchsuchen</translation>
+    </message>
+    <message id="settings.includeenglish">
+        <source></source>
+        <translation>Übersetzungen durchsuchen (%@)</translation>
+    </message>
+    <message id="settings.search">
+        <source></source>
+        <translation>Suche</translation>
+    </message>
+    <message id="settings.searchtype.start">
+        <source></source>
+        <translation>Wortanfang</translation>
+    </message>
+    <message id="settings.searchtype.wildcard">
+        <source></source>
+        <translation>Überall</translation>
+    </message>
+    <message id="settings.sortby">
+        <source></source>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message id="settings.sortby.original">
+        <source></source>
+        <translation>Französisch</translation>
+    </message>
+    <message id="settings.sortby.translated">
+        <source></source>
+        <translation>Übersetzung</translation>
+    </message>
+    <message id="settings.translations">
+        <source></source>
+        <translation>Übersetzungen</translation>
+    </message>
+    <message id="settings.translations.automatic">
+        <source></source>
+        <translation>Automatisch</translation>
+    </message>
+    <message id="settings.translations.dutch">
+        <source></source>
+        <translation>Niederländisch</translation>
+    </message>
+    <message id="settings.translations.english">
+        <source></source>
+        <translation>Englisch</translation>
+    </message>
+    <message id="settings.translations.french">
+        <source></source>
+        <translation>Französisch</translation>
+    </message>
+    <message id="settings.translations.german">
+        <source></source>
+        <translation>Deutsch</translation>
+    </message>
+    <message id="settings.translations.italian">
+        <source></source>
+        <translation>Italienisch</translation>
+    </message>
+    <message id="settings.translations.portuguese">
+        <source></source>
+        <translation>Portugiesisch</translation>
+    </message>
+    <message id="settings.translations.spanish">
+        <source></source>
+        <translation>Spanisch</translation>
+    </message>
+    <message id="settings.translations.turkish">
+        <source></source>
+        <translation>Türkisch</translation>
+    </message>
+    <message id="support.email">
+        <source></source>
+        <translation>support@brindle.example</translation>
+    </message>
+    <message id="support.emailsuccess.subject">
+        <source></source>
+        <translation>Vielen Dank für Ihre Nachricht. Wir antworten so bald wie möglich.</translation>
+    </message>
+    <message id="support.emailsuccess.title">
+        <source></source>
+        <translation>Nachricht gesendet</translation>
     </message>
     <message id="tabs.favourites">
         <source></source>

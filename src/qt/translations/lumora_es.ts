@@ -19,6 +19,10 @@
         <source></source>
         <translation>Eliminar</translation>
     </message>
+    <message id="app.title">
+        <source></source>
+        <translation>Lumora</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Mostrar u ocultar la lista</translation>
@@ -27,9 +31,33 @@
         <source></source>
         <translation>Favorito</translation>
     </message>
+    <message id="button.menu">
+        <source></source>
+        <translation>Menú</translation>
+    </message>
+    <message id="common.done">
+        <source></source>
+        <translation>Listo</translation>
+    </message>
     <message id="common.ok">
         <source></source>
         <translation>Aceptar</translation>
+    </message>
+    <message id="contact">
+        <source></source>
+        <translation>Contacto</translation>
+    </message>
+    <message id="export.cancel">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="export.email.error">
+        <source></source>
+        <translation>No se pudo enviar el correo</translation>
+    </message>
+    <message id="export.email.message">
+        <source></source>
+        <translation>Comprueba que haya un programa de correo configurado en este dispositivo e inténtalo de nuevo.</translation>
     </message>
     <message id="favourites.empty">
         <source></source>
@@ -47,9 +75,25 @@
         <source></source>
         <translation>El enlace nombra un verbo que Lumora no tiene.</translation>
     </message>
+    <message id="moreapps">
+        <source></source>
+        <translation>Más aplicaciones</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Atrás</translation>
+    </message>
+    <message id="options.button">
+        <source></source>
+        <translation>Ajustes</translation>
+    </message>
+    <message id="privacy">
+        <source></source>
+        <translation>Privacidad</translation>
+    </message>
+    <message id="privacy.url">
+        <source></source>
+        <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
     <message id="search.clear">
         <source></source>
@@ -66,6 +110,154 @@
     <message id="select">
         <source></source>
         <translation>Elige un verbo para ver su conjugación.</translation>
+    </message>
+    <message id="settings">
+        <source></source>
+        <translation>Ajustes</translation>
+    </message>
+    <message id="settings.analytics">
+        <source></source>
+        <translation>Recopilación de datos</translation>
+    </message>
+    <message id="settings.analytics.info">
+        <source></source>
+        <translation>Cuenta qué partes del programa se usan. Los datos permanecen en este dispositivo y no se envían a nadie.</translation>
+    </message>
+    <message id="settings.audio.speed">
+        <source></source>
+        <translation>Velocidad de la voz</translation>
+    </message>
+    <message id="settings.conjugations">
+        <source></source>
+        <translation>Conjugaciones</translation>
+    </message>
+    <message id="settings.conjugations.info">
+        <source></source>
+        <translation>La búsqueda en las formas conjugadas encuentra «être» también por «suis» o «étaient».</translation>
+    </message>
+    <message id="settings.copyright">
+        <source></source>
+        <translation>© Brindle</translation>
+    </message>
+    <message id="settings.descriptions">
+        <source></source>
+        <translation>Nombres de los tiempos</translation>
+    </message>
+    <message id="settings.descriptions.original">
+        <source></source>
+        <translation>En francés</translation>
+    </message>
+    <message id="settings.descriptions.translated">
+        <source></source>
+        <translation>Traducidos</translation>
+    </message>
+    <message id="settings.history">
+        <source></source>
+        <translation>Historial</translation>
+    </message>
+    <message id="settings.history_cancel">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="settings.history_clear">
+        <source></source>
+        <translation>Borrar el historial</translation>
+    </message>
+    <message id="settings.history_clear_yes">
+        <source></source>
+        <translation>Borrar el historial</translation>
+    </message>
+    <message id="settings.history_info">
+        <source></source>
+        <translation>El historial contiene los últimos %d verbos que has abierto.</translation>
+    </message>
+    <message id="settings.history_items_clear">
+        <source></source>
+        <translation>¿Eliminar todos los verbos del historial?</translation>
+    </message>
+    <message id="settings.includeconjugations">
+        <source></source>
+        <translation>Buscar en formas conjugadas</translation>
+    </message>
+    <message id="settings.includeenglish">
+        <source></source>
+        <translation>Buscar en traducciones (%@)</translation>
+    </message>
+    <message id="settings.search">
+        <source></source>
+        <translation>Búsqueda</translation>
+    </message>
+    <message id="settings.searchtype.start">
+        <source></source>
+        <translation>Inicio</translation>
+    </message>
+    <message id="settings.searchtype.wildcard">
+        <source></source>
+        <translation>Cualquier parte</translation>
+    </message>
+    <message id="settings.sortby">
+        <source></source>
+        <translation>Ordenar por</translation>
+    </message>
+    <message id="settings.sortby.original">
+        <source></source>
+        <translation>Francés</translation>
+    </message>
+    <message id="settings.sortby.translated">
+        <source></source>
+        <translation>Traducción</translation>
+    </message>
+    <message id="settings.translations">
+        <source></source>
+        <translation>Traducciones</translation>
+    </message>
+    <message id="settings.translations.automatic">
+        <source></source>
+        <translation>Automático</translation>
+    </message>
+    <message id="settings.translations.dutch">
+        <source></source>
+        <translation>Neerlandés</translation>
+    </message>
+    <message id="settings.translations.english">
+        <source></source>
+        <translation>Inglés</translation>
+    </message>
+    <message id="settings.translations.french">
+        <source></source>
+        <translation>Francés</translation>
+    </message>
+    <message id="settings.translations.german">
+        <source></source>
+        <translation>Alemán</translation>
+    </message>
+    <message id="settings.translations.italian">
+        <source></source>
+        <translation>Italiano</translation>
+    </message>
+    <message id="settings.translations.portuguese">
+        <source></source>
+        <translation>Portugués</translation>
+    </message>
+    <message id="settings.translations.spanish">
+        <source></source>
+        <translation>Español</translation>
+    </message>
+    <message id="settings.translations.turkish">
+        <source></source>
+        <translation>Turco</translation>
+    </message>
+    <message id="support.email">
+        <source></source>
+        <translation>support@brindle.example</translation>
+    </message>
+    <message id="support.emailsuccess.subject">
+        <source></source>
+        <translation>Gracias por tu mensaje. Te responderemos lo antes posible.</translation>
+    </message>
+    <message id="support.emailsuccess.title">
+        <source></source>
+        <translation>Mensaje enviado</translation>
     </message>
     <message id="tabs.favourites">
         <source></source>

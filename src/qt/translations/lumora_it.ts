@@ -19,6 +19,10 @@
         <source></source>
         <translation>Elimina</translation>
     </message>
+    <message id="app.title">
+        <source></source>
+        <translation>Lumora</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Mostra o nascondi l’elenco</translation>
@@ -27,9 +31,33 @@
         <source></source>
         <translation>Preferito</translation>
     </message>
+    <message id="button.menu">
+        <source></source>
+        <translation>Menu</translation>
+    </message>
+    <message id="common.done">
+        <source></source>
+        <translation>Fine</translation>
+    </message>
     <message id="common.ok">
         <source></source>
         <translation>OK</translation>
+    </message>
+    <message id="contact">
+        <source></source>
+        <translation>Contattaci</translation>
+    </message>
+    <message id="export.cancel">
+        <source></source>
+        <translation>Annulla</translation>
+    </message>
+    <message id="export.email.error">
+        <source></source>
+        <translation>Impossibile inviare l’e-mail</translation>
+    </message>
+    <message id="export.email.message">
+        <source></source>
+        <translation>Controlla che su questo dispositivo sia configurato un programma di posta, poi riprova.</translation>
     </message>
     <message id="favourites.empty">
         <source></source>
@@ -47,9 +75,25 @@
         <source></source>
         <translation>Il collegamento indica un verbo che Lumora non ha.</translation>
     </message>
+    <message id="moreapps">
+        <source></source>
+        <translation>Altre app</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Indietro</translation>
+    </message>
+    <message id="options.button">
+        <source></source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message id="privacy">
+        <source></source>
+        <translation>Privacy</translation>
+    </message>
+    <message id="privacy.url">
+        <source></source>
+        <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
     <message id="search.clear">
         <source></source>
@@ -66,6 +110,154 @@
     <message id="select">
         <source></source>
         <translation>Scegli un verbo per vederne la coniugazione.</translation>
+    </message>
+    <message id="settings">
+        <source></source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message id="settings.analytics">
+        <source></source>
+        <translation>Raccolta dati</translation>
+    </message>
+    <message id="settings.analytics.info">
+        <source></source>
+        <translation>Conta quali parti del programma vengono usate. I dati restano su questo dispositivo e non vengono inviati a nessuno.</translation>
+    </message>
+    <message id="settings.audio.speed">
+        <source></source>
+        <translation>Velocità della voce</translation>
+    </message>
+    <message id="settings.conjugations">
+        <source></source>
+        <translation>Coniugazioni</translation>
+    </message>
+    <message id="settings.conjugations.info">
+        <source></source>
+        <translation>La ricerca nelle forme coniugate trova «être» anche con «suis» o «étaient».</translation>
+    </message>
+    <message id="settings.copyright">
+        <source></source>
+        <translation>© Brindle</translation>
+    </message>
+    <message id="settings.descriptions">
+        <source></source>
+        <translation>Nomi dei tempi</translation>
+    </message>
+    <message id="settings.descriptions.original">
+        <source></source>
+        <translation>In francese</translation>
+    </message>
+    <message id="settings.descriptions.translated">
+        <source></source>
+        <translation>Tradotti</translation>
+    </message>
+    <message id="settings.history">
+        <source></source>
+        <translation>Cronologia</translation>
+    </message>
+    <message id="settings.history_cancel">
+        <source></source>
+        <translation>Annulla</translation>
+    </message>
+    <message id="settings.history_clear">
+        <source></source>
+        <translation>Cancella la cronologia</translation>
+    </message>
+    <message id="settings.history_clear_yes">
+        <source></source>
+        <translation>Cancella la cronologia</translation>
+    </message>
+    <message id="settings.history_info">
+        <source></source>
+        <translation>La cronologia contiene gli ultimi %d verbi che hai aperto.</translation>
+    </message>
+    <message id="settings.history_items_clear">
+        <source></source>
+        <translation>Rimuovere tutti i verbi dalla cronologia?</translation>
+    </message>
+    <message id="settings.includeconjugations">
+        <source></source>
+        <translation>Cerca nelle forme coniugate</translation>
+    </message>
+    <message id="settings.includeenglish">
+        <source></source>
+        <translation>Cerca nelle traduzioni (%@)</translation>
+    </message>
+    <message id="settings.search">
+        <source></source>
+        <translation>Ricerca</translation>
+    </message>
+    <message id="settings.searchtype.start">
+        <source></source>
+        <translation>Inizio parola</translation>
+    </message>
+    <message id="settings.searchtype.wildcard">
+        <source></source>
+        <translation>Ovunque</translation>
+    </message>
+    <message id="settings.sortby">
+        <source></source>
+        <translation>Ordina per</translation>
+    </message>
+    <message id="settings.sortby.original">
+        <source></source>
+        <translation>Francese</translation>
+    </message>
+    <message id="settings.sortby.translated">
+        <source></source>
+        <translation>Traduzione</translation>
+    </message>
+    <message id="settings.translations">
+        <source></source>
+        <translation>Traduzioni</translation>
+    </message>
+    <message id="settings.translations.automatic">
+        <source></source>
+        <translation>Automatico</translation>
+    </message>
+    <message id="settings.translations.dutch">
+        <source></source>
+        <translation>Olandese</translation>
+    </message>
+    <message id="settings.translations.english">
+        <source></source>
+        <translation>Inglese</translation>
+    </message>
+    <message id="settings.translations.french">
+        <source></source>
+        <translation>Francese</translation>
+    </message>
+    <message id="settings.translations.german">
+        <source></source>
+        <translation>Tedesco</translation>
+    </message>
+    <message id="settings.translations.italian">
+        <source></source>
+        <translation>Italiano</translation>
+    </message>
+    <message id="settings.translations.portuguese">
+        <source></source>
+        <translation>Portoghese</translation>
+    </message>
+    <message id="settings.translations.spanish">
+        <source></source>
+        <translation>Spagnolo</translation>
+    </message>
+    <message id="settings.translations.turkish">
+        <source></source>
+        <translation>Turco</translation>
+    </message>
+    <message id="support.email">
+        <source></source>
+        <translation>support@brindle.example</translation>
+    </message>
+    <message id="support.emailsuccess.subject">
+        <source></source>
+        <translation>Grazie per il tuo messaggio. Ti risponderemo appena possibile.</translation>
+    </message>
+    <message id="support.emailsuccess.title">
+        <source></source>
+        <translation>Messaggio inviato</translation>
     </message>
     <message id="tabs.favourites">
         <source></source>

@@ -19,6 +19,10 @@
         <source></source>
         <translation>Verwijderen</translation>
     </message>
+    <message id="app.title">
+        <source></source>
+        <translation>Lumora</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Lijst tonen of verbergen</translation>
@@ -27,9 +31,33 @@
         <source></source>
         <translation>Favoriet</translation>
     </message>
+    <message id="button.menu">
+        <source></source>
+        <translation>Menu</translation>
+    </message>
+    <message id="common.done">
+        <source></source>
+        <translation>Gereed</translation>
+    </message>
     <message id="common.ok">
         <source></source>
         <translation>OK</translation>
+    </message>
+    <message id="contact">
+        <source></source>
+        <translation>Contact</translation>
+    </message>
+    <message id="export.cancel">
+        <source></source>
+        <translation>Annuleren</translation>
+    </message>
+    <message id="export.email.error">
+        <source></source>
+        <translation>E-mail kon niet worden verzonden</translation>
+    </message>
+    <message id="export.email.message">
+        <source></source>
+        <translation>Controleer of er op dit apparaat een e-mailprogramma is ingesteld en probeer het opnieuw.</translation>
     </message>
     <message id="favourites.empty">
         <source></source>
@@ -47,9 +75,25 @@
         <source></source>
         <translation>De link noemt een werkwoord dat Lumora niet heeft.</translation>
     </message>
+    <message id="moreapps">
+        <source></source>
+        <translation>Meer apps</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Terug</translation>
+    </message>
+    <message id="options.button">
+        <source></source>
+        <translation>Instellingen</translation>
+    </message>
+    <message id="privacy">
+        <source></source>
+        <translation>Privacy</translation>
+    </message>
+    <message id="privacy.url">
+        <source></source>
+        <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
     <message id="search.clear">
         <source></source>
@@ -66,6 +110,154 @@
     <message id="select">
         <source></source>
         <translation>Kies een werkwoord om de vervoeging te zien.</translation>
+    </message>
+    <message id="settings">
+        <source></source>
+        <translation>Instellingen</translation>
+    </message>
+    <message id="settings.analytics">
+        <source></source>
+        <translation>Gegevensverzameling</translation>
+    </message>
+    <message id="settings.analytics.info">
+        <source></source>
+        <translation>Telt welke onderdelen van het programma worden gebruikt. De tellingen blijven op dit apparaat en worden met niemand gedeeld.</translation>
+    </message>
+    <message id="settings.audio.speed">
+        <source></source>
+        <translation>Spreeksnelheid</translation>
+    </message>
+    <message id="settings.conjugations">
+        <source></source>
+        <translation>Vervoegingen</translation>
+    </message>
+    <message id="settings.conjugations.info">
+        <source></source>
+        <translation>Zoeken in vervoegde vormen vindt ‘être’ ook via ‘suis’ of ‘étaient’.</translation>
+    </message>
+    <message id="settings.copyright">
+        <source></source>
+        <translation>© Brindle</translation>
+    </message>
+    <message id="settings.descriptions">
+        <source></source>
+        <translation>Namen van de tijden</translation>
+    </message>
+    <message id="settings.descriptions.original">
+        <source></source>
+        <translation>Frans</translation>
+    </message>
+    <message id="settings.descriptions.translated">
+        <source></source>
+        <translation>Vertaald</translation>
+    </message>
+    <message id="settings.history">
+        <source></source>
+        <translation>Geschiedenis</translation>
+    </message>
+    <message id="settings.history_cancel">
+        <source></source>
+        <translation>Annuleren</translation>
+    </message>
+    <message id="settings.history_clear">
+        <source></source>
+        <translation>Geschiedenis wissen</translation>
+    </message>
+    <message id="settings.history_clear_yes">
+        <source></source>
+        <translation>Geschiedenis wissen</translation>
+    </message>
+    <message id="settings.history_info">
+        <source></source>
+        <translation>De geschiedenis bevat de laatste %d werkwoorden die je hebt geopend.</translation>
+    </message>
+    <message id="settings.history_items_clear">
+        <source></source>
+        <translation>Alle werkwoorden uit de geschiedenis verwijderen?</translation>
+    </message>
+    <message id="settings.includeconjugations">
+        <source></source>
+        <translation>Zoeken in vervoegde vormen</translation>
+    </message>
+    <message id="settings.includeenglish">
+        <source></source>
+        <translation>Zoeken in vertalingen (%@)</translation>
+    </message>
+    <message id="settings.search">
+        <source></source>
+        <translation>Zoeken</translation>
+    </message>
+    <message id="settings.searchtype.start">
+        <source></source>
+        <translation>Woordbegin</translation>
+    </message>
+    <message id="settings.searchtype.wildcard">
+        <source></source>
+        <translation>Overal</translation>
+    </message>
+    <message id="settings.sortby">
+        <source></source>
+        <translation>Sorteren op</translation>
+    </message>
+    <message id="settings.sortby.original">
+        <source></source>
+        <translation>Frans</translation>
+    </message>
+    <message id="settings.sortby.translated">
+        <source></source>
+        <translation>Vertaling</translation>
+    </message>
+    <message id="settings.translations">
+        <source></source>
+        <translation>Vertalingen</translation>
+    </message>
+    <message id="settings.translations.automatic">
+        <source></source>
+        <translation>Automatisch</translation>
+    </message>
+    <message id="settings.translations.dutch">
+        <source></source>
+        <translation>Nederlands</translation>
+    </message>
+    <message id="settings.translations.english">
+        <source></source>
+        <translation>Engels</translation>
+    </message>
+    <message id="settings.translations.french">
+        <source></source>
+        <translation>Frans</translation>
+    </message>
+    <message id="settings.translations.german">
+        <source></source>
+        <translation>Duits</translation>
+    </message>
+    <message id="settings.translations.italian">
+        <source></source>
+        <translation>Italiaans</translation>
+    </message>
+    <message id="settings.translations.portuguese">
+        <source></source>
+        <translation>Portugees</translation>
+    </message>
+    <message id="settings.translations.spanish">
+        <source></source>
+        <translation>Spaans</translation>
+    </message>
+    <message id="settings.translations.turkish">
+        <source></source>
+        <translation>Turks</translation>
+    </message>
+    <message id="support.email">
+        <source></source>
+        <translation>support@brindle.example</translation>
+    </message>
+    <message id="support.emailsuccess.subject">
+        <source></source>
+        <translation>Bedankt voor je bericht. We antwoorden zo snel mogelijk.</translation>
+    </message>
+    <message id="support.emailsuccess.title">
+        <source></source>
+        <translation>Bericht verzonden</translation>
     </message>
     <message id="tabs.favourites">
         <source></source>

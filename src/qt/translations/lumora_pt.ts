@@ -19,6 +19,10 @@
         <source></source>
         <translation>Eliminar</translation>
     </message>
+    <message id="app.title">
+        <source></source>
+        <translation>Lumora</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Mostrar ou ocultar a lista</translation>
@@ -27,9 +31,33 @@
         <source></source>
         <translation>Favorito</translation>
     </message>
+    <message id="button.menu">
+        <source></source>
+        <translation>Menu</translation>
+    </message>
+    <message id="common.done">
+        <source></source>
+        <translation>Concluído</translation>
+    </message>
     <message id="common.ok">
         <source></source>
         <translation>OK</translation>
+    </message>
+    <message id="contact">
+        <source></source>
+        <translation>Contacte-nos</translation>
+    </message>
+    <message id="export.cancel">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="export.email.error">
+        <source></source>
+        <translation>Não foi possível enviar o e-mail</translation>
+    </message>
+    <message id="export.email.message">
+        <source></source>
+        <translation>Verifique se há um programa de correio configurado neste dispositivo e tente novamente.</translation>
     </message>
     <message id="favourites.empty">
         <source></source>
@@ -47,9 +75,25 @@
         <source></source>
         <translation>A ligação indica um verbo que o Lumora não tem.</translation>
     </message>
+    <message id="moreapps">
+        <source></source>
+        <translation>Mais aplicações</translation>
+    </message>
     <message id="navigation.back">
         <source></source>
         <translation>Voltar</translation>
+    </message>
+    <message id="options.button">
+        <source></source>
+        <translation>Definições</translation>
+    </message>
+    <message id="privacy">
+        <source></source>
+        <translation>Privacidade</translation>
+    </message>
+    <message id="privacy.url">
+        <source></source>
+        <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
     <message id="search.clear">
         <source></source>
@@ -66,6 +110,154 @@
     <message id="select">
         <source></source>
         <translation>Escolha um verbo para ver a sua conjugação.</translation>
+    </message>
+    <message id="settings">
+        <source></source>
+        <translation>Definições</translation>
+    </message>
+    <message id="settings.analytics">
+        <source></source>
+        <translation>Recolha de dados</translation>
+    </message>
+    <message id="settings.analytics.info">
+        <source></source>
+        <translation>Conta que partes do programa são utilizadas. Os dados ficam neste dispositivo e não são enviados a ninguém.</translation>
+    </message>
+    <message id="settings.audio.speed">
+        <source></source>
+        <translation>Velocidade da voz</translation>
+    </message>
+    <message id="settings.conjugations">
+        <source></source>
+        <translation>Conjugações</translation>
+    </message>
+    <message id="settings.conjugations.info">
+        <source></source>
+        <translation>A pesquisa nas formas conjugadas encontra «être» também por «suis» ou «étaient».</translation>
+    </message>
+    <message id="settings.copyright">
+        <source></source>
+        <translation>© Brindle</translation>
+    </message>
+    <message id="settings.descriptions">
+        <source></source>
+        <translation>Nomes dos tempos</translation>
+    </message>
+    <message id="settings.descriptions.original">
+        <source></source>
+        <translation>Em francês</translation>
+    </message>
+    <message id="settings.descriptions.translated">
+        <source></source>
+        <translation>Traduzidos</translation>
+    </message>
+    <message id="settings.history">
+        <source></source>
+        <translation>Histórico</translation>
+    </message>
+    <message id="settings.history_cancel">
+        <source></source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="settings.history_clear">
+        <source></source>
+        <translation>Limpar o histórico</translation>
+    </message>
+    <message id="settings.history_clear_yes">
+        <source></source>
+        <translation>Limpar o histórico</translation>
+    </message>
+    <message id="settings.history_info">
+        <source></source>
+        <translation>O histórico contém os últimos %d verbos que abriu.</translation>
+    </message>
+    <message id="settings.history_items_clear">
+        <source></source>
+        <translation>Remover todos os verbos do histórico?</translation>
+    </message>
+    <message id="settings.includeconjugations">
+        <source></source>
+        <translation>Pesquisar formas conjugadas</translation>
+    </message>
+    <message id="settings.includeenglish">
+        <source></source>
+        <translation>Pesquisar traduções (%@)</translation>
+    </message>
+    <message id="settings.search">
+        <source></source>
+        <translation>Pesquisa</translation>
+    </message>
+    <message id="settings.searchtype.start">
+        <source></source>
+        <translation>Início</translation>
+    </message>
+    <message id="settings.searchtype.wildcard">
+        <source></source>
+        <translation>Qualquer parte</translation>
+    </message>
+    <message id="settings.sortby">
+        <source></source>
+        <translation>Ordenar por</translation>
+    </message>
+    <message id="settings.sortby.original">
+        <source></source>
+        <translation>Francês</translation>
+    </message>
+    <message id="settings.sortby.translated">
+        <source></source>
+        <translation>Tradução</translation>
+    </message>
+    <message id="settings.translations">
+        <source></source>
+        <translation>Traduções</translation>
+    </message>
+    <message id="settings.translations.automatic">
+        <source></source>
+        <translation>Automático</translation>
+    </message>
+    <message id="settings.translations.dutch">
+        <source></source>
+        <translation>Neerlandês</translation>
+    </message>
+    <message id="settings.translations.english">
+        <source></source>
+        <translation>Inglês</translation>
+    </message>
+    <message id="settings.translations.french">
+        <source></source>
+        <translation>Francês</translation>
+    </message>
+    <message id="settings.translations.german">
+        <source></source>
+        <translation>Alemão</translation>
+    </message>
+    <message id="settings.translations.italian">
+        <source></source>
+        <translation>Italiano</translation>
+    </message>
+    <message id="settings.translations.portuguese">
+        <source></source>
+        <translation>Português</translation>
+    </message>
+    <message id="settings.translations.spanish">
+        <source></source>
+        <translation>Espanhol</translation>
+    </message>
+    <message id="settings.translations.turkish">
+        <source></source>
+        <translation>Turco</translation>
+    </message>
+    <message id="support.email">
+        <source></source>
+        <translation>support@brindle.example</translation>
+    </message>
+    <message id="support.emailsuccess.subject">
+        <source></source>
+        <translation>Obrigado pela sua mensagem. Responderemos assim que possível.</translation>
+    </message>
+    <message id="support.emailsuccess.title">
+        <source></source>
+        <translation>Mensagem enviada</translation>
     </message>
     <message id="tabs.favourites">
         <source></source>
