@@ -13,6 +13,7 @@ class Bundle;
 class Clock;
 class CrashReporter;
 class Device;
+class FileChooser;
 class JavaScriptContextFactory;
 class MailService;
 class NotificationCenter;
@@ -47,6 +48,7 @@ struct Services {
     ReviewPrompter& reviewPrompter;
     MailService& mail;
     UrlOpener& urlOpener;
+    FileChooser& fileChooser;
 };
 
 } // namespace lumora::platform

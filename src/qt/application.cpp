@@ -11,6 +11,7 @@
 #include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <chrono>
@@ -59,10 +60,12 @@ Application::Application(ApplicationOptions options)
       mail_{options_.desktop},
       urlOpener_{options_.desktop},
       settingsPortal_{options_.desktop.bus},
-      services_{notifications_,  settings_,  bundle_,       device_,  clock_,
-                crashReporter_,  analytics_, std::cout,     views_,   presenter_,
-                storyboard_,     speech_,    audioSession_, scripts_, shareSheet_,
-                reviewPrompter_, mail_,      urlOpener_},
+      fileChooser_{
+          QUrl::fromLocalFile(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))},
+      services_{notifications_,  settings_,  bundle_,       device_,     clock_,
+                crashReporter_,  analytics_, std::cout,     views_,      presenter_,
+                storyboard_,     speech_,    audioSession_, scripts_,    shareSheet_,
+                reviewPrompter_, mail_,      urlOpener_,    fileChooser_},
       delegate_{services_,
                 {madeFolder(options_.folders.data), options_.folders.data.string()},
                 kAccentPrimary}
@@ -83,6 +86,7 @@ bool Application::show()
     engine_.addImportPath(QStringLiteral("qrc:/"));
     engine_.addImageProvider(QStringLiteral("icon"), new IconProvider);
     engine_.setInitialProperties({{QStringLiteral("presenter"), QVariant::fromValue(&presenter_)},
+                                  {QStringLiteral("files"), QVariant::fromValue(&fileChooser_)},
                                   {QStringLiteral("accent"), toQColor(kAccentPrimary)},
                                   {QStringLiteral("width"), options_.windowSize.width()},
                                   {QStringLiteral("height"), options_.windowSize.height()}});

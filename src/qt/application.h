@@ -19,6 +19,7 @@
 #include "qt/qt_bundle.h"
 #include "qt/qt_clock.h"
 #include "qt/qt_device.h"
+#include "qt/qt_file_chooser.h"
 #include "qt/qt_java_script_context.h"
 #include "qt/qt_presenter.h"
 #include "qt/qt_speech.h"
@@ -106,6 +107,7 @@ private:
     DesktopUrlOpener urlOpener_;
     DesktopReviewPrompter reviewPrompter_{urlOpener_};
     SettingsPortal settingsPortal_;
+    QtFileChooser fileChooser_;
     platform::Services services_;
     app::AppDelegate delegate_;
     std::unique_ptr<SplitScreen> splitScreen_;

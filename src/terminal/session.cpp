@@ -18,7 +18,7 @@ Session::Session(const std::filesystem::path& shareFolder)
                 clock_,         complaints_, analytics_,  complaints_.console(),
                 views_,         presenter_,  storyboard_, speech_,
                 audioSession_,  scripts_,    shareSheet_, reviewPrompter_,
-                mail_,          urlOpener_}
+                mail_,          urlOpener_,  fileChooser_}
 {
     storyboard_.setServices(services_);
     settings::seedDefaultSettings(settings_);

@@ -58,6 +58,7 @@ private:
     SilentReviewPrompter reviewPrompter_;
     SilentMailService mail_;
     SilentUrlOpener urlOpener_;
+    SilentFileChooser fileChooser_;
     platform::Services services_;
     std::unique_ptr<platform::DatabaseQueue> queue_;
 };

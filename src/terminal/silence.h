@@ -5,6 +5,7 @@
 
 #include "platform/analytics.h"
 #include "platform/audio_session.h"
+#include "platform/file_chooser.h"
 #include "platform/mail_composer.h"
 #include "platform/presenter.h"
 #include "platform/review_prompter.h"
@@ -100,6 +101,13 @@ class SilentUrlOpener final : public platform::UrlOpener {
 public:
     bool canOpen(std::string_view /*url*/) const override { return false; }
     bool open(std::string_view /*url*/) override { return false; }
+};
+
+class SilentFileChooser final : public platform::FileChooser {
+public:
+    void choose(const platform::FileQuestion& /*question*/,
+                std::function<void(const std::filesystem::path&)> /*chosen*/) override
+    {}
 };
 
 /// Its messages go nowhere and say nothing.

@@ -70,9 +70,10 @@ World::~World() = default;
 
 platform::Services World::services()
 {
-    return {notifications, settings, bundle,     device,         clock,      crashReporter,
-            analytics,     console,  views,      presenter,      storyboard, speech,
-            audioSession,  scripts,  shareSheet, reviewPrompter, mail,       urlOpener};
+    return {notifications,  settings,  bundle,       device,     clock,
+            crashReporter,  analytics, console,      views,      presenter,
+            storyboard,     speech,    audioSession, scripts,    shareSheet,
+            reviewPrompter, mail,      urlOpener,    fileChooser};
 }
 
 void World::execute(const std::string& sql)

@@ -14,6 +14,7 @@
 #include "support/fake_bundle.h"
 #include "support/fake_clock.h"
 #include "support/fake_device.h"
+#include "support/fake_file_chooser.h"
 #include "support/fake_java_script_context.h"
 #include "support/fake_presenter.h"
 #include "support/fake_speech_synthesizer.h"
@@ -93,6 +94,7 @@ public:
     FakeReviewPrompter reviewPrompter;
     FakeMailService mail;
     FakeUrlOpener urlOpener;
+    FakeFileChooser fileChooser;
     std::unique_ptr<platform::DatabaseQueue> queue;
 
 private:

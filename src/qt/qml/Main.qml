@@ -12,6 +12,7 @@ Window {
     // Null until the launch is through; until then the window shows its colours.
     property SplitScreen split: null
     required property QtPresenter presenter
+    required property QtFileChooser files
     required property color accent
     readonly property ModalStack modals: presenter.modals
     property bool dark: false
@@ -102,5 +103,13 @@ Window {
                 source = "";
         }
         onLoaded: item.forceActiveFocus()
+    }
+    Loader {
+        anchors.fill: parent
+        active: root.files.asking
+        onActiveChanged: if (active)
+            setSource("qrc:/Lumora/FileQuestion.qml", {
+                chooser: root.files
+            })
     }
 }
