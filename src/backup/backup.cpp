@@ -148,7 +148,7 @@ private:
                 ++counts_.unknown;
             } else if (known.insert(*id).second) {
                 done = database_.executeUpdate("INSERT INTO favourite(verbid) VALUES(?)", {*id});
-                ++counts_.favourites;
+                counts_.favourites.push_back(*id);
             }
         }
         return done;

@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <tl/expected.hpp>
 
@@ -36,8 +38,8 @@ struct SavedCounts {
 };
 
 struct RestoredCounts {
-    /// Favourites that were none before.
-    int favourites = 0;
+    /// Ids of the verbs that were no favourites before.
+    std::vector<std::int64_t> favourites;
     /// Verbs with a view that is newer than what was known of them, and in the
     /// history now.
     int history = 0;

@@ -22,8 +22,10 @@
 
 #include <algorithm>
 #include <any>
+#include <cstdint>
 #include <ostream>
 #include <utility>
+#include <vector>
 
 namespace lumora::detail {
 
@@ -252,8 +254,19 @@ void VerbDetailTableViewController::verbFavouriteToggled(const platform::Notific
         dynamic_cast<const VerbDetailTableViewController*>(*sender) != nullptr) {
         return;
     }
+    if (!selectedVerb) {
+        return;
+    }
+    const auto many = notification.userInfo.find("added");
+    if (many != notification.userInfo.end()) {
+        const auto* added = std::any_cast<std::vector<std::int64_t>>(&many->second);
+        if (added != nullptr && std::ranges::find(*added, selectedVerb->id) != added->end()) {
+            selectedVerb->isFavourite = true;
+            updateFavouriteIcon();
+        }
+    }
     const auto found = notification.userInfo.find("verb");
-    if (found == notification.userInfo.end() || !selectedVerb) {
+    if (found == notification.userInfo.end()) {
         return;
     }
     const auto* verb = std::any_cast<data::VerbPtr>(&found->second);

@@ -3,6 +3,7 @@
 
 #include "navigation/options_table_view_controller.h"
 
+#include "backup/backup_menu.h"
 #include "build_settings.h"
 #include "export/support_email_sender.h"
 #include "platform/analytics.h"
@@ -115,6 +116,10 @@ void OptionsTableViewController::viewDidLoad()
                              .image = {},
                              .enabled = true,
                              .action = [this] { close(); }}};
+    item.leftBarButton = {
+        {.identifier = "backup", .title = {}, .image = "more", .enabled = true, .action = [this] {
+             showBackupMenu();
+         }}};
     setNavigationItem(std::move(item));
     header.iconImageView = {"AboutIcon", 10, true, 1, platform::kLightTextColor};
     header.titleLabel = text("app.title");
@@ -155,6 +160,12 @@ void OptionsTableViewController::sendSupportEmail()
     supportEmailSender = std::make_shared<exporting::SupportEmailSender>(services());
     supportEmailSender->sender = this;
     supportEmailSender->start();
+}
+
+void OptionsTableViewController::showBackupMenu()
+{
+    backupMenu = std::make_shared<backup::BackupMenu>(services(), *this, queue);
+    backupMenu->show();
 }
 
 int OptionsTableViewController::numberOfSections()

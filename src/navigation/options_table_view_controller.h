@@ -11,6 +11,10 @@
 #include <string>
 #include <string_view>
 
+namespace lumora::backup {
+class BackupMenu;
+}
+
 namespace lumora::exporting {
 class SupportEmailSender;
 }
@@ -66,11 +70,15 @@ public:
     std::shared_ptr<exporting::SupportEmailSender> supportEmailSender;
     /// The shared queue. Not owned; null when there is no database.
     platform::DatabaseQueue* queue = nullptr;
+    /// Of the last time its button was pressed.
+    std::shared_ptr<backup::BackupMenu> backupMenu;
 
     /// The Done button. Without a delegate it does nothing.
     void close();
     void openWebsite();
     void sendSupportEmail();
+    /// Offers to save favourites and history to a file and to restore them.
+    void showBackupMenu();
 
     void viewWillAppear() override;
     void viewDidAppear() override;

@@ -3,6 +3,9 @@
 
 #include "backup/backup.h"
 
+#include "detail/verb_detail_table_view_controller.h"
+#include "lists/history_table_view_controller.h"
+#include "navigation/options_table_view_controller.h"
 #include "platform/clock.h"
 #include "support/world.h"
 
@@ -71,7 +74,7 @@ TEST_F(Backup, TakesEverythingToAnotherMachineThatNumbersItsVerbsOtherwise)
     for (const int added : {2, 0}) {
         const auto restored = restoreBackup(*world.queue, file(), kNow);
         ASSERT_TRUE(restored) << restored.error().detail;
-        EXPECT_EQ(restored->favourites, added);
+        EXPECT_EQ(restored->favourites.size(), static_cast<std::size_t>(added));
         EXPECT_EQ(restored->history, added) << "a second time changes nothing";
         EXPECT_EQ(restored->unknown, 0);
         EXPECT_EQ(favourites(), (Texts{"aller", "évanouir (s')"}));
@@ -107,7 +110,7 @@ TEST_F(Backup, AddsToWhatIsThere)
         << "a view counts when it is the newest of its verb";
     EXPECT_EQ(world.count("history WHERE timestamp > " + std::to_string(kHistoryNow)), 0)
         << "nothing stays on top because a clock was ahead";
-    EXPECT_EQ(restored->favourites, 4);
+    EXPECT_EQ(restored->favourites.size(), 4U);
     EXPECT_EQ(restored->history, 3);
     EXPECT_EQ(restored->unknown, 4) << "googler and three entries that are none";
 }
@@ -206,6 +209,94 @@ TEST_F(Backup, WritesOnlyFiles)
         EXPECT_EQ(saved.error().problem, Problem::FileNotWritten);
     }
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+}
+
+/// The menu of the options screen, and the person who uses it.
+class BackupFromTheOptions : public Backup {
+protected:
+    BackupFromTheOptions()
+    {
+        world.bundle.texts["backup.save.counts"] = "%d and %d saved";
+        world.bundle.texts["backup.restore.counts"] = "%d and %d new";
+        world.bundle.texts["backup.restore.unknown"] = "%d unknown";
+        world.clock.now = kNow;
+        options->queue = world.queue.get();
+        options->loadViewIfNeeded();
+    }
+
+    void press(const std::string& choice)
+    {
+        options->navigationItem().leftBarButton->action();
+        for (const auto& action : world.presenter.sheets.back().sheet.actions) {
+            if (action.title == choice) {
+                action.handler();
+            }
+        }
+    }
+    const platform::Alert& told() const { return world.presenter.alerts.back().alert; }
+
+    std::shared_ptr<navigation::OptionsTableViewController> options =
+        std::make_shared<navigation::OptionsTableViewController>(world.services());
+};
+
+TEST_F(BackupFromTheOptions, SavesRestoresAndTellsTheOtherScreens)
+{
+    world.execute("INSERT INTO favourite(verbid) VALUES (3)");
+    press("backup.save");
+    ASSERT_TRUE(world.fileChooser.question);
+    EXPECT_EQ(world.fileChooser.question->purpose, platform::FileQuestion::Purpose::Save);
+    world.fileChooser.chosen(file());
+    EXPECT_EQ(told().message, "1 and 0 saved");
+
+    const auto before = support::contentOf(file());
+    world.execute("DELETE FROM favourite");
+    press("backup.save");
+    world.fileChooser.chosen(file());
+    EXPECT_EQ(told().title, "backup.replace");
+    EXPECT_EQ(support::contentOf(file()), before) << "not before the person has agreed";
+
+    lists::HistoryTableViewController history{world.services()};
+    history.queue = world.queue.get();
+    history.loadViewIfNeeded();
+    detail::VerbDetailTableViewController detail{world.services()};
+    detail.queue = world.queue.get();
+    detail.selectedVerb = world.verb(3);
+    detail.loadViewIfNeeded();
+    press("backup.restore");
+    EXPECT_EQ(world.fileChooser.question->purpose, platform::FileQuestion::Purpose::Open);
+    world.fileChooser.chosen(file());
+    EXPECT_EQ(told().message, "1 and 0 new");
+    EXPECT_EQ(world.posted("VerbFavouriteToggled"), 1);
+    EXPECT_TRUE(detail.selectedVerb->isFavourite);
+    EXPECT_EQ(detail.favouriteBarButton.image, "ic_favorite_toolbar");
+
+    support::writeContent(file(), R"({"lumora": 1, "favourites": [7],
+        "history": [{"french": "avoir", "viewed": 1600000000}]})");
+    press("backup.restore");
+    world.fileChooser.chosen(file());
+    EXPECT_EQ(told().message, "0 and 1 new\n1 unknown");
+    ASSERT_EQ(history.verbs.size(), 2U);
+    EXPECT_EQ(history.verbs[1]->french, "avoir");
+}
+
+TEST_F(BackupFromTheOptions, SaysWhatWentWrong)
+{
+    press("backup.restore");
+    support::writeContent(file(), R"({"lumora": 3})");
+    world.fileChooser.chosen(file());
+    EXPECT_EQ(told().title, "backup.restore.failed");
+    EXPECT_EQ(told().message, "backup.problem.newer");
+
+    options->queue = nullptr;
+    press("backup.save");
+    world.fileChooser.chosen(world.folder / "new.json");
+    EXPECT_EQ(told().title, "backup.save.failed");
+    EXPECT_EQ(told().message, "backup.problem.database");
+
+    const auto told = world.presenter.alerts.size();
+    options.reset();
+    world.fileChooser.chosen(file());
+    EXPECT_EQ(world.presenter.alerts.size(), told) << "the answer comes when the screen has gone";
 }
 
 } // namespace

@@ -23,6 +23,80 @@
         <source></source>
         <translation>Lumora</translation>
     </message>
+    <message id="backup.kind">
+        <source></source>
+        <translation>Favoriten und Verlauf</translation>
+    </message>
+    <message id="backup.problem.database">
+        <source></source>
+        <translation>Favoriten und Verlauf sind zurzeit nicht erreichbar. Versuchen Sie es später erneut.</translation>
+    </message>
+    <message id="backup.problem.foreign">
+        <source></source>
+        <translation>Diese Datei stammt nicht von Lumora oder ist beschädigt.</translation>
+    </message>
+    <message id="backup.problem.newer">
+        <source></source>
+        <translation>Diese Datei stammt aus einer neueren Version von Lumora. Aktualisieren Sie Lumora, um sie wiederherzustellen.</translation>
+    </message>
+    <message id="backup.problem.read">
+        <source></source>
+        <translation>Die Datei kann nicht gelesen werden.</translation>
+    </message>
+    <message id="backup.problem.write">
+        <source></source>
+        <translation>Die Datei kann nicht geschrieben werden. Wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message id="backup.replace">
+        <source></source>
+        <translation>„%@“ ist bereits vorhanden. Ersetzen?</translation>
+    </message>
+    <message id="backup.replace.yes">
+        <source></source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="backup.restore">
+        <source></source>
+        <translation>Wiederherstellen …</translation>
+    </message>
+    <message id="backup.restore.counts">
+        <source></source>
+        <translation>Neue Favoriten: %d
+Neu im Verlauf: %d</translation>
+    </message>
+    <message id="backup.restore.done">
+        <source></source>
+        <translation>Wiederhergestellt</translation>
+    </message>
+    <message id="backup.restore.failed">
+        <source></source>
+        <translation>Nichts wurde wiederhergestellt</translation>
+    </message>
+    <message id="backup.restore.unknown">
+        <source></source>
+        <translation>Nicht gefunden: %d</translation>
+    </message>
+    <message id="backup.save">
+        <source></source>
+        <translation>Favoriten und Verlauf sichern …</translation>
+    </message>
+    <message id="backup.save.counts">
+        <source></source>
+        <translation>Favoriten: %d
+Verben im Verlauf: %d</translation>
+    </message>
+    <message id="backup.save.done">
+        <source></source>
+        <translation>Gesichert</translation>
+    </message>
+    <message id="backup.save.failed">
+        <source></source>
+        <translation>Nichts wurde gesichert</translation>
+    </message>
+    <message id="button.backup">
+        <source></source>
+        <translation>Sichern und wiederherstellen</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Liste ein- oder ausblenden</translation>

@@ -27,6 +27,80 @@
         <source></source>
         <translation>Lumora</translation>
     </message>
+    <message id="backup.kind">
+        <source></source>
+        <translation>Favourites and history</translation>
+    </message>
+    <message id="backup.problem.database">
+        <source></source>
+        <translation>Favourites and history cannot be reached at the moment. Try again later.</translation>
+    </message>
+    <message id="backup.problem.foreign">
+        <source></source>
+        <translation>Lumora did not save this file, or it is damaged.</translation>
+    </message>
+    <message id="backup.problem.newer">
+        <source></source>
+        <translation>This file comes from a newer version of Lumora. Update Lumora to restore it.</translation>
+    </message>
+    <message id="backup.problem.read">
+        <source></source>
+        <translation>The file cannot be read.</translation>
+    </message>
+    <message id="backup.problem.write">
+        <source></source>
+        <translation>The file cannot be written. Choose another place.</translation>
+    </message>
+    <message id="backup.replace">
+        <source></source>
+        <translation>“%@” is there already. Replace it?</translation>
+    </message>
+    <message id="backup.replace.yes">
+        <source></source>
+        <translation>Replace</translation>
+    </message>
+    <message id="backup.restore">
+        <source></source>
+        <translation>Restore…</translation>
+    </message>
+    <message id="backup.restore.counts">
+        <source></source>
+        <translation>New favourites: %d
+New in the history: %d</translation>
+    </message>
+    <message id="backup.restore.done">
+        <source></source>
+        <translation>Restored</translation>
+    </message>
+    <message id="backup.restore.failed">
+        <source></source>
+        <translation>Nothing was restored</translation>
+    </message>
+    <message id="backup.restore.unknown">
+        <source></source>
+        <translation>Not found: %d</translation>
+    </message>
+    <message id="backup.save">
+        <source></source>
+        <translation>Save favourites and history…</translation>
+    </message>
+    <message id="backup.save.counts">
+        <source></source>
+        <translation>Favourites: %d
+Verbs in the history: %d</translation>
+    </message>
+    <message id="backup.save.done">
+        <source></source>
+        <translation>Saved</translation>
+    </message>
+    <message id="backup.save.failed">
+        <source></source>
+        <translation>Nothing was saved</translation>
+    </message>
+    <message id="button.backup">
+        <source></source>
+        <translation>Save and restore</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Show or hide the list</translation>

@@ -23,6 +23,80 @@
         <source></source>
         <translation>Lumora</translation>
     </message>
+    <message id="backup.kind">
+        <source></source>
+        <translation>Favoritos e historial</translation>
+    </message>
+    <message id="backup.problem.database">
+        <source></source>
+        <translation>No se puede acceder a los favoritos ni al historial en este momento. Inténtalo más tarde.</translation>
+    </message>
+    <message id="backup.problem.foreign">
+        <source></source>
+        <translation>Lumora no ha guardado este archivo o está dañado.</translation>
+    </message>
+    <message id="backup.problem.newer">
+        <source></source>
+        <translation>Este archivo procede de una versión más reciente de Lumora. Actualiza Lumora para restaurarlo.</translation>
+    </message>
+    <message id="backup.problem.read">
+        <source></source>
+        <translation>No se puede leer el archivo.</translation>
+    </message>
+    <message id="backup.problem.write">
+        <source></source>
+        <translation>No se puede escribir el archivo. Elige otra ubicación.</translation>
+    </message>
+    <message id="backup.replace">
+        <source></source>
+        <translation>«%@» ya existe. ¿Reemplazarlo?</translation>
+    </message>
+    <message id="backup.replace.yes">
+        <source></source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message id="backup.restore">
+        <source></source>
+        <translation>Restaurar…</translation>
+    </message>
+    <message id="backup.restore.counts">
+        <source></source>
+        <translation>Favoritos nuevos: %d
+Nuevos en el historial: %d</translation>
+    </message>
+    <message id="backup.restore.done">
+        <source></source>
+        <translation>Restauración terminada</translation>
+    </message>
+    <message id="backup.restore.failed">
+        <source></source>
+        <translation>No se ha restaurado nada</translation>
+    </message>
+    <message id="backup.restore.unknown">
+        <source></source>
+        <translation>No encontrados: %d</translation>
+    </message>
+    <message id="backup.save">
+        <source></source>
+        <translation>Guardar favoritos e historial…</translation>
+    </message>
+    <message id="backup.save.counts">
+        <source></source>
+        <translation>Favoritos: %d
+Verbos en el historial: %d</translation>
+    </message>
+    <message id="backup.save.done">
+        <source></source>
+        <translation>Guardado</translation>
+    </message>
+    <message id="backup.save.failed">
+        <source></source>
+        <translation>No se ha guardado nada</translation>
+    </message>
+    <message id="button.backup">
+        <source></source>
+        <translation>Guardar y restaurar</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Mostrar u ocultar la lista</translation>

@@ -27,6 +27,80 @@
         <source></source>
         <translation>Lumora</translation>
     </message>
+    <message id="backup.kind">
+        <source></source>
+        <translation>Favoris et historique</translation>
+    </message>
+    <message id="backup.problem.database">
+        <source></source>
+        <translation>Les favoris et l’historique ne sont pas accessibles pour le moment. Réessayez plus tard.</translation>
+    </message>
+    <message id="backup.problem.foreign">
+        <source></source>
+        <translation>Ce fichier n’a pas été enregistré par Lumora ou il est endommagé.</translation>
+    </message>
+    <message id="backup.problem.newer">
+        <source></source>
+        <translation>Ce fichier provient d’une version plus récente de Lumora. Mettez Lumora à jour pour le restaurer.</translation>
+    </message>
+    <message id="backup.problem.read">
+        <source></source>
+        <translation>Le fichier est illisible.</translation>
+    </message>
+    <message id="backup.problem.write">
+        <source></source>
+        <translation>Impossible d’écrire le fichier. Choisissez un autre emplacement.</translation>
+    </message>
+    <message id="backup.replace">
+        <source></source>
+        <translation>« %@ » existe déjà. Le remplacer ?</translation>
+    </message>
+    <message id="backup.replace.yes">
+        <source></source>
+        <translation>Remplacer</translation>
+    </message>
+    <message id="backup.restore">
+        <source></source>
+        <translation>Restaurer…</translation>
+    </message>
+    <message id="backup.restore.counts">
+        <source></source>
+        <translation>Nouveaux favoris : %d
+Nouveautés dans l’historique : %d</translation>
+    </message>
+    <message id="backup.restore.done">
+        <source></source>
+        <translation>Restauration terminée</translation>
+    </message>
+    <message id="backup.restore.failed">
+        <source></source>
+        <translation>Rien n’a été restauré</translation>
+    </message>
+    <message id="backup.restore.unknown">
+        <source></source>
+        <translation>Introuvables : %d</translation>
+    </message>
+    <message id="backup.save">
+        <source></source>
+        <translation>Enregistrer favoris et historique…</translation>
+    </message>
+    <message id="backup.save.counts">
+        <source></source>
+        <translation>Favoris : %d
+Verbes dans l’historique : %d</translation>
+    </message>
+    <message id="backup.save.done">
+        <source></source>
+        <translation>Enregistrement terminé</translation>
+    </message>
+    <message id="backup.save.failed">
+        <source></source>
+        <translation>Rien n’a été enregistré</translation>
+    </message>
+    <message id="button.backup">
+        <source></source>
+        <translation>Sauvegarde et restauration</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Afficher ou masquer la liste</translation>

@@ -23,6 +23,80 @@
         <source></source>
         <translation>Lumora</translation>
     </message>
+    <message id="backup.kind">
+        <source></source>
+        <translation>Preferiti e cronologia</translation>
+    </message>
+    <message id="backup.problem.database">
+        <source></source>
+        <translation>Al momento non è possibile accedere a preferiti e cronologia. Riprova più tardi.</translation>
+    </message>
+    <message id="backup.problem.foreign">
+        <source></source>
+        <translation>Questo file non è stato salvato da Lumora oppure è danneggiato.</translation>
+    </message>
+    <message id="backup.problem.newer">
+        <source></source>
+        <translation>Questo file proviene da una versione più recente di Lumora. Aggiorna Lumora per ripristinarlo.</translation>
+    </message>
+    <message id="backup.problem.read">
+        <source></source>
+        <translation>Impossibile leggere il file.</translation>
+    </message>
+    <message id="backup.problem.write">
+        <source></source>
+        <translation>Impossibile scrivere il file. Scegli un’altra posizione.</translation>
+    </message>
+    <message id="backup.replace">
+        <source></source>
+        <translation>«%@» esiste già. Sostituirlo?</translation>
+    </message>
+    <message id="backup.replace.yes">
+        <source></source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message id="backup.restore">
+        <source></source>
+        <translation>Ripristina…</translation>
+    </message>
+    <message id="backup.restore.counts">
+        <source></source>
+        <translation>Nuovi preferiti: %d
+Nuovi nella cronologia: %d</translation>
+    </message>
+    <message id="backup.restore.done">
+        <source></source>
+        <translation>Ripristino completato</translation>
+    </message>
+    <message id="backup.restore.failed">
+        <source></source>
+        <translation>Nessun dato ripristinato</translation>
+    </message>
+    <message id="backup.restore.unknown">
+        <source></source>
+        <translation>Non trovati: %d</translation>
+    </message>
+    <message id="backup.save">
+        <source></source>
+        <translation>Salva preferiti e cronologia…</translation>
+    </message>
+    <message id="backup.save.counts">
+        <source></source>
+        <translation>Preferiti: %d
+Verbi nella cronologia: %d</translation>
+    </message>
+    <message id="backup.save.done">
+        <source></source>
+        <translation>Salvataggio completato</translation>
+    </message>
+    <message id="backup.save.failed">
+        <source></source>
+        <translation>Nessun dato salvato</translation>
+    </message>
+    <message id="button.backup">
+        <source></source>
+        <translation>Salva e ripristina</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Mostra o nascondi l’elenco</translation>

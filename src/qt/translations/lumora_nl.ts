@@ -23,6 +23,80 @@
         <source></source>
         <translation>Lumora</translation>
     </message>
+    <message id="backup.kind">
+        <source></source>
+        <translation>Favorieten en geschiedenis</translation>
+    </message>
+    <message id="backup.problem.database">
+        <source></source>
+        <translation>Favorieten en geschiedenis zijn nu niet bereikbaar. Probeer het later opnieuw.</translation>
+    </message>
+    <message id="backup.problem.foreign">
+        <source></source>
+        <translation>Dit bestand is niet door Lumora bewaard of het is beschadigd.</translation>
+    </message>
+    <message id="backup.problem.newer">
+        <source></source>
+        <translation>Dit bestand komt uit een nieuwere versie van Lumora. Werk Lumora bij om het te herstellen.</translation>
+    </message>
+    <message id="backup.problem.read">
+        <source></source>
+        <translation>Het bestand kan niet worden gelezen.</translation>
+    </message>
+    <message id="backup.problem.write">
+        <source></source>
+        <translation>Het bestand kan niet worden geschreven. Kies een andere plaats.</translation>
+    </message>
+    <message id="backup.replace">
+        <source></source>
+        <translation>‘%@’ bestaat al. Vervangen?</translation>
+    </message>
+    <message id="backup.replace.yes">
+        <source></source>
+        <translation>Vervangen</translation>
+    </message>
+    <message id="backup.restore">
+        <source></source>
+        <translation>Herstellen…</translation>
+    </message>
+    <message id="backup.restore.counts">
+        <source></source>
+        <translation>Nieuwe favorieten: %d
+Nieuw in de geschiedenis: %d</translation>
+    </message>
+    <message id="backup.restore.done">
+        <source></source>
+        <translation>Hersteld</translation>
+    </message>
+    <message id="backup.restore.failed">
+        <source></source>
+        <translation>Er is niets hersteld</translation>
+    </message>
+    <message id="backup.restore.unknown">
+        <source></source>
+        <translation>Niet gevonden: %d</translation>
+    </message>
+    <message id="backup.save">
+        <source></source>
+        <translation>Favorieten en geschiedenis bewaren…</translation>
+    </message>
+    <message id="backup.save.counts">
+        <source></source>
+        <translation>Favorieten: %d
+Werkwoorden in de geschiedenis: %d</translation>
+    </message>
+    <message id="backup.save.done">
+        <source></source>
+        <translation>Bewaard</translation>
+    </message>
+    <message id="backup.save.failed">
+        <source></source>
+        <translation>Er is niets bewaard</translation>
+    </message>
+    <message id="button.backup">
+        <source></source>
+        <translation>Bewaren en herstellen</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Lijst tonen of verbergen</translation>

@@ -23,6 +23,80 @@
         <source></source>
         <translation>Lumora</translation>
     </message>
+    <message id="backup.kind">
+        <source></source>
+        <translation>Favoritos e histórico</translation>
+    </message>
+    <message id="backup.problem.database">
+        <source></source>
+        <translation>De momento não é possível aceder aos favoritos e ao histórico. Tente mais tarde.</translation>
+    </message>
+    <message id="backup.problem.foreign">
+        <source></source>
+        <translation>Este ficheiro não foi guardado pelo Lumora ou está danificado.</translation>
+    </message>
+    <message id="backup.problem.newer">
+        <source></source>
+        <translation>Este ficheiro vem de uma versão mais recente do Lumora. Atualize o Lumora para o restaurar.</translation>
+    </message>
+    <message id="backup.problem.read">
+        <source></source>
+        <translation>Não é possível ler o ficheiro.</translation>
+    </message>
+    <message id="backup.problem.write">
+        <source></source>
+        <translation>Não é possível escrever o ficheiro. Escolha outro local.</translation>
+    </message>
+    <message id="backup.replace">
+        <source></source>
+        <translation>«%@» já existe. Substituir?</translation>
+    </message>
+    <message id="backup.replace.yes">
+        <source></source>
+        <translation>Substituir</translation>
+    </message>
+    <message id="backup.restore">
+        <source></source>
+        <translation>Restaurar…</translation>
+    </message>
+    <message id="backup.restore.counts">
+        <source></source>
+        <translation>Novos favoritos: %d
+Novos no histórico: %d</translation>
+    </message>
+    <message id="backup.restore.done">
+        <source></source>
+        <translation>Restauro concluído</translation>
+    </message>
+    <message id="backup.restore.failed">
+        <source></source>
+        <translation>Nada foi restaurado</translation>
+    </message>
+    <message id="backup.restore.unknown">
+        <source></source>
+        <translation>Não encontrados: %d</translation>
+    </message>
+    <message id="backup.save">
+        <source></source>
+        <translation>Guardar favoritos e histórico…</translation>
+    </message>
+    <message id="backup.save.counts">
+        <source></source>
+        <translation>Favoritos: %d
+Verbos no histórico: %d</translation>
+    </message>
+    <message id="backup.save.done">
+        <source></source>
+        <translation>Guardado</translation>
+    </message>
+    <message id="backup.save.failed">
+        <source></source>
+        <translation>Nada foi guardado</translation>
+    </message>
+    <message id="button.backup">
+        <source></source>
+        <translation>Guardar e restaurar</translation>
+    </message>
     <message id="button.displayMode">
         <source></source>
         <translation>Mostrar ou ocultar a lista</translation>

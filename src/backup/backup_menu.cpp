@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "backup/backup_menu.h"
+
+#include "platform/bundle.h"
+#include "platform/clock.h"
+#include "platform/notification_center.h"
+#include "platform/presenter.h"
+#include "platform/text.h"
+
+#include <ostream>
+#include <system_error>
+#include <utility>
+
+namespace lumora::backup {
+
+namespace {
+
+const char* explanationKey(Problem problem)
+{
+    switch (problem) {
+    case Problem::FileNotWritten:
+        return "backup.problem.write";
+    case Problem::FileNotRead:
+        return "backup.problem.read";
+    case Problem::NotABackup:
+        return "backup.problem.foreign";
+    case Problem::FromNewerVersion:
+        return "backup.problem.newer";
+    case Problem::Database:
+        break;
+    }
+    return "backup.problem.database";
+}
+
+} // namespace
+
+BackupMenu::BackupMenu(const platform::Services& services, platform::ViewController& screen,
+                       platform::DatabaseQueue* queue)
+    : services_{services}, screen_{screen}, queue_{queue}
+{}
+
+std::string BackupMenu::text(std::string_view key) const
+{
+    return localizedString(services_.bundle, key);
+}
+
+void BackupMenu::show()
+{
+    using Purpose = platform::FileQuestion::Purpose;
+    const auto asking = [this](Purpose purpose,
+                               void (BackupMenu::*then)(const std::filesystem::path&)) {
+        return [weak = weak_from_this(), purpose, then] {
+            if (const auto self = weak.lock()) {
+                self->choose(purpose, then);
+            }
+        };
+    };
+    services_.presenter.presentActionSheet(
+        screen_,
+        {std::nullopt,
+         {{text("backup.save"), platform::ActionStyle::Normal,
+           asking(Purpose::Save, &BackupMenu::saveUnlessReplacing)},
+          {text("backup.restore"), platform::ActionStyle::Normal,
+           asking(Purpose::Open, &BackupMenu::restore)},
+          {text("export.cancel"), platform::ActionStyle::Cancel, nullptr}}},
+        {});
+}
+
+void BackupMenu::choose(platform::FileQuestion::Purpose purpose,
+                        void (BackupMenu::*then)(const std::filesystem::path&))
+{
+    const auto kind = text("backup.kind");
+    services_.fileChooser.choose(
+        {.purpose = purpose,
+         .title = kind,
+         .kind = kind,
+         .extension = "json",
+         .suggestedName = "lumora.json"},
+        [weak = weak_from_this(), then](const std::filesystem::path& file) {
+            if (const auto self = weak.lock()) {
+                (*self.*then)(file);
+            }
+        });
+}
+
+void BackupMenu::saveUnlessReplacing(const std::filesystem::path& file)
+{
+    std::error_code unknown;
+    if (!std::filesystem::exists(file, unknown)) {
+        save(file);
+        return;
+    }
+    services_.presenter.presentAlert(
+        screen_, {platform::formatted(text("backup.replace"), {file.filename().string()}),
+                  {},
+                  {{text("backup.replace.yes"), platform::ActionStyle::Destructive,
+                    [weak = weak_from_this(), file] {
+                        if (const auto self = weak.lock()) {
+                            self->save(file);
+                        }
+                    }},
+                   {text("export.cancel"), platform::ActionStyle::Cancel, nullptr}}});
+}
+
+void BackupMenu::save(const std::filesystem::path& file)
+{
+    const auto saved = queue_ == nullptr
+                           ? tl::make_unexpected(Failure{})
+                           : saveBackup(*queue_, file, services_.clock.secondsSince1970());
+    if (!saved) {
+        tellFailure("backup.save.failed", saved.error());
+        return;
+    }
+    tell("backup.save.done",
+         platform::formatted(text("backup.save.counts"), {saved->favourites, saved->history}));
+}
+
+void BackupMenu::restore(const std::filesystem::path& file)
+{
+    const auto restored = queue_ == nullptr
+                              ? tl::make_unexpected(Failure{})
+                              : restoreBackup(*queue_, file, services_.clock.secondsSince1970());
+    if (!restored) {
+        tellFailure("backup.restore.failed", restored.error());
+        return;
+    }
+    announce(*restored);
+    auto message =
+        platform::formatted(text("backup.restore.counts"),
+                            {static_cast<int>(restored->favourites.size()), restored->history});
+    if (restored->unknown > 0) {
+        message += "\n" + platform::formatted(text("backup.restore.unknown"), {restored->unknown});
+    }
+    tell("backup.restore.done", std::move(message));
+}
+
+void BackupMenu::announce(const RestoredCounts& restored)
+{
+    if (!restored.favourites.empty()) {
+        services_.notifications.post(
+            {"VerbFavouriteToggled", &screen_, {{"added", restored.favourites}}});
+    }
+    services_.notifications.post({"RefreshHistory", {}, {}});
+}
+
+void BackupMenu::tell(std::string_view titleKey, std::string message)
+{
+    services_.presenter.presentAlert(
+        screen_, {text(titleKey),
+                  std::move(message),
+                  {{text("common.ok"), platform::ActionStyle::Cancel, nullptr}}});
+}
+
+void BackupMenu::tellFailure(std::string_view titleKey, const Failure& failure)
+{
+    if (!failure.detail.empty()) {
+        services_.console << failure.detail << std::endl;
+    }
+    tell(titleKey, text(explanationKey(failure.problem)));
+}
+
+} // namespace lumora::backup

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "backup/backup.h"
+#include "platform/file_chooser.h"
+#include "platform/services.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace lumora::platform {
+class ViewController;
+}
+
+namespace lumora::backup {
+
+/// Offers to save favourites and history and to restore them, asks for the
+/// file and tells what came of it. GUI thread only. Screen and queue must
+/// outlive it; without a queue nothing can be done, and it says so.
+///
+/// A shared object, so that an answer that comes when the screen has gone finds
+/// it gone too.
+class BackupMenu final : public std::enable_shared_from_this<BackupMenu> {
+public:
+    BackupMenu(const platform::Services& services, platform::ViewController& screen,
+               platform::DatabaseQueue* queue);
+
+    void show();
+
+private:
+    std::string text(std::string_view key) const;
+    void choose(platform::FileQuestion::Purpose purpose,
+                void (BackupMenu::*then)(const std::filesystem::path&));
+    void saveUnlessReplacing(const std::filesystem::path& file);
+    void save(const std::filesystem::path& file);
+    void restore(const std::filesystem::path& file);
+    /// The lists and the open verb learn of it.
+    void announce(const RestoredCounts& restored);
+    void tell(std::string_view titleKey, std::string message);
+    void tellFailure(std::string_view titleKey, const Failure& failure);
+
+    platform::Services services_;
+    platform::ViewController& screen_;
+    platform::DatabaseQueue* queue_;
+};
+
+} // namespace lumora::backup
