@@ -34,6 +34,9 @@ const char* explanationKey(Problem problem)
     return "backup.problem.database";
 }
 
+/// The menu's button is in the bar, above all rows.
+constexpr platform::IndexPath kNoRow{-1, -1};
+
 } // namespace
 
 BackupMenu::BackupMenu(const platform::Services& services, platform::ViewController& screen,
@@ -65,7 +68,7 @@ void BackupMenu::show()
           {text("backup.restore"), platform::ActionStyle::Normal,
            asking(Purpose::Open, &BackupMenu::restore)},
           {text("export.cancel"), platform::ActionStyle::Cancel, nullptr}}},
-        {});
+        kNoRow);
 }
 
 void BackupMenu::choose(platform::FileQuestion::Purpose purpose,

@@ -7,6 +7,8 @@
 #include "qt/icon_provider.h"
 #include "qt/text_conversion.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QQmlContext>
 #include <QQuickStyle>
@@ -39,6 +41,13 @@ std::filesystem::path madeFolder(const std::filesystem::path& folder)
     return folder;
 }
 
+/// Where a person looks for files.
+QUrl documentsFolder()
+{
+    const auto path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QUrl::fromLocalFile(QFileInfo::exists(path) ? path : QDir::homePath());
+}
+
 } // namespace
 
 void registerInterface()
@@ -60,8 +69,7 @@ Application::Application(ApplicationOptions options)
       mail_{options_.desktop},
       urlOpener_{options_.desktop},
       settingsPortal_{options_.desktop.bus},
-      fileChooser_{
-          QUrl::fromLocalFile(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))},
+      fileChooser_{documentsFolder()},
       services_{notifications_,  settings_,  bundle_,       device_,     clock_,
                 crashReporter_,  analytics_, std::cout,     views_,      presenter_,
                 storyboard_,     speech_,    audioSession_, scripts_,    shareSheet_,

@@ -74,6 +74,7 @@ public:
     QQuickWindow* window() const { return window_; }
     SplitScreen& splitScreen() { return *splitScreen_; }
     QtPresenter& presenter() { return presenter_; }
+    QtFileChooser& fileChooser() { return fileChooser_; }
     platform::SettingsStore& settings() { return settings_; }
     void setAppearance(const Appearance& appearance);
     /// Comes to the front and does what is asked for, as soon as it can.

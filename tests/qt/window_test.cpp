@@ -30,6 +30,19 @@ struct WindowTest : WindowFixture {
         EXPECT_TRUE(QTest::qWaitFor([&] { return progress() == 0; }, kPatience));
     }
 
+    static QQuickItem* itemWithText(QQuickItem* parent, const QString& text)
+    {
+        for (auto* child : parent->childItems()) {
+            if (child->isVisible() && child->property("text").toString() == text) {
+                return child;
+            }
+            if (auto* found = itemWithText(child, text)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+
     QString topTitle(const QList<QObject*>& screens)
     {
         return screens.isEmpty() ? QString{} : qobject_cast<Screen*>(screens.last())->title();
@@ -144,6 +157,29 @@ TEST_F(WindowTest, AShortcutOpensItsTab)
     start({390, 844}, "com.brindle.shortcut.favourite");
     ASSERT_TRUE(QTest::qWaitFor([&] { return find("tab1") != nullptr; }, kPatience));
     EXPECT_TRUE(find("tab1")->property("checked").toBool());
+}
+
+TEST_F(WindowTest, AFileIsAskedForInADialog)
+{
+    start({360, 740});
+    std::filesystem::path chosen;
+    application->fileChooser().choose({.purpose = platform::FileQuestion::Purpose::Save,
+                                       .title = "Favourites and history",
+                                       .kind = "Favourites and history",
+                                       .extension = "json",
+                                       .suggestedName = "lumora.json"},
+                                      [&](const auto& file) { chosen = file; });
+    QQuickItem* save = nullptr;
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            save = itemWithText(application->window()->contentItem(), "file.save");
+            return save != nullptr;
+        },
+        kPatience));
+    QTest::mouseClick(application->window(), Qt::LeftButton, {},
+                      save->mapToScene({5, 5}).toPoint());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chosen.filename() == "lumora.json"; }, kPatience));
+    EXPECT_TRUE(chosen.is_absolute());
 }
 
 TEST_F(WindowTest, AQuestionBlocksTheScreenUntilItIsAnswered)

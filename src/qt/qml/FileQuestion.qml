@@ -18,6 +18,8 @@ Item {
         nameFilters: [root.chooser.nameFilter]
         defaultSuffix: root.chooser.suffix
         currentFolder: root.chooser.folder
+        acceptLabel: root.chooser.saving ? qsTrId("file.save") : qsTrId("file.open")
+        rejectLabel: qsTrId("export.cancel")
         // Asked in the program's own words where it matters.
         options: FileDialog.DontConfirmOverwrite
         onAccepted: root.chooser.accept(selectedFile)

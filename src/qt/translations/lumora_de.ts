@@ -137,6 +137,14 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Sie haben noch keine Favoriten. Markieren Sie ein Verb mit dem Stern, um es hier wiederzufinden.</translation>
     </message>
+    <message id="file.open">
+        <source></source>
+        <translation>Öffnen</translation>
+    </message>
+    <message id="file.save">
+        <source></source>
+        <translation>Speichern</translation>
+    </message>
     <message id="history.empty">
         <source></source>
         <translation>Sie haben noch keine Verben angesehen. Die Verben, die Sie öffnen, erscheinen hier.</translation>

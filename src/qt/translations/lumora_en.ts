@@ -141,6 +141,14 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>You have no favourites yet. Mark a verb with the star to find it here.</translation>
     </message>
+    <message id="file.open">
+        <source></source>
+        <translation>Open</translation>
+    </message>
+    <message id="file.save">
+        <source></source>
+        <translation>Save</translation>
+    </message>
     <message id="history.empty">
         <source></source>
         <translation>You have not looked at any verbs yet. The verbs you open will be listed here.</translation>

@@ -137,6 +137,14 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Aún no tienes favoritos. Marca un verbo con la estrella para encontrarlo aquí.</translation>
     </message>
+    <message id="file.open">
+        <source></source>
+        <translation>Abrir</translation>
+    </message>
+    <message id="file.save">
+        <source></source>
+        <translation>Guardar</translation>
+    </message>
     <message id="history.empty">
         <source></source>
         <translation>Aún no has consultado ningún verbo. Los verbos que abras aparecerán aquí.</translation>

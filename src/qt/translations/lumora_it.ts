@@ -137,6 +137,14 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Non hai ancora preferiti. Segna un verbo con la stella per ritrovarlo qui.</translation>
     </message>
+    <message id="file.open">
+        <source></source>
+        <translation>Apri</translation>
+    </message>
+    <message id="file.save">
+        <source></source>
+        <translation>Salva</translation>
+    </message>
     <message id="history.empty">
         <source></source>
         <translation>Non hai ancora consultato nessun verbo. I verbi che apri compariranno qui.</translation>

@@ -137,6 +137,14 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Je hebt nog geen favorieten. Markeer een werkwoord met de ster om het hier terug te vinden.</translation>
     </message>
+    <message id="file.open">
+        <source></source>
+        <translation>Openen</translation>
+    </message>
+    <message id="file.save">
+        <source></source>
+        <translation>Opslaan</translation>
+    </message>
     <message id="history.empty">
         <source></source>
         <translation>Je hebt nog geen werkwoorden bekeken. De werkwoorden die je opent, verschijnen hier.</translation>

@@ -137,6 +137,14 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Ainda não tem favoritos. Marque um verbo com a estrela para o encontrar aqui.</translation>
     </message>
+    <message id="file.open">
+        <source></source>
+        <translation>Abrir</translation>
+    </message>
+    <message id="file.save">
+        <source></source>
+        <translation>Guardar</translation>
+    </message>
     <message id="history.empty">
         <source></source>
         <translation>Ainda não consultou nenhum verbo. Os verbos que abrir aparecem aqui.</translation>
