@@ -18,7 +18,7 @@ Item {
         nameFilters: [root.chooser.nameFilter]
         defaultSuffix: root.chooser.suffix
         currentFolder: root.chooser.folder
-        acceptLabel: root.chooser.saving ? qsTrId("file.save") : qsTrId("file.open")
+        acceptLabel: root.chooser.saving ? qsTrId("file.save") : qsTrId("action.open")
         rejectLabel: qsTrId("export.cancel")
         // Asked in the program's own words where it matters.
         options: FileDialog.DontConfirmOverwrite

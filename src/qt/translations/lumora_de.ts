@@ -11,6 +11,10 @@
         <source></source>
         <translation>Entfernen</translation>
     </message>
+    <message id="action.open">
+        <source></source>
+        <translation>Öffnen</translation>
+    </message>
     <message id="action.play">
         <source></source>
         <translation>Anhören</translation>
@@ -136,10 +140,6 @@ Verben im Verlauf: %d</translation>
     <message id="favourites.empty">
         <source></source>
         <translation>Sie haben noch keine Favoriten. Markieren Sie ein Verb mit dem Stern, um es hier wiederzufinden.</translation>
-    </message>
-    <message id="file.open">
-        <source></source>
-        <translation>Öffnen</translation>
     </message>
     <message id="file.save">
         <source></source>

@@ -141,10 +141,6 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>You have no favourites yet. Mark a verb with the star to find it here.</translation>
     </message>
-    <message id="file.open">
-        <source></source>
-        <translation>Open</translation>
-    </message>
     <message id="file.save">
         <source></source>
         <translation>Save</translation>

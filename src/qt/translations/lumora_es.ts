@@ -11,6 +11,10 @@
         <source></source>
         <translation>Quitar</translation>
     </message>
+    <message id="action.open">
+        <source></source>
+        <translation>Abrir</translation>
+    </message>
     <message id="action.play">
         <source></source>
         <translation>Escuchar</translation>
@@ -136,10 +140,6 @@ Verbos en el historial: %d</translation>
     <message id="favourites.empty">
         <source></source>
         <translation>Aún no tienes favoritos. Marca un verbo con la estrella para encontrarlo aquí.</translation>
-    </message>
-    <message id="file.open">
-        <source></source>
-        <translation>Abrir</translation>
     </message>
     <message id="file.save">
         <source></source>

@@ -141,10 +141,6 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Vous n’avez pas encore de favoris. Marquez un verbe d’une étoile pour le retrouver ici.</translation>
     </message>
-    <message id="file.open">
-        <source></source>
-        <translation>Ouvrir</translation>
-    </message>
     <message id="file.save">
         <source></source>
         <translation>Enregistrer</translation>

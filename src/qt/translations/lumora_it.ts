@@ -11,6 +11,10 @@
         <source></source>
         <translation>Rimuovi</translation>
     </message>
+    <message id="action.open">
+        <source></source>
+        <translation>Apri</translation>
+    </message>
     <message id="action.play">
         <source></source>
         <translation>Ascolta</translation>
@@ -136,10 +140,6 @@ Verbi nella cronologia: %d</translation>
     <message id="favourites.empty">
         <source></source>
         <translation>Non hai ancora preferiti. Segna un verbo con la stella per ritrovarlo qui.</translation>
-    </message>
-    <message id="file.open">
-        <source></source>
-        <translation>Apri</translation>
     </message>
     <message id="file.save">
         <source></source>

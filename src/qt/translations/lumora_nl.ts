@@ -11,6 +11,10 @@
         <source></source>
         <translation>Verwijderen</translation>
     </message>
+    <message id="action.open">
+        <source></source>
+        <translation>Openen</translation>
+    </message>
     <message id="action.play">
         <source></source>
         <translation>Beluisteren</translation>
@@ -136,10 +140,6 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="favourites.empty">
         <source></source>
         <translation>Je hebt nog geen favorieten. Markeer een werkwoord met de ster om het hier terug te vinden.</translation>
-    </message>
-    <message id="file.open">
-        <source></source>
-        <translation>Openen</translation>
     </message>
     <message id="file.save">
         <source></source>

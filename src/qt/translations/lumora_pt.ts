@@ -11,6 +11,10 @@
         <source></source>
         <translation>Remover</translation>
     </message>
+    <message id="action.open">
+        <source></source>
+        <translation>Abrir</translation>
+    </message>
     <message id="action.play">
         <source></source>
         <translation>Ouvir</translation>
@@ -136,10 +140,6 @@ Verbos no histórico: %d</translation>
     <message id="favourites.empty">
         <source></source>
         <translation>Ainda não tem favoritos. Marque um verbo com a estrela para o encontrar aqui.</translation>
-    </message>
-    <message id="file.open">
-        <source></source>
-        <translation>Abrir</translation>
     </message>
     <message id="file.save">
         <source></source>
