@@ -278,6 +278,9 @@ private:
         tap("bar.menu");
         tap("IconSettings");
         picture("options");
+        tap("bar.backup");
+        picture("options-backup");
+        press(Qt::Key_Escape);
         // To the row of the translation language, and to the last one.
         press(Qt::Key_End);
         picture("options-end");

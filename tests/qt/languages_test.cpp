@@ -86,6 +86,20 @@ TEST_P(LanguagesTest, EveryTextHasRoom)
     }
     tap("aller");
     lookAtTheTenses();
+    tap("backButton");
+    for (const char* screen : {"IconMoreApps", "IconSettings"}) {
+        tap("bar.menu");
+        expectAllTextsFit("menu");
+        tap(screen);
+        expectAllTextsFit(screen);
+        if (find("bar.backup") != nullptr) {
+            tap("bar.backup");
+            expectAllTextsFit("backup");
+            QTest::keyClick(application->window(), Qt::Key_Escape);
+        }
+        tap("bar.done");
+    }
+    tap("aller");
     application->window()->resize(kTablet);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !split().collapsed(); }, kPatience));
     lookAtTheTenses();
