@@ -106,6 +106,9 @@ bool Application::show()
     if (window_ == nullptr) {
         return false;
     }
+    // While the window was built the answer has come: its first frame has the
+    // right colours.
+    settingsPortal_.takeAnswer();
     connect(window_, &QQuickWindow::frameSwapped, this, &Application::launch,
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     // A window that starts out hidden draws no frame.

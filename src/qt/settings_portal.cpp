@@ -7,7 +7,6 @@
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QMap>
@@ -77,22 +76,29 @@ void SettingsPortal::read()
                                                QString::fromLatin1(portal::kPath), kInterface,
                                                QStringLiteral("ReadAll"));
     call << QStringList{kAppearance, kDesktop};
-    auto* const watcher = new QDBusPendingCallWatcher{bus_.asyncCall(call), this};
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        watcher->deleteLater();
-        const QDBusPendingReply<SettingGroups> reply = *watcher;
-        if (reply.isError()) {
-            return;
+    reading_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(call));
+    connect(reading_.get(), &QDBusPendingCallWatcher::finished, this, &SettingsPortal::takeAnswer);
+}
+
+void SettingsPortal::takeAnswer()
+{
+    if (!reading_ || !reading_->isFinished()) {
+        return;
+    }
+    const QDBusPendingReply<SettingGroups> reply = *reading_;
+    // It may be the one that calls this.
+    reading_.release()->deleteLater();
+    if (reply.isError()) {
+        return;
+    }
+    auto appearance = appearance_;
+    const auto groups = reply.value();
+    for (auto group = groups.begin(); group != groups.end(); ++group) {
+        for (auto value = group->begin(); value != group->end(); ++value) {
+            appearance = with(appearance, group.key(), value.key(), *value);
         }
-        auto appearance = appearance_;
-        const auto groups = reply.value();
-        for (auto group = groups.begin(); group != groups.end(); ++group) {
-            for (auto value = group->begin(); value != group->end(); ++value) {
-                appearance = with(appearance, group.key(), value.key(), *value);
-            }
-        }
-        take(appearance);
-    });
+    }
+    take(appearance);
 }
 
 void SettingsPortal::settingChanged(const QString& group, const QString& key,

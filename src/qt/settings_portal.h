@@ -6,9 +6,12 @@
 #include "qt/appearance.h"
 
 #include <QDBusConnection>
+#include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QObject>
+
+#include <memory>
 
 namespace lumora::qt {
 
@@ -22,6 +25,9 @@ public:
     explicit SettingsPortal(QDBusConnection bus);
 
     const Appearance& appearance() const { return appearance_; }
+    /// Takes the portal's answer if it is there, ahead of the event loop; never
+    /// waits for it.
+    void takeAnswer();
 
 signals:
     void appearanceChanged();
@@ -33,6 +39,8 @@ private:
 
     QDBusConnection bus_;
     QDBusServiceWatcher restarts_;
+    /// What the portal has not answered yet; null when nothing is asked.
+    std::unique_ptr<QDBusPendingCallWatcher> reading_;
     Appearance appearance_;
 };
 
