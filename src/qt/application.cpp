@@ -18,6 +18,7 @@
 
 #include <chrono>
 #include <iostream>
+#include <ranges>
 #include <system_error>
 #include <utility>
 
@@ -177,9 +178,25 @@ void Application::raise(const QString& activationToken)
     qunsetenv(kTokenVariable);
 }
 
+void Application::closeModals()
+{
+    std::vector<Modal*> modals;
+    for (const auto& modal : presenter_.modals()->modals()) {
+        modals.push_back(modal.get());
+    }
+    // As the person would, so that a screen does what it does on closing.
+    for (auto* modal : modals | std::views::reverse) {
+        modal->close();
+    }
+}
+
 void Application::open(const InstanceRequest& request)
 {
+    if (request.shortcut || !request.links.isEmpty()) {
+        closeModals();
+    }
     if (request.shortcut) {
+        splitScreen_->backToHome();
         delegate_.performActionForShortcutItem({toUtf8(*request.shortcut)}, [](bool) {});
     }
     for (const auto& link : request.links) {

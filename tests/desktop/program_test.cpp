@@ -97,11 +97,11 @@ struct RunningProgram : testing::Test {
         ASSERT_TRUE(QTest::qWaitForWindowActive(application->window()));
     }
 
-    HomeScreen* home()
+    HomeScreen* home() const
     {
         return qobject_cast<HomeScreen*>(application->splitScreen().primary().constFirst());
     }
-    QString topTitle()
+    QString topTitle() const
     {
         return qobject_cast<Screen*>(application->splitScreen().primary().constLast())->title();
     }
@@ -129,10 +129,15 @@ TEST_F(RunningProgram, ASecondStartHandsItsRequestOverAndEnds)
     EXPECT_EQ(verb.end(), 0);
     EXPECT_EQ(topTitle(), QStringLiteral("évanouir (s')"));
 
+    home()->press(QStringLiteral("menu"));
+    EXPECT_EQ(application->presenter().modals()->count(), 1);
     Program search{bus.address(),
                    {QStringLiteral("--shortcut"), QStringLiteral("com.brindle.shortcut.search")}};
     EXPECT_EQ(search.end(), 0);
     ASSERT_TRUE(QTest::qWaitFor([&] { return home()->searchFocus(); }, kPatience));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return application->presenter().modals()->count() == 0; }, kPatience))
+        << "the menu gives way";
     QTest::qWait(400);
     EXPECT_EQ(application->splitScreen().primary().size(), 1);
     QTest::keyClick(application->window(), 'p');
@@ -170,6 +175,14 @@ TEST_F(RunningProgram, LooksAsTheDesktopIsSetAndFollowsIt)
         return QTest::qWaitFor([&] { return now() == expected; }, kPatience);
     };
     EXPECT_TRUE(becomes({true, 1.5, true}));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return application->isLaunched(); }, kPatience));
+    auto& modals = *application->presenter().modals();
+    home()->press(QStringLiteral("menu"));
+    ASSERT_EQ(modals.count(), 1);
+    QTest::qWait(100);
+    modals.modals().back()->close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return modals.count() == 0; }, kPatience))
+        << "goes without moving";
 
     portal.changeSetting(appearance, QStringLiteral("color-scheme"), 2U);
     EXPECT_TRUE(becomes({false, 1.5, true}));
@@ -181,6 +194,40 @@ TEST_F(RunningProgram, LooksAsTheDesktopIsSetAndFollowsIt)
     portal.changeSetting(QStringLiteral("other"), QStringLiteral("color-scheme"), 1U);
     portal.changeSetting(interface, QStringLiteral("enable-animations"), false);
     EXPECT_TRUE(becomes({false, kLargestTextScale, true})) << "what makes no sense changes nothing";
+}
+
+TEST_F(RunningProgram, ASupportEmailEndsAsThePortalSays)
+{
+    struct Case {
+        uint response;
+        QStringList alerts;
+    };
+    const Case cases[] = {
+        {0, {"support.emailsuccess.title"}},
+        {1, {}},
+        {2, {"export.email.error", "export.email.error"}},
+    };
+    start();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return application->isLaunched(); }, kPatience));
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.response);
+        const StandInPortal portal{
+            bus,
+            {.versions = {{QStringLiteral("org.freedesktop.portal.Email"), 3}},
+             .response = c.response}};
+
+        dynamic_cast<navigation::HomeViewController&>(*home()->controller()).contactSupport();
+
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !portal.requests().empty(); }, kPatience));
+        EXPECT_TRUE(portal.requests()[0].options.value("body").toString().startsWith(
+            QStringLiteral("\n\n\n--------------------\nApp: app.title\nDevice: ")));
+        QStringList alerts;
+        while (QTest::qWaitFor([this] { return application->presenter().asking(); }, 500)) {
+            alerts.append(application->presenter().questionTitle());
+            application->presenter().answer(0);
+        }
+        EXPECT_EQ(alerts, c.alerts);
+    }
 }
 
 TEST(Program, OpensItsLinkAndEndsInOrderOnASignal)
