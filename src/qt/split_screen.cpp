@@ -67,7 +67,9 @@ void SplitScreen::setWidth(double points)
     modals_.setFullScreen(collapse);
     changing_ = false;
     shown_ = true;
+    rearranging_ = true;
     synchronize();
+    rearranging_ = false;
 }
 
 bool SplitScreen::back()

@@ -50,6 +50,8 @@ public:
 
     /// The window is as wide as this now; the first call shows the screens.
     Q_INVOKABLE void setWidth(double points);
+    /// Whether a change under way comes from there being more or fewer panes.
+    Q_INVOKABLE bool isRearranging() const { return rearranging_; }
     /// Takes the top screen away; false when there is none to go back from.
     Q_INVOKABLE bool back();
     /// Brings the home screen into view, whatever hides it.
@@ -80,6 +82,7 @@ private:
     std::vector<std::weak_ptr<platform::ViewController>> listenedStacks_;
     bool shown_ = false;
     bool changing_ = false;
+    bool rearranging_ = false;
 };
 
 } // namespace lumora::qt

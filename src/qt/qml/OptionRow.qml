@@ -38,7 +38,7 @@ GroupedRow {
     }
 
     cellHeight: Math.max(Theme.touch + 4, (stacked ? label.height + Theme.gap + value.height : Math.max(label.height, value.height)) + 2 * Theme.gap)
-    objectName: isCell ? "option" + index : ""
+    objectName: text
     Accessible.name: !isCell ? title : detailText === "" ? text : text + ", " + detailText
 
     Text {

@@ -21,6 +21,7 @@ FocusScope {
         height: root.height
         x: root.twoPanes && root.split.primaryHidden ? -width - 1 : 0
         visible: x > -width
+        split: root.split
         screens: root.split.primary
         onBackRequested: root.split.back()
 

@@ -11,6 +11,8 @@ StackView {
     id: root
 
     property var screens: []
+    // Whose panes these screens are in, if in any.
+    property SplitScreen split: null
     property bool wide: false
     // Of the upper corners.
     property real cornerRadius: 0
@@ -23,13 +25,15 @@ StackView {
             ++same;
         if (same === depth && same === screens.length)
             return;
-        const animated = depth > 0 && same > 0 && screens.length > 0;
+        // A screen that moves from pane to pane stays where the eye has it.
+        const moved = split?.isRearranging() ?? false;
+        const animated = depth > 0 && same > 0 && screens.length > 0 && !moved;
         const kind = animated ? undefined : StackView.Immediate;
         if (same === 0) {
             clear();
         } else if (same < depth) {
             // Sliding back only makes sense when nothing new comes.
-            pop(get(same - 1), same === screens.length ? undefined : StackView.Immediate);
+            pop(get(same - 1), same === screens.length ? kind : StackView.Immediate);
         }
         for (let i = same; i < screens.length; ++i)
             push(screens[i].page, {

@@ -85,9 +85,7 @@ Rectangle {
                     color: segment.checked ? Theme.segmentInk : Theme.text
                     font.pixelSize: Theme.small + 1
                     font.weight: segment.checked ? Font.DemiBold : Font.Normal
-                    fontSizeMode: Text.HorizontalFit
-                    minimumPixelSize: 9
-                    wrapMode: Text.WordWrap
+                    wrapMode: Text.Wrap
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                 }

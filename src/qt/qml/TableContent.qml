@@ -97,6 +97,7 @@ T.Control {
         property real keptPosition: 0
         property bool moved: false
 
+        objectName: "list"
         anchors.fill: parent
         model: root.table.model
         reuseItems: true
