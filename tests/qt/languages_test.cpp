@@ -5,7 +5,10 @@
 #include "qt/translations.h"
 #include "window_fixture.h"
 
+#include <QImage>
 #include <QJSValue>
+
+#include <utility>
 
 namespace lumora::qt {
 namespace {
@@ -20,9 +23,20 @@ constexpr int kSmallestPixels = 12;
 struct LanguagesTest : WindowFixture, testing::WithParamInterface<const char*> {
     Translations translations{{QString::fromLatin1(GetParam())}};
 
+    /// Until the picture stays as it is.
+    void waitForRest() const
+    {
+        QImage picture;
+        until([&] {
+            const QImage last = std::exchange(picture, application->window()->grabWindow());
+            return picture == last;
+        });
+    }
+
     void expectAllTextsFit(const char* where) const
     {
         SCOPED_TRACE(where);
+        waitForRest();
         EXPECT_GT(expectTextsFit(*application->window()->contentItem()), 5);
     }
 

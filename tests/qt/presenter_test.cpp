@@ -3,7 +3,10 @@
 
 #include "qt/qt_presenter.h"
 
+#include "platform/mail_composer.h"
 #include "platform/storyboard.h"
+
+#include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
@@ -70,6 +73,33 @@ TEST_F(PresenterTest, LeavesAQuestionOnlyByAnAnswerThatCancelsOrFromASheet)
 
     EXPECT_FALSE(presenter.asking());
     EXPECT_EQ(answered, "yesno");
+}
+
+TEST_F(PresenterTest, OpensAMailWithoutAPageAndKeepsItUntilItsEnd)
+{
+    class Mail final : public platform::MailComposer {
+    public:
+        void setMailComposeDelegate(platform::MailComposerDelegate* /*delegate*/) override {}
+        void setToRecipients(std::vector<std::string> /*addresses*/) override {}
+        void setSubject(std::string /*subject*/) override {}
+        void setMessageBody(std::string /*body*/, bool /*isHtml*/) override {}
+        void viewDidAppear() override { open = true; }
+        bool open = false;
+    };
+    auto mail = std::make_shared<Mail>();
+    const std::weak_ptr kept = mail;
+    presenter.present(screen, mail);
+    EXPECT_TRUE(mail->open);
+    EXPECT_EQ(presenter.modals()->count(), 0);
+    mail.reset();
+    ASSERT_FALSE(kept.expired());
+
+    bool completed = false;
+    presenter.dismiss(*kept.lock(), [&] { completed = true; });
+    EXPECT_TRUE(completed);
+    EXPECT_FALSE(kept.expired()) << "it may be in the middle of a call";
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(kept.expired());
 }
 
 } // namespace

@@ -120,7 +120,7 @@ TEST_F(WindowTest, ASwipedRowMakesAFavouriteThatTheOtherTabShows)
         QTest::mouseMove(application->window(), at(part));
     }
     QTest::mouseRelease(application->window(), Qt::LeftButton, {}, at(0.3));
-    QTest::qWait(300);
+    ASSERT_TRUE(settled("swipeAction0"));
     EXPECT_LT(row->property("contentItem").value<QQuickItem*>()->x(), -80) << "the row gives way";
     tap("swipeAction0");
     EXPECT_EQ(row->property("image").toString(), QStringLiteral("ic_favorite_list"));
@@ -193,12 +193,53 @@ TEST_F(WindowTest, AQuestionBlocksTheScreenUntilItIsAnswered)
                  {{"One", platform::ActionStyle::Normal, [&] { answer = 0; }},
                   {"Two", platform::ActionStyle::Cancel, [&] { answer = 1; }}}});
 
-    tap("aller");
-    EXPECT_EQ(split().primary().size(), 1);
+    ASSERT_TRUE(settled("answer0"));
+    EXPECT_FALSE(find("aller")->isEnabled());
     tap("answer0");
     EXPECT_EQ(answer, 0);
     tap("aller");
     EXPECT_EQ(split().primary().size(), 2);
+}
+
+/// Writes down when it comes and goes.
+class Diarist final : public platform::ViewController {
+public:
+    Diarist(std::string name, std::string& diary) : name_{std::move(name)}, diary_{diary} {}
+    void viewDidAppear() override { diary_ += name_ + "+ "; }
+    void viewDidDisappear() override { diary_ += name_ + "- "; }
+
+private:
+    std::string name_;
+    std::string& diary_;
+};
+
+TEST_F(WindowTest, AModalHidesWhatIsBelowOnAPhoneAndGoesBeforeAnythingElseIsDone)
+{
+    start({390, 844});
+    std::string diary;
+    const auto lower = std::make_shared<Diarist>("lower", diary);
+    const auto upper = std::make_shared<Diarist>("upper", diary);
+    auto& presenter = application->presenter();
+    presenter.present(*lower, lower);
+    presenter.present(*lower, upper);
+    EXPECT_EQ(diary, "lower+ lower- upper+ ");
+
+    application->window()->resize(1024, 768);
+    ASSERT_TRUE(until([&] { return !split().collapsed(); }));
+    EXPECT_EQ(diary, "lower+ lower- upper+ lower+ ");
+
+    diary.clear();
+    presenter.dismiss(*upper, [&] { diary += "done "; });
+    EXPECT_EQ(diary, "") << "it is still on its way out";
+    EXPECT_TRUE(until([&] { return diary == "upper- done "; })) << diary;
+    EXPECT_EQ(presenter.modals()->count(), 1);
+
+    // The lower one takes along what is above it.
+    diary.clear();
+    presenter.present(*lower, upper);
+    presenter.dismiss(*lower, [&] { diary += "done "; });
+    EXPECT_TRUE(until([&] { return diary.ends_with("done "); })) << diary;
+    EXPECT_EQ(presenter.modals()->count(), 0);
 }
 
 } // namespace

@@ -1,0 +1,243 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "window_fixture.h"
+
+namespace lumora::qt {
+namespace {
+
+constexpr QSize kPhone{390, 844};
+constexpr QSize kTablet{1024, 768};
+
+/// Whole ways through the program. No language is installed, so each text is
+/// its key.
+struct Journey : WindowFixture {
+    int modals() { return application->presenter().modals()->count(); }
+
+    /// The rows of the list on top.
+    QList<QQuickItem*> rows()
+    {
+        QList<QQuickItem*> rows;
+        auto* const list = find("list");
+        const int count = list == nullptr ? 0 : list->property("count").toInt();
+        for (int index = 0; index < count; ++index) {
+            QQuickItem* row = nullptr;
+            QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, row),
+                                      Q_ARG(int, index));
+            if (row != nullptr && row->property("isCell").toBool()) {
+                rows.append(row);
+            }
+        }
+        return rows;
+    }
+
+    /// The verbs of the list on top.
+    QStringList verbs()
+    {
+        QStringList names;
+        for (const auto* row : rows()) {
+            names.append(row->objectName());
+        }
+        return names;
+    }
+
+    void openOptions()
+    {
+        touch("bar.menu");
+        touch("IconSettings");
+        ASSERT_TRUE(settled("bar.done"));
+    }
+
+    void closeOptions()
+    {
+        touch("bar.done");
+        ASSERT_TRUE(until([&] { return modals() == 0; }));
+    }
+
+    /// Goes to a row of the options with the keyboard.
+    QQuickItem* option(const QString& label)
+    {
+        const auto isThere = [&] {
+            const auto* current = find("list")->property("currentItem").value<QQuickItem*>();
+            return current != nullptr && current->objectName() == label;
+        };
+        key(Qt::Key_Home);
+        for (auto row = rows().size(); row > 0 && !isThere(); --row) {
+            key(Qt::Key_Down);
+        }
+        return settled(label);
+    }
+
+    void click(QQuickItem* parent, const QString& name)
+    {
+        const auto* item = parent == nullptr ? nullptr : visibleItem(parent, name);
+        ASSERT_NE(item, nullptr);
+        QTest::mouseClick(application->window(), Qt::LeftButton, {}, middleOf(*item).toPoint());
+    }
+};
+
+TEST_F(Journey, FindAVerbStarItAndSeeItAmongTheFavourites)
+{
+    start(kPhone);
+    touch("Search");
+    type("etr");
+    ASSERT_TRUE(until([&] { return verbs() == QStringList{"être"}; }));
+    touch("être");
+    touch("bar.favourite");
+    touch("backButton");
+    touch("searchClear");
+    touch("tab1");
+    EXPECT_TRUE(until([&] { return verbs() == QStringList{"être"}; }));
+}
+
+TEST_F(Journey, ClearTheHistory)
+{
+    start(kPhone);
+    touch("aller");
+    touch("backButton");
+    touch("tab2");
+    ASSERT_TRUE(until([&] { return verbs() == QStringList{"aller"}; }));
+
+    openOptions();
+    ASSERT_NE(option("settings.history_clear"), nullptr);
+    touch("settings.history_clear");
+    touch("answer0");
+    closeOptions();
+    EXPECT_TRUE(until([&] { return verbs().isEmpty(); }));
+}
+
+TEST_F(Journey, ChangeTheLanguageAndSeeTheListSortedByIt)
+{
+    start(kTablet);
+    ASSERT_TRUE(settled("aller"));
+    const QStringList byFrench{"aller", "avoir", "être", "évanouir (s')", "falloir", "pouvoir"};
+    const QStringList byGerman{"avoir", "pouvoir", "évanouir (s')", "aller", "être", "falloir"};
+    EXPECT_EQ(verbs(), byFrench);
+
+    openOptions();
+    click(option("settings.sortby"), "segment0");
+    ASSERT_NE(option("settings.translations"), nullptr);
+    touch("settings.translations");
+    touch("answer4");
+    closeOptions();
+    EXPECT_TRUE(until([&] { return verbs() == byGerman; })) << verbs().join(' ').toStdString();
+}
+
+TEST_F(Journey, SwitchTheHistoryOffAndItsTabGoes)
+{
+    start(kPhone);
+    touch("tab2");
+    openOptions();
+    click(option("settings.history"), "switch");
+    closeOptions();
+    EXPECT_TRUE(until([&] { return find("tab1") != nullptr && find("tab2") == nullptr; }));
+    EXPECT_TRUE(find("tab0")->property("checked").toBool());
+}
+
+TEST_F(Journey, PullTheMenuInAndPushItOut)
+{
+    start(kPhone);
+    ASSERT_TRUE(settled("aller"));
+    drag({4, 400}, {220, 410});
+    ASSERT_TRUE(until([&] { return modals() == 1; }));
+    EXPECT_EQ(settled("sideMenu")->x(), 0);
+    EXPECT_EQ(split().primary().size(), 1) << "the row below was not tapped";
+
+    drag({250, 500}, {20, 500});
+    EXPECT_TRUE(until([&] { return modals() == 0; }));
+
+    touch("bar.menu");
+    ASSERT_TRUE(settled("sideMenu"));
+    QTest::mouseClick(application->window(), Qt::LeftButton, {}, {370, 500});
+    EXPECT_TRUE(until([&] { return modals() == 0; }));
+
+    touch("bar.menu");
+    touch("IconMoreApps");
+    ASSERT_TRUE(settled("AppIconGerman"));
+    touch("bar.done");
+    EXPECT_TRUE(until([&] { return modals() == 0; }));
+}
+
+TEST_F(Journey, WithTheKeyboardAlone)
+{
+    start(kPhone);
+    ASSERT_TRUE(settled("aller"));
+    // Finds a verb, opens it and comes back.
+    key(Qt::Key_F, Qt::ControlModifier);
+    type("voir");
+    key(Qt::Key_Escape);
+    type("a");
+    ASSERT_TRUE(until([&] { return verbs() == QStringList({"aller", "avoir"}); }));
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    ASSERT_TRUE(until([&] { return split().primary().size() == 2; }));
+    key(Qt::Key_Escape);
+    EXPECT_EQ(split().primary().size(), 1);
+
+    // Makes another one a favourite by its menu.
+    key(Qt::Key_F, Qt::ControlModifier);
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(until([&] { return verbs().size() == 6; }));
+    key(Qt::Key_Down);
+    key(Qt::Key_Down);
+    key(Qt::Key_Menu);
+    ASSERT_TRUE(settled("menuAction0"));
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    ASSERT_TRUE(until([&] { return find("menuAction0") == nullptr; }));
+    key(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_TRUE(until([&] { return verbs() == QStringList{"avoir"}; }));
+
+    // Changes a switch and segments.
+    key(Qt::Key_F10);
+    ASSERT_TRUE(settled("IconSettings"));
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    ASSERT_TRUE(settled("settings.sortby"));
+    key(Qt::Key_Down);
+    key(Qt::Key_Space);
+    EXPECT_FALSE(application->settings().boolForKey("IncludeEnglish"));
+    key(Qt::Key_Down);
+    key(Qt::Key_Down);
+    key(Qt::Key_Left);
+    EXPECT_FALSE(application->settings().boolForKey("SortByLang"));
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(until([&] { return modals() == 0; }));
+    key(Qt::Key_1, Qt::ControlModifier);
+    EXPECT_TRUE(until([&] { return verbs().size() == 6; }));
+}
+
+TEST_F(Journey, TurnTheDeviceAndFindEverythingAsItWas)
+{
+    start({390, 360});
+    touch("tab1");
+    touch("tab0");
+    ASSERT_TRUE(settled("aller"));
+    drag({200, 220}, {200, 130});
+    ASSERT_TRUE(until([&] { return !find("list")->property("moving").toBool(); }));
+    const auto position = [&] { return find("list")->property("contentY").toDouble(); };
+    const auto before = position();
+    EXPECT_GT(before, 40);
+    const auto turn = [&](const QSize& size) {
+        application->window()->resize(size);
+        return until([&] { return split().collapsed() == (size.width() < 700); });
+    };
+    ASSERT_TRUE(turn({800, 360}));
+    EXPECT_EQ(position(), before);
+    touch("tab1");
+    touch("tab0");
+    EXPECT_EQ(position(), before);
+
+    touch("Search");
+    type("a");
+    openOptions();
+    ASSERT_TRUE(turn({390, 360}));
+    EXPECT_EQ(settled("modalSheet")->width(), 390);
+    ASSERT_TRUE(turn({800, 360}));
+    EXPECT_EQ(settled("modalSheet")->width(), 540);
+    closeOptions();
+    EXPECT_EQ(find("Search")->property("text").toString(), QLatin1String("a"));
+}
+
+} // namespace
+} // namespace lumora::qt
