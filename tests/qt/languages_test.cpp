@@ -26,11 +26,14 @@ struct LanguagesTest : WindowFixture, testing::WithParamInterface<const char*> {
     /// Until the picture stays as it is.
     void waitForRest() const
     {
+        constexpr int kSameBefore = 4;
         QImage picture;
-        until([&] {
+        int same = 0;
+        EXPECT_TRUE(until([&] {
             const QImage last = std::exchange(picture, application->window()->grabWindow());
-            return picture == last;
-        });
+            same = picture == last ? same + 1 : 0;
+            return same == kSameBefore;
+        }));
     }
 
     void expectAllTextsFit(const char* where) const
