@@ -7,14 +7,17 @@ function __lumora_cli_verbs
 end
 
 complete -c lumora-cli -f
-set -l commands conjugate search export help version
+set -l commands conjugate search export backup restore help version
 complete -c lumora-cli -n __fish_use_subcommand -a conjugate -d 'Print every mood and tense'
 complete -c lumora-cli -n __fish_use_subcommand -a search -d 'Print the verbs that begin with a text'
 complete -c lumora-cli -n __fish_use_subcommand -a export -d 'Print the conjugations as a document'
+complete -c lumora-cli -n __fish_use_subcommand -a backup -d 'Save favourites and history to a file'
+complete -c lumora-cli -n __fish_use_subcommand -a restore -d 'Add what a file holds'
 complete -c lumora-cli -n __fish_use_subcommand -a help -d 'Say which commands or options there are'
 complete -c lumora-cli -n __fish_use_subcommand -a version -d 'Print the version'
 complete -c lumora-cli -n '__fish_seen_subcommand_from help' -a "$commands"
 complete -c lumora-cli -n '__fish_seen_subcommand_from conjugate export' -a '(__lumora_cli_verbs)'
+complete -c lumora-cli -n '__fish_seen_subcommand_from backup restore' -F
 complete -c lumora-cli -n '__fish_seen_subcommand_from search' -l anywhere -d 'Anywhere in the verb'
 complete -c lumora-cli -n '__fish_seen_subcommand_from search' -l conjugations -d 'Search the forms too'
 complete -c lumora-cli -n '__fish_seen_subcommand_from search' -l translations -d 'Search the translations too'

@@ -3,6 +3,8 @@
 
 #include "terminal/arguments.h"
 
+#include "platform/text.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <string_view>
@@ -21,6 +23,8 @@ Commands:
   conjugate VERB     print every mood and tense of a verb
   search TEXT        print the verbs that begin with TEXT
   export VERB        print a verb's conjugations as a document
+  backup FILE        save favourites and history to a file
+  restore FILE       add the favourites and the history of a file
   help [COMMAND]     print this, or the options of a command
   version            print the version
 
@@ -62,24 +66,40 @@ Options:
   --text             plain text for an e-mail
 )help";
 
+constexpr const char* kBackupHelp =
+    R"help(Usage: lumora-cli backup FILE
+
+Save the favourites and the history of lumora to a file. A file of that name
+is replaced.
+)help";
+
+constexpr const char* kRestoreHelp =
+    R"help(Usage: lumora-cli restore FILE
+
+Add the favourites and the history of a file to those of lumora. Nothing is
+lost and nothing comes twice; the history keeps its newest verbs. A lumora that
+is running shows it the next time that it reads its lists.
+)help";
+
 constexpr const char* kCommonHelp = R"help(
-Options of every command:
+Common options:
   --language CODE    translate into en, fr, de, es, pt, it or nl
   -h, --help         print this
 )help";
 
 constexpr std::pair<Command, const char*> kHelpTexts[] = {
-    {Command::Conjugate, kConjugateHelp},
-    {Command::Search, kSearchHelp},
-    {Command::Export, kExportHelp},
+    {Command::Conjugate, kConjugateHelp}, {Command::Search, kSearchHelp},
+    {Command::Export, kExportHelp},       {Command::Backup, kBackupHelp},
+    {Command::Restore, kRestoreHelp},
 };
 
 constexpr std::string_view kLanguages[] = {"en", "fr", "de", "es", "pt", "it", "nl"};
 
 constexpr std::pair<std::string_view, Command> kCommands[] = {
-    {"conjugate", Command::Conjugate}, {"search", Command::Search},     {"export", Command::Export},
-    {"help", Command::Help},           {"--help", Command::Help},       {"-h", Command::Help},
-    {"version", Command::Version},     {"--version", Command::Version}, {"-v", Command::Version},
+    {"conjugate", Command::Conjugate}, {"search", Command::Search},   {"export", Command::Export},
+    {"backup", Command::Backup},       {"restore", Command::Restore}, {"help", Command::Help},
+    {"--help", Command::Help},         {"-h", Command::Help},         {"version", Command::Version},
+    {"--version", Command::Version},   {"-v", Command::Version},
 };
 
 constexpr std::pair<std::string_view, bool Arguments::*> kSearchOptions[] = {
@@ -108,6 +128,26 @@ auto lookUp(const Table& table, std::string_view word)
 {
     return std::find_if(std::begin(table), std::end(table),
                         [&](const auto& entry) { return entry.first == word; });
+}
+
+bool takesFile(std::optional<Command> command)
+{
+    return command == Command::Backup || command == Command::Restore;
+}
+
+platform::Result<void> addText(Arguments& arguments, std::string_view word)
+{
+    if (takesFile(arguments.command)) {
+        if (!arguments.text.empty()) {
+            return refusal("one file at a time");
+        }
+        arguments.text = word;
+        return {};
+    }
+    // "se méfier" need not be quoted.
+    arguments.text += arguments.text.empty() ? "" : " ";
+    arguments.text += platform::wellFormed(word);
+    return {};
 }
 
 /// One option without a value; an error where the command has none such.
@@ -142,7 +182,9 @@ platform::Result<void> setLanguage(Arguments& arguments, std::string_view code)
 platform::Result<void> checkComplete(const Arguments& arguments)
 {
     if (arguments.text.empty()) {
-        return refusal(arguments.command == Command::Search ? "which text?" : "which verb?");
+        return refusal(takesFile(arguments.command)           ? "which file?"
+                       : arguments.command == Command::Search ? "which text?"
+                                                              : "which verb?");
     }
     if (arguments.command == Command::Export && !arguments.format) {
         return refusal("export needs --html or --text");
@@ -158,14 +200,14 @@ platform::Result<void> readWords(Arguments& arguments, const std::vector<std::st
     for (auto word = words.begin() + 1; word != words.end(); ++word) {
         platform::Result<void> read;
         if (optionsEnded || !word->starts_with('-')) {
-            // "se méfier" need not be quoted.
-            arguments.text += arguments.text.empty() ? "" : " ";
-            arguments.text += *word;
+            read = addText(arguments, *word);
         } else if (*word == "--") {
             optionsEnded = true;
         } else if (*word == "--help" || *word == "-h") {
             arguments.topic = std::exchange(arguments.command, Command::Help);
             return {};
+        } else if (takesFile(arguments.command)) {
+            read = refusal("this command has no option " + quoted(*word));
         } else if (*word == kLanguage && word + 1 == words.end()) {
             read = refusal("--language needs a code");
         } else if (*word == kLanguage) {
@@ -197,8 +239,9 @@ std::string helpText(std::optional<Command> topic)
 {
     const auto* const text = std::find_if(std::begin(kHelpTexts), std::end(kHelpTexts),
                                           [&](const auto& entry) { return entry.first == topic; });
-    return text == std::end(kHelpTexts) ? std::string{kGeneralHelp}
-                                        : std::string{text->second} + kCommonHelp;
+    return text == std::end(kHelpTexts)
+               ? std::string{kGeneralHelp}
+               : std::string{text->second} + (takesFile(topic) ? "" : kCommonHelp);
 }
 
 platform::Result<Arguments> parseArguments(const std::vector<std::string>& words)

@@ -11,13 +11,13 @@
 
 namespace lumora::terminal {
 
-enum class Command { Conjugate, Search, Export, Help, Version };
+enum class Command { Conjugate, Search, Export, Backup, Restore, Help, Version };
 enum class Format { Html, Text };
 
 /// What the user asked for, understood.
 struct Arguments {
     Command command = Command::Help;
-    /// The verb or the text to search for.
+    /// The verb, the text to search for, or the file, byte for byte.
     std::string text;
     bool anywhere = false;
     bool conjugations = false;

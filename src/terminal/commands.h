@@ -18,5 +18,8 @@ platform::Result<void> conjugate(Session& session, const Arguments& arguments,
 platform::Result<void> search(Session& session, const Arguments& arguments, const Output& output);
 platform::Result<void> exportDocument(Session& session, const Arguments& arguments,
                                       const Output& output);
+// Of the application's own database, for the file that the arguments name.
+platform::Result<void> backUp(Session& session, const Arguments& arguments, const Output& output);
+platform::Result<void> restore(Session& session, const Arguments& arguments, const Output& output);
 
 } // namespace lumora::terminal

@@ -36,7 +36,7 @@ void writeToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
 
 int complain(const std::string& message, int status)
 {
-    std::cerr << "lumora-cli: " << message << '\n';
+    std::cerr << "lumora-cli: " << platform::wellFormed(message) << '\n';
     return status;
 }
 
@@ -59,6 +59,10 @@ platform::Result<void> run(terminal::Session& session, const Arguments& argument
             << session.services().bundle.infoValue("CFBundleShortVersionString").value_or("unknown")
             << '\n';
         return {};
+    case Command::Backup:
+        return terminal::backUp(session, arguments, output);
+    case Command::Restore:
+        return terminal::restore(session, arguments, output);
     default:
         break;
     }
@@ -84,7 +88,7 @@ int main(int argc, char** argv)
     std::signal(SIGPIPE, SIG_DFL);
     std::vector<std::string> words;
     for (int i = 1; i < argc; ++i) {
-        words.push_back(platform::wellFormed(argv[i]));
+        words.emplace_back(argv[i]);
     }
     qInstallMessageHandler(writeToolkitMessage);
     const QCoreApplication toolkit{argc, argv};

@@ -25,7 +25,8 @@ namespace lumora::terminal {
 struct Arguments;
 
 /// The machine as the logic sees it for one command: the shipped database, read
-/// only, and settings in memory. Nothing of the application's is changed.
+/// only, and settings in memory. Nothing of the application's is changed but by
+/// the command that restores a backup.
 class Session {
 public:
     explicit Session(const std::filesystem::path& shareFolder);

@@ -159,6 +159,9 @@ TEST_F(TerminalTest, SaysWhatIsWrongInOneLine)
         {{}, 2, "no command; try --help"},
         {{"conjugat", "être"}, 2, "no command \"conjugat\"; try --help"},
         {{"conjugate"}, 2, "which verb?"},
+        {{"backup"}, 2, "which file?"},
+        {{"restore", "one", "two"}, 2, "one file at a time"},
+        {{"backup", "--language", "de", "file"}, 2, "this command has no option \"--language\""},
         {{"search", ""}, 2, "which text?"},
         {{"search", "a", "--html"}, 2, "this command has no option \"--html\""},
         {{"conjugate", "être", "--anywhere"}, 2, "this command has no option \"--anywhere\""},
@@ -236,6 +239,44 @@ TEST_F(TerminalTest, LeavesEverythingAsItWas)
         std::distance(
             std::filesystem::directory_iterator{program.share().parent_path().parent_path()}, {}),
         4);
+}
+
+TEST_F(TerminalTest, CarriesFavouritesAndHistoryBesideARunningApplication)
+{
+    const auto home = program.share().parent_path().parent_path();
+    const auto data = home / "data" / "lumora";
+    const std::string environment = "XDG_DATA_HOME='" + (home / "data").string() + "'";
+    const auto file = home / "mine \xff.json";
+    EXPECT_THAT(program.run({"backup", file}, environment).err, HasSubstr("start lumora once"));
+    EXPECT_FALSE(std::filesystem::exists(data)) << "nothing is made for it";
+
+    std::filesystem::create_directories(data);
+    support::writeSmallDatabase(data / "verbs.db");
+    const auto application = platform::DatabaseQueue::open(platform::fileUrl(data / "verbs.db"));
+    support::executeOn(*application, "INSERT INTO favourite(verbid) VALUES (3), (1)");
+    support::executeOn(*application, "INSERT INTO history(verbid, timestamp) VALUES (2, 5)");
+    EXPECT_EQ(program.run({"backup", file}, environment).out,
+              "favourites: 2, verbs in the history: 1\n");
+    support::executeOn(*application, "DELETE FROM favourite WHERE verbid = 3");
+    support::executeOn(*application, "DELETE FROM history");
+
+    support::executeOn(*application, "BEGIN IMMEDIATE");
+    const auto kept = program.run({"restore", file}, environment);
+    EXPECT_EQ(kept.status, 1);
+    EXPECT_EQ(kept.err,
+              "lumora-cli: favourites and history cannot be reached: database is locked\n");
+    support::executeOn(*application, "COMMIT");
+    EXPECT_EQ(program.run({"restore", file}, environment).out,
+              "new favourites: 1, new in the history: 1\n");
+    application->inDatabase([](platform::Database& database) {
+        auto rows = database.executeQuery("SELECT COUNT(*) FROM favourite, history", {});
+        ASSERT_TRUE(rows && rows->next());
+        EXPECT_EQ(rows->longForColumn(0), 2);
+    });
+
+    const auto foreign = program.run({"restore", data / "verbs.db"}, environment);
+    EXPECT_EQ(foreign.status, 1);
+    EXPECT_THAT(foreign.err, HasSubstr("was not saved by Lumora"));
 }
 
 TEST_F(TerminalTest, PutsColumnsOnATerminalAsManyAsFit)
