@@ -21,6 +21,9 @@ namespace {
 
 /// Slower would be no speech any more, and no end of samples.
 constexpr float kSlowestRate = platform::kDefaultSpeechRate / 10;
+constexpr float kSlowestOfEngine = espeakRATE_MINIMUM;
+constexpr float kFastestRate = espeakRATE_MAXIMUM;
+constexpr auto kUsualRate = static_cast<int>(platform::kDefaultSpeechRate);
 
 std::mutex& libraryLock()
 {
@@ -107,20 +110,21 @@ platform::Result<Speech> EspeakVoice::synthesize(const platform::Utterance& utte
         return tl::unexpected{platform::Error{"No voice speaks " + utterance.language, chosen}};
     }
     const SpokenText text{utterance.text};
-    if (utterance.rate >= espeakRATE_MINIMUM) {
-        const auto rate = std::min(utterance.rate, static_cast<float>(espeakRATE_MAXIMUM));
-        return speakAtRate(text, static_cast<int>(std::lround(rate)), sampleRate_, cancelled);
+    const float rate = std::clamp(utterance.rate, kSlowestRate, kFastestRate);
+    const auto nearest = static_cast<int>(std::lround(std::max(rate, kSlowestOfEngine)));
+    auto speech = speakAtRate(text, nearest, sampleRate_, cancelled);
+    if (!speech || nearest == kUsualRate) {
+        return speech;
     }
-    // The engine's slowest, and then as long as the rate asks for. Its rates are
-    // rough, so the length comes from the speech itself at the usual one.
-    const auto usual =
-        speakAtRate(text, static_cast<int>(platform::kDefaultSpeechRate), sampleRate_, cancelled);
-    auto speech = speakAtRate(text, espeakRATE_MINIMUM, sampleRate_, cancelled);
-    if (usual && speech) {
-        const float factor = platform::kDefaultSpeechRate / std::max(utterance.rate, kSlowestRate);
-        stretch(*speech, static_cast<std::size_t>(
-                             std::lround(static_cast<float>(usual->samples.size()) * factor)));
+    // The engine takes its rates roughly, and there is a slowest one: how long
+    // the speech is to be comes from the speech itself at the usual rate.
+    const auto usual = speakAtRate(text, kUsualRate, sampleRate_, cancelled);
+    if (!usual) {
+        return usual;
     }
+    stretch(*speech,
+            static_cast<std::size_t>(std::lround(static_cast<float>(usual->samples.size()) *
+                                                 (platform::kDefaultSpeechRate / rate))));
     return speech;
 }
 

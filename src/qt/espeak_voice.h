@@ -20,8 +20,9 @@ class EspeakVoice {
 public:
     EspeakVoice();
 
-    /// Ends early with an error once `cancelled` is true. Slower than the
-    /// engine goes, the sound is stretched.
+    /// Half the default rate takes twice as long, and so on, down to a tenth
+    /// and up to the engine's fastest. Ends early with an error once
+    /// `cancelled` is true.
     platform::Result<Speech> synthesize(const platform::Utterance& utterance,
                                         const std::atomic<bool>& cancelled) const;
 

@@ -127,25 +127,24 @@ TEST(EspeakVoice, BracketsAndDoubleFormsAreHeardAsTheyAreMeant)
 {
     EXPECT_NEAR(
         ratio(speak("je suis allé(e)").samples.size(), speak("je suis allé").samples.size()), 1,
-        0.01);
+        0.03);
     EXPECT_NEAR(
         ratio(speak("vous êtes allé(e)(s)").samples.size(), speak("vous êtes allé").samples.size()),
-        1, 0.01);
+        1, 0.03);
     EXPECT_GT(ratio(speak("paie, paye").samples.size(), speak("paie").samples.size()), 1.6);
 }
 
-TEST(EspeakVoice, SpeaksAsSlowlyAsAsked)
+TEST(EspeakVoice, TakesAsLongAsTheRateAsksFor)
 {
     struct Case {
         float factor;
         double longer;
-        double tolerance;
+        double tolerance = 0.05;
     };
-    // Down to its slowest the engine's own idea of a rate counts; below, ours.
-    const Case cases[] = {{2, 0.5, 0.25},     {0.75F, 1.33, 0.12}, {0.5F, 2, 0.15},
-                          {0.4F, 2.5, 0.05},  {0.25F, 4, 0.05},    {0.1F, 10, 0.05},
-                          {0.001F, 10, 0.05}, {1000, 0.39, 0.4}};
-    for (const char* text : {"je vais", "qu'il ou elle ou on ait compris", "j'aime"}) {
+    // So little is left of fast speech that single vibrations count.
+    const Case cases[] = {{0.75F, 1.333}, {0.5F, 2},    {0.4F, 2.5},   {0.25F, 4},
+                          {0.1F, 10},     {0.001F, 10}, {2, 0.5, 0.1}, {1000, 175.0 / 450, 0.1}};
+    for (const char* text : {"je vais", "qu'il ou elle ou on ait compris", "j'aime", "été"}) {
         const auto usual = speak(text);
         for (const auto& c : cases) {
             SCOPED_TRACE(text + std::string{" at "} + std::to_string(c.factor));
