@@ -26,7 +26,8 @@ public:
     float outputVolume() const override { return volume_; }
     /// A desktop has no such categories.
     platform::Result<void> setCategoryPlayback() override { return {}; }
-    /// Fails while there is no server, and tries again to reach one.
+    /// Fails when the server was lost or turns the program away, not where
+    /// there is none; tries again to reach one.
     platform::Result<void> activate() override;
 
 private:
