@@ -7,6 +7,7 @@
 #include "data/verb_reader.h"
 #include "detail/audio_utils.h"
 #include "detail/history_record.h"
+#include "export/verb_export.h"
 #include "platform/analytics.h"
 #include "platform/audio_session.h"
 #include "platform/bundle.h"
@@ -15,7 +16,9 @@
 #include "platform/database_queue.h"
 #include "platform/device.h"
 #include "platform/presenter.h"
+#include "platform/review_prompter.h"
 #include "platform/settings_store.h"
+#include "platform/share_sheet.h"
 #include "platform/split_view_controller.h"
 #include "platform/view_factory.h"
 #include "settings/setting_keys.h"
@@ -39,6 +42,8 @@ constexpr std::string_view kConjugationsOfVerb =
 constexpr std::array<int, kMoodCount> kTableSections{9, 5, 4, 4};
 constexpr std::array<int, kMoodCount> kCollectionItems{8, 4, 3, 2};
 
+/// The view from which on a review may be asked for.
+constexpr std::int64_t kViewsBeforeReview = 21;
 constexpr platform::Color kPlayTint{1.0 / 255, 85.0 / 255, 179.0 / 255, 1};
 constexpr double kAudioPadding = 8;
 constexpr double kAudioWidth = 30;
@@ -104,6 +109,9 @@ void VerbDetailTableViewController::viewDidLoad()
             setNavigationItem(std::move(item));
         }
     }
+    exportBarButton.identifier = "export";
+    exportBarButton.image = "export";
+    exportBarButton.action = [this] { exportOptions(); };
     favouriteBarButton.identifier = "favourite";
     favouriteBarButton.action = [this] { toggleFavourite(); };
     updateNavigationItem();
@@ -130,8 +138,9 @@ void VerbDetailTableViewController::updateNavigationItem()
 {
     auto item = navigationItem();
     item.title = selectedVerb ? selectedVerb->french : std::string{};
+    exportBarButton.enabled = buttonsEnabled_;
     favouriteBarButton.enabled = buttonsEnabled_;
-    item.rightBarButtons = {favouriteBarButton};
+    item.rightBarButtons = {exportBarButton, favouriteBarButton};
     setNavigationItem(std::move(item));
 }
 
@@ -186,6 +195,12 @@ void VerbDetailTableViewController::countView()
         return;
     }
     const auto count = services_.settings.integerForKey(settings::kNumberOfVerbsViewed) + 1;
+    if (count >= kViewsBeforeReview && !services_.settings.boolForKey(settings::kAskedForReview)) {
+        if (services_.device.hasActiveScene()) {
+            services_.reviewPrompter.requestReview();
+        }
+        services_.settings.setValue(true, settings::kAskedForReview);
+    }
     services_.settings.setValue(count, settings::kNumberOfVerbsViewed);
 }
 
@@ -245,6 +260,27 @@ void VerbDetailTableViewController::toggleFavourite()
         });
     }
     services_.notifications.post({"VerbFavouriteToggled", this, {{"verb", selectedVerb}}});
+}
+
+void VerbDetailTableViewController::exportOptions()
+{
+    platform::Result<std::optional<exporting::VerbRenderings>> renderings;
+    if (selectedVerb) {
+        renderings = exporting::VerbExport{}.exportVerb(*selectedVerb, services_);
+    }
+    if (!renderings) {
+        services_.crashReporter.logWithFormat("Unable to export. An error occurred. %@", {});
+        return;
+    }
+    if (!*renderings) {
+        services_.console << "Unable to export verb. Most likely an issue with the template (or no "
+                             "verb, somehow)"
+                          << std::endl;
+        return;
+    }
+    auto& [html, text] = **renderings;
+    services_.shareSheet.present(*this, {selectedVerb->french, std::move(text), std::move(html)},
+                                 exportBarButton.identifier);
 }
 
 void VerbDetailTableViewController::verbFavouriteToggled(const platform::Notification& notification)

@@ -49,8 +49,8 @@ struct Toolbar {
 };
 
 /// One verb: its conjugations by mood, as a table and as a collection of the
-/// same data, spoken one at a time, the favourite toggle, and the record of
-/// having been seen.
+/// same data, spoken one at a time, the favourite toggle, the export, and the
+/// record of having been seen.
 ///
 /// The verb is handed over before the screen is built; a screen shows one verb
 /// for its life. GUI thread only.
@@ -69,6 +69,7 @@ public:
     VerbTypeSegmentedControl verbTypeSegmentedControl;
     std::unique_ptr<platform::TableView> tableView;
     std::unique_ptr<platform::CollectionView> collectionView;
+    platform::BarButton exportBarButton;
     platform::BarButton favouriteBarButton;
     Toolbar toolbar;
     /// Points.
@@ -96,6 +97,8 @@ public:
     void viewDidAppear() override;
 
     void toggleFavourite();
+    /// Renders the verb and offers the ways out for it.
+    void exportOptions();
     /// The mood control's value changed to `segment`.
     void selectVerbTypes(int segment);
 

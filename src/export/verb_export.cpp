@@ -39,8 +39,7 @@ std::string renderingScript(const std::string& mustacheTemplate, const std::stri
 // A class without a state, so that who exports can be handed one.
 // NOLINTNEXTLINE(readability-convert-member-functions-to-static)
 platform::Result<std::optional<VerbRenderings>>
-VerbExport::exportVerb(const data::Verb& verb, const platform::Services& services,
-                       platform::JavaScriptContextFactory& contexts) const
+VerbExport::exportVerb(const data::Verb& verb, const platform::Services& services) const
 {
     const auto libraryFile = services.bundle.pathForResource("mustache.min", "js");
     const auto htmlFile = services.bundle.pathForResource("export_html", "mustache");
@@ -67,7 +66,7 @@ VerbExport::exportVerb(const data::Verb& verb, const platform::Services& service
         return std::nullopt;
     }
 
-    const auto context = contexts.makeJavaScriptContext();
+    const auto context = services.scripts.makeJavaScriptContext();
     context->setExceptionHandler([&services](const std::string& thrown) {
         services.console << "JS Error: " << thrown << std::endl;
     });

@@ -12,9 +12,8 @@ namespace lumora::data {
 struct Verb;
 }
 namespace lumora::platform {
-class JavaScriptContextFactory;
 struct Services;
-} // namespace lumora::platform
+}
 
 namespace lumora::exporting {
 
@@ -31,8 +30,7 @@ public:
     /// be read. A template that makes the script fail is rendered as the word
     /// undefined, and the console has the reason.
     platform::Result<std::optional<VerbRenderings>>
-    exportVerb(const data::Verb& verb, const platform::Services& services,
-               platform::JavaScriptContextFactory& contexts) const;
+    exportVerb(const data::Verb& verb, const platform::Services& services) const;
 };
 
 } // namespace lumora::exporting

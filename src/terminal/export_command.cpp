@@ -22,8 +22,8 @@ platform::Result<void> exportDocument(Session& session, const Arguments& argumen
     }
     std::string documents;
     for (const auto& screen : *screens) {
-        const auto renderings = exporting::VerbExport{}.exportVerb(
-            *screen->selectedVerb, session.services(), session.scripts());
+        const auto renderings =
+            exporting::VerbExport{}.exportVerb(*screen->selectedVerb, session.services());
         if (!renderings) {
             return tl::unexpected(renderings.error());
         }

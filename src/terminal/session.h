@@ -37,7 +37,6 @@ public:
 
     const platform::Services& services() const { return services_; }
     platform::DatabaseQueue& queue() { return *queue_; }
-    platform::JavaScriptContextFactory& scripts() { return scripts_; }
     /// An error once the logic has reported one.
     platform::Result<void> check() const;
 

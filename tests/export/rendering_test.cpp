@@ -30,6 +30,7 @@ class RenderingTest : public testing::Test {
 protected:
     RenderingTest()
     {
+        world.scriptEngine = &contexts;
         for (const char* name :
              {"mustache.min.js", "export_html.mustache", "export_txt.mustache"}) {
             world.bundle.resources[name] = kShare / name;
@@ -46,7 +47,7 @@ protected:
 
     VerbRenderings render()
     {
-        auto renderings = VerbExport{}.exportVerb(verb, world.services(), contexts);
+        auto renderings = VerbExport{}.exportVerb(verb, world.services());
         EXPECT_TRUE(renderings && *renderings) << world.console.str();
         return renderings && *renderings ? **renderings : VerbRenderings{};
     }

@@ -4,7 +4,6 @@
 #include "export/verb_export.h"
 
 #include "settings/setting_keys.h"
-#include "support/fake_java_script_context.h"
 #include "support/world.h"
 
 #include <nlohmann/json.hpp>
@@ -40,18 +39,17 @@ protected:
         world.bundle.resources[name] = world.folder / name;
     }
 
-    auto exportVerb() { return VerbExport{}.exportVerb(verb, world.services(), contexts); }
+    auto exportVerb() { return VerbExport{}.exportVerb(verb, world.services()); }
 
     nlohmann::json exportedData()
     {
         exportVerb();
-        auto script = contexts.scripts.back().at(1);
+        auto script = world.scripts.scripts.back().at(1);
         const auto begin = script.find("`, ") + 3;
         return nlohmann::json::parse(script.substr(begin, script.size() - begin - 2));
     }
 
     support::World world;
-    support::FakeJavaScriptContextFactory contexts;
     data::Verb verb;
 };
 
@@ -62,8 +60,8 @@ TEST_F(VerbExportTest, EvaluatesTheLibraryAndThenEachTemplateWithTheSameData)
     ASSERT_TRUE(renderings && *renderings);
     EXPECT_EQ((*renderings)->html, "result 2");
     EXPECT_EQ((*renderings)->text, "result 3");
-    ASSERT_EQ(contexts.scripts.size(), 1U);
-    const auto& scripts = contexts.scripts.front();
+    ASSERT_EQ(world.scripts.scripts.size(), 1U);
+    const auto& scripts = world.scripts.scripts.front();
     ASSERT_EQ(scripts.size(), 3U);
     EXPECT_EQ(scripts[0], "library;");
     const std::string html = "Mustache.render(`<p>{{french}}</p>\n`, ";
@@ -74,7 +72,7 @@ TEST_F(VerbExportTest, EvaluatesTheLibraryAndThenEachTemplateWithTheSameData)
     EXPECT_EQ(scripts[1].find("\": "), std::string::npos) << "white space in the data";
 
     exportVerb();
-    EXPECT_EQ(contexts.scripts.size(), 2U) << "a context is used for one export";
+    EXPECT_EQ(world.scripts.scripts.size(), 2U) << "a context is used for one export";
 }
 
 TEST_F(VerbExportTest, HandsOverNamesTitlesAndEveryListButTheInfinitive)
@@ -153,7 +151,7 @@ TEST_F(VerbExportTest, SaysWhichWayItFails)
 
         addResource(name, content);
     }
-    EXPECT_TRUE(contexts.scripts.empty());
+    EXPECT_TRUE(world.scripts.scripts.empty());
 }
 
 TEST_F(VerbExportTest, GivesUpOnATextThatIsNoUtf8)
@@ -165,14 +163,15 @@ TEST_F(VerbExportTest, GivesUpOnATextThatIsNoUtf8)
     ASSERT_TRUE(none);
     EXPECT_FALSE(*none);
     EXPECT_EQ(world.console.str(), "Unable to create json string\n");
-    EXPECT_TRUE(contexts.scripts.empty());
+    EXPECT_TRUE(world.scripts.scripts.empty());
 }
 
 TEST_F(VerbExportTest, EscapesTheSolidus)
 {
     verb.indicatifPresent = {form("il/elle/on", "aime")};
     exportVerb();
-    EXPECT_NE(contexts.scripts.at(0).at(1).find(R"("pronoun":"il\/elle\/on")"), std::string::npos);
+    EXPECT_NE(world.scripts.scripts.at(0).at(1).find(R"("pronoun":"il\/elle\/on")"),
+              std::string::npos);
 }
 
 } // namespace

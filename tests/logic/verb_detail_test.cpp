@@ -28,6 +28,19 @@ protected:
         return detail;
     }
 
+    /// The button of the bar with that identifier.
+    static platform::BarButton button(const VerbDetailTableViewController& detail,
+                                      const std::string& identifier)
+    {
+        for (const auto& button : detail.navigationItem().rightBarButtons) {
+            if (button.identifier == identifier) {
+                return button;
+            }
+        }
+        ADD_FAILURE() << "no button is called " << identifier;
+        return {};
+    }
+
     World world;
     data::VerbPtr aller = world.verb(3);
 };
@@ -143,7 +156,8 @@ TEST_F(VerbDetail, WithoutAVerbShowsTheLabelAndNoToolbar)
     EXPECT_TRUE(empty->toolbar.hidden);
     EXPECT_EQ(empty->toolbarHeightConstaint, 0);
     EXPECT_EQ(empty->headerText(), "");
-    EXPECT_FALSE(empty->navigationItem().rightBarButtons.at(0).enabled);
+    EXPECT_FALSE(button(*empty, "favourite").enabled);
+    EXPECT_FALSE(button(*empty, "export").enabled);
     EXPECT_EQ(world.count("history"), 0);
 
     const auto full = open(aller);
@@ -152,7 +166,8 @@ TEST_F(VerbDetail, WithoutAVerbShowsTheLabelAndNoToolbar)
     EXPECT_FALSE(full->toolbar.hidden);
     EXPECT_EQ(full->toolbarHeightConstaint, full->defaultToolbarHeight);
     EXPECT_EQ(full->headerText(), "aller (go)");
-    EXPECT_TRUE(full->navigationItem().rightBarButtons.at(0).enabled);
+    EXPECT_TRUE(button(*full, "favourite").enabled);
+    EXPECT_TRUE(button(*full, "export").enabled);
 }
 
 TEST_F(VerbDetail, OnlyTheTableKeepsAPreviewWithoutAToolbar)
@@ -240,11 +255,11 @@ TEST_F(VerbDetail, TogglesTheFavouriteAndFollowsOthers)
     const auto detail = open(aller);
     const auto other = open(world.verb(3));
     const auto icon = [](const VerbDetailTableViewController& screen) {
-        return screen.navigationItem().rightBarButtons.at(0).image;
+        return button(screen, "favourite").image;
     };
     EXPECT_EQ(icon(*detail), "ic_favorite_toolbar_border");
 
-    detail->navigationItem().rightBarButtons.at(0).action();
+    button(*detail, "favourite").action();
 
     EXPECT_EQ(icon(*detail), "ic_favorite_toolbar");
     EXPECT_EQ(world.count("favourite WHERE verbid = 3"), 1);
@@ -258,11 +273,91 @@ TEST_F(VerbDetail, TogglesTheFavouriteAndFollowsOthers)
     EXPECT_EQ(icon(*other), "ic_favorite_toolbar") << "another verb's news";
 }
 
-TEST_F(VerbDetail, LeavesTheCountAloneInAUiTest)
+TEST_F(VerbDetail, AsksForAReviewOnceFromTheTwentyFirstViewOn)
 {
-    world.device.arguments = {"lumora", "ui_test"};
-    open(aller);
-    EXPECT_EQ(world.settings.objectForKey("number_of_verbs_viewed"), std::nullopt);
+    struct Case {
+        std::int64_t viewedBefore;
+        bool asked;
+        bool inFront;
+        const char* argument;
+        int requests;
+        bool askedAfter;
+        std::int64_t viewedAfter;
+    };
+    const Case cases[] = {
+        {19, false, true, "", 0, false, 20},  {20, false, true, "", 1, true, 21},
+        {500, false, true, "", 1, true, 501}, {20, true, true, "", 0, true, 21},
+        {20, false, false, "", 0, true, 21},  {20, false, true, "ui_test", 0, false, 20},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.viewedBefore);
+        world.settings.setValue(c.viewedBefore, "number_of_verbs_viewed");
+        world.settings.setValue(c.asked, "asked_for_review");
+        world.device.activeScene = c.inFront;
+        world.device.arguments = {"lumora", c.argument};
+        world.reviewPrompter.requests = 0;
+
+        open(aller);
+
+        EXPECT_EQ(world.reviewPrompter.requests, c.requests);
+        EXPECT_EQ(world.settings.boolForKey("asked_for_review"), c.askedAfter);
+        EXPECT_EQ(world.settings.integerForKey("number_of_verbs_viewed"), c.viewedAfter);
+    }
+}
+
+TEST_F(VerbDetail, SharesBothRenderingsOrSaysWhyNot)
+{
+    const auto detail = open(aller);
+    const auto empty = open(nullptr);
+    const std::string nothing = "Unable to export verb. Most likely an issue with the template (or "
+                                "no verb, somehow)\n";
+
+    button(*empty, "export").action();
+    EXPECT_EQ(world.console.str(), nothing);
+    world.console.str({});
+    button(*detail, "export").action();
+    EXPECT_EQ(world.console.str(), "Unable to find mustache JS file\n" + nothing);
+
+    world.console.str({});
+    for (const char* name : {"mustache.min.js", "export_html.mustache", "export_txt.mustache"}) {
+        world.bundle.resources[name] = world.folder / name;
+    }
+    button(*detail, "export").action();
+    EXPECT_EQ(world.crashReporter.lines.back(), "Unable to export. An error occurred. %@");
+    EXPECT_EQ(world.console.str(), "");
+    EXPECT_TRUE(world.shareSheet.shared.empty());
+
+    for (const auto& [name, file] : world.bundle.resources) {
+        support::writeContent(file, name);
+    }
+    button(*detail, "export").action();
+    ASSERT_EQ(world.shareSheet.shared.size(), 1U);
+    const auto& shared = world.shareSheet.shared.front();
+    EXPECT_EQ(shared.on, detail.get());
+    EXPECT_EQ(shared.items.title, "aller");
+    EXPECT_EQ(shared.items.html, "result 2");
+    EXPECT_EQ(shared.items.text, "result 3");
+    EXPECT_EQ(shared.anchor, "export");
+}
+
+TEST_F(VerbDetail, APreviewThatIsOpenedIsNeitherCountedNorRecordedAgain)
+{
+    const auto detail = std::make_shared<VerbDetailTableViewController>(world.services());
+    detail->queue = world.queue.get();
+    detail->selectedVerb = aller;
+    detail->isPeeking = true;
+    detail->loadViewIfNeeded();
+    detail->viewWillAppear();
+    EXPECT_TRUE(detail->verbTypeSegmentedControl.hidden);
+
+    detail->isPeeking = false;
+    detail->loadViewIfNeeded();
+    detail->viewWillAppear();
+
+    EXPECT_FALSE(detail->verbTypeSegmentedControl.hidden);
+    EXPECT_EQ(detail->toolbarHeightConstaint, detail->defaultToolbarHeight);
+    EXPECT_EQ(world.posted("VerbViewed"), 1);
+    EXPECT_EQ(world.settings.integerForKey("number_of_verbs_viewed"), 1);
 }
 
 } // namespace

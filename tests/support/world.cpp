@@ -70,9 +70,9 @@ World::~World() = default;
 
 platform::Services World::services()
 {
-    return {notifications,  settings,  bundle,       device,     clock,
-            crashReporter,  analytics, console,      views,      presenter,
-            storyboard,     speech,    audioSession, scripts,    shareSheet,
+    return {notifications,  settings,  bundle,       device,        clock,
+            crashReporter,  analytics, console,      views,         presenter,
+            storyboard,     speech,    audioSession, *scriptEngine, shareSheet,
             reviewPrompter, mail,      urlOpener,    fileChooser};
 }
 

@@ -90,6 +90,8 @@ public:
     FakeSpeechSynthesizerFactory speech;
     FakeAudioSession audioSession;
     FakeJavaScriptContextFactory scripts;
+    /// What the services hand out; a test may put the real one here.
+    platform::JavaScriptContextFactory* scriptEngine = &scripts;
     FakeShareSheet shareSheet;
     FakeReviewPrompter reviewPrompter;
     FakeMailService mail;
