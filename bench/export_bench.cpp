@@ -22,6 +22,7 @@ void measureExport(Report& report, const std::filesystem::path& database)
         world.world().bundle.resources[name] = share / name;
     }
     qt::QtJavaScriptContextFactory contexts;
+    world.world().scriptEngine = &contexts;
     const exporting::VerbExport exporter;
     const auto ids = world.verbIds();
 
@@ -43,7 +44,7 @@ void measureExport(Report& report, const std::filesystem::path& database)
 
         std::size_t bytes = 0;
         const auto own = millisecondsOf([&] {
-            const auto renderings = exporter.exportVerb(verb, world.services(), contexts);
+            const auto renderings = exporter.exportVerb(verb, world.services());
             bytes = renderings && *renderings ? (*renderings)->html.size() : 0;
         });
         std::size_t bytesOfCompiled = 0;

@@ -29,6 +29,7 @@ public:
     void setStartAngle(float angle);
 
     const platform::AnimatedLayer& layer() const override { return layer_; }
+    bool isRunning() const override { return layer_.progress > 0; }
     void setHost(platform::LayerHost* host) override { host_ = host; }
 
 private:

@@ -28,6 +28,24 @@ void InterstitialTableViewController::didSelectRow(platform::IndexPath path)
     tableView().deselectRow(path);
 }
 
+void InterstitialTableViewController::rowHeld(platform::IndexPath path)
+{
+    services().presenter.previewSegue(*this, "showDetail", path);
+}
+
+std::optional<platform::IndexPath> InterstitialTableViewController::pathOfVerb(std::int64_t id)
+{
+    for (int section = 0; section < numberOfSections(); ++section) {
+        for (int row = 0; row < numberOfRowsInSection(section); ++row) {
+            const auto verb = verbAt({section, row});
+            if (verb && verb->id == id) {
+                return platform::IndexPath{section, row};
+            }
+        }
+    }
+    return std::nullopt;
+}
+
 bool InterstitialTableViewController::shouldPerformSegue(std::string_view /*identifier*/)
 {
     return true;

@@ -6,6 +6,9 @@
 #include "data/verb.h"
 #include "platform/table_view_controller.h"
 
+#include <cstdint>
+#include <optional>
+
 namespace lumora::platform {
 class DatabaseQueue;
 }
@@ -26,8 +29,13 @@ public:
     /// Takes the "showDetail" step that the row's cell is wired to.
     void rowTapped(platform::IndexPath path) override;
     void didSelectRow(platform::IndexPath path) override;
+    /// Previews what a tap would show.
+    void rowHeld(platform::IndexPath path) override;
     bool shouldPerformSegue(std::string_view identifier) override;
     void prepareForSegue(const platform::Segue& segue) override;
+
+    /// The row that shows the verb now; none when no row does.
+    std::optional<platform::IndexPath> pathOfVerb(std::int64_t id);
 
 protected:
     void viewDidLoad() override;

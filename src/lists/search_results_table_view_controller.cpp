@@ -81,4 +81,11 @@ void SearchResultsTableViewController::didSelectRow(platform::IndexPath path)
     }
 }
 
+void SearchResultsTableViewController::rowHeld(platform::IndexPath path)
+{
+    if (delegate != nullptr) {
+        delegate->didHoldSearchResult(verbAt(path));
+    }
+}
+
 } // namespace lumora::lists

@@ -21,6 +21,8 @@ class SearchResultsTableViewControllerDelegate {
 public:
     virtual ~SearchResultsTableViewControllerDelegate() = default;
     virtual void didSelectSearchResult(const data::VerbPtr& verb) = 0;
+    /// A finger stays on the result.
+    virtual void didHoldSearchResult(const data::VerbPtr& verb) = 0;
 };
 
 /// The verbs that match the search text, replaced whole by every search. Each
@@ -43,6 +45,7 @@ public:
     int numberOfRowsInSection(int section) override;
     platform::TableCell cellForRow(platform::IndexPath path) override;
     void didSelectRow(platform::IndexPath path) override;
+    void rowHeld(platform::IndexPath path) override;
 
 private:
     const data::VerbPtr& verbAt(platform::IndexPath path) const;

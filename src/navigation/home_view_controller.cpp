@@ -233,6 +233,12 @@ void HomeViewController::performSegue(std::string_view identifier)
     services_.presenter.performSegue(*this, identifier, std::nullopt);
 }
 
+void HomeViewController::didHoldSearchResult(const data::VerbPtr& verb)
+{
+    selectedSearchResult = verb;
+    services_.presenter.previewSegue(*this, "showSearchResult", std::nullopt);
+}
+
 void HomeViewController::prepareForSegue(const platform::Segue& segue)
 {
     if (segue.identifier == "showSearchResult") {

@@ -108,6 +108,7 @@ public:
     void focusSearchBar();
 
     void didSelectSearchResult(const data::VerbPtr& verb) override;
+    void didHoldSearchResult(const data::VerbPtr& verb) override;
     void optionsClosed(bool fieldsChanged) override;
     void showOptions() override;
     void showMoreApps() override;

@@ -58,6 +58,8 @@ class AnimatedView {
 public:
     virtual ~AnimatedView() = default;
     virtual const AnimatedLayer& layer() const = 0;
+    /// Whether something goes on that the number shows.
+    virtual bool isRunning() const = 0;
     virtual void setHost(LayerHost* host) = 0;
 };
 

@@ -23,6 +23,10 @@ public:
     /// prepare it, and shows it. `sender` is the row that was tapped, if one was.
     virtual void performSegue(ViewController& source, std::string_view identifier,
                               std::optional<IndexPath> sender) = 0;
+    /// As `performSegue`, but shows the screen small and over `source`, until
+    /// the user opens it or lets it go.
+    virtual void previewSegue(ViewController& source, std::string_view identifier,
+                              std::optional<IndexPath> sender) = 0;
     /// Shows a screen over `on` until it is dismissed.
     virtual void present(ViewController& on, std::shared_ptr<ViewController> screen) = 0;
     virtual void presentAlert(ViewController& on, const Alert& alert) = 0;

@@ -42,6 +42,8 @@ void TableDataSource::rowTapped(IndexPath path)
 
 void TableDataSource::didSelectRow(IndexPath /*path*/) {}
 
+void TableDataSource::rowHeld(IndexPath /*path*/) {}
+
 void TableDataSource::accessoryButtonTapped(IndexPath /*path*/) {}
 
 void TableDataSource::switchToggled(IndexPath /*path*/, bool /*on*/) {}

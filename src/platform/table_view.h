@@ -49,6 +49,8 @@ public:
     /// else than `didSelectRow` a tap does.
     virtual void rowTapped(IndexPath path);
     virtual void didSelectRow(IndexPath path);
+    /// A finger stays on the row.
+    virtual void rowHeld(IndexPath path);
     virtual void accessoryButtonTapped(IndexPath path);
     virtual void switchToggled(IndexPath path, bool on);
     virtual void segmentChanged(IndexPath path, int segment);

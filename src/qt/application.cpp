@@ -69,6 +69,7 @@ Application::Application(ApplicationOptions options)
       presenter_{storyboard_},
       mail_{options_.desktop},
       urlOpener_{options_.desktop},
+      shareSheet_{presenter_, mail_, options_.desktop},
       settingsPortal_{options_.desktop.bus},
       fileChooser_{documentsFolder()},
       services_{notifications_,  settings_,  bundle_,       device_,     clock_,
@@ -96,6 +97,7 @@ bool Application::show()
     engine_.addImageProvider(QStringLiteral("icon"), new IconProvider);
     engine_.setInitialProperties({{QStringLiteral("presenter"), QVariant::fromValue(&presenter_)},
                                   {QStringLiteral("files"), QVariant::fromValue(&fileChooser_)},
+                                  {QStringLiteral("share"), QVariant::fromValue(&shareSheet_)},
                                   {QStringLiteral("accent"), toQColor(kAccentPrimary)},
                                   {QStringLiteral("width"), options_.windowSize.width()},
                                   {QStringLiteral("height"), options_.windowSize.height()}});
@@ -110,6 +112,7 @@ bool Application::show()
     // While the window was built the answer has come: its first frame has the
     // right colours.
     settingsPortal_.takeAnswer();
+    shareSheet_.setWindow(window_);
     connect(window_, &QQuickWindow::frameSwapped, this, &Application::launch,
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     // A window that starts out hidden draws no frame.
@@ -130,7 +133,8 @@ void Application::launch()
     }
     device_.setWindowWidth(window_->width());
     delegate_.didFinishLaunching(launch);
-    splitScreen_ = std::make_unique<SplitScreen>(root, device_, *presenter_.modals());
+    splitScreen_ =
+        std::make_unique<SplitScreen>(root, device_, *presenter_.modals(), *presenter_.preview());
     QQmlEngine::setObjectOwnership(splitScreen_.get(), QQmlEngine::CppOwnership);
     splitScreen_->setWidth(window_->width());
     window_->setProperty("split", QVariant::fromValue(splitScreen_.get()));

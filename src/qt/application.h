@@ -22,13 +22,13 @@
 #include "qt/qt_file_chooser.h"
 #include "qt/qt_java_script_context.h"
 #include "qt/qt_presenter.h"
+#include "qt/qt_share_sheet.h"
 #include "qt/qt_speech.h"
 #include "qt/qt_view_factory.h"
 #include "qt/running_instance.h"
 #include "qt/settings_portal.h"
 #include "qt/split_screen.h"
 #include "qt/standard_folders.h"
-#include "qt/ways_out.h"
 
 #include <QQmlApplicationEngine>
 #include <QSize>
@@ -104,10 +104,10 @@ private:
     QtSpeech speech_;
     PulseAudioSession audioSession_;
     QtJavaScriptContextFactory scripts_;
-    NoShareSheet shareSheet_;
     DesktopMail mail_;
     DesktopUrlOpener urlOpener_;
     DesktopReviewPrompter reviewPrompter_{urlOpener_};
+    QtShareSheet shareSheet_;
     SettingsPortal settingsPortal_;
     QtFileChooser fileChooser_;
     platform::Services services_;

@@ -124,7 +124,9 @@ void DesktopMail::openInPortal(uint version, const MailMessage& message, Finishe
     const QString noParentWindow;
     portal::Request::send(
         desktop_.bus, kEmailPortal, QStringLiteral("ComposeEmail"), {noParentWindow}, options,
-        [finished = std::move(finished)](portal::Answer answer) { finished(resultOf(answer)); },
+        [finished = std::move(finished)](portal::Answer answer, const QVariantMap& /*results*/) {
+            finished(resultOf(answer));
+        },
         this);
 }
 

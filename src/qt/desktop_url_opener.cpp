@@ -69,7 +69,7 @@ bool DesktopUrlOpener::open(std::string_view url)
     const QString noParentWindow;
     portal::Request::send(
         desktop_.bus, kOpenPortal, QStringLiteral("OpenURI"), {noParentWindow, encoded}, {},
-        [encoded, handled](portal::Answer answer) {
+        [encoded, handled](portal::Answer answer, const QVariantMap& /*results*/) {
             if (answer == portal::Answer::Failed && handled) {
                 openInHandler(encoded);
             }

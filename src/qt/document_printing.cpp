@@ -21,7 +21,6 @@ namespace lumora::qt {
 namespace {
 
 constexpr int kPdfResolution = 300;
-constexpr QMarginsF kMargins{15, 15, 15, 12};
 constexpr double kFooterPoints = 8;
 constexpr double kPointsPerInch = 72;
 /// Between the text and the foot, in lines of the foot.
@@ -56,10 +55,9 @@ bool breaksWords(const QTextDocument& document)
     return false;
 }
 
-/// Lays the document out for pages of `size`: as large as all of it stands on
-/// one page with its words whole, and with words whole where one page is too
-/// few. The answer is the scale to paint at.
-double fit(QTextDocument& document, const QSizeF& size)
+} // namespace
+
+double fitToPages(QTextDocument& document, const QSizeF& size)
 {
     double fallback = kScales.back();
     for (const double scale : kScales) {
@@ -73,8 +71,6 @@ double fit(QTextDocument& document, const QSizeF& size)
     document.setPageSize(size / fallback);
     return fallback;
 }
-
-} // namespace
 
 bool paintDocument(const QString& html, const QString& title, QPagedPaintDevice& device)
 {
@@ -92,7 +88,7 @@ bool paintDocument(const QString& html, const QString& title, QPagedPaintDevice&
                        static_cast<double>(device.height())};
     const double line = kFooterPoints / kPointsPerInch * device.logicalDpiY();
     const QSizeF body{paper.width(), paper.height() - (1 + kFooterLines) * line};
-    const double scale = fit(document, body);
+    const double scale = fitToPages(document, body);
     const double height = document.pageSize().height();
     QFont font = document.defaultFont();
     font.setPointSizeF(kFooterPoints);
@@ -128,7 +124,7 @@ QByteArray pdfOf(const QString& html, const QString& title)
         QPdfWriter writer{&buffer};
         writer.setResolution(kPdfResolution);
         writer.setPageSize(QPageSize{QPageSize::A4});
-        writer.setPageMargins(kMargins, QPageLayout::Millimeter);
+        writer.setPageMargins(kPageMargins, QPageLayout::Millimeter);
         writer.setTitle(title);
         writer.setCreator(QCoreApplication::applicationName());
         if (!paintDocument(html, title, writer)) {

@@ -19,24 +19,33 @@ class IndicatorSource final : public QObject, public platform::LayerHost {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Belongs to a model")
+    Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
 
 public:
     explicit IndicatorSource(std::shared_ptr<platform::AnimatedView> view);
     ~IndicatorSource() override;
 
     const platform::AnimatedLayer& layer() const { return view_->layer(); }
+    bool isRunning() const { return view_->isRunning(); }
     /// Whether nobody but this object keeps the view any more.
     bool isOrphaned() const { return view_.use_count() == 1; }
     bool isFor(const platform::AnimatedView* view) const { return view_.get() == view; }
 
-    void setNeedsDisplay() override { emit displayNeeded(); }
+    void setNeedsDisplay() override
+    {
+        emit displayNeeded();
+        emit runningChanged();
+    }
     void addAnimation(float from, float to, double duration) override
     {
         emit animationAdded(from, to, duration);
+        emit runningChanged();
     }
 
 signals:
     void displayNeeded();
+    /// Perhaps.
+    void runningChanged();
     void animationAdded(float from, float to, double duration);
 
 private:

@@ -105,15 +105,18 @@ void Request::listenTo(const QString& path)
     bus_.connect(service, path_, interface, signal, this, SLOT(respond(uint, QVariantMap)));
 }
 
-void Request::respond(uint response, const QVariantMap& /*results*/)
+void Request::respond(uint response, const QVariantMap& results)
 {
-    finish(response == 0 ? Answer::Done : response == 1 ? Answer::Cancelled : Answer::Failed);
+    finish(response == 0   ? Answer::Done
+           : response == 1 ? Answer::Cancelled
+                           : Answer::Failed,
+           results);
 }
 
-void Request::finish(Answer answer)
+void Request::finish(Answer answer, const QVariantMap& results)
 {
     if (const auto answered = std::exchange(answered_, {})) {
-        answered(answer);
+        answered(answer, results);
         deleteLater();
     }
 }

@@ -31,7 +31,8 @@ class Request final : public QObject {
     Q_OBJECT
 
 public:
-    using Answered = std::function<void(Answer)>;
+    /// `results` are what a request that is done was about.
+    using Answered = std::function<void(Answer answer, const QVariantMap& results)>;
 
     /// `arguments` are those before the call's options. `answered` is called
     /// once and from the event loop, unless `parent` goes first. A call that
@@ -45,7 +46,7 @@ private:
 
     Q_SLOT void respond(uint response, const QVariantMap& results);
     void listenTo(const QString& path);
-    void finish(Answer answer);
+    void finish(Answer answer, const QVariantMap& results = {});
 
     QDBusConnection bus_;
     Answered answered_;

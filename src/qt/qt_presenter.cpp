@@ -24,17 +24,37 @@ QtPresenter::QtPresenter(platform::Storyboard& storyboard) : storyboard_{storybo
 void QtPresenter::performSegue(platform::ViewController& source, std::string_view identifier,
                                std::optional<platform::IndexPath> sender)
 {
-    if (!source.shouldPerformSegue(identifier)) {
+    const auto destination = prepared(source, identifier, sender);
+    if (!destination) {
         return;
     }
-    const auto destination = storyboard_.instantiateDestination(identifier);
-    source.prepareForSegue({std::string{identifier}, *destination, sender});
     const auto style = storyboard_.segueStyle(identifier);
     if (style != platform::SegueStyle::ShowDetail) {
         modals_.present(destination, style);
     } else if (auto* split = source.splitViewController()) {
         split->showDetailViewController(destination);
     }
+}
+
+void QtPresenter::previewSegue(platform::ViewController& source, std::string_view identifier,
+                               std::optional<platform::IndexPath> sender)
+{
+    if (auto destination = prepared(source, identifier, sender)) {
+        preview_.show(std::move(destination), source);
+    }
+}
+
+/// Where the step leads; null where the source refuses.
+std::shared_ptr<platform::ViewController>
+QtPresenter::prepared(platform::ViewController& source, std::string_view identifier,
+                      std::optional<platform::IndexPath> sender)
+{
+    if (!source.shouldPerformSegue(identifier)) {
+        return nullptr;
+    }
+    auto destination = storyboard_.instantiateDestination(identifier);
+    source.prepareForSegue({std::string{identifier}, *destination, sender});
+    return destination;
 }
 
 void QtPresenter::present(platform::ViewController& /*on*/,

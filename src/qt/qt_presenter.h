@@ -5,6 +5,7 @@
 
 #include "platform/presenter.h"
 #include "qt/modal_stack.h"
+#include "qt/qt_preview.h"
 #include "qt/qt_table_view.h"
 
 #include <QObject>
@@ -29,6 +30,7 @@ class QtPresenter final : public QObject, public platform::Presenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the program")
+    Q_PROPERTY(lumora::qt::QtPreview* preview READ preview CONSTANT)
     Q_PROPERTY(bool asking READ asking NOTIFY questionChanged)
     Q_PROPERTY(bool sheet READ isSheet NOTIFY questionChanged)
     Q_PROPERTY(QString questionTitle READ questionTitle NOTIFY questionChanged)
@@ -45,6 +47,8 @@ public:
 
     void performSegue(platform::ViewController& source, std::string_view identifier,
                       std::optional<platform::IndexPath> sender) override;
+    void previewSegue(platform::ViewController& source, std::string_view identifier,
+                      std::optional<platform::IndexPath> sender) override;
     void present(platform::ViewController& on,
                  std::shared_ptr<platform::ViewController> screen) override;
     void presentAlert(platform::ViewController& on, const platform::Alert& alert) override;
@@ -52,6 +56,7 @@ public:
                             platform::IndexPath anchor) override;
     void dismiss(platform::ViewController& presented, std::function<void()> completed) override;
 
+    QtPreview* preview() { return &preview_; }
     bool asking() const { return !questions_.empty(); }
     bool isSheet() const { return asking() && questions_.front().sheet; }
     QString questionTitle() const;
@@ -85,8 +90,13 @@ private:
     void ask(Question question);
     int cancelIndex() const;
 
+    std::shared_ptr<platform::ViewController> prepared(platform::ViewController& source,
+                                                       std::string_view identifier,
+                                                       std::optional<platform::IndexPath> sender);
+
     platform::Storyboard& storyboard_;
     ModalStack modals_{this};
+    QtPreview preview_{this};
     /// On show in another program's window.
     std::vector<std::shared_ptr<platform::MailComposer>> mails_;
     std::deque<Question> questions_;

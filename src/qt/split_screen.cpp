@@ -7,6 +7,7 @@
 #include "qt/home_screen.h"
 #include "qt/modal_stack.h"
 #include "qt/qt_device.h"
+#include "qt/qt_preview.h"
 
 #include <algorithm>
 #include <ranges>
@@ -33,9 +34,10 @@ bool popOne(NavigationController* stack)
 } // namespace
 
 SplitScreen::SplitScreen(std::shared_ptr<platform::SplitViewController> split, QtDevice& device,
-                         ModalStack& modals)
-    : split_{std::move(split)}, device_{device}, modals_{modals}
+                         ModalStack& modals, QtPreview& preview)
+    : split_{std::move(split)}, device_{device}, modals_{modals}, preview_{preview}
 {
+    connect(&preview_, &QtPreview::changed, this, &SplitScreen::synchronize);
     split_->setPaneListener([this] { synchronize(); });
     connect(&registry_, &ScreenRegistry::childrenChanged, this, &SplitScreen::synchronize);
     connect(&modals_, &ModalStack::changed, this, &SplitScreen::synchronize);
@@ -166,6 +168,11 @@ void SplitScreen::synchronize()
     }
 
     synchronizeModals(all, visible);
+    const auto previewed = preview_.controller();
+    if (previewed) {
+        all.push_back(previewed);
+        visible.push_back(previewed);
+    }
 
     // Loaded here, so that a screen's children are known.
     for (const auto& controller : visible) {
@@ -181,6 +188,7 @@ void SplitScreen::synchronize()
 
     primary_ = screens[0];
     secondary_ = screens[1];
+    preview_.setScreen(previewed ? registry_.screenFor(previewed) : nullptr);
     emit changed();
     // The pages that go say so first.
     registry_.retainOnly(all);

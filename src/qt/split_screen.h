@@ -19,6 +19,7 @@ namespace lumora::qt {
 class HomeScreen;
 class ModalStack;
 class QtDevice;
+class QtPreview;
 
 /// The window's panes for QML: the stack of screens in each, and of the screens
 /// over them. It hears every change of the controllers' stacks and tells the
@@ -34,9 +35,9 @@ class SplitScreen final : public QObject {
     Q_PROPERTY(lumora::qt::HomeScreen* home READ home NOTIFY changed)
 
 public:
-    /// The device and the modals must outlive this.
+    /// The device, the modals and the preview must outlive this.
     SplitScreen(std::shared_ptr<platform::SplitViewController> split, QtDevice& device,
-                ModalStack& modals);
+                ModalStack& modals, QtPreview& preview);
     ~SplitScreen() override;
 
     bool collapsed() const { return split_->isCollapsed(); }
@@ -75,6 +76,7 @@ private:
     std::shared_ptr<platform::SplitViewController> split_;
     QtDevice& device_;
     ModalStack& modals_;
+    QtPreview& preview_;
     ScreenRegistry registry_;
     platform::AppearanceTracker appearances_;
     QList<QObject*> primary_;

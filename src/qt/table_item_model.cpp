@@ -468,6 +468,13 @@ void TableItemModel::tap(int row)
     source_.rowTapped(*path);
 }
 
+void TableItemModel::hold(int row)
+{
+    if (const auto path = cellPath(row)) {
+        source_.rowHeld(*path);
+    }
+}
+
 void TableItemModel::tapAccessory(int row)
 {
     if (const auto path = cellPath(row)) {

@@ -95,6 +95,8 @@ public:
     Q_INVOKABLE void triggerAction(int row, int action);
 
     Q_INVOKABLE void tap(int row);
+    /// A finger stays on the row.
+    Q_INVOKABLE void hold(int row);
     Q_INVOKABLE void tapAccessory(int row);
     Q_INVOKABLE void toggleSwitch(int row, bool on);
     Q_INVOKABLE void changeSegment(int row, int segment);

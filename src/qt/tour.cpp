@@ -14,6 +14,7 @@
 #include <QMouseEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QStyleHints>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -61,9 +62,11 @@ public:
         picture("list");
         useSectionIndex();
         swipeOpen();
+        preview();
         search();
         openVerb();
         moods();
+        share();
         while (application_.splitScreen().back()) {
             settle();
         }
@@ -73,10 +76,10 @@ public:
     }
 
 private:
-    void settle() const
+    void settle(int milliseconds = kSettleMilliseconds) const
     {
         QEventLoop loop;
-        QTimer::singleShot(kSettleMilliseconds, &loop, &QEventLoop::quit);
+        QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
         loop.exec();
     }
 
@@ -213,6 +216,29 @@ private:
         picture("swipe");
         tap("swipeAction0");
         picture("favourite");
+    }
+
+    void preview()
+    {
+        const auto all = rows();
+        if (all.size() < 3) {
+            fail(prefix_ + ": the list has no rows");
+            return;
+        }
+        const auto middle = all[2]->mapToScene({all[2]->width() / 2, all[2]->height() / 2});
+        mouse(QEvent::MouseButtonPress, middle);
+        settle(QGuiApplication::styleHints()->mousePressAndHoldInterval() + kSettleMilliseconds);
+        mouse(QEvent::MouseButtonRelease, middle);
+        picture("preview");
+        application_.presenter().preview()->close();
+        settle();
+    }
+
+    void share()
+    {
+        tap("bar.export");
+        picture("share");
+        tap("shareCancel");
     }
 
     void search()

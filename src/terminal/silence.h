@@ -34,6 +34,9 @@ public:
     void performSegue(platform::ViewController& /*source*/, std::string_view /*identifier*/,
                       std::optional<platform::IndexPath> /*sender*/) override
     {}
+    void previewSegue(platform::ViewController& /*source*/, std::string_view /*identifier*/,
+                      std::optional<platform::IndexPath> /*sender*/) override
+    {}
     void present(platform::ViewController& /*on*/,
                  std::shared_ptr<platform::ViewController> /*screen*/) override
     {}

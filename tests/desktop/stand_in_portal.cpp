@@ -73,7 +73,7 @@ private:
         const auto path = QStringLiteral("%1/request/%2/%3").arg(kPath, sender, token);
         auto response = QDBusMessage::createSignal(
             path, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
-        response << behaviour_.response.value_or(0) << QVariantMap{};
+        response << behaviour_.response.value_or(0) << behaviour_.results;
         const auto reply = message.createReply(QVariant::fromValue(QDBusObjectPath{path}));
         if (behaviour_.choosesPaths) {
             connection.send(reply);

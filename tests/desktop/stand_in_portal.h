@@ -27,6 +27,8 @@ public:
         QMap<QString, uint> versions = {};
         /// What every request ends with; none: it never ends.
         std::optional<uint> response = 0;
+        /// What a request that is done is answered with.
+        QVariantMap results = {};
         /// As old portals: the request's object has a path that only the reply
         /// to the call tells.
         bool choosesPaths = false;

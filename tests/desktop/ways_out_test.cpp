@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "qt/desktop_documents.h"
 #include "qt/desktop_mail.h"
 #include "qt/desktop_review_prompter.h"
 #include "qt/desktop_url_opener.h"
@@ -9,6 +10,8 @@
 
 #include "desktop/stand_in_portal.h"
 
+#include <QDBusUnixFileDescriptor>
+#include <QFile>
 #include <QtTest/QTest>
 
 #include <gtest/gtest.h>
@@ -228,6 +231,70 @@ TEST(DesktopReviewPrompter, OpensTheSoftwareCentreOnlyWhereThereIsOne)
     DesktopReviewPrompter{equipped}.requestReview();
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return programs.called() == "appstream://com.brindle.lumora|"; }, kPatience));
+}
+
+TEST(DesktopDocuments, ThePortalAsksWhereToSave)
+{
+    const auto kChooser = QStringLiteral("org.freedesktop.portal.FileChooser");
+    struct Case {
+        uint response;
+        QStringList files;
+        QStringList chosen;
+    };
+    const Case cases[] = {
+        {0, {"file:///tmp/l%27%C3%A9t%C3%A9.txt"}, {"/tmp/l'été.txt"}},
+        {0, {}, {}},
+        {1, {}, {}},
+        {2, {}, {}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.response);
+        MessageBus bus;
+        const StandInPortal portal{
+            bus,
+            {.versions = {{kChooser, 3}}, .response = c.response, .results = {{"uris", c.files}}}};
+        DesktopDocuments documents{{bus.connect(), {}}};
+        ASSERT_TRUE(documents.hasSaveDialog());
+        EXPECT_FALSE(documents.hasPrintDialog());
+        QStringList chosen;
+
+        documents.askWhereToSave("Title", QUrl::fromLocalFile("/home/é/a b.txt"),
+                                 [&](const QUrl& file) { chosen << file.toLocalFile(); });
+
+        EXPECT_TRUE(chosen.isEmpty()) << "not from within the call";
+        const bool any = !c.chosen.isEmpty();
+        EXPECT_EQ(QTest::qWaitFor([&] { return !chosen.isEmpty(); }, any ? kPatience : 300), any);
+        EXPECT_EQ(chosen, c.chosen);
+        ASSERT_EQ(portal.requests().size(), 1U);
+        const auto request = portal.requests()[0];
+        EXPECT_EQ(request.member, "SaveFile");
+        EXPECT_EQ(request.options.value("current_name"), "a b.txt");
+        EXPECT_EQ(request.options.value("current_folder").toByteArray(),
+                  QByteArray("/home/\xC3\xA9\0", 9));
+    }
+}
+
+TEST(DesktopDocuments, ThePortalPrintsAWholeDocument)
+{
+    const auto kPrint = QStringLiteral("org.freedesktop.portal.Print");
+    for (const uint response : {0U, 1U, 2U}) {
+        MessageBus bus;
+        const StandInPortal portal{bus, {.versions = {{kPrint, 1}}, .response = response}};
+        DesktopDocuments documents{{bus.connect(), {}}};
+        ASSERT_TRUE(documents.hasPrintDialog());
+        int failures = 0;
+
+        documents.print("Title", "%PDF", [&] { ++failures; });
+
+        const bool fails = response == 2;
+        EXPECT_EQ(QTest::qWaitFor([&] { return failures > 0; }, fails ? kPatience : 300), fails);
+        ASSERT_EQ(portal.requests().size(), 1U);
+        const auto document =
+            portal.requests()[0].arguments.value(2).value<QDBusUnixFileDescriptor>();
+        QFile reader;
+        ASSERT_TRUE(reader.open(document.fileDescriptor(), QIODevice::ReadOnly));
+        EXPECT_EQ(reader.readAll(), "%PDF");
+    }
 }
 
 } // namespace

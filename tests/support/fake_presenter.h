@@ -25,6 +25,7 @@ public:
         std::optional<platform::IndexPath> sender;
         /// Null without a storyboard, and when the source refused.
         std::shared_ptr<platform::ViewController> destination;
+        bool preview = false;
     };
     struct PresentedAlert {
         platform::ViewController* on = nullptr;
@@ -46,12 +47,12 @@ public:
     void performSegue(platform::ViewController& source, std::string_view identifier,
                       std::optional<platform::IndexPath> sender) override
     {
-        std::shared_ptr<platform::ViewController> destination;
-        if (storyboard_ != nullptr && source.shouldPerformSegue(identifier)) {
-            destination = storyboard_->instantiateDestination(identifier);
-            source.prepareForSegue({std::string(identifier), *destination, sender});
-        }
-        segues.push_back({&source, std::string(identifier), sender, std::move(destination)});
+        take(source, identifier, sender, false);
+    }
+    void previewSegue(platform::ViewController& source, std::string_view identifier,
+                      std::optional<platform::IndexPath> sender) override
+    {
+        take(source, identifier, sender, true);
     }
     void present(platform::ViewController& on,
                  std::shared_ptr<platform::ViewController> shown) override
@@ -93,6 +94,18 @@ public:
     bool holdsDismissals = false;
 
 private:
+    void take(platform::ViewController& source, std::string_view identifier,
+              std::optional<platform::IndexPath> sender, bool preview)
+    {
+        std::shared_ptr<platform::ViewController> destination;
+        if (storyboard_ != nullptr && source.shouldPerformSegue(identifier)) {
+            destination = storyboard_->instantiateDestination(identifier);
+            source.prepareForSegue({std::string(identifier), *destination, sender});
+        }
+        segues.push_back(
+            {&source, std::string(identifier), sender, std::move(destination), preview});
+    }
+
     platform::Storyboard* storyboard_;
     std::vector<std::function<void()>> dismissals_;
 };

@@ -13,6 +13,7 @@ Window {
     property SplitScreen split: null
     required property QtPresenter presenter
     required property QtFileChooser files
+    required property QtShareSheet share
     required property color accent
     readonly property ModalStack modals: presenter.modals
     property bool dark: false
@@ -62,7 +63,7 @@ Window {
     Loader {
         id: panes
         anchors.fill: parent
-        enabled: !root.presenter.asking && root.modals.count === 0
+        enabled: !root.presenter.asking && root.modals.count === 0 && !previewLayer.wanted && !shareLayer.wanted
         focus: enabled
         onLoaded: item.focus = true
     }
@@ -86,6 +87,43 @@ Window {
                 "pull": pull
             })
         onLoaded: item.focus = true
+    }
+    Loader {
+        id: previewLayer
+
+        readonly property bool wanted: root.presenter.preview.screen !== null
+
+        anchors.fill: parent
+        enabled: !root.presenter.asking
+        focus: wanted && enabled
+        onWantedChanged: {
+            if (wanted)
+                setSource("qrc:/Lumora/VerbPreview.qml", {
+                    "preview": root.presenter.preview
+                });
+            else
+                source = "";
+        }
+        onLoaded: item.forceActiveFocus()
+    }
+    Loader {
+        id: shareLayer
+
+        readonly property bool wanted: root.share.open
+
+        anchors.fill: parent
+        enabled: !root.presenter.asking
+        focus: wanted && enabled
+        onWantedChanged: {
+            if (wanted)
+                setSource("qrc:/Lumora/ShareSheet.qml", {
+                    "share": root.share,
+                    "wide": Qt.binding(() => !root.modals.fullScreen)
+                });
+            else
+                source = "";
+        }
+        onLoaded: item.forceActiveFocus()
     }
     Loader {
         id: question

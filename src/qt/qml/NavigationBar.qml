@@ -12,6 +12,7 @@ Rectangle {
     required property Screen screen
     property bool canGoBack: false
     property bool wide: false
+    property bool hasButtons: true
     property real cornerRadius: 0
 
     signal backRequested
@@ -28,6 +29,7 @@ Rectangle {
         height: parent.height - y
         color: root.color
     }
+
     Row {
         id: left
         anchors.left: parent.left
@@ -42,7 +44,7 @@ Rectangle {
             onClicked: root.backRequested()
         }
         Repeater {
-            model: root.screen.leftButtons
+            model: root.hasButtons ? root.screen.leftButtons : []
 
             ScreenBarButton {
                 screen: root.screen
@@ -72,7 +74,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
 
         Repeater {
-            model: root.screen.rightButtons
+            model: root.hasButtons ? root.screen.rightButtons : []
 
             ScreenBarButton {
                 screen: root.screen

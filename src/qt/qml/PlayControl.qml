@@ -38,7 +38,7 @@ T.AbstractButton {
         }
         Icon {
             anchors.centerIn: ring
-            name: "Play"
+            name: root.source !== null && root.source.running ? "Pause" : "Play"
             color: Theme.playInk
             size: 30
         }

@@ -14,7 +14,9 @@ FocusScope {
     // Stands beside another pane.
     property bool wide: false
     property color color: Theme.background
-    readonly property real cornerRadius: StackView.view?.cornerRadius ?? 0
+    property real cornerRadius: StackView.view?.cornerRadius ?? 0
+    // Shown small, for a look only.
+    property bool preview: false
     default property alias content: area.data
 
     signal backRequested
@@ -32,6 +34,7 @@ FocusScope {
         screen: root.screen
         canGoBack: root.canGoBack
         wide: root.wide
+        hasButtons: !root.preview
         cornerRadius: root.cornerRadius
         onBackRequested: root.backRequested()
     }

@@ -13,6 +13,8 @@ TableRow {
     required property string image
 
     Accessible.name: text + ", " + detailText
+    onPressAndHold: if (isCell && swipe.position === 0)
+        table.model.hold(index)
 
     Column {
         anchors.left: parent.left

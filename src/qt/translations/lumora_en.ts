@@ -105,6 +105,10 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Show or hide the list</translation>
     </message>
+    <message id="button.export">
+        <source></source>
+        <translation>Share</translation>
+    </message>
     <message id="button.favourite">
         <source></source>
         <translation>Favourite</translation>
@@ -328,6 +332,90 @@ Verbs in the history: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turkish</translation>
+    </message>
+    <message id="share.cancel">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="share.copy">
+        <source></source>
+        <translation>Copy text</translation>
+    </message>
+    <message id="share.mail">
+        <source></source>
+        <translation>Send by e-mail</translation>
+    </message>
+    <message id="share.mail.failed">
+        <source></source>
+        <translation>“%1” could not be sent.</translation>
+    </message>
+    <message id="share.mail.unavailable">
+        <source></source>
+        <translation>No mail program is set up on this device.</translation>
+    </message>
+    <message id="share.print">
+        <source></source>
+        <translation>Print</translation>
+    </message>
+    <message id="share.print.failed">
+        <source></source>
+        <translation>“%1” could not be printed.</translation>
+    </message>
+    <message id="share.print.looking">
+        <source></source>
+        <translation>Looking for printers…</translation>
+    </message>
+    <message id="share.print.none">
+        <source></source>
+        <translation>There is no printer on this device.</translation>
+    </message>
+    <message id="share.print.where">
+        <source></source>
+        <translation>Choose a printer</translation>
+    </message>
+    <message id="share.save">
+        <source></source>
+        <translation>Save</translation>
+    </message>
+    <message id="share.save.as">
+        <source></source>
+        <translation>Save as</translation>
+    </message>
+    <message id="share.save.exists">
+        <source></source>
+        <translation>“%1” already exists. Replace it?</translation>
+    </message>
+    <message id="share.save.failed">
+        <source></source>
+        <translation>“%1” could not be saved.</translation>
+    </message>
+    <message id="share.save.folder.empty">
+        <source></source>
+        <translation>No folders in here</translation>
+    </message>
+    <message id="share.save.html">
+        <source></source>
+        <translation>Save as web page</translation>
+    </message>
+    <message id="share.save.name">
+        <source></source>
+        <translation>File name</translation>
+    </message>
+    <message id="share.save.pdf">
+        <source></source>
+        <translation>Save as PDF</translation>
+    </message>
+    <message id="share.save.replace">
+        <source></source>
+        <translation>Replace</translation>
+    </message>
+    <message id="share.save.text">
+        <source></source>
+        <translation>Save as text</translation>
+    </message>
+    <message id="share.save.up">
+        <source></source>
+        <translation>Parent folder</translation>
     </message>
     <message id="support.email">
         <source></source>

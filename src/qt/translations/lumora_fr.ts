@@ -105,6 +105,10 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Afficher ou masquer la liste</translation>
     </message>
+    <message id="button.export">
+        <source></source>
+        <translation>Partager</translation>
+    </message>
     <message id="button.favourite">
         <source></source>
         <translation>Favori</translation>
@@ -328,6 +332,90 @@ Verbes dans l’historique : %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turc</translation>
+    </message>
+    <message id="share.cancel">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="share.copy">
+        <source></source>
+        <translation>Copier le texte</translation>
+    </message>
+    <message id="share.mail">
+        <source></source>
+        <translation>Envoyer par courriel</translation>
+    </message>
+    <message id="share.mail.failed">
+        <source></source>
+        <translation>« %1 » n’a pas pu être envoyé.</translation>
+    </message>
+    <message id="share.mail.unavailable">
+        <source></source>
+        <translation>Aucun logiciel de courriel n’est configuré sur cet appareil.</translation>
+    </message>
+    <message id="share.print">
+        <source></source>
+        <translation>Imprimer</translation>
+    </message>
+    <message id="share.print.failed">
+        <source></source>
+        <translation>« %1 » n’a pas pu être imprimé.</translation>
+    </message>
+    <message id="share.print.looking">
+        <source></source>
+        <translation>Recherche d’imprimantes…</translation>
+    </message>
+    <message id="share.print.none">
+        <source></source>
+        <translation>Aucune imprimante n’est installée sur cet appareil.</translation>
+    </message>
+    <message id="share.print.where">
+        <source></source>
+        <translation>Choisissez une imprimante</translation>
+    </message>
+    <message id="share.save">
+        <source></source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message id="share.save.as">
+        <source></source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message id="share.save.exists">
+        <source></source>
+        <translation>« %1 » existe déjà. Le remplacer ?</translation>
+    </message>
+    <message id="share.save.failed">
+        <source></source>
+        <translation>« %1 » n’a pas pu être enregistré.</translation>
+    </message>
+    <message id="share.save.folder.empty">
+        <source></source>
+        <translation>Aucun dossier ici</translation>
+    </message>
+    <message id="share.save.html">
+        <source></source>
+        <translation>Enregistrer en page web</translation>
+    </message>
+    <message id="share.save.name">
+        <source></source>
+        <translation>Nom du fichier</translation>
+    </message>
+    <message id="share.save.pdf">
+        <source></source>
+        <translation>Enregistrer en PDF</translation>
+    </message>
+    <message id="share.save.replace">
+        <source></source>
+        <translation>Remplacer</translation>
+    </message>
+    <message id="share.save.text">
+        <source></source>
+        <translation>Enregistrer en texte</translation>
+    </message>
+    <message id="share.save.up">
+        <source></source>
+        <translation>Dossier parent</translation>
     </message>
     <message id="support.email">
         <source></source>

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Controls.Basic
+import Lumora
+
+// What the share sheet offers, one row each.
+FocusScope {
+    id: root
+
+    required property QtShareSheet share
+
+    implicitHeight: column.implicitHeight
+
+    Flickable {
+        id: flickable
+        anchors.fill: parent
+        contentHeight: column.implicitHeight
+        clip: interactive
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: contentHeight > height
+
+        ScrollBar.vertical: ScrollBar {}
+
+        Column {
+            id: column
+            width: parent.width
+            topPadding: Theme.margin
+            bottomPadding: Theme.gap
+
+            SheetHeading {
+                width: parent.width
+                text: root.share.heading
+            }
+            Repeater {
+                model: root.share.rows
+
+                ShareRow {
+                    width: column.width
+                    onClicked: root.share.choose(index)
+                    // What the keyboard is on stays in sight.
+                    onActiveFocusChanged: if (activeFocus)
+                        flickable.contentY = Math.max(0, Math.min(y, Math.max(flickable.contentY, y + height - flickable.height)))
+                }
+            }
+            SheetButton {
+                objectName: "shareCancel"
+                width: parent.width
+                text: qsTrId("share.cancel")
+                onClicked: root.share.cancel()
+            }
+        }
+    }
+}

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Lumora
+
+// One way out, with the reason below it when it is closed.
+TouchButton {
+    id: root
+
+    required property int index
+    required property var modelData
+    readonly property color ink: enabled ? Theme.text : Theme.textSecondary
+
+    objectName: "share" + index
+    implicitHeight: Math.max(Theme.touch + 4, texts.implicitHeight + 2 * Theme.gap)
+    text: modelData.title
+    enabled: modelData.enabled
+    Accessible.name: modelData.detail === "" ? text : text + ". " + modelData.detail
+    Accessible.onPressAction: click()
+
+    contentItem: Item {
+        Icon {
+            id: icon
+            x: Theme.margin
+            anchors.verticalCenter: parent.verticalCenter
+            visible: name !== ""
+            name: root.modelData.image
+            color: root.enabled ? Theme.accentText : Theme.textSecondary
+        }
+        Column {
+            id: texts
+            anchors.left: icon.right
+            anchors.leftMargin: Theme.margin
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.margin
+            anchors.verticalCenter: parent.verticalCenter
+
+            Text {
+                width: parent.width
+                text: root.text
+                color: root.ink
+                font.pixelSize: Theme.body
+                wrapMode: Text.Wrap
+            }
+            Text {
+                width: parent.width
+                visible: text !== ""
+                text: root.modelData.detail
+                color: Theme.textSecondary
+                font.pixelSize: Theme.small
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+}

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/index_path.h"
+#include "platform/view_controller.h"
+#include "qt/qt_table_view.h"
+#include "qt/screen.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QtQml/qqmlregistration.h>
+#include <QVariantList>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace lumora::detail {
+class VerbDetailTableViewController;
+}
+namespace lumora::lists {
+class InterstitialTableViewController;
+}
+
+namespace lumora::qt {
+
+/// A verb shown small over the list it was held in, with what its row offers,
+/// until the user opens it or lets it go. Belongs to the presenter; the window
+/// wraps its screen. GUI thread only.
+class QtPreview final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to the presenter")
+    Q_PROPERTY(lumora::qt::Screen* screen READ screen NOTIFY screenChanged)
+    Q_PROPERTY(QVariantList actions READ actions NOTIFY screenChanged)
+
+public:
+    explicit QtPreview(QObject* parent);
+    ~QtPreview() override;
+
+    /// `destination` is where a step from `source` leads, prepared; nothing is
+    /// shown when that is no verb.
+    void show(std::shared_ptr<platform::ViewController> destination,
+              platform::ViewController& source);
+    /// The verb's screen; null while there is no preview.
+    std::shared_ptr<platform::ViewController> controller() const;
+    /// Told by the window once the screen is built.
+    void setScreen(Screen* screen);
+
+    Screen* screen() const { return screen_; }
+    /// What swiping the verb's row offers: maps as the table's model makes them.
+    QVariantList actions() const;
+
+    /// Takes the verb to where a tap on its row would have.
+    Q_INVOKABLE void open();
+    Q_INVOKABLE void close();
+    /// Lets the verb go and does one of the actions.
+    Q_INVOKABLE void trigger(int action);
+
+signals:
+    /// There is another preview, or none any more.
+    void changed();
+    void screenChanged();
+
+private:
+    /// The row of the list that shows the verb; -1 for none. It may have moved
+    /// since, as the history does when the verb is seen.
+    int rowOfVerb() const;
+
+    std::shared_ptr<platform::ViewController> destination_;
+    std::shared_ptr<detail::VerbDetailTableViewController> controller_;
+    QPointer<Screen> screen_;
+    platform::SplitViewController* split_ = nullptr;
+    /// The list and its table; the list lives as long as its table.
+    lists::InterstitialTableViewController* list_ = nullptr;
+    QPointer<QtTableView> table_;
+};
+
+} // namespace lumora::qt

@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/mail_composer.h"
+#include "platform/presenter.h"
+#include "platform/share_sheet.h"
+#include "qt/desktop_documents.h"
+#include "qt/printers.h"
+#include "qt/save_location.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QPointer>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QThreadPool>
+#include <QtQml/qqmlregistration.h>
+#include <QUrl>
+#include <QVariantList>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace lumora::qt {
+
+/// The ways out for one thing at a time: the offers, and then where to save it
+/// or which printer to take. QML shows it and says what was chosen. GUI thread
+/// only; printers are talked to on a thread of their own.
+class QtShareSheet final : public QObject,
+                           public platform::ShareSheet,
+                           public platform::MailComposerDelegate {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the program")
+    Q_PROPERTY(bool open READ isOpen NOTIFY changed)
+    Q_PROPERTY(QString heading READ heading NOTIFY changed)
+    Q_PROPERTY(QVariantList rows READ rows NOTIFY changed)
+    Q_PROPERTY(QQuickItem* anchor READ anchor NOTIFY changed)
+    Q_PROPERTY(bool askingWhere READ isAskingWhere NOTIFY changed)
+    Q_PROPERTY(lumora::qt::SaveLocation* location READ location CONSTANT)
+
+public:
+    /// Presenter and mail must outlive this. The desktop's dialogs come first,
+    /// where it has them.
+    QtShareSheet(platform::Presenter& presenter, platform::MailService& mail, Desktop desktop);
+    ~QtShareSheet() override;
+
+    /// Where bar buttons are looked for.
+    void setWindow(QQuickWindow* window) { window_ = window; }
+
+    void present(platform::ViewController& on, platform::ShareItems items,
+                 std::string_view anchor) override;
+    void mailComposeDidFinish(platform::MailComposer& composer,
+                              platform::MailComposeResult result) override;
+
+    bool isOpen() const { return stage_ != Stage::Closed; }
+    /// What is shared, or what the rows choose.
+    QString heading() const;
+    /// Maps of title, detail, image and enabled.
+    QVariantList rows() const;
+    /// The bar button that the sheet stands by; null when it is out of sight.
+    QQuickItem* anchor() const { return anchor_; }
+    bool isAskingWhere() const { return stage_ == Stage::Where; }
+    SaveLocation* location() { return &location_; }
+
+    Q_INVOKABLE void choose(int row);
+    Q_INVOKABLE void cancel();
+    /// Saves at the location, after a question where a file is replaced.
+    Q_INVOKABLE void saveHere();
+
+signals:
+    void changed();
+
+private:
+    enum class Stage { Closed, Offers, Printers, Where };
+    struct Row {
+        QString title;
+        QString detail;
+        const char* image = "";
+        std::function<void()> chosen;
+    };
+    /// What is saved once it is known where.
+    struct Document {
+        QString suffix;
+        std::function<QByteArray()> content;
+    };
+
+    void show(Stage stage, std::vector<Row> rows = {});
+    void offer();
+    void copy();
+    void askWhere(Document document);
+    void save(const QUrl& file, const Document& document);
+    void lookForPrinters();
+    void offerPrinters(const QList<Printer>& printers);
+    void print(const QString& printerName);
+    void printThroughDesktop();
+    void send();
+    void sayThat(const QString& sentence);
+    void sayPrintFailed(const QString& title);
+
+    platform::Presenter& presenter_;
+    platform::MailService& mail_;
+    DesktopDocuments desktop_;
+    /// Stands for the sheet where a screen is asked for.
+    platform::ViewController screen_;
+    QPointer<QQuickWindow> window_;
+    QPointer<QQuickItem> anchor_;
+    QString title_;
+    QString text_;
+    QString html_;
+    Stage stage_ = Stage::Closed;
+    /// Counts what was shown, so that late news of printers changes nothing.
+    int shown_ = 0;
+    std::vector<Row> rows_;
+    Document document_;
+    SaveLocation location_{this};
+    std::weak_ptr<platform::MailComposer> composer_;
+    /// Last: it ends before what its work comes back to.
+    QThreadPool printing_;
+};
+
+} // namespace lumora::qt

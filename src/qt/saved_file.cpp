@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "qt/saved_file.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace lumora::qt {
+
+namespace {
+
+constexpr qsizetype kLongestName = 60;
+
+/// What of a title may stand in the name of a file, hidden ones apart.
+QString fileName(const QString& title)
+{
+    QString name;
+    for (const QChar character : title.left(kLongestName)) {
+        name += character == u'/' || !character.isPrint() ? QChar{u'-'} : character;
+    }
+    name = name.trimmed();
+    return name.isEmpty() || name.startsWith(u'.') ? u'_' + name : name;
+}
+
+} // namespace
+
+QUrl freeDocument(const QString& title, const QString& suffix)
+{
+    QDir folder{QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)};
+    if (!folder.exists()) {
+        folder = QDir::home();
+    }
+    const auto name = fileName(title);
+    QString candidate = QStringLiteral("%1.%2").arg(name, suffix);
+    for (int number = 2; folder.exists(candidate); ++number) {
+        candidate = QStringLiteral("%1 %2.%3").arg(name, QString::number(number), suffix);
+    }
+    return QUrl::fromLocalFile(folder.filePath(candidate));
+}
+
+bool saveFile(const QUrl& file, const QByteArray& content)
+{
+    if (!file.isLocalFile()) {
+        return false;
+    }
+    // Unlike our own files, a document gets the permissions that the user's
+    // documents have.
+    QSaveFile target{file.toLocalFile()};
+    return target.open(QIODevice::WriteOnly) && target.write(content) == content.size() &&
+           target.commit();
+}
+
+} // namespace lumora::qt
