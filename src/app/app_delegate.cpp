@@ -33,7 +33,6 @@ namespace lumora::app {
 
 namespace {
 
-constexpr std::string_view kSearchShortcut = "com.brindle.shortcut.search";
 constexpr std::pair<std::string_view, const char*> kTabShortcuts[] = {
     {"com.brindle.shortcut.favourite", "Favourites"},
     {"com.brindle.shortcut.history", "History"},

@@ -31,6 +31,8 @@ struct ShortcutItem {
     std::string type;
 };
 
+inline constexpr std::string_view kSearchShortcut = "com.brindle.shortcut.search";
+
 struct LaunchOptions {
     std::optional<ShortcutItem> shortcutItem;
 };

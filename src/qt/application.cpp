@@ -182,8 +182,11 @@ void Application::raise(const QString& activationToken)
     qunsetenv(kTokenVariable);
 }
 
-void Application::closeModals()
+void Application::clearTheWay()
 {
+    // Questions first: their answers lead to screens that go next.
+    presenter_.withdraw();
+    shareSheet_.cancel();
     std::vector<Modal*> modals;
     for (const auto& modal : presenter_.modals()->modals()) {
         modals.push_back(modal.get());
@@ -196,11 +199,16 @@ void Application::closeModals()
 
 void Application::open(const InstanceRequest& request)
 {
-    if (request.shortcut || !request.links.isEmpty()) {
-        closeModals();
+    // Beside a verb the search field is in sight: its shortcut does nothing.
+    const bool changesNothing = request.shortcut == toQString(app::kSearchShortcut) &&
+                                !splitScreen_->collapsed() && request.links.isEmpty();
+    if ((request.shortcut || !request.links.isEmpty()) && !changesNothing) {
+        clearTheWay();
     }
     if (request.shortcut) {
-        splitScreen_->backToHome();
+        if (!changesNothing) {
+            splitScreen_->backToHome();
+        }
         delegate_.performActionForShortcutItem({toUtf8(*request.shortcut)}, [](bool) {});
     }
     for (const auto& link : request.links) {

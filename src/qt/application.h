@@ -87,7 +87,7 @@ public:
 private:
     void applicationStateChanged(Qt::ApplicationState state);
     void raise(const QString& activationToken);
-    void closeModals();
+    void clearTheWay();
     void open(const InstanceRequest& request);
 
     ApplicationOptions options_;

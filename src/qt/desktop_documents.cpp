@@ -51,7 +51,8 @@ bool DesktopDocuments::hasSaveDialog() const
 }
 
 void DesktopDocuments::askWhereToSave(const QString& title, const QUrl& suggestion,
-                                      std::function<void(const QUrl&)> chosen)
+                                      std::function<void(const QUrl&)> chosen,
+                                      std::function<void()> failed)
 {
     const QFileInfo file{suggestion.toLocalFile()};
     const QVariantMap options{
@@ -60,10 +61,13 @@ void DesktopDocuments::askWhereToSave(const QString& title, const QUrl& suggesti
     };
     portal::Request::send(
         desktop_.bus, kFileChooser, QStringLiteral("SaveFile"), {kNoParentWindow, title}, options,
-        [chosen = std::move(chosen)](portal::Answer answer, const QVariantMap& results) {
+        [chosen = std::move(chosen), failed = std::move(failed)](portal::Answer answer,
+                                                                 const QVariantMap& results) {
             const auto files = results.value(QStringLiteral("uris")).toStringList();
             if (answer == portal::Answer::Done && !files.isEmpty()) {
                 chosen(QUrl{files.first()});
+            } else if (answer != portal::Answer::Cancelled) {
+                failed();
             }
         },
         this);

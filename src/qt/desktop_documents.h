@@ -20,10 +20,11 @@ public:
     explicit DesktopDocuments(Desktop desktop);
 
     bool hasSaveDialog() const;
-    /// `chosen` gets the file from the event loop, while this lives; it is not
-    /// called when none was chosen. The dialog asks before a file is replaced.
+    /// `chosen` gets the file, or `failed` is called when the dialog could not
+    /// ask; neither when the person chose none. From the event loop, while this
+    /// lives. The dialog asks before a file is replaced.
     void askWhereToSave(const QString& title, const QUrl& suggestion,
-                        std::function<void(const QUrl&)> chosen);
+                        std::function<void(const QUrl&)> chosen, std::function<void()> failed);
 
     bool hasPrintDialog() const;
     /// `failed` is called from the event loop, while this lives, when nothing

@@ -118,8 +118,8 @@ void DesktopMail::openInPortal(uint version, const MailMessage& message, Finishe
                         {QStringLiteral("body"), message.body}};
     if (version >= kManyAddresses) {
         options.insert(QStringLiteral("addresses"), message.recipients);
-    } else {
-        options.insert(QStringLiteral("address"), message.recipients.value(0));
+    } else if (!message.recipients.isEmpty()) {
+        options.insert(QStringLiteral("address"), message.recipients.first());
     }
     const QString noParentWindow;
     portal::Request::send(

@@ -191,4 +191,13 @@ void QtPresenter::cancel()
     emit questionChanged();
 }
 
+void QtPresenter::withdraw()
+{
+    preview_.close();
+    // What an answer asks anew is not withdrawn.
+    for (auto left = questions_.size(); left > 0 && isCancellable(); --left) {
+        cancel();
+    }
+}
+
 } // namespace lumora::qt

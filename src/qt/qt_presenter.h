@@ -71,6 +71,10 @@ public:
     int anchorRow() const;
     ModalStack* modals() { return &modals_; }
 
+    /// Leaves what waits for the user: the preview, and the questions with
+    /// those of their answers that cancel. What asked may go after that.
+    void withdraw();
+
     Q_INVOKABLE void answer(int index);
     Q_INVOKABLE void cancel();
 

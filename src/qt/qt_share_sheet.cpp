@@ -14,6 +14,7 @@
 #include <QQmlEngine>
 #include <QtConcurrentRun>
 
+#include <algorithm>
 #include <utility>
 
 namespace lumora::qt {
@@ -53,8 +54,10 @@ QtShareSheet::QtShareSheet(platform::Presenter& presenter, platform::MailService
 
 QtShareSheet::~QtShareSheet()
 {
-    if (const auto composer = composer_.lock()) {
-        composer->setMailComposeDelegate(nullptr);
+    for (const auto& sending : sendings_) {
+        if (const auto composer = sending.composer.lock()) {
+            composer->setMailComposeDelegate(nullptr);
+        }
     }
 }
 
@@ -144,7 +147,8 @@ void QtShareSheet::askWhere(Document document)
         cancel();
         desktop_.askWhereToSave(
             title_, suggestion,
-            [this, document = std::move(document)](const QUrl& file) { save(file, document); });
+            [this, document = std::move(document)](const QUrl& file) { save(file, document); },
+            [this, name = suggestion.fileName()] { saySaveFailed(name); });
         return;
     }
     document_ = std::move(document);
@@ -180,7 +184,7 @@ void QtShareSheet::save(const QUrl& file, const Document& document)
 {
     const auto content = document.content();
     if (content.isEmpty() || !saveFile(file, content)) {
-        sayThat(qtTrId("share.save.failed").arg(file.fileName()));
+        saySaveFailed(file.fileName());
     }
 }
 
@@ -204,6 +208,10 @@ void QtShareSheet::printThroughDesktop()
     cancel();
     QtConcurrent::run(&printing_, &pdfOf, html_, title_)
         .then(this, [this, title = title_](const QByteArray& pdf) {
+            if (pdf.isEmpty()) {
+                sayPrintFailed(title);
+                return;
+            }
             desktop_.print(title, pdf, [this, title] { sayPrintFailed(title); });
         });
 }
@@ -238,7 +246,8 @@ void QtShareSheet::send()
 {
     cancel();
     const auto composer = mail_.makeMailComposer();
-    composer_ = composer;
+    std::erase_if(sendings_, [](const Sending& sending) { return sending.composer.expired(); });
+    sendings_.push_back({composer, title_});
     composer->setMailComposeDelegate(this);
     composer->setSubject(toUtf8(title_));
     composer->setMessageBody(toUtf8(text_), false);
@@ -248,11 +257,19 @@ void QtShareSheet::send()
 void QtShareSheet::mailComposeDidFinish(platform::MailComposer& composer,
                                         platform::MailComposeResult result)
 {
-    presenter_.dismiss(composer, [self = QPointer{this}, result] {
+    const auto sending = std::ranges::find_if(
+        sendings_, [&](const Sending& each) { return each.composer.lock().get() == &composer; });
+    const auto title = sending == sendings_.end() ? title_ : sending->title;
+    presenter_.dismiss(composer, [self = QPointer{this}, result, title] {
         if (self && result == platform::MailComposeResult::Failed) {
-            self->sayThat(qtTrId("share.mail.failed").arg(self->title_));
+            self->sayThat(qtTrId("share.mail.failed").arg(title));
         }
     });
+}
+
+void QtShareSheet::saySaveFailed(const QString& fileName)
+{
+    sayThat(qtTrId("share.save.failed").arg(fileName));
 }
 
 void QtShareSheet::sayPrintFailed(const QString& title)

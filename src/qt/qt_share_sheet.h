@@ -88,6 +88,12 @@ private:
         std::function<QByteArray()> content;
     };
 
+    /// A message under way, and what it is about.
+    struct Sending {
+        std::weak_ptr<platform::MailComposer> composer;
+        QString title;
+    };
+
     void show(Stage stage, std::vector<Row> rows = {});
     void offer();
     void copy();
@@ -99,6 +105,7 @@ private:
     void printThroughDesktop();
     void send();
     void sayThat(const QString& sentence);
+    void saySaveFailed(const QString& fileName);
     void sayPrintFailed(const QString& title);
 
     platform::Presenter& presenter_;
@@ -117,7 +124,7 @@ private:
     std::vector<Row> rows_;
     Document document_;
     SaveLocation location_{this};
-    std::weak_ptr<platform::MailComposer> composer_;
+    std::vector<Sending> sendings_;
     /// Last: it ends before what its work comes back to.
     QThreadPool printing_;
 };

@@ -242,5 +242,32 @@ TEST_F(WindowTest, AModalHidesWhatIsBelowOnAPhoneAndGoesBeforeAnythingElseIsDone
     EXPECT_EQ(presenter.modals()->count(), 0);
 }
 
+TEST_F(WindowTest, ARequestFromOutsideWithdrawsWhatWaitsForTheUser)
+{
+    start({390, 844});
+    auto& presenter = application->presenter();
+    int cancelled = 0;
+    {
+        // Asks, and is gone with its modal: only the cancelling answer may run.
+        const auto asking = std::make_shared<platform::ViewController>();
+        presenter.present(*asking, asking);
+        const platform::ActionSheet sheet{
+            std::nullopt,
+            {{"Do", platform::ActionStyle::Normal, [] { FAIL() << "nobody chose it"; }},
+             {"Leave", platform::ActionStyle::Cancel, [&] { ++cancelled; }}}};
+        presenter.presentActionSheet(*asking, sheet, {});
+        presenter.presentActionSheet(*asking, sheet, {});
+    }
+    ASSERT_TRUE(presenter.asking());
+
+    application->serve({QStringLiteral("com.brindle.shortcut.favourite"), {}, {}});
+
+    EXPECT_FALSE(presenter.asking());
+    EXPECT_EQ(cancelled, 2);
+    EXPECT_TRUE(until([&] { return presenter.modals()->count() == 0; }));
+    EXPECT_NE(find("tab1"), nullptr);
+    EXPECT_TRUE(find("tab1")->property("checked").toBool());
+}
+
 } // namespace
 } // namespace lumora::qt
