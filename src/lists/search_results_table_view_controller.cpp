@@ -17,7 +17,8 @@ namespace lumora::lists {
 
 namespace {
 
-constexpr platform::PackedColumn kForms{"conjugation", "verbid", "verb", "packed_forms", "forms"};
+constexpr platform::PackedColumn kForms{"conjugation",  "verbid", "verb",
+                                        "packed_forms", "forms",  "verb"};
 
 } // namespace
 

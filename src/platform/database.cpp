@@ -3,6 +3,8 @@
 
 #include "platform/database.h"
 
+#include "platform/quick_like.h"
+
 #include <sqlite3.h>
 
 #include <cassert>
@@ -157,6 +159,7 @@ Result<void> Database::open()
     sqlite3_busy_timeout(connection_, kBusyMilliseconds);
     // A sort of all rows would else end in a temporary file.
     sqlite3_exec(connection_, "PRAGMA temp_store = MEMORY", nullptr, nullptr, nullptr);
+    registerQuickLike(connection_);
     return {};
 }
 

@@ -21,7 +21,7 @@ namespace lumora::platform {
 using SqlValue = std::variant<std::nullptr_t, std::int64_t, double, std::string>;
 
 class Database;
-class PackedTexts;
+struct PackedTables;
 
 /// The rows of one statement, read by column name, one row per `next`.
 ///
@@ -91,7 +91,7 @@ private:
     /// Why statements fail while there is no connection.
     Error closedReason_;
     /// Of PackedSearch, which reads them once for all connections of the queue.
-    std::shared_ptr<const PackedTexts> packedTexts_;
+    std::shared_ptr<const PackedTables> packedTables_;
 };
 
 } // namespace lumora::platform

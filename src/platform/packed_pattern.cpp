@@ -5,6 +5,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <cstring>
 
 namespace lumora::platform {
@@ -29,6 +30,24 @@ constexpr std::uint32_t payload(unsigned char lead)
         ones >>= 1U;
     }
     return rest;
+}
+
+constexpr char folded(char byte)
+{
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
+}
+
+constexpr bool isAscii(char byte)
+{
+    return static_cast<unsigned char>(byte) < 0x80U;
+}
+
+/// Whether the text goes on with these folded bytes.
+bool startsWith(const char* text, std::string_view bytes)
+{
+    // The text's NUL differs from each of them.
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [&text](char byte) { return folded(*text++) == byte; });
 }
 
 /// Takes one character off the front as SQLite does, which has its own reading
@@ -89,31 +108,73 @@ bool anyLane(Lanes lanes)
     return (halves[0] | halves[1]) != 0;
 }
 
-/// memmem, which is slow for the two or three bytes of a first key: compares the
-/// needle's first and last byte with sixteen places at once.
+void foldLanes(char* bytes)
+{
+    Lanes lanes = lanesAt(bytes);
+    const auto isCapital = reinterpret_cast<Lanes>(lanes - std::uint8_t{'A'} < std::uint8_t{26});
+    lanes += isCapital & std::uint8_t{'a' - 'A'};
+    std::memcpy(bytes, &lanes, sizeof lanes);
+}
+
+/// Whether the needle begins at one of the first `places`. Sixteen more bytes
+/// than the needle takes behind them can be read.
+///
+/// Compares the needle's first and last byte with sixteen places at once: memmem
+/// is slow for the two or three bytes of a first key.
+bool containsWithin(const char* text, std::size_t places, std::string_view needle)
+{
+    const std::size_t toLast = needle.size() - 1;
+    const Lanes first = Lanes{} + static_cast<std::uint8_t>(needle.front());
+    const Lanes last = Lanes{} + static_cast<std::uint8_t>(needle.back());
+    for (const char* const end = text + places; text < end; text += sizeof(Lanes)) {
+        const auto both =
+            reinterpret_cast<Lanes>((lanesAt(text) == first) & (lanesAt(text + toLast) == last));
+        if (anyLane(both)) {
+            for (std::size_t lane = 0; lane < sizeof(Lanes); ++lane) {
+                if (both[lane] != 0 &&
+                    std::memcmp(text + lane, needle.data(), needle.size()) == 0) {
+                    return true;
+                }
+            }
+        }
+    }
+    return false;
+}
+
+constexpr std::size_t kPlaces = 128;
+constexpr std::size_t kLongestNeedle = 32;
+
+/// Looks for the needle in a text that is not folded. Neither may be longer than
+/// the constants say.
+bool containsFolded(std::string_view text, std::string_view needle)
+{
+    // Only the end is cleared: clearing all takes longer than the search.
+    constexpr std::size_t kBeyond = kLongestNeedle + sizeof(Lanes);
+    std::array<char, kPlaces + kBeyond> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    std::memcpy(buffer.data(), text.data(), text.size());
+    std::memset(buffer.data() + text.size(), 0, kBeyond);
+    for (std::size_t at = 0; at < text.size(); at += sizeof(Lanes)) {
+        foldLanes(buffer.data() + at);
+    }
+    return containsWithin(buffer.data(), text.size(), needle);
+}
+
 bool contains(std::string_view text, std::string_view needle)
 {
     if (needle.empty()) {
         return true;
     }
-    const std::size_t toLast = needle.size() - 1;
-    const Lanes first = Lanes{} + static_cast<std::uint8_t>(needle.front());
-    const Lanes last = Lanes{} + static_cast<std::uint8_t>(needle.back());
-    const char* at = text.data();
-    const char* const end = at + text.size();
-    while (static_cast<std::size_t>(end - at) >= sizeof(Lanes) + toLast) {
-        const auto both =
-            reinterpret_cast<Lanes>((lanesAt(at) == first) & (lanesAt(at + toLast) == last));
-        if (anyLane(both)) {
-            for (std::size_t lane = 0; lane < sizeof(Lanes); ++lane) {
-                if (both[lane] != 0 && std::memcmp(at + lane, needle.data(), needle.size()) == 0) {
-                    return true;
-                }
-            }
-        }
-        at += sizeof(Lanes);
+    // Whole blocks of places, then what is left at the end.
+    const std::size_t beyond = needle.size() - 1 + sizeof(Lanes);
+    const std::size_t places =
+        text.size() < beyond
+            ? 0
+            : (text.size() - beyond) / sizeof(Lanes) * sizeof(Lanes) + sizeof(Lanes);
+    if (containsWithin(text.data(), places, needle)) {
+        return true;
     }
-    return memmem(at, static_cast<std::size_t>(end - at), needle.data(), needle.size()) != nullptr;
+    text.remove_prefix(places);
+    return memmem(text.data(), text.size(), needle.data(), needle.size()) != nullptr;
 }
 
 } // namespace
@@ -121,11 +182,7 @@ bool contains(std::string_view text, std::string_view needle)
 PackedPattern::PackedPattern(std::string_view pattern)
     : folded_(pattern.substr(0, pattern.find('\0')))
 {
-    for (char& byte : folded_) {
-        if (byte >= 'A' && byte <= 'Z') {
-            byte = static_cast<char>(byte - 'A' + 'a');
-        }
-    }
+    std::transform(folded_.begin(), folded_.end(), folded_.begin(), folded);
     std::vector<Step> steps;
     // Whether "%" stands before a step, and at the end.
     std::vector<bool> gaps(1, false);
@@ -145,6 +202,11 @@ PackedPattern::PackedPattern(std::string_view pattern)
     }
     shortestMatch_ = steps.size();
     chooseWay(steps, gaps);
+    if (!std::all_of(folded_.begin(), folded_.end(), isAscii)) {
+        single_ = Single::AskUnlessAscii;
+    } else if (way_ == Way::Search && gaps.back()) {
+        single_ = gaps.front() ? Single::Anywhere : Single::AtStart;
+    }
 }
 
 void PackedPattern::chooseWay(const std::vector<Step>& steps, const std::vector<bool>& gaps)
@@ -263,6 +325,30 @@ bool PackedPattern::matchesAny(std::string_view packed) const
     default:
         return true;
     }
+}
+
+bool PackedPattern::matches(std::string_view text) const
+{
+    if (way_ == Way::AnyText) {
+        return true;
+    }
+    switch (single_) {
+    case Single::AtStart:
+        return startsWith(text.data(), std::string_view(needle_).substr(1));
+    case Single::Anywhere:
+        if (text.size() <= kPlaces && needle_.size() <= kLongestNeedle) {
+            return containsFolded(text, needle_);
+        }
+        break;
+    case Single::AskUnlessAscii:
+        if (std::all_of(text.begin(), text.end(), isAscii)) {
+            return false;
+        }
+        break;
+    case Single::Ask:
+        break;
+    }
+    return sqlite3_strlike(folded_.c_str(), text.data(), 0) == 0;
 }
 
 } // namespace lumora::platform

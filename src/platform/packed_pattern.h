@@ -25,6 +25,10 @@ public:
     /// Whether any of the texts matches.
     bool matchesAny(std::string_view packed) const;
 
+    /// Whether this text matches, which is neither packed nor folded, holds any
+    /// bytes and ends where a NUL stands behind it.
+    bool matches(std::string_view text) const;
+
 private:
     /// Steps on the way through a pattern, one bit each.
     using Steps = std::uint64_t;
@@ -47,7 +51,17 @@ private:
     bool runAutomaton(std::string_view packed) const;
     bool confirm(std::string_view packed) const;
 
+    /// How a single text is looked at, which may hold any bytes. ASCII stands for
+    /// itself among them; of other characters SQLite has its own reading.
+    enum class Single {
+        AtStart,        ///< the needle's place
+        Anywhere,       ///< the needle's place
+        AskUnlessAscii, ///< only other characters match: else SQLite is asked
+        Ask,            ///< SQLite is asked
+    };
+
     Way way_ = Way::Confirm;
+    Single single_ = Single::Ask;
     std::string folded_;
     /// Bytes that stand in every packed text with a match.
     std::string needle_;

@@ -7,6 +7,7 @@
 #include "support/world.h"
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <filesystem>
 #include <random>
@@ -35,23 +36,27 @@ protected:
         world_.execute("INSERT INTO favourite (verbid) SELECT _id FROM verb WHERE _id % 21 = 0");
     }
 
+    /// By SQLite as it comes, on a connection of its own.
     Rows onTheRealTable(const std::string& text) const
     {
         const auto query = lists::makeSearchQuery(text, world_.settings, world_.device);
+        sqlite3* stock = nullptr;
+        sqlite3_stmt* statement = nullptr;
+        EXPECT_EQ(sqlite3_open((world_.folder / "shipped.db").c_str(), &stock), SQLITE_OK);
+        EXPECT_EQ(sqlite3_prepare_v2(stock, query.statement.c_str(), -1, &statement, nullptr),
+                  SQLITE_OK);
+        for (int i = 1; i <= query.placeholders; ++i) {
+            sqlite3_bind_text(statement, i, query.pattern.data(),
+                              static_cast<int>(query.pattern.size()), SQLITE_STATIC);
+        }
         Rows found;
-        world_.queue->inDatabase([&](platform::Database& database) {
-            auto rows = database.executeQuery(
-                query.statement, std::vector<platform::SqlValue>(
-                                     static_cast<std::size_t>(query.placeholders), query.pattern));
-            ASSERT_TRUE(rows);
-            const int id = rows->columnIndex("_id");
-            const int french = rows->columnIndex("french");
-            const int favourite = rows->columnIndex("favourite_available");
-            while (rows->next()) {
-                found.emplace_back(rows->longForColumn(id), rows->stringForColumn(french),
-                                   rows->boolForColumn(favourite));
-            }
-        });
+        while (sqlite3_step(statement) == SQLITE_ROW) {
+            found.emplace_back(sqlite3_column_int64(statement, 0),
+                               reinterpret_cast<const char*>(sqlite3_column_text(statement, 2)),
+                               sqlite3_column_int64(statement, 15) != 0);
+        }
+        sqlite3_finalize(statement);
+        sqlite3_close(stock);
         return found;
     }
 
@@ -94,6 +99,7 @@ TEST_F(FormSearch, ShowsWhatTheRealTableHolds)
         world_.settings.setValue(std::string(i % 2 == 0 ? "S" : "W"), "SearchFrom");
         world_.settings.setValue(i % 3 != 0, "IncludeEnglish");
         world_.settings.setValue(i % 5 != 0, "SortByLang");
+        world_.settings.setValue(i % 4 != 0, "IncludeConjugations");
 
         const Rows found = onTheScreen(texts[i]);
 

@@ -20,7 +20,7 @@ namespace {
 
 using support::TemporaryFolder;
 
-const PackedColumn kForms{"conjugation", "verbid", "verb", "packed_forms", "forms"};
+const PackedColumn kForms{"conjugation", "verbid", "verb", "packed_forms", "forms", "verb"};
 
 std::string packed(const std::vector<std::string>& texts)
 {
@@ -39,6 +39,20 @@ TEST(PackedPattern, AnswersAsLikeDoesWhateverTheBytes)
         {"abababac", "aab", std::string(70, 'a') + "b", "b"},
         {""},
         {},
+    };
+    const std::vector<std::string> unfolded = {
+        "",
+        "Vais",
+        "suis ALLÉE",
+        "\xC3"
+        "as",
+        "\xC1\xA1"
+        "b",
+        "Z[a@`{",
+        "\xFFs",
+        "\xC3\xA9\xA9z",
+        "aaaaaaaaaaaaaaaaAB",
+        std::string(126, 'x') + "AbAb",
     };
     // Whole characters, halves of them, overlong and impossible ones.
     const std::vector<std::string> pieces = {
@@ -98,6 +112,11 @@ TEST(PackedPattern, AnswersAsLikeDoesWhateverTheBytes)
                 });
             ASSERT_EQ(compiled.matchesAny(packed(texts)), expected)
                 << testing::PrintToString(pattern) << " in " << testing::PrintToString(texts);
+            for (const auto& text : unfolded) {
+                ASSERT_EQ(compiled.matches(text),
+                          sqlite3_strlike(pattern.c_str(), text.c_str(), 0) == 0)
+                    << testing::PrintToString(pattern) << " in " << testing::PrintToString(text);
+            }
         }
     }
 }
@@ -111,6 +130,8 @@ TEST(PackedPattern, FindsAcrossTheBlocksItReads)
             EXPECT_EQ(PackedPattern("%ab").matchesAny(packed({text})), after == 0) << text;
             EXPECT_EQ(PackedPattern("ab%").matchesAny(packed({"z", text})), before == 0) << text;
             EXPECT_FALSE(PackedPattern("%ba%").matchesAny(packed({text}))) << text;
+            EXPECT_TRUE(PackedPattern("%aB%").matches(text)) << text;
+            EXPECT_FALSE(PackedPattern("%ba%").matches(text)) << text;
         }
     }
 }
@@ -232,6 +253,31 @@ TEST_F(PackedSearchTest, LeavesEveryOtherStatementTheRealTable)
     });
     queue->inDatabase([&](Database& database) {
         EXPECT_EQ(number(database, "SELECT count(*) FROM conjugation"), 4);
+    });
+}
+
+TEST_F(PackedSearchTest, LikesWhatTheBuiltInDoes)
+{
+    const std::string both =
+        "WITH all_values(v) AS (VALUES (NULL), ('10'), (10), (1.5), (x'3130'), "
+        "(''), ('%'), ('1%'), ('É')) SELECT group_concat(ifnull(a.v LIKE "
+        "b.v, 'n')) FROM all_values a, all_values b";
+    std::string builtIn;
+    sqlite3* plain = nullptr;
+    ASSERT_EQ(sqlite3_open(":memory:", &plain), SQLITE_OK);
+    sqlite3_exec(
+        plain, both.c_str(),
+        [](void* answer, int, char** row, char**) {
+            *static_cast<std::string*>(answer) = row[0];
+            return 0;
+        },
+        &builtIn, nullptr);
+    sqlite3_close(plain);
+    queue->inDatabase([&](Database& database) {
+        auto rows = database.executeQuery(both, {});
+        ASSERT_TRUE(rows && rows->next());
+        EXPECT_EQ(rows->stringForColumn(0), builtIn);
+        EXPECT_EQ(builtIn.size(), 161U);
     });
 }
 

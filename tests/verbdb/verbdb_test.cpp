@@ -91,9 +91,9 @@ TEST_F(Verbdb, WritesVerbsAndTheirForms)
 
     EXPECT_EQ(query("SELECT count(*), min(_id), max(_id) FROM verb"), Rows{"20|1|41"});
     EXPECT_EQ(query("SELECT * FROM verb WHERE _id = 22"),
-              Rows{"22|méfier (se)|distrust, be wary|misstrauen, hüten (sich)|wantrouwen, hoeden "
-                   "(zich)|desconfiar|diffidare|desconfiar|mefier|misstrauen, huten|wantrouwen, "
-                   "hoeden|desconfiar|diffidare|desconfiar"});
+              Rows{"22|méfier (se)|mefier|distrust, be wary|misstrauen, hüten (sich)|misstrauen, "
+                   "huten|wantrouwen, hoeden (zich)|wantrouwen, hoeden|desconfiar|desconfiar|"
+                   "diffidare|diffidare|desconfiar|desconfiar"});
     EXPECT_EQ(query("SELECT pronoun, verb, display FROM conjugation WHERE verbid = 11 AND type = "
                     "'indicatifPresent' ORDER BY conj_order"),
               (Rows{"je|paie, paye|1", "tu|paies, payes|1", "il/elle/on|paie, paye|1",
@@ -130,9 +130,9 @@ TEST_F(Verbdb, KeepsTheColumnsOthersRelyOn)
         return query("SELECT group_concat(name) FROM pragma_table_info('" + table + "')");
     };
     EXPECT_EQ(columns("verb"),
-              Rows{"_id,french,english,german,dutch,spanish,italian,portuguese,simplified_french,"
-                   "simplified_german,simplified_dutch,simplified_spanish,simplified_italian,"
-                   "simplified_portuguese"});
+              Rows{"_id,french,simplified_french,english,german,simplified_german,dutch,"
+                   "simplified_dutch,spanish,simplified_spanish,italian,simplified_italian,"
+                   "portuguese,simplified_portuguese"});
     EXPECT_EQ(columns("conjugation"), Rows{"_id,verbid,pronoun,verb,type,conj_order,display"});
     EXPECT_EQ(columns("favourite"), Rows{"_id,verbid"});
     EXPECT_EQ(columns("history"), Rows{"_id,verbid,timestamp"});

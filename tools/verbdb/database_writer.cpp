@@ -20,7 +20,8 @@ namespace {
 
 // Fixed pages and rows written in the order of their keys make the file a
 // function of the tables. Without a rowid a verb's forms lie together and the
-// text is not kept a second time in an index.
+// text is not kept a second time in an index. What a search looks at lies at the
+// head of a verb's row, for SQLite counts its way through to a column.
 constexpr auto kSchema = R"(
 PRAGMA page_size = 4096;
 PRAGMA encoding = 'UTF-8';
@@ -31,17 +32,17 @@ BEGIN;
 CREATE TABLE verb (
     _id INTEGER PRIMARY KEY,
     french TEXT NOT NULL,
+    simplified_french TEXT NOT NULL,
     english TEXT NOT NULL,
     german TEXT NOT NULL,
-    dutch TEXT NOT NULL,
-    spanish TEXT NOT NULL,
-    italian TEXT NOT NULL,
-    portuguese TEXT NOT NULL,
-    simplified_french TEXT NOT NULL,
     simplified_german TEXT NOT NULL,
+    dutch TEXT NOT NULL,
     simplified_dutch TEXT NOT NULL,
+    spanish TEXT NOT NULL,
     simplified_spanish TEXT NOT NULL,
+    italian TEXT NOT NULL,
     simplified_italian TEXT NOT NULL,
+    portuguese TEXT NOT NULL,
     simplified_portuguese TEXT NOT NULL
 );
 CREATE TABLE conjugation (
@@ -171,15 +172,14 @@ void writeRows(const Content& content, Output& output)
         const auto headword = content.conjugator.headword(verb.entry);
         const auto simplifiedHeadword = simplified(headword);
         std::array<std::string, kLanguages.size()> simplifiedTranslations;
-        insertVerb << verb.id << std::string_view(headword);
-        for (const auto& text : verb.translations) {
-            insertVerb << std::string_view(text);
-        }
-        insertVerb << std::string_view(simplifiedHeadword);
-        // English has no simplified column.
-        for (std::size_t language = 1; language < kLanguages.size(); ++language) {
-            simplifiedTranslations[language] = simplified(verb.translations[language]);
-            insertVerb << std::string_view(simplifiedTranslations[language]);
+        insertVerb << verb.id << std::string_view(headword) << std::string_view(simplifiedHeadword);
+        for (std::size_t language = 0; language < kLanguages.size(); ++language) {
+            insertVerb << std::string_view(verb.translations[language]);
+            // English has no simplified column.
+            if (language > 0) {
+                simplifiedTranslations[language] = simplified(verb.translations[language]);
+                insertVerb << std::string_view(simplifiedTranslations[language]);
+            }
         }
         insertVerb.run();
 
