@@ -22,7 +22,7 @@ public:
     explicit DatabaseWorld(const std::filesystem::path& file);
 
     platform::Services services() { return world_.services(); }
-    platform::DatabaseQueue& queue() { return *world_.queue; }
+    platform::DatabaseQueue& queue() const { return *world_.queue; }
     platform::SettingsStore& settings() { return world_.settings; }
     support::World& world() { return world_; }
 

@@ -99,8 +99,9 @@ int useLumora(const std::filesystem::path& world)
     }
     auto* list = WindowDriver::listOf(cells.front());
     const auto length = list->property("contentHeight").toDouble() - list->height();
-    for (double position = 0; position < length; position += list->height()) {
-        list->setProperty("contentY", position);
+    const int pages = static_cast<int>(length / list->height()) + 1;
+    for (int page = 0; page < pages; ++page) {
+        list->setProperty("contentY", length * page / pages);
         driver.waitForFrame();
     }
     for (int verb = 0; verb < kVerbsOpened; ++verb) {

@@ -34,9 +34,9 @@ private:
         void setExceptionHandler(ExceptionHandler /*handler*/) override {}
         std::string evaluateScript(std::string_view script) override
         {
-            auto& scripts = factory_.scripts[number_];
-            scripts.emplace_back(script);
-            return "result " + std::to_string(scripts.size());
+            auto& own = factory_.scripts[number_];
+            own.emplace_back(script);
+            return "result " + std::to_string(own.size());
         }
 
     private:

@@ -533,5 +533,93 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Die Lautstärke ist sehr niedrig. Erhöhen Sie sie, um die Aussprache zu hören.</translation>
     </message>
+    <message id="button.export">
+        <source></source>
+        <translation>Teilen</translation>
+    </message>
+    <message id="share.cancel">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="share.copy">
+        <source></source>
+        <translation>Text kopieren</translation>
+    </message>
+    <message id="share.mail">
+        <source></source>
+        <translation>Per E-Mail senden</translation>
+    </message>
+    <message id="share.mail.failed">
+        <source></source>
+        <translation>„%1“ konnte nicht gesendet werden.</translation>
+    </message>
+    <message id="share.mail.unavailable">
+        <source></source>
+        <translation>Auf diesem Gerät ist kein E-Mail-Programm eingerichtet.</translation>
+    </message>
+    <message id="share.print">
+        <source></source>
+        <translation>Drucken</translation>
+    </message>
+    <message id="share.print.failed">
+        <source></source>
+        <translation>„%1“ konnte nicht gedruckt werden.</translation>
+    </message>
+    <message id="share.print.looking">
+        <source></source>
+        <translation>Drucker werden gesucht …</translation>
+    </message>
+    <message id="share.print.none">
+        <source></source>
+        <translation>Auf diesem Gerät gibt es keinen Drucker.</translation>
+    </message>
+    <message id="share.print.where">
+        <source></source>
+        <translation>Drucker wählen</translation>
+    </message>
+    <message id="share.save">
+        <source></source>
+        <translation>Sichern</translation>
+    </message>
+    <message id="share.save.as">
+        <source></source>
+        <translation>Sichern als</translation>
+    </message>
+    <message id="share.save.exists">
+        <source></source>
+        <translation>„%1“ ist bereits vorhanden. Ersetzen?</translation>
+    </message>
+    <message id="share.save.failed">
+        <source></source>
+        <translation>„%1“ konnte nicht gesichert werden.</translation>
+    </message>
+    <message id="share.save.folder.empty">
+        <source></source>
+        <translation>Hier gibt es keine Ordner</translation>
+    </message>
+    <message id="share.save.html">
+        <source></source>
+        <translation>Als Webseite sichern</translation>
+    </message>
+    <message id="share.save.name">
+        <source></source>
+        <translation>Dateiname</translation>
+    </message>
+    <message id="share.save.pdf">
+        <source></source>
+        <translation>Als PDF sichern</translation>
+    </message>
+    <message id="share.save.replace">
+        <source></source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="share.save.text">
+        <source></source>
+        <translation>Als Text sichern</translation>
+    </message>
+    <message id="share.save.up">
+        <source></source>
+        <translation>Übergeordneter Ordner</translation>
+    </message>
 </context>
 </TS>

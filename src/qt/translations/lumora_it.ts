@@ -533,5 +533,93 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Il volume è molto basso. Alzalo per sentire la pronuncia.</translation>
     </message>
+    <message id="button.export">
+        <source></source>
+        <translation>Condividi</translation>
+    </message>
+    <message id="share.cancel">
+        <source></source>
+        <translation>Annulla</translation>
+    </message>
+    <message id="share.copy">
+        <source></source>
+        <translation>Copia il testo</translation>
+    </message>
+    <message id="share.mail">
+        <source></source>
+        <translation>Invia per e-mail</translation>
+    </message>
+    <message id="share.mail.failed">
+        <source></source>
+        <translation>Impossibile inviare «%1».</translation>
+    </message>
+    <message id="share.mail.unavailable">
+        <source></source>
+        <translation>Su questo dispositivo non è configurato nessun programma di posta.</translation>
+    </message>
+    <message id="share.print">
+        <source></source>
+        <translation>Stampa</translation>
+    </message>
+    <message id="share.print.failed">
+        <source></source>
+        <translation>Impossibile stampare «%1».</translation>
+    </message>
+    <message id="share.print.looking">
+        <source></source>
+        <translation>Ricerca delle stampanti…</translation>
+    </message>
+    <message id="share.print.none">
+        <source></source>
+        <translation>Su questo dispositivo non c’è nessuna stampante.</translation>
+    </message>
+    <message id="share.print.where">
+        <source></source>
+        <translation>Scegli una stampante</translation>
+    </message>
+    <message id="share.save">
+        <source></source>
+        <translation>Salva</translation>
+    </message>
+    <message id="share.save.as">
+        <source></source>
+        <translation>Salva con nome</translation>
+    </message>
+    <message id="share.save.exists">
+        <source></source>
+        <translation>«%1» esiste già. Sostituirlo?</translation>
+    </message>
+    <message id="share.save.failed">
+        <source></source>
+        <translation>Impossibile salvare «%1».</translation>
+    </message>
+    <message id="share.save.folder.empty">
+        <source></source>
+        <translation>Qui non ci sono cartelle</translation>
+    </message>
+    <message id="share.save.html">
+        <source></source>
+        <translation>Salva come pagina web</translation>
+    </message>
+    <message id="share.save.name">
+        <source></source>
+        <translation>Nome del file</translation>
+    </message>
+    <message id="share.save.pdf">
+        <source></source>
+        <translation>Salva come PDF</translation>
+    </message>
+    <message id="share.save.replace">
+        <source></source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message id="share.save.text">
+        <source></source>
+        <translation>Salva come testo</translation>
+    </message>
+    <message id="share.save.up">
+        <source></source>
+        <translation>Cartella superiore</translation>
+    </message>
 </context>
 </TS>
