@@ -35,7 +35,7 @@ TouchButton {
                 visible: text !== "" && root.image === ""
                 text: root.text
                 color: root.enabled ? Theme.barText : Theme.barTextDisabled
-                font.pixelSize: Theme.body
+                font.pixelSize: Math.round(17 * Theme.barScale)
             }
         }
     }

@@ -11,6 +11,7 @@ TouchButton {
     property real maximumWidth: 10000
 
     width: Math.min(implicitWidth, maximumWidth)
+    height: implicitHeight
     leftPadding: Theme.gap
     rightPadding: Theme.gap
 

@@ -28,11 +28,12 @@ TableRow {
         color: Theme.barText
     }
     Text {
+        height: parent.height
         anchors.left: icon.right
         anchors.leftMargin: Theme.margin
         anchors.right: parent.right
         anchors.rightMargin: Theme.margin
-        anchors.verticalCenter: parent.verticalCenter
+        verticalAlignment: Text.AlignVCenter
         text: root.text
         color: Theme.barText
         font.pixelSize: Theme.body

@@ -54,15 +54,22 @@ Rectangle {
         }
     }
     Text {
-        anchors.centerIn: parent
-        width: parent.width - 2 * Math.max(left.width, right.width) - 2 * Theme.gap
+        id: title
+
+        readonly property real free: parent.width - left.width - right.width - 2 * Theme.gap - 8
+
+        // In the middle, as far as the buttons let it.
+        x: Math.max(left.x + left.width + Theme.gap, Math.min((parent.width - width) / 2, right.x - Theme.gap - width))
+        width: Math.min(implicitWidth, free)
+        height: parent.height
         text: root.screen.title
         color: Theme.barText
-        font.pixelSize: Theme.title
+        font.pixelSize: Math.round(18 * Theme.barScale)
         font.weight: Font.DemiBold
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 11
         horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
         Accessible.role: Accessible.Heading
         Accessible.name: text

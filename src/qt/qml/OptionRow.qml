@@ -18,7 +18,7 @@ GroupedRow {
     required property int selectedSegment
     readonly property real space: width - 4 * Theme.margin
     readonly property real wishedWidth: value.item === null ? 0 : value.item.implicitWidth
-    readonly property bool stacked: control !== TableItemModel.Switch && label.implicitWidth + Theme.margin + wishedWidth > space
+    readonly property bool stacked: (control === TableItemModel.Segments || detailText !== "") && label.implicitWidth + Theme.margin + wishedWidth > space
     readonly property real valueWidth: stacked ? space : Math.min(wishedWidth, space)
 
     function activate() {

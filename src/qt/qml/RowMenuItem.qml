@@ -14,7 +14,7 @@ MenuItem {
     readonly property color ink: destructive ? Theme.danger : Theme.text
 
     implicitWidth: content.implicitWidth + leftPadding + rightPadding
-    implicitHeight: Theme.touch
+    implicitHeight: Math.max(Theme.touch, content.implicitHeight + Theme.gap)
     leftPadding: 12
     rightPadding: 16
     arrow: null

@@ -13,7 +13,7 @@ Rectangle {
     // To what was found, by keyboard.
     signal listWanted
 
-    implicitHeight: Math.round(52 * Math.max(1, Theme.textScale))
+    implicitHeight: Math.max(52, Theme.body + 35)
     color: Theme.barBackground
 
     Rectangle {

@@ -16,7 +16,7 @@ Item {
     readonly property var titles: table.model.indexTitles
     readonly property int letterHeight: Theme.small + 3
     readonly property int step: Math.max(1, Math.ceil(titles.length * letterHeight / Math.max(1, height - 2 * Theme.gap)))
-    readonly property real rowHeight: Math.min(22, (height - 2 * Theme.gap) / Math.max(1, titles.length))
+    readonly property real rowHeight: Math.min(Math.max(22, letterHeight), (height - 2 * Theme.gap) / Math.max(1, titles.length))
     readonly property real firstY: (height - rowHeight * titles.length) / 2
     property int current: -1
 

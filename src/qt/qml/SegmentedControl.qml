@@ -6,7 +6,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Lumora
 
-// Segments of one width, of which one is chosen. Long titles wrap.
+// Segments of one width, of which one is chosen. Long titles wrap, and shrink
+// where a word alone is too long.
 Rectangle {
     id: root
 
@@ -15,9 +16,14 @@ Rectangle {
     property string name
     property string prefix: "segment"
     property bool inTabOrder: false
+    property color onColor: Theme.segmentOn
+    property color onInk: Theme.segmentInk
+    property int padding: 4
+    readonly property int fullSize: Theme.small + 1
+    readonly property int fontSize: Math.max(9, Math.min(fullSize, Math.floor(fullSize * (segmentWidth - 2 * padding) / widest(titles.join(" ").split(" ")))))
     readonly property real segmentWidth: width / Math.max(1, titles.length)
     // What the widest title would need in every segment.
-    readonly property real wishedWidth: titles.length * titles.reduce((width, title) => Math.max(width, Math.ceil(metrics.advanceWidth(title)) + 2 * Theme.gap + 2), 0)
+    readonly property real wishedWidth: titles.length * (widest(titles) + 2 * Theme.gap)
     readonly property int wishedHeight: {
         let height = 0;
         for (let i = 0; i < row.children.length; ++i)
@@ -27,6 +33,10 @@ Rectangle {
 
     signal chosen(int segment)
 
+    function widest(texts) {
+        // What is measured changes with the font, which is read for that.
+        return metrics.font.pixelSize > 0 ? texts.reduce((width, text) => Math.max(width, Math.ceil(metrics.advanceWidth(text)) + 1), 1) : 1;
+    }
     function choose(segment) {
         if (segment >= 0 && segment < titles.length && segment !== selected)
             chosen(segment);
@@ -41,7 +51,7 @@ Rectangle {
 
     FontMetrics {
         id: metrics
-        font.pixelSize: Theme.small + 1
+        font.pixelSize: root.fullSize
         font.weight: Font.DemiBold
     }
     Row {
@@ -72,20 +82,17 @@ Rectangle {
 
                 background: Rectangle {
                     radius: root.radius
-                    color: segment.checked ? Theme.segmentOn : segment.down ? Theme.pressed : "transparent"
+                    color: segment.checked ? root.onColor : segment.down ? Theme.pressed : "transparent"
                     border.width: segment.visualFocus ? 2 : 0
                     border.color: Theme.accentText
                 }
                 contentItem: Text {
-                    leftPadding: 4
-                    rightPadding: 4
-                    topPadding: 4
-                    bottomPadding: 4
+                    padding: root.padding
                     text: segment.text
-                    color: segment.checked ? Theme.segmentInk : Theme.text
-                    font.pixelSize: Theme.small + 1
+                    color: segment.checked ? root.onInk : Theme.text
+                    font.pixelSize: root.fontSize
                     font.weight: segment.checked ? Font.DemiBold : Font.Normal
-                    wrapMode: Text.Wrap
+                    wrapMode: Text.WordWrap
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                 }

@@ -12,7 +12,7 @@ Rectangle {
 
     required property HomeScreen home
 
-    implicitHeight: 56
+    implicitHeight: Math.round(56 * Math.max(1, (Theme.barScale + 1) / 2))
     color: Theme.raised
     Accessible.role: Accessible.PageTabList
 
@@ -64,9 +64,12 @@ Rectangle {
                         }
                         Text {
                             anchors.horizontalCenter: parent.horizontalCenter
+                            width: Math.min(implicitWidth, tab.width - 4)
                             text: tab.text
                             color: tab.ink
-                            font.pixelSize: Theme.small
+                            font.pixelSize: Math.round(13 * Theme.barScale)
+                            fontSizeMode: Text.HorizontalFit
+                            minimumPixelSize: 9
                             font.weight: tab.checked ? Font.DemiBold : Font.Normal
                         }
                     }

@@ -46,11 +46,13 @@ QtObject {
     readonly property int body: Math.round(17 * textScale)
     readonly property int title: Math.round(18 * textScale)
     readonly property int headline: Math.round(22 * textScale)
+    // Bars have only so much room.
+    readonly property real barScale: Math.min(textScale, 1.4)
 
     readonly property int gap: 8
     readonly property int margin: 16
     readonly property int touch: 44
-    readonly property int barHeight: 52
+    readonly property int barHeight: Math.round(52 * Math.max(1, (barScale + 1) / 2))
     readonly property int rowHeight: Math.round(60 * Math.max(1, textScale))
     readonly property int headerHeight: Math.round(28 * Math.max(1, textScale))
     readonly property int radius: 10
