@@ -349,10 +349,7 @@ int TableItemModel::rowForIndexTitle(int index)
     if (section < 0) {
         return -1;
     }
-    // A section without any row of its own stands where the next one begins.
-    const auto found = std::find_if(rows_.begin(), rows_.end(),
-                                    [&](const Row& row) { return row.path.section >= section; });
-    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+    return firstRow(section);
 }
 
 QString TableItemModel::sectionTitle(int row) const
@@ -369,6 +366,18 @@ int TableItemModel::nextHeaderRow(int row) const
     const auto from = rows_.begin() + std::clamp(row + 1, 0, rowCount());
     const auto found = std::find_if(from, rows_.end(),
                                     [](const Row& each) { return each.kind == RowKind::Header; });
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+int TableItemModel::sectionOf(int row) const
+{
+    return row < 0 || row >= rowCount() ? -1 : rows_[static_cast<std::size_t>(row)].path.section;
+}
+
+int TableItemModel::firstRow(int section) const
+{
+    const auto found = std::find_if(rows_.begin(), rows_.end(),
+                                    [&](const Row& row) { return row.path.section >= section; });
     return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 

@@ -84,6 +84,11 @@ public:
     Q_INVOKABLE QString sectionTitle(int row) const;
     /// The list row of the first header after `row`; -1 for none.
     Q_INVOKABLE int nextHeaderRow(int row) const;
+    /// -1 where there is no such row.
+    Q_INVOKABLE int sectionOf(int row) const;
+    /// The first row of a section, or of the next one that has rows; -1 for
+    /// none.
+    Q_INVOKABLE int firstRow(int section) const;
     /// The cell that many cells after a row, or before it; the outermost one
     /// where there are fewer, -1 where there is none.
     Q_INVOKABLE int cellAway(int row, int steps) const;

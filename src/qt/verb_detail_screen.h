@@ -30,6 +30,8 @@ class VerbDetailScreen final : public Screen {
     Q_PROPERTY(QColor selectBorder READ selectBorder CONSTANT)
     Q_PROPERTY(double selectRadius READ selectRadius CONSTANT)
     Q_PROPERTY(double selectBorderWidth READ selectBorderWidth CONSTANT)
+    // Where the person has scrolled to, from one page to the next.
+    Q_PROPERTY(int topTense MEMBER topTense_ NOTIFY topTenseChanged)
 
 public:
     explicit VerbDetailScreen(std::shared_ptr<detail::VerbDetailTableViewController> controller);
@@ -56,9 +58,11 @@ public:
 
 signals:
     void outletsChanged();
+    void topTenseChanged();
 
 private:
     std::shared_ptr<detail::VerbDetailTableViewController> detail_;
+    int topTense_ = 0;
 };
 
 } // namespace lumora::qt

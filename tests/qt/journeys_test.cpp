@@ -215,7 +215,9 @@ TEST_F(Journey, TurnTheDeviceAndFindEverythingAsItWas)
     ASSERT_TRUE(settled("aller"));
     drag({200, 220}, {200, 130});
     ASSERT_TRUE(until([&] { return !find("list")->property("moving").toBool(); }));
-    const auto position = [&] { return find("list")->property("contentY").toDouble(); };
+    const auto position = [&](const char* name = "list") {
+        return find(name)->property("contentY").toDouble();
+    };
     const auto before = position();
     EXPECT_GT(before, 40);
     const auto turn = [&](const QSize& size) {
@@ -237,6 +239,17 @@ TEST_F(Journey, TurnTheDeviceAndFindEverythingAsItWas)
     EXPECT_EQ(settled("modalSheet")->width(), 540);
     closeOptions();
     EXPECT_EQ(find("Search")->property("text").toString(), QLatin1String("a"));
+
+    // A verb's tenses, as squares and as a table.
+    touch("aller");
+    ASSERT_TRUE(settled("tenses"));
+    drag({600, 330}, {600, 100});
+    ASSERT_TRUE(until([&] { return !find("tenses")->property("moving").toBool(); }));
+    EXPECT_GT(position("tenses"), 100);
+    ASSERT_TRUE(turn({390, 360}));
+    EXPECT_TRUE(until([&] { return position() > 50; }));
+    ASSERT_TRUE(turn({800, 360}));
+    EXPECT_TRUE(until([&] { return position("tenses") > 100; }));
 }
 
 } // namespace

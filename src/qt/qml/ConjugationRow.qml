@@ -16,6 +16,13 @@ TableRow {
     required property IndicatorSource indicatorSource
     readonly property bool isForm: reuseIdentifier === "CellConjugation"
 
+    function activate() {
+        if (control === TableItemModel.Play)
+            table.model.tapAccessory(index);
+        else
+            table.model.tap(index);
+    }
+
     cellHeight: Theme.touch + 4
     Accessible.name: text + " " + detailText
 
@@ -52,6 +59,7 @@ TableRow {
         anchors.verticalCenter: parent.verticalCenter
         visible: root.control === TableItemModel.Play
         width: 50
+        focusPolicy: Qt.NoFocus
         source: root.indicatorSource
         spoken: root.text + " " + root.detailText
         onClicked: root.table.model.tapAccessory(root.index)

@@ -12,14 +12,15 @@ Rectangle {
     required property int index
     required property string title
     required property var lines
+    readonly property bool isCurrent: GridView.isCurrentItem && GridView.view.activeFocus
     readonly property bool hasPronouns: lines.some(line => line.leading.trim() !== "")
 
     signal played(int line)
 
     radius: Theme.radius
     color: Theme.raised
-    border.width: 1
-    border.color: Theme.separator
+    border.width: isCurrent ? 2 : 1
+    border.color: isCurrent ? Theme.accentText : Theme.separator
 
     Text {
         id: label

@@ -15,9 +15,18 @@ Item {
     readonly property int columns: Math.max(1, Math.floor((width - 2 * inset + spacing) / grid.cellWidth))
     readonly property real usedWidth: columns * grid.cellWidth - spacing
 
+    // By hand, so that this tense is the first in sight.
+    signal movedTo(int tense)
+
+    function show(tense) {
+        if (tense > 0)
+            grid.positionViewAtIndex(tense, GridView.Beginning);
+    }
+
     GridView {
         id: grid
 
+        objectName: "tenses"
         // As wide as its columns: margins of its own would be one change of
         // width late.
         x: Math.max(0, Math.floor((root.width - root.usedWidth) / 2))
@@ -31,6 +40,8 @@ Item {
         cellWidth: Math.max(1, root.collection.itemWidth + root.spacing)
         cellHeight: Math.max(1, root.collection.itemHeight + root.spacing)
         bottomMargin: Math.max(0, root.inset - root.spacing)
+        onContentYChanged: if (moving)
+            root.movedTo(Math.max(0, Math.round((contentY - originY - headerItem.height) / cellHeight)) * root.columns)
 
         ScrollBar.vertical: ScrollBar {
             parent: root

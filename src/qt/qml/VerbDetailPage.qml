@@ -58,7 +58,20 @@ ScreenPage {
                 width: ListView.view.width
                 table: content.table
             }
-            Component.onCompleted: root.verb.prepareTable()
+            Component.onCompleted: {
+                root.verb.prepareTable();
+                // The first section is not a tense.
+                if (root.verb.topTense > 0)
+                    list.positionViewAtIndex(table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
+            }
+
+            Connections {
+                target: content.list
+                function onContentYChanged() {
+                    if (content.list.moving)
+                        root.verb.topTense = Math.max(0, content.table.model.sectionOf(content.list.indexAt(0, content.list.contentY + Theme.headerHeight)) - 1);
+                }
+            }
         }
     }
     Component {
@@ -66,7 +79,11 @@ ScreenPage {
 
         TenseGrid {
             collection: root.verb.collection
-            Component.onCompleted: root.verb.prepareCollection()
+            onMovedTo: tense => root.verb.topTense = tense
+            Component.onCompleted: {
+                root.verb.prepareCollection();
+                show(root.verb.topTense);
+            }
         }
     }
 }
