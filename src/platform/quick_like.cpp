@@ -22,13 +22,14 @@ bool isUnlikeAll(sqlite3_value* value)
            sqlite3_compileoption_used("LIKE_DOESNT_MATCH_BLOBS") != 0;
 }
 
+/// LIKE looks no further than the first NUL.
 std::string_view textOf(sqlite3_value* value)
 {
     const auto* const text = reinterpret_cast<const char*>(sqlite3_value_text(value));
     if (text == nullptr) {
         throw std::bad_alloc();
     }
-    return {text, static_cast<std::size_t>(sqlite3_value_bytes(value))};
+    return text;
 }
 
 /// The first argument; null after an answer that depends on nothing else.
