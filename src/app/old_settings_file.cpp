@@ -10,6 +10,7 @@
 #include "platform/settings_store.h"
 #include "settings/setting_keys.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <string_view>
@@ -110,7 +111,10 @@ void carryOverOldSettings(const std::optional<std::string>& documents,
     // The values must be on disk before their only other copy goes.
     bool safe = true;
     if (const auto bytes = platform::readFile(file, kMaximumBytes)) {
-        if (const auto old = platform::readPropertyListDictionary(*bytes)) {
+        std::array<std::string_view, kCarriedKeys.size()> keys;
+        std::transform(kCarriedKeys.begin(), kCarriedKeys.end(), keys.begin(),
+                       [](const CarriedKey& carried) { return carried.key; });
+        if (const auto old = platform::readPropertyListDictionary(*bytes, keys)) {
             carryOver(*old, settings);
             safe = settings.synchronize().has_value();
         }

@@ -7,7 +7,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -23,12 +22,6 @@ constexpr std::size_t kTrailerBytes = 32;
 
 struct PlistDeleter {
     void operator()(void* node) const { plist_free(node); }
-};
-struct MallocDeleter {
-    void operator()(void* memory) const
-    {
-        std::free(memory); // NOLINT(cppcoreguidelines-no-malloc): the library's malloc.
-    }
 };
 
 /// The number of `size` bytes at `place`, the highest first; none past the end.
@@ -169,7 +162,8 @@ PropertyListValue readValue(plist_t node)
 
 } // namespace
 
-std::optional<PropertyListDictionary> readPropertyListDictionary(std::string_view bytes)
+std::optional<PropertyListDictionary>
+readPropertyListDictionary(std::string_view bytes, std::span<const std::string_view> keys)
 {
     const bool binary = bytes.substr(0, kBinaryMark.size()) == kBinaryMark;
     if (bytes.size() > kMaximumBytes || !(binary ? isModestBinary(bytes) : isModestText(bytes))) {
@@ -182,19 +176,15 @@ std::optional<PropertyListDictionary> readPropertyListDictionary(std::string_vie
         return std::nullopt;
     }
     PropertyListDictionary dictionary;
-    plist_dict_iter iterator = nullptr;
-    plist_dict_new_iter(parsed, &iterator);
-    const std::unique_ptr<void, MallocDeleter> iteratorOwner(iterator);
-    while (true) {
-        char* key = nullptr;
-        plist_t value = nullptr;
-        plist_dict_next_item(parsed, iterator, &key, &value);
-        const std::unique_ptr<char, MallocDeleter> keyOwner(key);
-        if (key == nullptr || value == nullptr) {
-            return dictionary;
+    // Asked for by name: handing out a key that holds a NUL, the library ends
+    // the program.
+    for (const std::string_view key : keys) {
+        const plist_t value = plist_dict_get_item(parsed, std::string(key).c_str());
+        if (value != nullptr) {
+            dictionary.emplace(key, readValue(value));
         }
-        dictionary.insert_or_assign(key, readValue(value));
     }
+    return dictionary;
 }
 
 } // namespace lumora::platform

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -16,8 +17,9 @@ namespace lumora::platform {
 using PropertyListValue = std::variant<std::monostate, double, std::string>;
 using PropertyListDictionary = std::map<std::string, PropertyListValue, std::less<>>;
 
-/// Reads a property list, XML or binary, whose root is a dictionary; none for
-/// anything else.
-std::optional<PropertyListDictionary> readPropertyListDictionary(std::string_view bytes);
+/// The values that these keys have in a property list, XML or binary, whose
+/// root is a dictionary; none for anything else.
+std::optional<PropertyListDictionary>
+readPropertyListDictionary(std::string_view bytes, std::span<const std::string_view> keys);
 
 } // namespace lumora::platform

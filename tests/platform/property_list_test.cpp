@@ -63,6 +63,13 @@ std::string doublingBinary()
            number(table);
 }
 
+std::optional<PropertyListDictionary> read(std::string_view bytes)
+{
+    constexpr std::string_view kKeys[] = {"on",    "off",  "count", "below", "rate",  "name",
+                                          "empty", "when", "bytes", "list",  "inner", "absent"};
+    return readPropertyListDictionary(bytes, kKeys);
+}
+
 std::string document(const std::string& root)
 {
     return R"(<?xml version="1.0"?><plist version="1.0">)" + root + "</plist>";
@@ -78,8 +85,8 @@ TEST(PropertyList, ReadsScalarsOfEitherFormat)
         {"bytes", {}}, {"list", {}},           {"inner", {}},
     };
 
-    EXPECT_EQ(readPropertyListDictionary(kDocument), expected);
-    EXPECT_EQ(readPropertyListDictionary(binaryOf(kDocument)), expected);
+    EXPECT_EQ(read(kDocument), expected);
+    EXPECT_EQ(read(binaryOf(kDocument)), expected);
 }
 
 TEST(PropertyList, AnythingButADictionaryIsNone)
@@ -107,23 +114,26 @@ TEST(PropertyList, AnythingButADictionaryIsNone)
          document("<dict><key>a</key><string>" + std::string(1 << 20, 'x') + "</string></dict>")},
     };
     for (const auto& [why, bytes] : cases) {
-        EXPECT_EQ(readPropertyListDictionary(bytes), std::nullopt) << why;
+        EXPECT_EQ(read(bytes), std::nullopt) << why;
     }
 }
 
 TEST(PropertyList, DamagedBytesNeverCrash)
 {
-    const std::string binary = binaryOf(kDocument);
+    std::string binary = binaryOf(kDocument);
+    // Two units of UTF-16 in the place of six bytes: a NUL in a key.
+    binary.replace(binary.find("\x55"
+                               "count"),
+                   6, std::string("\x62\0c\0\0 ", 6));
+    EXPECT_EQ(read(binary).value().at("rate"), PropertyListValue{0.5});
     for (std::size_t place = 0; place < binary.size(); ++place) {
         for (const char byte : {'\0', '\x7f', '\xff'}) {
             std::string damaged = binary;
             damaged[place] = byte;
-            static_cast<void>(readPropertyListDictionary(damaged));
+            static_cast<void>(read(damaged));
         }
     }
-    EXPECT_EQ(
-        readPropertyListDictionary(document(R"(<dict><key>a</key><string>&file;</string></dict>)")),
-        std::nullopt)
+    EXPECT_EQ(read(document(R"(<dict><key>a</key><string>&file;</string></dict>)")), std::nullopt)
         << "an entity of the document's own";
 }
 
