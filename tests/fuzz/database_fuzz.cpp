@@ -115,7 +115,7 @@ private:
         world_.console.str("");
     }
 
-    static constexpr std::size_t kVerbs = 5;
+    static constexpr std::size_t kVerbs = 3;
 
     support::World world_;
     std::string good_;

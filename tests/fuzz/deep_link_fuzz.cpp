@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/deep_link.h"
+#include "data/verb_finder.h"
+#include "fuzz/fuzz.h"
+#include "platform/text.h"
+#include "support/world.h"
+
+#include <algorithm>
+
+using namespace lumora;
+
+/// Any text as a link from outside: what it names is a text without control
+/// characters, and verbs are looked for by it.
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static support::World world;
+    static const std::vector<data::VerbPtr> verbs{world.verb(1), world.verb(3), world.verb(6)};
+    const auto text = fuzz::textOf(data, size);
+    const auto link = app::DeepLink::parse(text);
+    if (!link) {
+        return 0;
+    }
+    const auto& name = link->infinitive;
+    fuzz::require(app::isDeepLink(text), "what was understood is a link");
+    fuzz::require(!name.empty() && platform::wellFormed(name) == name, "a name is a text");
+    fuzz::require(std::none_of(name.begin(), name.end(),
+                               [](char c) { return static_cast<unsigned char>(c) < ' '; }),
+                  "a name has no control characters");
+    data::verbsNamed(name, verbs);
+    data::namesNear(name, verbs);
+    return 0;
+}
