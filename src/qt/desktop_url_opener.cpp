@@ -23,7 +23,7 @@ std::optional<QUrl> openable(std::string_view text)
 {
     QUrl url{toQString(text), QUrl::StrictMode};
     const auto scheme = url.scheme();
-    const bool isPage = scheme == QLatin1String("https") || scheme == QLatin1String("http");
+    const bool isPage = scheme == QLatin1String("https");
     const bool isOther = scheme == QLatin1String("mailto") || scheme == QLatin1String("appstream");
     if (!url.isValid() || !(isPage || isOther) ||
         (isPage ? url.host() : url.host() + url.path()).isEmpty()) {

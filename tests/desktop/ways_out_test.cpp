@@ -178,8 +178,9 @@ TEST(DesktopUrlOpener, TakesFewKindsOfAddresses)
          {"https://example.org/a?b=c", "mailto:help@example.org", "appstream://org.example.a"}) {
         EXPECT_TRUE(opener.canOpen(url)) << url;
     }
-    for (const char* url : {"file:///etc/passwd", "javascript:alert(1)", "https://", "https:/x",
-                            "mailto:", "example.org", "--help", "", "https://a b.org"}) {
+    for (const char* url :
+         {"http://example.org/", "file:///etc/passwd", "javascript:alert(1)", "https://",
+          "https:/x", "mailto:", "example.org", "--help", "", "https://a b.org"}) {
         EXPECT_FALSE(opener.canOpen(url)) << url;
         EXPECT_FALSE(opener.open(url)) << url;
     }
