@@ -32,6 +32,8 @@ namespace {
 
 /// Long enough for every animation of ours.
 constexpr int kSettleMilliseconds = 600;
+/// Without a new frame: nothing moves any more.
+constexpr int kStillMilliseconds = 200;
 constexpr QSize kPhone{390, 844};
 constexpr QSize kTablet{1024, 768};
 /// Below the bar and the search field, above the tabs.
@@ -76,10 +78,25 @@ public:
     }
 
 private:
-    void settle(int milliseconds = kSettleMilliseconds) const
+    static void wait(int milliseconds)
     {
         QEventLoop loop;
         QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+
+    /// Until nothing moves any more.
+    void settle() const
+    {
+        QEventLoop loop;
+        QTimer stillness;
+        stillness.setSingleShot(true);
+        stillness.setInterval(kStillMilliseconds);
+        QObject::connect(application_.window(), &QQuickWindow::frameSwapped, &stillness,
+                         qOverload<>(&QTimer::start));
+        QObject::connect(&stillness, &QTimer::timeout, &loop, &QEventLoop::quit);
+        QTimer::singleShot(kSettleMilliseconds, &loop, &QEventLoop::quit);
+        stillness.start();
         loop.exec();
     }
 
@@ -227,7 +244,7 @@ private:
         }
         const auto middle = all[2]->mapToScene({all[2]->width() / 2, all[2]->height() / 2});
         mouse(QEvent::MouseButtonPress, middle);
-        settle(QGuiApplication::styleHints()->mousePressAndHoldInterval() + kSettleMilliseconds);
+        wait(QGuiApplication::styleHints()->mousePressAndHoldInterval() + kSettleMilliseconds);
         mouse(QEvent::MouseButtonRelease, middle);
         picture("preview");
         application_.presenter().preview()->close();

@@ -116,7 +116,7 @@ TEST_F(Footprint, ATraceShowsSocketsShellsAndFiles)
 {
     const auto file = home / "touched";
     const auto trace =
-        traced({"/bin/sh", "-c",
+        traced({"/bin/bash", "-c",
                 "echo > " + file.string() + "; cd " + home.path().string() +
                     "; mkdir made; /usr/bin/env true; exec 3<>/dev/udp/127.0.0.1/9; true"},
                environment());
