@@ -11,7 +11,7 @@ DatabaseWorld::DatabaseWorld(const std::filesystem::path& file)
     world_.settings.setValue(false, "UseHistory");
 }
 
-std::vector<std::int64_t> DatabaseWorld::verbIds()
+std::vector<std::int64_t> DatabaseWorld::verbIds() const
 {
     std::vector<std::int64_t> ids;
     queue().inDatabase([&](platform::Database& connection) {

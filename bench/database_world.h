@@ -26,7 +26,7 @@ public:
     platform::SettingsStore& settings() { return world_.settings; }
     support::World& world() { return world_; }
 
-    std::vector<std::int64_t> verbIds();
+    std::vector<std::int64_t> verbIds() const;
 
 private:
     support::World world_;

@@ -118,7 +118,7 @@ platform::Result<Speech> EspeakVoice::synthesize(const platform::Utterance& utte
     }
     // The engine takes its rates roughly, and there is a slowest one: how long
     // the speech is to be comes from the speech itself at the usual rate.
-    const auto usual = speakAtRate(text, kUsualRate, sampleRate_, cancelled);
+    auto usual = speakAtRate(text, kUsualRate, sampleRate_, cancelled);
     if (!usual) {
         return usual;
     }

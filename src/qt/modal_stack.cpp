@@ -52,9 +52,12 @@ void ModalStack::dismiss(const platform::ViewController& screen, Modal::Completi
     for (auto modal = modals_.end(); modal != found;) {
         leaving.push_back((--modal)->get());
     }
+    auto* const last = leaving.back();
+    leaving.pop_back();
     for (auto* modal : leaving) {
-        modal->leave(modal == leaving.back() ? std::move(completed) : nullptr);
+        modal->leave(nullptr);
     }
+    last->leave(std::move(completed));
 }
 
 void ModalStack::remove(const Modal* modal)

@@ -43,7 +43,7 @@ public:
     Q_INVOKABLE void openWebsite() { options_->openWebsite(); }
     Q_INVOKABLE void sendSupportEmail() { options_->sendSupportEmail(); }
     /// The page is about to draw the table.
-    Q_INVOKABLE void prepare() { table()->model()->loadIfNeeded(); }
+    Q_INVOKABLE void prepare() const { table()->model()->loadIfNeeded(); }
 
 private:
     std::shared_ptr<navigation::OptionsTableViewController> options_;
