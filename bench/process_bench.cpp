@@ -154,14 +154,14 @@ int runAsChild(int argc, char** argv)
 
 void measureFirstFrame(Report& report, const std::string& program)
 {
-    constexpr int kRounds = 20;
+    constexpr int kStarts = 20;
     const support::TemporaryFolder world;
     const auto folder = QString::fromStdString(world.path().string());
     // The first start of all copies the database.
     runChild(program, {kListFrame, folder});
     Figure frame{"first frame of the program", {}, "empty window", {}, {}, {}};
     Figure list{"first frame with the list", {}, "empty window", {}, {}, {}};
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < kStarts; ++round) {
         const auto empty = millisecondsOf([&] { runChild(program, {kEmptyFrame}); });
         frame.referenceSamples.add(empty);
         list.referenceSamples.add(empty);

@@ -22,7 +22,7 @@ namespace {
 
 using SettingGroups = QMap<QString, QVariantMap>;
 
-const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
+const QString kSettingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString kAppearance = QStringLiteral("org.freedesktop.appearance");
 const QString kDesktop = QStringLiteral("org.gnome.desktop.interface");
 constexpr uint kPrefersDark = 1;
@@ -64,7 +64,7 @@ SettingsPortal::SettingsPortal(QDBusConnection bus)
     qRegisterMetaType<QDBusVariant>();
     // Before the reading, so that no change falls in between.
     bus_.connect(QString::fromLatin1(portal::kService), QString::fromLatin1(portal::kPath),
-                 kInterface, QStringLiteral("SettingChanged"), this,
+                 kSettingsInterface, QStringLiteral("SettingChanged"), this,
                  SLOT(settingChanged(QString, QString, QDBusVariant)));
     connect(&restarts_, &QDBusServiceWatcher::serviceRegistered, this, &SettingsPortal::read);
     read();
@@ -73,8 +73,8 @@ SettingsPortal::SettingsPortal(QDBusConnection bus)
 void SettingsPortal::read()
 {
     auto call = QDBusMessage::createMethodCall(QString::fromLatin1(portal::kService),
-                                               QString::fromLatin1(portal::kPath), kInterface,
-                                               QStringLiteral("ReadAll"));
+                                               QString::fromLatin1(portal::kPath),
+                                               kSettingsInterface, QStringLiteral("ReadAll"));
     call << QStringList{kAppearance, kDesktop};
     reading_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(call));
     connect(reading_.get(), &QDBusPendingCallWatcher::finished, this, &SettingsPortal::takeAnswer);

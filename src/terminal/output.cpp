@@ -20,7 +20,7 @@ namespace lumora::terminal {
 namespace {
 
 constexpr std::size_t kMargin = 2;
-constexpr std::size_t kGap = 3;
+constexpr std::size_t kBlockGap = 3;
 constexpr std::size_t kUsualWidth = 80;
 
 std::string padded(const std::string& text, std::size_t columns)
@@ -39,7 +39,7 @@ std::size_t wantedWidth()
     return width;
 }
 
-std::size_t columnsOf(UChar32 character)
+std::size_t columnsOfCharacter(UChar32 character)
 {
     const auto category = u_charType(character);
     if (category == U_NON_SPACING_MARK || category == U_ENCLOSING_MARK ||
@@ -71,7 +71,7 @@ std::size_t columnsOf(std::string_view utf8)
         icu::UnicodeString::fromUTF8({utf8.data(), static_cast<std::int32_t>(utf8.size())});
     std::size_t columns = 0;
     for (std::int32_t at = 0; at < text.length(); at = text.moveIndex32(at, 1)) {
-        columns += columnsOf(text.char32At(at));
+        columns += columnsOfCharacter(text.char32At(at));
     }
     return columns;
 }
@@ -84,8 +84,8 @@ void printBlocks(const std::vector<TextBlock>& blocks, const Output& output)
             blockWidth = std::max(blockWidth, columnsOf(line));
         }
     }
-    const auto room = std::max(output.width, kMargin + blockWidth) - kMargin + kGap;
-    const auto across = std::max<std::size_t>(1, room / (blockWidth + kGap));
+    const auto room = std::max(output.width, kMargin + blockWidth) - kMargin + kBlockGap;
+    const auto across = std::max<std::size_t>(1, room / (blockWidth + kBlockGap));
     for (std::size_t first = 0; first < blocks.size(); first += across) {
         const auto end = std::min(first + across, blocks.size());
         std::size_t height = 0;
@@ -96,7 +96,8 @@ void printBlocks(const std::vector<TextBlock>& blocks, const Output& output)
             std::string text;
             for (auto block = first; block < end; ++block) {
                 const bool filled = line < blocks[block].size();
-                text += padded(filled ? blocks[block][line] : std::string{}, blockWidth + kGap);
+                text +=
+                    padded(filled ? blocks[block][line] : std::string{}, blockWidth + kBlockGap);
             }
             const auto last = text.find_last_not_of(' ');
             output.stream << std::string(kMargin, ' ') << text.substr(0, last + 1) << '\n';
