@@ -19,7 +19,11 @@ int CollectionItemModel::rowCount(const QModelIndex& parent) const
 
 QHash<int, QByteArray> CollectionItemModel::roleNames() const
 {
-    return {{TitleRole, "title"}, {LinesRole, "lines"}};
+    QHash<int, QByteArray> names{{TitleRole, "title"}};
+    for (int number = 0; number < kLines; ++number) {
+        names.insert(FirstLineRole + number, "line" + QByteArray::number(number));
+    }
+    return names;
 }
 
 QVariant CollectionItemModel::data(const QModelIndex& index, int role) const
@@ -30,21 +34,25 @@ QVariant CollectionItemModel::data(const QModelIndex& index, int role) const
     if (role == TitleRole) {
         return toQString(cell(index.row()).title);
     }
-    if (role != LinesRole) {
+    const int number = role - FirstLineRole;
+    return number < 0 || number >= kLines
+               ? QVariant{}
+               : QVariant::fromValue(line(index.row(), static_cast<std::size_t>(number)));
+}
+
+CollectionLine CollectionItemModel::line(int item, std::size_t number) const
+{
+    const auto& rows = cell(item).rows;
+    if (number >= rows.size()) {
         return {};
     }
-    QVariantList lines;
-    for (const auto& line : cell(index.row()).rows) {
-        lines.append(
-            QVariantMap{{QStringLiteral("leading"), toQString(line.leading)},
-                        {QStringLiteral("trailing"), toQString(line.trailing)},
-                        {QStringLiteral("audioWidth"), line.audioWidth},
-                        {QStringLiteral("audioPadding"), line.audioPadding},
-                        {QStringLiteral("controlHidden"), line.controlHidden},
-                        {QStringLiteral("indicator"),
-                         QVariant::fromValue(indicators_.sourceFor(line.control.indicator))}});
-    }
-    return lines;
+    const auto& row = rows[number];
+    return {toQString(row.leading),
+            toQString(row.trailing),
+            row.audioWidth,
+            row.audioPadding,
+            row.controlHidden,
+            indicators_.sourceFor(row.control.indicator)};
 }
 
 const platform::CollectionCell& CollectionItemModel::cell(int item) const

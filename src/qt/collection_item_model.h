@@ -12,6 +12,26 @@
 
 namespace lumora::qt {
 
+/// One line of a cell: two texts and the control that goes with them.
+struct CollectionLine {
+    Q_GADGET
+    QML_VALUE_TYPE(collectionLine)
+    Q_PROPERTY(QString leading MEMBER leading FINAL)
+    Q_PROPERTY(QString trailing MEMBER trailing FINAL)
+    Q_PROPERTY(double audioWidth MEMBER audioWidth FINAL)
+    Q_PROPERTY(double audioPadding MEMBER audioPadding FINAL)
+    Q_PROPERTY(bool controlHidden MEMBER controlHidden FINAL)
+    Q_PROPERTY(lumora::qt::IndicatorSource* indicator MEMBER indicator FINAL)
+
+public:
+    QString leading;
+    QString trailing;
+    double audioWidth = 0;
+    double audioPadding = 0;
+    bool controlHidden = true;
+    IndicatorSource* indicator = nullptr;
+};
+
 /// Any collection controller as a list of cells. Counts are asked once a
 /// reload, cells when they are drawn. GUI thread only; the source must outlive
 /// the model.
@@ -26,13 +46,14 @@ class CollectionItemModel final : public QAbstractListModel {
     Q_PROPERTY(double lineSpacing READ lineSpacing NOTIFY reloaded)
 
 public:
-    enum Role { TitleRole = Qt::UserRole + 1, LinesRole };
+    /// Lines have a role each, since the toolkit makes a list of them anew every
+    /// time that one of it is looked at.
+    enum Role { TitleRole = Qt::UserRole + 1, FirstLineRole };
+    static constexpr int kLines = 6;
 
     explicit CollectionItemModel(platform::CollectionDataSource& source);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    /// A line is a map of leading, trailing, audioWidth, audioPadding,
-    /// controlHidden and indicator.
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
@@ -54,6 +75,7 @@ signals:
 
 private:
     const platform::CollectionCell& cell(int item) const;
+    CollectionLine line(int item, std::size_t number) const;
 
     platform::CollectionDataSource& source_;
     int count_ = 0;

@@ -59,12 +59,16 @@ TEST(CollectionItemModel, HandsOnLinesAndTheirControls)
     source.titles = {"a", "b"};
     model.reloadData();
 
-    const auto lines = model.data(model.index(1), CollectionItemModel::LinesRole).toList();
-    ASSERT_EQ(lines.size(), 2);
-    auto* indicator = lines[0].toMap().value("indicator").value<IndicatorSource*>();
-    ASSERT_NE(indicator, nullptr);
-    EXPECT_EQ(&indicator->layer(), &source.indicator->layer());
-    EXPECT_EQ(lines[1].toMap().value("indicator").value<IndicatorSource*>(), nullptr);
+    const auto line = [&](int number) {
+        return model.data(model.index(1), CollectionItemModel::FirstLineRole + number)
+            .value<CollectionLine>();
+    };
+    EXPECT_EQ(line(0).trailing, QStringLiteral("vais"));
+    ASSERT_NE(line(0).indicator, nullptr);
+    EXPECT_EQ(&line(0).indicator->layer(), &source.indicator->layer());
+    EXPECT_FALSE(line(0).controlHidden);
+    EXPECT_EQ(line(1).indicator, nullptr);
+    EXPECT_TRUE(line(5).controlHidden) << "fewer lines than there is room for";
 
     model.tapAudio(1, 5);
     EXPECT_EQ(source.tapped, (std::pair{1, 5}));

@@ -8,9 +8,8 @@ import Lumora
 Item {
     id: root
 
-    required property int index
-    required property var modelData
-    property int pronounWidth: 84
+    required property collectionLine line
+    required property real pronounWidth
 
     signal played
 
@@ -18,36 +17,34 @@ Item {
         id: pronoun
         width: root.pronounWidth
         height: parent.height
-        text: root.modelData.leading
+        text: root.line.leading
         color: Theme.textSecondary
         font.pixelSize: Theme.body - 2
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 9
+        minimumPixelSize: 11
         verticalAlignment: Text.AlignVCenter
     }
     Text {
-        anchors.left: pronoun.right
-        anchors.leftMargin: root.pronounWidth > 0 ? Theme.gap : 0
-        anchors.right: play.left
-        anchors.rightMargin: root.modelData.audioPadding
+        x: root.pronounWidth > 0 ? root.pronounWidth + Theme.gap : 0
+        width: play.x - root.line.audioPadding - x
         height: parent.height
-        text: root.modelData.trailing
+        text: root.line.trailing
         color: Theme.text
         font.pixelSize: Theme.body - 1
         fontSizeMode: Text.Fit
-        minimumPixelSize: 9
+        minimumPixelSize: 11
         wrapMode: Text.WordWrap
         maximumLineCount: 2
         verticalAlignment: Text.AlignVCenter
     }
     PlayControl {
         id: play
-        anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
-        width: root.modelData.audioWidth
-        visible: !root.modelData.controlHidden
-        source: root.modelData.indicator
-        spoken: root.modelData.leading + " " + root.modelData.trailing
+        x: parent.width - width
+        y: (parent.height - height) / 2
+        width: root.line.audioWidth
+        visible: !root.line.controlHidden
+        source: root.line.indicator
+        spoken: root.line.leading + " " + root.line.trailing
         onClicked: root.played()
     }
 }

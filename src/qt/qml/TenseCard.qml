@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-pragma ComponentBehavior: Bound
 import QtQuick
 import Lumora
 
@@ -11,11 +10,27 @@ Rectangle {
 
     required property int index
     required property string title
-    required property var lines
+    required property collectionLine line0
+    required property collectionLine line1
+    required property collectionLine line2
+    required property collectionLine line3
+    required property collectionLine line4
+    required property collectionLine line5
+    // Of the pronouns' font.
+    required property FontMetrics metrics
+    readonly property real lineHeight: (height - label.y - label.height - 4 - Theme.gap) / 6
+    // As wide as the widest, but the form needs most of the line.
+    readonly property real pronounWidth: Math.min(0.4 * label.width, Math.ceil(Math.max(metrics.advanceWidth(line0.leading.trim()), metrics.advanceWidth(line1.leading.trim()), metrics.advanceWidth(line2.leading.trim()), metrics.advanceWidth(line3.leading.trim()), metrics.advanceWidth(line4.leading.trim()), metrics.advanceWidth(line5.leading.trim()))))
     readonly property bool isCurrent: GridView.isCurrentItem && GridView.view.activeFocus
-    readonly property bool hasPronouns: lines.some(line => line.leading.trim() !== "")
 
     signal played(int line)
+
+    component Line: FormLine {
+        x: label.x
+        width: label.width
+        height: root.lineHeight
+        pronounWidth: root.pronounWidth
+    }
 
     radius: Theme.radius
     color: Theme.raised
@@ -33,29 +48,37 @@ Rectangle {
         font.pixelSize: Theme.title
         font.weight: Font.DemiBold
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 10
+        minimumPixelSize: 11
         verticalAlignment: Text.AlignVCenter
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }
     Column {
-        id: column
-        anchors.top: label.bottom
-        anchors.topMargin: 4
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: Theme.gap
-        x: 14
-        width: parent.width - 28
+        y: label.y + label.height + 4
 
-        Repeater {
-            model: root.lines
-
-            FormLine {
-                width: column.width
-                height: column.height / 6
-                pronounWidth: root.hasPronouns ? 84 : 0
-                onPlayed: root.played(index)
-            }
+        Line {
+            line: root.line0
+            onPlayed: root.played(0)
+        }
+        Line {
+            line: root.line1
+            onPlayed: root.played(1)
+        }
+        Line {
+            line: root.line2
+            onPlayed: root.played(2)
+        }
+        Line {
+            line: root.line3
+            onPlayed: root.played(3)
+        }
+        Line {
+            line: root.line4
+            onPlayed: root.played(4)
+        }
+        Line {
+            line: root.line5
+            onPlayed: root.played(5)
         }
     }
 }

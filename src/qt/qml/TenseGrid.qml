@@ -23,6 +23,10 @@ Item {
             grid.positionViewAtIndex(tense, GridView.Beginning);
     }
 
+    FontMetrics {
+        id: pronounMetrics
+        font.pixelSize: Theme.body - 2
+    }
     GridView {
         id: grid
 
@@ -63,6 +67,7 @@ Item {
             Accessible.name: text
         }
         delegate: TenseCard {
+            metrics: pronounMetrics
             width: root.collection.itemWidth
             height: root.collection.itemHeight
             onPlayed: line => root.collection.tapAudio(index, line)
