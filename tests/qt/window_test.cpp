@@ -17,16 +17,18 @@ struct WindowTest : WindowFixture {
     void hearAForm()
     {
         ASSERT_TRUE(QTest::qWaitFor([&] { return find("play") != nullptr; }, kPatience));
-        auto* ring = find("play")->findChild<RoundProgressItem*>();
-        ASSERT_NE(ring, nullptr);
-        ASSERT_NE(ring->source(), nullptr);
+        auto* control = find("play");
+        auto* source = control->property("source").value<IndicatorSource*>();
+        ASSERT_NE(source, nullptr);
         const auto progress = [&] {
-            return dynamic_cast<const detail::CERoundProgressLayer&>(ring->source()->layer())
-                .progress;
+            return dynamic_cast<const detail::CERoundProgressLayer&>(source->layer()).progress;
         };
         EXPECT_EQ(progress(), 0);
         tap("play");
         EXPECT_TRUE(QTest::qWaitFor([&] { return progress() > 0.3F; }, kPatience));
+        auto* ring = control->findChild<RoundProgressItem*>();
+        ASSERT_NE(ring, nullptr);
+        EXPECT_EQ(ring->source(), source);
         EXPECT_TRUE(QTest::qWaitFor([&] { return progress() == 0; }, kPatience));
     }
 

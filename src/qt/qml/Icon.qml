@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Window as Desktop
 import Lumora
 
 // One of the program's drawings in a colour.
@@ -17,8 +16,8 @@ Image {
 
     width: size
     height: size
-    sourceSize: Qt.size(size * Desktop.Screen.devicePixelRatio, size * Desktop.Screen.devicePixelRatio)
-    source: name === "" ? "" : "image://icon/" + name + "/" + String(color).slice(-6) + "/" + radius * Desktop.Screen.devicePixelRatio
+    sourceSize: Qt.size(size * Theme.pixelRatio, size * Theme.pixelRatio)
+    source: name === "" ? "" : "image://icon/" + name + "/" + String(color).slice(-6) + "/" + radius * Theme.pixelRatio
     fillMode: Image.PreserveAspectFit
     Accessible.ignored: true
 }

@@ -36,6 +36,11 @@ Window {
 
     Binding {
         target: Theme
+        property: "pixelRatio"
+        value: Screen.devicePixelRatio
+    }
+    Binding {
+        target: Theme
         property: "dark"
         value: root.dark
     }

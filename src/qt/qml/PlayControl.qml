@@ -5,42 +5,37 @@ import QtQuick
 import QtQuick.Templates as T
 import Lumora
 
-// A round progress indicator with the play button in it.
+// A round progress indicator with the play button in it. At rest, as nearly all
+// are, it is one picture.
 T.AbstractButton {
     id: root
 
     property IndicatorSource source
     property string spoken
+    readonly property bool running: source !== null && source.running
 
     implicitWidth: 30
     implicitHeight: 30
     objectName: "play"
     focusPolicy: Qt.TabFocus
+    opacity: down ? 0.6 : 1
     Accessible.name: qsTrId("action.play") + " " + spoken
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()
 
-    contentItem: Item {
-        RoundProgress {
-            id: ring
+    contentItem: Image {
+        source: Theme.playPicture
+        sourceSize: Theme.playSize
+        fillMode: Image.PreserveAspectFit
+
+        Loader {
             anchors.centerIn: parent
-            width: 30
-            height: 30
-            source: root.source
-            opacity: root.down ? 0.6 : 1
-        }
-        Rectangle {
-            anchors.fill: ring
-            radius: 15
-            color: "transparent"
-            border.width: root.visualFocus ? 3 : 1
-            border.color: root.visualFocus ? Theme.accentSecondary : Theme.playBorder
-        }
-        Icon {
-            anchors.centerIn: ring
-            name: root.source !== null && root.source.running ? "Pause" : "Play"
-            color: Theme.playInk
-            size: 30
+            active: root.running || root.visualFocus
+            sourceComponent: PlayRing {
+                source: root.source
+                running: root.running
+                focused: root.visualFocus
+            }
         }
     }
 }

@@ -10,6 +10,8 @@ QtObject {
     property color accentPrimary: "#0b4ea2"
     // The person's wish for larger or smaller text.
     property real textScale: 1
+    // Of the window's screen.
+    property real pixelRatio: 1
     // The person's wish to see nothing move.
     property bool reducedMotion: false
 
@@ -41,6 +43,9 @@ QtObject {
     // The ring's own colours are its controller's; these go with them.
     readonly property color playInk: "#0155b3"
     readonly property color playBorder: dark ? "#ffffff" : "#0155b3"
+    // A play control at rest.
+    readonly property url playPicture: "image://icon/Play/" + String(playBorder).slice(-6)
+    readonly property size playSize: Qt.size(30 * pixelRatio, 30 * pixelRatio)
 
     readonly property int small: Math.round(13 * textScale)
     readonly property int body: Math.round(17 * textScale)
