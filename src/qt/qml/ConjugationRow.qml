@@ -4,64 +4,86 @@
 import QtQuick
 import Lumora
 
-// A row of the detail table: the verb's translation, or a form with its
-// pronoun and its play control.
-TableRow {
+// A row of the detail table: a tense's title, the verb's translation, or a form
+// with its pronoun and its play control. A verb has many, and they come at
+// once: each is as few items as it can be.
+Rectangle {
     id: root
 
-    required text
+    required property int index
+    required property int kind
+    required property string title
+    required property string text
     required property string detailText
     required property string reuseIdentifier
-    required property int control
     required property IndicatorSource indicatorSource
+    required property QtTableView table
+    readonly property bool isCell: kind === TableItemModel.Cell
     readonly property bool isForm: reuseIdentifier === "CellConjugation"
+    readonly property bool isCurrent: ListView.isCurrentItem && ListView.view !== null && ListView.view.parent.activeFocus
 
+    // What the keyboard does to a row.
     function activate() {
-        if (control === TableItemModel.Play)
-            table.model.tapAccessory(index);
-        else
-            table.model.tap(index);
+        table.model.tapAccessory(index);
+    }
+    function adjust(step) {
+        return false;
     }
 
-    cellHeight: Theme.touch + 4
-    Accessible.name: text + " " + detailText
+    implicitHeight: isCell ? Theme.touch + 4 : Theme.headerHeight
+    color: isCell ? Theme.background : Theme.header
+    border.width: isCurrent ? 2 : 0
+    border.color: Theme.accentText
+    Accessible.role: isCell ? Accessible.ListItem : Accessible.Heading
+    Accessible.name: !isCell ? title : isForm ? text + " " + detailText : text
 
     Text {
-        id: pronoun
-        anchors.left: parent.left
-        anchors.leftMargin: Theme.margin
-        anchors.verticalCenter: parent.verticalCenter
-        width: !root.isForm ? root.width - 2 * Theme.margin : text === "" ? 0 : Math.round(root.width * 0.27)
-        text: root.text
-        color: root.isForm ? Theme.textSecondary : Theme.text
-        font.pixelSize: root.isForm ? Theme.body - 1 : Theme.body
-        font.italic: !root.isForm
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 10
+        id: leading
+        x: Theme.margin
+        width: !root.isForm ? root.width - 2 * x : text === "" ? 0 : Math.round(root.width * 0.27)
+        height: parent.height
+        text: root.isCell ? root.text : root.title
+        color: !root.isCell ? Theme.accentText : root.isForm ? Theme.textSecondary : Theme.text
+        font.pixelSize: !root.isCell ? Theme.small + 1 : root.isForm ? Theme.body - 1 : Theme.body
+        font.weight: root.isCell ? Font.Normal : Font.DemiBold
+        font.italic: root.isCell && !root.isForm
+        fontSizeMode: Text.Fit
+        minimumPixelSize: 11
+        wrapMode: Text.WordWrap
+        maximumLineCount: root.isCell ? 2 : 1
+        elide: Text.ElideRight
+        verticalAlignment: Text.AlignVCenter
     }
     Text {
         visible: root.isForm
-        anchors.left: pronoun.right
-        anchors.leftMargin: pronoun.width > 0 ? Theme.gap : 0
-        anchors.right: play.left
-        anchors.rightMargin: Theme.gap
-        anchors.verticalCenter: parent.verticalCenter
+        x: leading.width > 0 ? leading.x + leading.width + Theme.gap : leading.x
+        width: play.x - Theme.gap - x
+        height: parent.height
         text: root.detailText
         color: Theme.text
         font.pixelSize: Theme.body
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 10
+        fontSizeMode: Text.Fit
+        minimumPixelSize: 11
+        wrapMode: Text.WordWrap
+        maximumLineCount: 2
+        verticalAlignment: Text.AlignVCenter
     }
     PlayControl {
         id: play
-        anchors.right: parent.right
-        anchors.rightMargin: Theme.gap
-        anchors.verticalCenter: parent.verticalCenter
-        visible: root.control === TableItemModel.Play
+        x: parent.width - width - Theme.gap
+        y: (parent.height - height) / 2
         width: 50
         focusPolicy: Qt.NoFocus
+        visible: root.isForm
         source: root.indicatorSource
         spoken: root.text + " " + root.detailText
         onClicked: root.table.model.tapAccessory(root.index)
+    }
+    Rectangle {
+        visible: root.isCell && root.table.separators
+        y: parent.height - 1
+        width: parent.width
+        height: 1
+        color: Theme.separator
     }
 }
