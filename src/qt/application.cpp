@@ -133,6 +133,7 @@ void Application::launch()
     }
     device_.setWindowWidth(window_->width());
     delegate_.didFinishLaunching(launch);
+    colourBars(delegate_.appearance());
     splitScreen_ =
         std::make_unique<SplitScreen>(root, device_, *presenter_.modals(), *presenter_.preview());
     QQmlEngine::setObjectOwnership(splitScreen_.get(), QQmlEngine::CppOwnership);
@@ -144,6 +145,17 @@ void Application::launch()
     for (const auto& request : std::exchange(waiting_, {})) {
         open(request);
     }
+}
+
+void Application::colourBars(const app::BarAppearance& bars)
+{
+    const QVariantMap colours{
+        {QStringLiteral("navigationBarTint"), toQColor(bars.navigationBarTint)},
+        {QStringLiteral("navigationBarBackground"), toQColor(bars.navigationBarBackground)},
+        {QStringLiteral("navigationBarTitle"), toQColor(bars.navigationBarTitle)},
+        {QStringLiteral("tabBarTint"), toQColor(bars.tabBarTint)},
+        {QStringLiteral("segmentedControlTint"), toQColor(bars.segmentedControlTint)}};
+    QMetaObject::invokeMethod(window_, "colourBars", Q_ARG(QVariant, colours));
 }
 
 void Application::setAppearance(const Appearance& appearance)

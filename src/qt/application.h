@@ -88,6 +88,7 @@ private:
     void applicationStateChanged(Qt::ApplicationState state);
     void raise(const QString& activationToken);
     void clearTheWay();
+    void colourBars(const app::BarAppearance& bars);
     void open(const InstanceRequest& request);
 
     ApplicationOptions options_;

@@ -11,7 +11,7 @@ TouchButton {
     property string image
 
     pressedColor: "#33ffffff"
-    focusColor: Theme.barText
+    focusColor: Theme.navigationBarTint
     leftPadding: Theme.gap
     rightPadding: Theme.gap
 
@@ -28,13 +28,13 @@ TouchButton {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: name !== ""
                 name: root.image
-                color: root.enabled ? Theme.barText : Theme.barTextDisabled
+                color: root.enabled ? Theme.navigationBarTint : Theme.barTextDisabled
             }
             Text {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: text !== "" && root.image === ""
                 text: root.text
-                color: root.enabled ? Theme.barText : Theme.barTextDisabled
+                color: root.enabled ? Theme.navigationBarTint : Theme.barTextDisabled
                 font.pixelSize: Math.round(17 * Theme.barScale)
             }
         }

@@ -20,6 +20,12 @@ Window {
     property real textScale: 1
     property bool reducedMotion: false
 
+    // By the names that the theme has for them.
+    function colourBars(colours) {
+        for (const name in colours)
+            Theme[name] = colours[name];
+    }
+
     minimumWidth: 280
     minimumHeight: 360
     visible: true

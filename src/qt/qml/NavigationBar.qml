@@ -63,7 +63,7 @@ Rectangle {
         width: Math.min(implicitWidth, free)
         height: parent.height
         text: root.screen.title
-        color: Theme.barText
+        color: Theme.navigationBarTitle
         font.pixelSize: Math.round(18 * Theme.barScale)
         font.weight: Font.DemiBold
         fontSizeMode: Text.HorizontalFit

@@ -32,7 +32,7 @@ Rectangle {
                 id: tab
 
                 required property var modelData
-                readonly property color ink: checked ? Theme.accentText : Theme.textSecondary
+                readonly property color ink: checked ? Theme.tabOn : Theme.textSecondary
 
                 objectName: "tab" + modelData.tag
                 width: row.width / Math.max(1, root.home.tabs.length)

@@ -19,7 +19,14 @@ QtObject {
     readonly property color accentSecondaryInk: dark ? "#16191d" : "#ffffff"
     // Accent on the page rather than behind white text.
     readonly property color accentText: dark ? "#8ab8f5" : accentPrimary
-    readonly property color barBackground: dark ? "#10325f" : accentPrimary
+    // What the launch chose, for a light page.
+    property color navigationBarTint: "#ffffff"
+    property color navigationBarBackground: accentPrimary
+    property color navigationBarTitle: "#ffffff"
+    property color tabBarTint: accentPrimary
+    property color segmentedControlTint: "#555555"
+    readonly property color barBackground: dark ? "#10325f" : navigationBarBackground
+    readonly property color tabOn: dark ? accentText : tabBarTint
     readonly property color menu: dark ? "#0d2444" : Qt.darker(accentPrimary, 1.25)
     readonly property color barText: "#ffffff"
     readonly property color barTextDisabled: "#8fa9cc"
@@ -31,7 +38,7 @@ QtObject {
     readonly property color textSecondary: dark ? "#aab2bd" : "#59626e"
     readonly property color separator: dark ? "#31373e" : "#d9dee6"
     readonly property color segment: dark ? "#2b3138" : "#dde3ec"
-    readonly property color segmentOn: dark ? "#c3cad3" : "#47515d"
+    readonly property color segmentOn: dark ? "#c3cad3" : segmentedControlTint
     readonly property color segmentInk: dark ? "#16191d" : "#ffffff"
     readonly property color pressed: dark ? "#2a3038" : "#e3eaf4"
     readonly property color field: dark ? "#0b1c33" : "#ffffff"
