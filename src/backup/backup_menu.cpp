@@ -10,7 +10,6 @@
 #include "platform/text.h"
 
 #include <ostream>
-#include <system_error>
 #include <utility>
 
 namespace lumora::backup {
@@ -64,7 +63,7 @@ void BackupMenu::show()
         screen_,
         {std::nullopt,
          {{text("backup.save"), platform::ActionStyle::Normal,
-           asking(Purpose::Save, &BackupMenu::saveUnlessReplacing)},
+           asking(Purpose::Save, &BackupMenu::save)},
           {text("backup.restore"), platform::ActionStyle::Normal,
            asking(Purpose::Open, &BackupMenu::restore)},
           {text("export.cancel"), platform::ActionStyle::Cancel, nullptr}}},
@@ -80,31 +79,12 @@ void BackupMenu::choose(platform::FileQuestion::Purpose purpose,
          .title = kind,
          .kind = kind,
          .extension = "json",
-         .suggestedName = "lumora.json"},
+         .suggestedName = "lumora"},
         [weak = weak_from_this(), then](const std::filesystem::path& file) {
             if (const auto self = weak.lock()) {
                 (*self.*then)(file);
             }
         });
-}
-
-void BackupMenu::saveUnlessReplacing(const std::filesystem::path& file)
-{
-    std::error_code unknown;
-    if (!std::filesystem::exists(file, unknown)) {
-        save(file);
-        return;
-    }
-    services_.presenter.presentAlert(
-        screen_, {platform::formatted(text("backup.replace"), {file.filename().string()}),
-                  {},
-                  {{text("backup.replace.yes"), platform::ActionStyle::Destructive,
-                    [weak = weak_from_this(), file] {
-                        if (const auto self = weak.lock()) {
-                            self->save(file);
-                        }
-                    }},
-                   {text("export.cancel"), platform::ActionStyle::Cancel, nullptr}}});
 }
 
 void BackupMenu::save(const std::filesystem::path& file)

@@ -35,7 +35,6 @@ private:
     std::string text(std::string_view key) const;
     void choose(platform::FileQuestion::Purpose purpose,
                 void (BackupMenu::*then)(const std::filesystem::path&));
-    void saveUnlessReplacing(const std::filesystem::path& file);
     void save(const std::filesystem::path& file);
     void restore(const std::filesystem::path& file);
     /// The lists and the open verb learn of it.

@@ -9,16 +9,16 @@
 
 namespace lumora::platform {
 
-/// Which file, please?
+/// Which file is asked for.
 struct FileQuestion {
     enum class Purpose { Save, Open };
-
     Purpose purpose = Purpose::Open;
+    /// What it is about, in the person's words.
     std::string title;
     /// What the files are, and how their names end, without the point.
     std::string kind;
     std::string extension;
-    /// For saving; without a folder.
+    /// What a file to save is called after, without the ending. Any text will do.
     std::string suggestedName;
 };
 
@@ -27,8 +27,8 @@ class FileChooser {
 public:
     virtual ~FileChooser() = default;
     /// `chosen` runs once, or never when the person thinks better of it; an
-    /// earlier question is forgotten. A file to save may be there already:
-    /// whether it may be replaced is the caller's to ask.
+    /// earlier question is forgotten. A file to save may be there already: then
+    /// the person has agreed to lose it.
     virtual void choose(const FileQuestion& question,
                         std::function<void(const std::filesystem::path&)> chosen) = 0;
 };

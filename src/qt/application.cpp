@@ -7,13 +7,10 @@
 #include "qt/icon_provider.h"
 #include "qt/text_conversion.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
-#include <QStandardPaths>
 #include <QTimer>
 
 #include <chrono>
@@ -42,13 +39,6 @@ std::filesystem::path madeFolder(const std::filesystem::path& folder)
     return folder;
 }
 
-/// Where a person looks for files.
-QUrl documentsFolder()
-{
-    const auto path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return QUrl::fromLocalFile(QFileInfo::exists(path) ? path : QDir::homePath());
-}
-
 } // namespace
 
 void registerInterface()
@@ -69,9 +59,9 @@ Application::Application(ApplicationOptions options)
       presenter_{storyboard_},
       mail_{options_.desktop},
       urlOpener_{options_.desktop},
-      shareSheet_{presenter_, mail_, options_.desktop},
+      fileChooser_{presenter_, options_.desktop},
+      shareSheet_{presenter_, mail_, fileChooser_, options_.desktop},
       settingsPortal_{options_.desktop.bus},
-      fileChooser_{documentsFolder()},
       services_{notifications_,  settings_,  bundle_,       device_,     clock_,
                 crashReporter_,  analytics_, std::cout,     views_,      presenter_,
                 storyboard_,     speech_,    audioSession_, scripts_,    shareSheet_,
@@ -199,6 +189,7 @@ void Application::clearTheWay()
     // Questions first: their answers lead to screens that go next.
     presenter_.withdraw();
     shareSheet_.cancel();
+    fileChooser_.dismiss();
     std::vector<Modal*> modals;
     for (const auto& modal : presenter_.modals()->modals()) {
         modals.push_back(modal.get());

@@ -108,9 +108,9 @@ private:
     DesktopMail mail_;
     DesktopUrlOpener urlOpener_;
     DesktopReviewPrompter reviewPrompter_{urlOpener_};
+    QtFileChooser fileChooser_;
     QtShareSheet shareSheet_;
     SettingsPortal settingsPortal_;
-    QtFileChooser fileChooser_;
     platform::Services services_;
     app::AppDelegate delegate_;
     std::unique_ptr<SplitScreen> splitScreen_;

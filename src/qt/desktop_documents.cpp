@@ -3,14 +3,76 @@
 
 #include "qt/desktop_documents.h"
 
-#include "qt/portal.h"
-
+#include <QDBusArgument>
+#include <QDBusMetaType>
 #include <QDBusUnixFileDescriptor>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
+#include <QUrl>
 
 #include <utility>
+
+namespace {
+
+/// A way to tell files by their names, as the portal wants it.
+struct FilePattern {
+    uint kind = 0;
+    QString pattern;
+};
+
+struct FileFilter {
+    QString name;
+    QList<FilePattern> patterns;
+};
+
+constexpr uint kShellPattern = 0;
+
+QDBusArgument& operator<<(QDBusArgument& argument, const FilePattern& pattern)
+{
+    argument.beginStructure();
+    argument << pattern.kind << pattern.pattern;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const FileFilter& filter)
+{
+    argument.beginStructure();
+    argument << filter.name << filter.patterns;
+    argument.endStructure();
+    return argument;
+}
+
+// Never read; but what goes over the bus must be able to come back.
+const QDBusArgument& operator>>(const QDBusArgument& argument, FilePattern& pattern)
+{
+    argument.beginStructure();
+    argument >> pattern.kind >> pattern.pattern;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, FileFilter& filter)
+{
+    argument.beginStructure();
+    argument >> filter.name >> filter.patterns;
+    argument.endStructure();
+    return argument;
+}
+
+void registerFilters()
+{
+    qDBusRegisterMetaType<FilePattern>();
+    qDBusRegisterMetaType<QList<FilePattern>>();
+    qDBusRegisterMetaType<FileFilter>();
+    qDBusRegisterMetaType<QList<FileFilter>>();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(FilePattern)
+Q_DECLARE_METATYPE(FileFilter)
 
 namespace lumora::qt {
 
@@ -43,29 +105,55 @@ QDBusUnixFileDescriptor readable(const QByteArray& document)
 
 } // namespace
 
-DesktopDocuments::DesktopDocuments(Desktop desktop) : desktop_{std::move(desktop)} {}
+DesktopDocuments::DesktopDocuments(const Desktop& desktop)
+    : bus_{desktop.bus}, fileChooser_{bus_, kFileChooser}, print_{bus_, kPrint}
+{}
 
-bool DesktopDocuments::hasSaveDialog() const
+bool DesktopDocuments::hasFileDialog() const
 {
-    return portal::version(desktop_.bus, kFileChooser).has_value();
+    return fileChooser_.exists();
 }
 
-void DesktopDocuments::askWhereToSave(const QString& title, const QUrl& suggestion,
-                                      std::function<void(const QUrl&)> chosen,
+void DesktopDocuments::askWhereToSave(const QString& title, const QString& suggestion,
+                                      std::function<void(const QString&)> chosen,
                                       std::function<void()> failed)
 {
-    const QFileInfo file{suggestion.toLocalFile()};
+    const QFileInfo file{suggestion};
     const QVariantMap options{
         {QStringLiteral("current_name"), file.fileName()},
         {QStringLiteral("current_folder"), terminated(file.absolutePath())},
     };
+    askForFile(QStringLiteral("SaveFile"), title, options, std::move(chosen), std::move(failed));
+}
+
+void DesktopDocuments::askWhatToOpen(const QString& title, const QString& kind,
+                                     const QString& suffix, const QString& folder,
+                                     std::function<void(const QString&)> chosen,
+                                     std::function<void()> failed)
+{
+    registerFilters();
+    const QList<FileFilter> filters{{kind, {{kShellPattern, QStringLiteral("*.") + suffix}}}};
+    const QVariantMap options{
+        {QStringLiteral("filters"), QVariant::fromValue(filters)},
+        {QStringLiteral("current_folder"), terminated(folder)},
+    };
+    askForFile(QStringLiteral("OpenFile"), title, options, std::move(chosen), std::move(failed));
+}
+
+void DesktopDocuments::askForFile(const QString& method, const QString& title,
+                                  const QVariantMap& options,
+                                  std::function<void(const QString&)> chosen,
+                                  std::function<void()> failed)
+{
     portal::Request::send(
-        desktop_.bus, kFileChooser, QStringLiteral("SaveFile"), {kNoParentWindow, title}, options,
+        bus_, kFileChooser, method, {kNoParentWindow, title}, options,
         [chosen = std::move(chosen), failed = std::move(failed)](portal::Answer answer,
                                                                  const QVariantMap& results) {
             const auto files = results.value(QStringLiteral("uris")).toStringList();
             if (answer == portal::Answer::Done && !files.isEmpty()) {
-                chosen(QUrl{files.first()});
+                // What is not on this machine fails with the name that the person knows.
+                const QUrl file{files.first()};
+                chosen(file.isLocalFile() ? file.toLocalFile() : file.toDisplayString());
             } else if (answer != portal::Answer::Cancelled) {
                 failed();
             }
@@ -75,7 +163,7 @@ void DesktopDocuments::askWhereToSave(const QString& title, const QUrl& suggesti
 
 bool DesktopDocuments::hasPrintDialog() const
 {
-    return portal::version(desktop_.bus, kPrint).has_value();
+    return print_.exists();
 }
 
 void DesktopDocuments::print(const QString& title, const QByteArray& pdf,
@@ -87,7 +175,7 @@ void DesktopDocuments::print(const QString& title, const QByteArray& pdf,
         return;
     }
     portal::Request::send(
-        desktop_.bus, kPrint, QStringLiteral("Print"),
+        bus_, kPrint, QStringLiteral("Print"),
         {kNoParentWindow, title, QVariant::fromValue(document)}, {},
         [failed = std::move(failed)](portal::Answer answer, const QVariantMap& /*results*/) {
             if (answer == portal::Answer::Failed) {

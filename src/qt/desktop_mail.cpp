@@ -4,7 +4,6 @@
 #include "qt/desktop_mail.h"
 
 #include "qt/plain_text.h"
-#include "qt/portal.h"
 #include "qt/text_conversion.h"
 
 #include <QProcess>
@@ -89,13 +88,14 @@ bool isAddress(const QString& text)
 
 } // namespace
 
-DesktopMail::DesktopMail(Desktop desktop) : desktop_{std::move(desktop)} {}
+DesktopMail::DesktopMail(Desktop desktop)
+    : desktop_{std::move(desktop)}, portal_{desktop_.bus, kEmailPortal}
+{}
 
 bool DesktopMail::canSendMail() const
 {
-    return portal::version(desktop_.bus, kEmailPortal) ||
-           (!QStandardPaths::findExecutable(kMailProgram).isEmpty() &&
-            desktop_.hasUrlHandler("mailto"));
+    return portal_.exists() || (!QStandardPaths::findExecutable(kMailProgram).isEmpty() &&
+                                desktop_.hasUrlHandler("mailto"));
 }
 
 std::shared_ptr<platform::MailComposer> DesktopMail::makeMailComposer()
@@ -105,7 +105,7 @@ std::shared_ptr<platform::MailComposer> DesktopMail::makeMailComposer()
 
 void DesktopMail::open(const MailMessage& message, Finished finished)
 {
-    if (const auto version = portal::version(desktop_.bus, kEmailPortal)) {
+    if (const auto version = portal_.get()) {
         openInPortal(*version, message, std::move(finished));
     } else {
         openInMailProgram(message, std::move(finished));

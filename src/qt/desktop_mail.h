@@ -5,6 +5,7 @@
 
 #include "platform/mail_composer.h"
 #include "qt/desktop.h"
+#include "qt/portal.h"
 
 #include <QObject>
 #include <QString>
@@ -42,6 +43,7 @@ private:
     void openInMailProgram(const MailMessage& message, Finished finished);
 
     Desktop desktop_;
+    portal::Version portal_;
 };
 
 } // namespace lumora::qt

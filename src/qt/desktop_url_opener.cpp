@@ -3,7 +3,6 @@
 
 #include "qt/desktop_url_opener.h"
 
-#include "qt/portal.h"
 #include "qt/text_conversion.h"
 
 #include <QProcess>
@@ -46,13 +45,15 @@ bool openInHandler(const QString& url)
 
 } // namespace
 
-DesktopUrlOpener::DesktopUrlOpener(Desktop desktop) : desktop_{std::move(desktop)} {}
+DesktopUrlOpener::DesktopUrlOpener(Desktop desktop)
+    : desktop_{std::move(desktop)}, portal_{desktop_.bus, kOpenPortal}
+{}
 
 bool DesktopUrlOpener::canOpen(std::string_view url) const
 {
     const auto address = openable(url);
     return address && (desktop_.hasUrlHandler(toUtf8(address->scheme())) ||
-                       (isForPortal(*address) && portal::version(desktop_.bus, kOpenPortal)));
+                       (isForPortal(*address) && portal_.exists()));
 }
 
 bool DesktopUrlOpener::open(std::string_view url)
@@ -63,7 +64,7 @@ bool DesktopUrlOpener::open(std::string_view url)
     }
     const auto encoded = QString::fromLatin1(address->toEncoded());
     const bool handled = desktop_.hasUrlHandler(toUtf8(address->scheme()));
-    if (!isForPortal(*address) || !portal::version(desktop_.bus, kOpenPortal)) {
+    if (!isForPortal(*address) || !portal_.exists()) {
         return handled && openInHandler(encoded);
     }
     const QString noParentWindow;

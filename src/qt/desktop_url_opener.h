@@ -5,6 +5,7 @@
 
 #include "platform/url_opener.h"
 #include "qt/desktop.h"
+#include "qt/portal.h"
 
 #include <QObject>
 
@@ -21,6 +22,7 @@ public:
 
 private:
     Desktop desktop_;
+    portal::Version portal_;
 };
 
 } // namespace lumora::qt

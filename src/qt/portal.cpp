@@ -6,10 +6,6 @@
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusReply>
-#include <QDBusServiceWatcher>
-#include <QDBusVariant>
 #include <QRandomGenerator>
 
 #include <limits>
@@ -40,19 +36,35 @@ QString requestPath(const QDBusConnection& bus, const QString& token)
 
 } // namespace
 
-std::optional<uint> version(const QDBusConnection& bus, const QString& interface)
+Version::Version(QDBusConnection bus, QString interface)
+    : bus_{std::move(bus)},
+      interface_{std::move(interface)},
+      restarts_{QString::fromLatin1(kService), bus_, QDBusServiceWatcher::WatchForRegistration}
 {
-    if (!bus.isConnected()) {
-        return std::nullopt;
+    connect(&restarts_, &QDBusServiceWatcher::serviceRegistered, this, &Version::ask);
+    ask();
+}
+
+void Version::ask()
+{
+    if (!bus_.isConnected()) {
+        return;
     }
     auto call = callOf(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    call << interface << QStringLiteral("version");
-    const QDBusReply<QDBusVariant> reply = bus.call(call, QDBus::Block, kVersionTimeoutMs);
-    if (!reply.isValid()) {
+    call << interface_ << QStringLiteral("version");
+    answer_ = bus_.asyncCall(call, kVersionTimeoutMs);
+}
+
+std::optional<uint> Version::get() const
+{
+    // The same call: what is known of it is shared.
+    auto answer = answer_;
+    answer.waitForFinished();
+    if (!answer.isValid()) {
         return std::nullopt;
     }
     bool isNumber = false;
-    const uint number = reply.value().variant().toUInt(&isNumber);
+    const uint number = answer.value().variant().toUInt(&isNumber);
     return isNumber ? std::optional{number} : std::nullopt;
 }
 

@@ -4,6 +4,9 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
+#include <QDBusVariant>
 #include <QObject>
 #include <QString>
 #include <QVariantList>
@@ -18,9 +21,24 @@ namespace lumora::qt::portal {
 inline constexpr const char* kService = "org.freedesktop.portal.Desktop";
 inline constexpr const char* kPath = "/org/freedesktop/portal/desktop";
 
-/// The version of one of the portal's interfaces; none when it is not there or
-/// does not answer in a second. Waits for the answer.
-std::optional<uint> version(const QDBusConnection& bus, const QString& interface);
+/// The version of one of the portal's interfaces, asked for ahead of its use.
+class Version final : public QObject {
+public:
+    Version(QDBusConnection bus, QString interface);
+
+    /// None when the interface is not there. Waits for the answer if it is
+    /// early, at most a second after this was made.
+    std::optional<uint> get() const;
+    bool exists() const { return get().has_value(); }
+
+private:
+    void ask();
+
+    QDBusConnection bus_;
+    QString interface_;
+    QDBusServiceWatcher restarts_;
+    QDBusPendingReply<QDBusVariant> answer_;
+};
 
 /// How a request to the person ended.
 enum class Answer { Done = 0, Cancelled = 1, Failed = 2 };

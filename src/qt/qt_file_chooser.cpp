@@ -3,16 +3,20 @@
 
 #include "qt/qt_file_chooser.h"
 
+#include "qt/saved_file.h"
 #include "qt/text_conversion.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QPointer>
 #include <QQmlEngine>
 
 #include <utility>
 
 namespace lumora::qt {
 
-QtFileChooser::QtFileChooser(QUrl folder) : folder_{std::move(folder)}
+QtFileChooser::QtFileChooser(platform::Presenter& presenter, const Desktop& desktop)
+    : presenter_{presenter}, desktop_{desktop}
 {
     QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
@@ -23,7 +27,15 @@ void QtFileChooser::choose(const platform::FileQuestion& question,
     dismiss();
     question_ = question;
     chosen_ = std::move(chosen);
-    emit questionChanged();
+    ++number_;
+    const auto suggestion =
+        freeFile(folder_.isEmpty() ? documentsFolder() : folder_,
+                 toQString(question_.suggestedName), toQString(question_.extension));
+    if (desktop_.hasFileDialog()) {
+        askDesktop(suggestion);
+    } else {
+        askInWindow(suggestion);
+    }
 }
 
 QString QtFileChooser::title() const
@@ -31,40 +43,85 @@ QString QtFileChooser::title() const
     return toQString(question_.title);
 }
 
-QString QtFileChooser::nameFilter() const
+void QtFileChooser::askDesktop(const QString& suggestion)
 {
-    return toQString(question_.kind + " (*." + question_.extension + ")");
+    const auto taken = [this, number = number_](const QString& file) {
+        if (number == number_) {
+            finish(file);
+        }
+    };
+    const auto failed = [this, number = number_, suggestion] {
+        if (number == number_) {
+            askInWindow(suggestion);
+        }
+    };
+    if (isSaving()) {
+        desktop_.askWhereToSave(title(), suggestion, taken, failed);
+    } else {
+        desktop_.askWhatToOpen(title(), toQString(question_.kind), toQString(question_.extension),
+                               QFileInfo{suggestion}.absolutePath(), taken, failed);
+    }
 }
 
-QString QtFileChooser::suffix() const
+void QtFileChooser::askInWindow(const QString& suggestion)
 {
-    return toQString(question_.extension);
+    location_.begin(suggestion);
+    setAsking(true);
 }
 
-QUrl QtFileChooser::suggestedFile() const
+void QtFileChooser::setAsking(bool asking)
 {
-    auto file = folder_;
-    file.setPath(file.path() + u'/' + toQString(question_.suggestedName));
-    return file;
+    if (asking_ != asking) {
+        asking_ = asking;
+        emit askingChanged();
+    }
 }
 
-void QtFileChooser::accept(const QUrl& file)
+void QtFileChooser::acceptLocation()
 {
-    if (!asking()) {
+    if (!asking_ || !location_.isAcceptable()) {
         return;
     }
-    folder_ = file.adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash);
+    const auto file = location_.file();
+    if (!QFileInfo::exists(file)) {
+        finish(file);
+        return;
+    }
+    const auto replace = [self = QPointer{this}, file, number = number_] {
+        if (self && self->asking_ && self->number_ == number) {
+            self->finish(file);
+        }
+    };
+    presenter_.presentAlert(
+        screen_, {std::nullopt,
+                  toUtf8(qtTrId("file.exists").arg(QFileInfo{file}.fileName())),
+                  {{toUtf8(qtTrId("export.cancel")), platform::ActionStyle::Cancel, nullptr},
+                   {toUtf8(qtTrId("file.replace")), platform::ActionStyle::Destructive, replace}}});
+}
+
+void QtFileChooser::acceptFile(const QString& name)
+{
+    if (asking_ && location_.files().contains(name)) {
+        location_.setName(name);
+        finish(location_.file());
+    }
+}
+
+void QtFileChooser::finish(const QString& file)
+{
+    folder_ = QFileInfo{file}.absolutePath();
     const auto chosen = std::exchange(chosen_, nullptr);
-    emit questionChanged();
-    // What is not on this machine fails with the name that the person knows.
-    const auto path = file.isLocalFile() ? file.toLocalFile() : file.toDisplayString();
-    chosen(QFile::encodeName(path).toStdString());
+    setAsking(false);
+    if (chosen) {
+        chosen(QFile::encodeName(file).toStdString());
+    }
 }
 
 void QtFileChooser::dismiss()
 {
-    if (std::exchange(chosen_, nullptr) != nullptr) {
-        emit questionChanged();
+    if (asking_) {
+        chosen_ = nullptr;
+        setAsking(false);
     }
 }
 

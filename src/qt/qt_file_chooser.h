@@ -4,53 +4,68 @@
 #pragma once
 
 #include "platform/file_chooser.h"
+#include "platform/presenter.h"
+#include "qt/desktop_documents.h"
+#include "qt/file_location.h"
 
 #include <QObject>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
-#include <QUrl>
 
 namespace lumora::qt {
 
-/// The question about a file that the window asks with the desktop's dialog.
-/// GUI thread only.
+/// Asks about a file with the desktop's own dialog, in the window where the
+/// desktop has none. GUI thread only.
 class QtFileChooser final : public QObject, public platform::FileChooser {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the program")
-    Q_PROPERTY(bool asking READ asking NOTIFY questionChanged)
-    Q_PROPERTY(bool saving READ isSaving NOTIFY questionChanged)
-    Q_PROPERTY(QString title READ title NOTIFY questionChanged)
-    Q_PROPERTY(QString nameFilter READ nameFilter NOTIFY questionChanged)
-    Q_PROPERTY(QString suffix READ suffix NOTIFY questionChanged)
-    Q_PROPERTY(QUrl folder READ folder NOTIFY questionChanged)
-    Q_PROPERTY(QUrl suggestedFile READ suggestedFile NOTIFY questionChanged)
+    Q_PROPERTY(bool asking READ asking NOTIFY askingChanged)
+    Q_PROPERTY(bool saving READ isSaving NOTIFY askingChanged)
+    Q_PROPERTY(QString title READ title NOTIFY askingChanged)
+    Q_PROPERTY(lumora::qt::FileLocation* location READ location CONSTANT)
 
 public:
-    /// Where the first question begins.
-    explicit QtFileChooser(QUrl folder);
+    /// The presenter must outlive this.
+    QtFileChooser(platform::Presenter& presenter, const Desktop& desktop);
 
     void choose(const platform::FileQuestion& question,
                 std::function<void(const std::filesystem::path&)> chosen) override;
 
-    bool asking() const { return chosen_ != nullptr; }
+    /// Whether the window has to ask.
+    bool asking() const { return asking_; }
     bool isSaving() const { return question_.purpose == platform::FileQuestion::Purpose::Save; }
     QString title() const;
-    QString nameFilter() const;
-    QString suffix() const;
-    /// Where the last file was.
-    QUrl folder() const { return folder_; }
-    QUrl suggestedFile() const;
+    FileLocation* location() { return &location_; }
 
-    Q_INVOKABLE void accept(const QUrl& file);
+    /// The file at the location, after a question where one is replaced.
+    Q_INVOKABLE void acceptLocation();
+    /// The file of that name in the location's folder.
+    Q_INVOKABLE void acceptFile(const QString& name);
+    /// Leaves a question in the window.
     Q_INVOKABLE void dismiss();
 
 signals:
-    void questionChanged();
+    void askingChanged();
 
 private:
+    void askDesktop(const QString& suggestion);
+    void askInWindow(const QString& suggestion);
+    void setAsking(bool asking);
+    void finish(const QString& file);
+
+    platform::Presenter& presenter_;
+    /// Stands for the form where a screen is asked for.
+    platform::ViewController screen_;
     platform::FileQuestion question_;
     std::function<void(const std::filesystem::path&)> chosen_;
-    QUrl folder_;
+    /// Counts the questions: an answer to an earlier one is none.
+    int number_ = 0;
+    bool asking_ = false;
+    /// Where the last file was; empty before the first.
+    QString folder_;
+    DesktopDocuments desktop_;
+    FileLocation location_{this};
 };
 
 } // namespace lumora::qt

@@ -9,6 +9,7 @@
 #include "qt/text_conversion.h"
 
 #include <QClipboard>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QQmlEngine>
@@ -45,8 +46,8 @@ QQuickItem* barButton(QQuickItem* parent, const QString& name,
 } // namespace
 
 QtShareSheet::QtShareSheet(platform::Presenter& presenter, platform::MailService& mail,
-                           Desktop desktop)
-    : presenter_{presenter}, mail_{mail}, desktop_{std::move(desktop)}
+                           platform::FileChooser& files, const Desktop& desktop)
+    : presenter_{presenter}, mail_{mail}, files_{files}, desktop_{desktop}
 {
     QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
     printing_.setMaxThreadCount(1);
@@ -85,10 +86,9 @@ void QtShareSheet::offer()
 {
     const bool canSend = mail_.canSendMail();
     // Copies, so that what is saved stays what it was when the sheet opened.
-    const Document text{QStringLiteral("txt"), [text = text_] { return text.toUtf8(); }};
-    const Document html{QStringLiteral("html"), [html = html_] { return html.toUtf8(); }};
-    const Document pdf{QStringLiteral("pdf"),
-                       [html = html_, title = title_] { return pdfOf(html, title); }};
+    const Document text{"txt", [text = text_] { return text.toUtf8(); }};
+    const Document html{"html", [html = html_] { return html.toUtf8(); }};
+    const Document pdf{"pdf", [html = html_, title = title_] { return pdfOf(html, title); }};
     show(Stage::Offers,
          {{qtTrId("share.copy"), {}, "share_copy", [this] { copy(); }},
           {qtTrId("share.save.text"), {}, "share_text", [this, text] { askWhere(text); }},
@@ -140,51 +140,26 @@ void QtShareSheet::copy()
     cancel();
 }
 
-void QtShareSheet::askWhere(Document document)
+void QtShareSheet::askWhere(const Document& document)
 {
-    const auto suggestion = freeDocument(title_, document.suffix);
-    if (desktop_.hasSaveDialog()) {
-        cancel();
-        desktop_.askWhereToSave(
-            title_, suggestion,
-            [this, document = std::move(document)](const QUrl& file) { save(file, document); },
-            [this, name = suggestion.fileName()] { saySaveFailed(name); });
-        return;
-    }
-    document_ = std::move(document);
-    location_.begin(suggestion);
-    show(Stage::Where);
+    cancel();
+    files_.choose({.purpose = platform::FileQuestion::Purpose::Save,
+                   .title = toUtf8(title_),
+                   .kind = {},
+                   .extension = document.suffix,
+                   .suggestedName = toUtf8(title_)},
+                  [self = QPointer{this}, document](const std::filesystem::path& file) {
+                      if (self) {
+                          self->save(QFile::decodeName(file.c_str()), document);
+                      }
+                  });
 }
 
-void QtShareSheet::saveHere()
-{
-    if (!isAskingWhere() || !location_.isAcceptable()) {
-        return;
-    }
-    const auto file = location_.file();
-    const auto go = [self = QPointer{this}, file, document = document_] {
-        if (self) {
-            self->cancel();
-            self->save(file, document);
-        }
-    };
-    if (!QFileInfo::exists(file.toLocalFile())) {
-        go();
-        return;
-    }
-    presenter_.presentAlert(
-        screen_,
-        {std::nullopt,
-         toUtf8(qtTrId("share.save.exists").arg(file.fileName())),
-         {{toUtf8(qtTrId("share.cancel")), platform::ActionStyle::Cancel, nullptr},
-          {toUtf8(qtTrId("share.save.replace")), platform::ActionStyle::Destructive, go}}});
-}
-
-void QtShareSheet::save(const QUrl& file, const Document& document)
+void QtShareSheet::save(const QString& file, const Document& document)
 {
     const auto content = document.content();
     if (content.isEmpty() || !saveFile(file, content)) {
-        saySaveFailed(file.fileName());
+        saySaveFailed(QFileInfo{file}.fileName());
     }
 }
 

@@ -3,12 +3,12 @@
 
 #pragma once
 
+#include "platform/file_chooser.h"
 #include "platform/mail_composer.h"
 #include "platform/presenter.h"
 #include "platform/share_sheet.h"
 #include "qt/desktop_documents.h"
 #include "qt/printers.h"
-#include "qt/save_location.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -17,7 +17,6 @@
 #include <QQuickWindow>
 #include <QThreadPool>
 #include <QtQml/qqmlregistration.h>
-#include <QUrl>
 #include <QVariantList>
 
 #include <functional>
@@ -26,8 +25,8 @@
 
 namespace lumora::qt {
 
-/// The ways out for one thing at a time: the offers, and then where to save it
-/// or which printer to take. QML shows it and says what was chosen. GUI thread
+/// The ways out for one thing at a time: the offers, and then which printer to
+/// take. QML shows it and says what was chosen. GUI thread
 /// only; printers are talked to on a thread of their own.
 class QtShareSheet final : public QObject,
                            public platform::ShareSheet,
@@ -39,13 +38,11 @@ class QtShareSheet final : public QObject,
     Q_PROPERTY(QString heading READ heading NOTIFY changed)
     Q_PROPERTY(QVariantList rows READ rows NOTIFY changed)
     Q_PROPERTY(QQuickItem* anchor READ anchor NOTIFY changed)
-    Q_PROPERTY(bool askingWhere READ isAskingWhere NOTIFY changed)
-    Q_PROPERTY(lumora::qt::SaveLocation* location READ location CONSTANT)
 
 public:
-    /// Presenter and mail must outlive this. The desktop's dialogs come first,
-    /// where it has them.
-    QtShareSheet(platform::Presenter& presenter, platform::MailService& mail, Desktop desktop);
+    /// Presenter, mail and file chooser must outlive this.
+    QtShareSheet(platform::Presenter& presenter, platform::MailService& mail,
+                 platform::FileChooser& files, const Desktop& desktop);
     ~QtShareSheet() override;
 
     /// Where bar buttons are looked for.
@@ -63,19 +60,15 @@ public:
     QVariantList rows() const;
     /// The bar button that the sheet stands by; null when it is out of sight.
     QQuickItem* anchor() const { return anchor_; }
-    bool isAskingWhere() const { return stage_ == Stage::Where; }
-    SaveLocation* location() { return &location_; }
 
     Q_INVOKABLE void choose(int row);
     Q_INVOKABLE void cancel();
-    /// Saves at the location, after a question where a file is replaced.
-    Q_INVOKABLE void saveHere();
 
 signals:
     void changed();
 
 private:
-    enum class Stage { Closed, Offers, Printers, Where };
+    enum class Stage { Closed, Offers, Printers };
     struct Row {
         QString title;
         QString detail;
@@ -84,7 +77,7 @@ private:
     };
     /// What is saved once it is known where.
     struct Document {
-        QString suffix;
+        std::string suffix;
         std::function<QByteArray()> content;
     };
 
@@ -97,8 +90,8 @@ private:
     void show(Stage stage, std::vector<Row> rows = {});
     void offer();
     void copy();
-    void askWhere(Document document);
-    void save(const QUrl& file, const Document& document);
+    void askWhere(const Document& document);
+    void save(const QString& file, const Document& document);
     void lookForPrinters();
     void offerPrinters(const QList<Printer>& printers);
     void print(const QString& printerName);
@@ -110,6 +103,7 @@ private:
 
     platform::Presenter& presenter_;
     platform::MailService& mail_;
+    platform::FileChooser& files_;
     DesktopDocuments desktop_;
     /// Stands for the sheet where a screen is asked for.
     platform::ViewController screen_;
@@ -122,8 +116,6 @@ private:
     /// Counts what was shown, so that late news of printers changes nothing.
     int shown_ = 0;
     std::vector<Row> rows_;
-    Document document_;
-    SaveLocation location_{this};
     std::vector<Sending> sendings_;
     /// Last: it ends before what its work comes back to.
     QThreadPool printing_;

@@ -27,28 +27,28 @@ QString fileName(const QString& title)
 
 } // namespace
 
-QUrl freeDocument(const QString& title, const QString& suffix)
+QString documentsFolder()
 {
-    QDir folder{QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)};
-    if (!folder.exists()) {
-        folder = QDir::home();
-    }
-    const auto name = fileName(title);
-    QString candidate = QStringLiteral("%1.%2").arg(name, suffix);
-    for (int number = 2; folder.exists(candidate); ++number) {
-        candidate = QStringLiteral("%1 %2.%3").arg(name, QString::number(number), suffix);
-    }
-    return QUrl::fromLocalFile(folder.filePath(candidate));
+    const auto folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo::exists(folder) ? folder : QDir::homePath();
 }
 
-bool saveFile(const QUrl& file, const QByteArray& content)
+QString freeFile(const QString& folder, const QString& title, const QString& suffix)
 {
-    if (!file.isLocalFile()) {
-        return false;
+    const QDir place{folder};
+    const auto name = fileName(title);
+    QString candidate = QStringLiteral("%1.%2").arg(name, suffix);
+    for (int number = 2; place.exists(candidate); ++number) {
+        candidate = QStringLiteral("%1 %2.%3").arg(name, QString::number(number), suffix);
     }
+    return place.filePath(candidate);
+}
+
+bool saveFile(const QString& file, const QByteArray& content)
+{
     // Unlike our own files, a document gets the permissions that the user's
     // documents have.
-    QSaveFile target{file.toLocalFile()};
+    QSaveFile target{file};
     return target.open(QIODevice::WriteOnly) && target.write(content) == content.size() &&
            target.commit();
 }

@@ -255,7 +255,9 @@ private:
     {
         tap("bar.export");
         picture("share");
-        tap("shareCancel");
+        tap("share1");
+        picture("save");
+        tap("fileCancel");
     }
 
     void search()

@@ -216,6 +216,8 @@ TEST_F(RunningProgram, ASupportEmailEndsAsThePortalSays)
             {.versions = {{QStringLiteral("org.freedesktop.portal.Email"), 3}},
              .response = c.response}};
 
+        // Word of the portal gets around.
+        QTest::qWait(100);
         dynamic_cast<navigation::HomeViewController&>(*home()->controller()).contactSupport();
 
         ASSERT_TRUE(QTest::qWaitFor([&] { return !portal.requests().empty(); }, kPatience));

@@ -234,48 +234,6 @@ TEST(DesktopReviewPrompter, OpensTheSoftwareCentreOnlyWhereThereIsOne)
         [&] { return programs.called() == "appstream://com.brindle.lumora|"; }, kPatience));
 }
 
-TEST(DesktopDocuments, ThePortalAsksWhereToSave)
-{
-    const auto kChooser = QStringLiteral("org.freedesktop.portal.FileChooser");
-    struct Case {
-        uint response;
-        QStringList files;
-        QStringList heard;
-    };
-    const Case cases[] = {
-        {0, {"file:///tmp/l%27%C3%A9t%C3%A9.txt"}, {"/tmp/l'été.txt"}},
-        {0, {}, {"failed"}},
-        {1, {}, {}},
-        {2, {}, {"failed"}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.response);
-        MessageBus bus;
-        const StandInPortal portal{
-            bus,
-            {.versions = {{kChooser, 3}}, .response = c.response, .results = {{"uris", c.files}}}};
-        DesktopDocuments documents{{bus.connect(), {}}};
-        ASSERT_TRUE(documents.hasSaveDialog());
-        EXPECT_FALSE(documents.hasPrintDialog());
-        QStringList heard;
-
-        documents.askWhereToSave(
-            "Title", QUrl::fromLocalFile("/home/é/a b.txt"),
-            [&](const QUrl& file) { heard << file.toLocalFile(); }, [&] { heard << "failed"; });
-
-        EXPECT_TRUE(heard.isEmpty()) << "not from within the call";
-        const bool any = !c.heard.isEmpty();
-        EXPECT_EQ(QTest::qWaitFor([&] { return !heard.isEmpty(); }, any ? kPatience : 300), any);
-        EXPECT_EQ(heard, c.heard);
-        ASSERT_EQ(portal.requests().size(), 1U);
-        const auto request = portal.requests()[0];
-        EXPECT_EQ(request.member, "SaveFile");
-        EXPECT_EQ(request.options.value("current_name"), "a b.txt");
-        EXPECT_EQ(request.options.value("current_folder").toByteArray(),
-                  QByteArray("/home/\xC3\xA9\0", 9));
-    }
-}
-
 TEST(DesktopDocuments, ThePortalPrintsAWholeDocument)
 {
     const auto kPrint = QStringLiteral("org.freedesktop.portal.Print");

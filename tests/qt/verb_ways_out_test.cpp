@@ -5,18 +5,19 @@
 
 #include "qt/document_printing.h"
 #include "qt/home_screen.h"
+#include "qt/qt_file_chooser.h"
 #include "qt/saved_file.h"
 #include "qt/table_screen.h"
 #include "qt/text_conversion.h"
 #include "qt/translations.h"
 #include "qt/verb_detail_screen.h"
+#include "support/fake_file_chooser.h"
 #include "support/fake_presenter.h"
 #include "support/fake_ways_out.h"
 #include "window_fixture.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QClipboard>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -33,81 +34,120 @@ using support::contentOf;
 /// The sheet without a window.
 class ShareSheetTest : public testing::Test {
 protected:
+    enum Row { Copy, Text, Html, Pdf, Print, Mail };
+
     void present()
     {
         sheet.present(screen, {"évanouir (s')", "je m'évanouis\n", "<p>je m'évanouis</p>"},
                       "export");
     }
-    /// Goes to `place` from the documents folder and saves.
-    void saveAs(int row, const std::string& place, const char* name)
+    void saveAs(Row row, const char* name)
     {
         present();
         sheet.choose(row);
-        ASSERT_TRUE(sheet.isAskingWhere());
-        sheet.location()->begin(QUrl::fromLocalFile(
-            toQString((folder / place / "file").string() +
-                      QFileInfo{sheet.location()->name()}.suffix().prepend('.').toStdString())));
-        sheet.location()->setName(QString::fromUtf8(name));
-        sheet.saveHere();
+        ASSERT_TRUE(files.question);
+        EXPECT_FALSE(sheet.isOpen());
+        EXPECT_EQ(files.question->purpose, platform::FileQuestion::Purpose::Save);
+        files.chosen(folder / name);
     }
     std::string lastSentence() const
     {
         return presenter.alerts.empty() ? "" : presenter.alerts.back().alert.message;
     }
 
-    enum Row { Copy, Text, Html, Pdf, Print, Mail };
-
     support::TemporaryFolder folder;
     support::FakePresenter presenter;
     support::FakeMailService mail;
     platform::ViewController screen;
     const Translations translations{{QStringLiteral("en")}};
-    QtShareSheet sheet{presenter, mail, {}};
+    support::FakeFileChooser files;
+    QtShareSheet sheet{presenter, mail, files, {}};
 };
 
 TEST_F(ShareSheetTest, SavesEachKindOfDocumentWhole)
 {
-    saveAs(Text, "", "a");
+    saveAs(Text, "a.txt");
+    EXPECT_EQ(files.question->suggestedName, "évanouir (s')");
+    EXPECT_EQ(files.question->extension, "txt");
     EXPECT_EQ(contentOf(folder / "a.txt"), "je m'évanouis\n");
-    saveAs(Html, "", "a.html");
+    saveAs(Html, "a.html");
     EXPECT_EQ(contentOf(folder / "a.html"), "<p>je m'évanouis</p>");
-    saveAs(Pdf, "", "a.b");
-    const auto pdf = contentOf(folder / "a.b.pdf");
+    saveAs(Pdf, "a.pdf");
+    const auto pdf = contentOf(folder / "a.pdf");
     EXPECT_TRUE(pdf.starts_with("%PDF-") && pdf.find("%%EOF") != std::string::npos);
     EXPECT_TRUE(presenter.alerts.empty());
-    EXPECT_FALSE(sheet.isOpen());
-}
-
-TEST_F(ShareSheetTest, AsksBeforeAFileIsReplaced)
-{
-    support::writeContent(folder / "a.txt", "before");
-    saveAs(Text, "", "a.txt");
-    EXPECT_EQ(lastSentence(), "“a.txt” already exists. Replace it?");
-    EXPECT_EQ(contentOf(folder / "a.txt"), "before");
-    EXPECT_TRUE(sheet.isAskingWhere()) << "for another name";
-
-    presenter.alerts.back().alert.actions.back().handler();
-    EXPECT_EQ(contentOf(folder / "a.txt"), "je m'évanouis\n");
-    EXPECT_FALSE(sheet.isOpen());
 }
 
 TEST_F(ShareSheetTest, SaysThatASaveFailedAndLeavesNothingHalfWritten)
 {
-    std::filesystem::create_directory(folder / "gone");
-    present();
-    sheet.choose(Text);
-    sheet.location()->begin(QUrl::fromLocalFile(toQString((folder / "gone" / "a.txt").string())));
-    std::filesystem::remove(folder / "gone");
-    EXPECT_FALSE(sheet.location()->isAcceptable());
-    for (const char* name : {"", "  ", "a/b"}) {
-        sheet.location()->begin(QUrl::fromLocalFile(toQString((folder / "a.txt").string())));
-        sheet.location()->setName(QString::fromUtf8(name));
-        EXPECT_FALSE(sheet.location()->isAcceptable()) << name;
+    for (const auto& name : {std::string(300, 'a'), std::string{"gone/a.txt"}}) {
+        saveAs(Text, name.c_str());
+        EXPECT_TRUE(lastSentence().ends_with(" could not be saved.")) << lastSentence();
     }
-    // Longer than a name can be: that is known only when it is tried.
-    saveAs(Text, "", std::string(300, 'a').c_str());
-    EXPECT_TRUE(lastSentence().ends_with(" could not be saved.")) << lastSentence();
+    EXPECT_EQ(presenter.alerts.size(), 2U);
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+}
+
+/// Where the desktop has no dialog, a form in the window.
+class FileFormTest : public testing::Test {
+protected:
+    void ask(platform::FileQuestion::Purpose purpose)
+    {
+        chooser.choose({purpose, "Title", "Kind", "txt", "../a/b\n"},
+                       [this](const auto& file) { chosen = file; });
+    }
+    void goTo(const char* name) { chooser.location()->begin(toQString((folder / name).string())); }
+
+    support::TemporaryFolder folder;
+    support::FakePresenter presenter;
+    const Translations translations{{QStringLiteral("en")}};
+    QtFileChooser chooser{presenter, {}};
+    std::filesystem::path chosen;
+};
+
+TEST_F(FileFormTest, SavesUnderANameThatTheFolderTakes)
+{
+    ask(platform::FileQuestion::Purpose::Save);
+    EXPECT_EQ(chooser.location()->name(), "_..-a-b-.txt");
+    for (const char* name : {"", "  ", "a/b"}) {
+        goTo("a.txt");
+        chooser.location()->setName(QString::fromUtf8(name));
+        chooser.acceptLocation();
+        EXPECT_TRUE(chooser.asking()) << name;
+    }
+    std::filesystem::create_directory(folder / "gone");
+    goTo("gone/a.txt");
+    std::filesystem::remove(folder / "gone");
+    EXPECT_FALSE(chooser.location()->isAcceptable());
+
+    goTo("a.txt");
+    chooser.location()->setName(QStringLiteral(" a.b "));
+    chooser.acceptLocation();
+    EXPECT_EQ(chosen, folder / "a.b.txt");
+    EXPECT_FALSE(chooser.asking());
+}
+
+TEST_F(FileFormTest, AsksBeforeAFileIsReplaced)
+{
+    support::writeContent(folder / "a.txt", "before");
+    ask(platform::FileQuestion::Purpose::Save);
+    goTo("a.txt");
+    chooser.acceptLocation();
+    ASSERT_EQ(presenter.alerts.size(), 1U);
+    EXPECT_EQ(presenter.alerts[0].alert.message, "“a.txt” already exists. Replace it?");
+    EXPECT_TRUE(chooser.asking()) << "for another name";
+    EXPECT_EQ(chosen, "");
+
+    const auto agree = presenter.alerts[0].alert.actions.back().handler;
+    agree();
+    EXPECT_EQ(chosen, folder / "a.txt");
+
+    // It is free, and in the folder of the last file.
+    ask(platform::FileQuestion::Purpose::Save);
+    EXPECT_EQ(chooser.location()->file(), toQString((folder / "_..-a-b-.txt").string()));
+    chosen.clear();
+    agree();
+    EXPECT_TRUE(chosen.empty()) << "the answer was to another question";
 }
 
 TEST_F(ShareSheetTest, CopiesPrintsAndSends)
@@ -151,22 +191,14 @@ TEST_F(ShareSheetTest, CopiesPrintsAndSends)
     }));
 }
 
-TEST(FreeDocument, IsNamedAfterItsTitleAndTakesNoOtherFilesPlace)
+TEST(FreeFile, TakesNoOtherFilesPlace)
 {
-    const support::TemporaryFolder home;
-    std::filesystem::create_directories(home / "Documents");
-    const auto oldHome = qgetenv("HOME");
-    qputenv("HOME", home.path().c_str());
-    const auto name = [](const char* title) {
-        return toUtf8(freeDocument(QString::fromUtf8(title), QStringLiteral("txt")).fileName());
-    };
-    EXPECT_EQ(name("évanouir (s')"), "évanouir (s').txt");
-    EXPECT_EQ(name("../a/b\n"), "_..-a-b-.txt");
-    EXPECT_EQ(name(""), "_.txt");
-    support::writeContent(home / "Documents" / "aller.txt", "");
-    support::writeContent(home / "Documents" / "aller 2.txt", "");
-    EXPECT_EQ(name("aller"), "aller 3.txt");
-    qputenv("HOME", oldHome);
+    const support::TemporaryFolder folder;
+    support::writeContent(folder / "aller.txt", "");
+    support::writeContent(folder / "aller 2.txt", "");
+    const auto place = toQString(folder.path().string());
+    EXPECT_EQ(freeFile(place, "aller", "txt"), place + "/aller 3.txt");
+    EXPECT_EQ(freeFile(place, "", "txt"), place + "/_.txt");
 }
 
 TEST(FitToPages, ShrinksUntilWordsAreWholeAndOnePageHoldsThem)
@@ -273,7 +305,7 @@ TEST_F(VerbWindowTest, AVerbIsExportedIntoAFile)
     tap("bar.export");
     ASSERT_NE(find("shareSheet"), nullptr);
     tap("share1");
-    ASSERT_NE(find("saveName"), nullptr);
+    ASSERT_NE(find("fileName"), nullptr);
     QTest::keyClick(application->window(), Qt::Key_Return);
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return std::filesystem::exists(folder / "Documents" / "aller.txt"); }, kPatience));

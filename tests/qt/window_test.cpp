@@ -161,27 +161,46 @@ TEST_F(WindowTest, AShortcutOpensItsTab)
     EXPECT_TRUE(find("tab1")->property("checked").toBool());
 }
 
-TEST_F(WindowTest, AFileIsAskedForInADialog)
+TEST_F(WindowTest, AFileIsAskedForInTheWindowWhereTheDesktopHasNoDialog)
 {
+    // Where the question begins, and above the folder of this test.
+    qputenv("HOME", folder.path().c_str());
+    std::filesystem::create_directory(folder / "inner");
+    support::writeContent(folder / "inner" / "saved.json", "{}");
     start({360, 740});
     std::filesystem::path chosen;
-    application->fileChooser().choose({.purpose = platform::FileQuestion::Purpose::Save,
-                                       .title = "Favourites and history",
-                                       .kind = "Favourites and history",
-                                       .extension = "json",
-                                       .suggestedName = "lumora.json"},
-                                      [&](const auto& file) { chosen = file; });
-    QQuickItem* save = nullptr;
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] {
-            save = itemWithText(application->window()->contentItem(), "file.save");
-            return save != nullptr;
-        },
-        kPatience));
-    QTest::mouseClick(application->window(), Qt::LeftButton, {},
-                      save->mapToScene({5, 5}).toPoint());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return chosen.filename() == "lumora.json"; }, kPatience));
-    EXPECT_TRUE(chosen.is_absolute());
+    const auto ask = [&](platform::FileQuestion::Purpose purpose) {
+        application->fileChooser().choose(
+            {purpose, "Favourites and history", "Favourites and history", "json", "lumora"},
+            [&](const auto& file) { chosen = file; });
+    };
+
+    ask(platform::FileQuestion::Purpose::Save);
+    tap("fileSave");
+    EXPECT_EQ(chosen, folder / "lumora.json");
+
+    // With the keyboard: past the folders that are in the way.
+    ask(platform::FileQuestion::Purpose::Open);
+    ASSERT_TRUE(until([&] { return find("folder") != nullptr; }));
+    const auto* list = find("files");
+    const auto folders = application->fileChooser().location()->folders();
+    key(Qt::Key_End);
+    EXPECT_TRUE(list->hasActiveFocus());
+    while (list->property("currentIndex").toInt() < folders.indexOf("inner")) {
+        key(Qt::Key_Down);
+    }
+    key(Qt::Key_Return);
+    tap("file");
+    EXPECT_EQ(chosen, folder / "inner" / "saved.json");
+
+    chosen.clear();
+    ask(platform::FileQuestion::Purpose::Open);
+    ASSERT_TRUE(until([&] { return find("file") != nullptr; }));
+    key(Qt::Key_Space);
+    EXPECT_EQ(chosen, folder / "inner" / "saved.json") << "it begins where the last file was";
+    ask(platform::FileQuestion::Purpose::Open);
+    tap("fileCancel");
+    EXPECT_FALSE(application->fileChooser().asking());
 }
 
 TEST_F(WindowTest, AQuestionBlocksTheScreenUntilItIsAnswered)

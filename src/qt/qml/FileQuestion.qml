@@ -2,32 +2,47 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Dialogs
 import Lumora
 
-// The desktop's dialog about a file.
-Item {
+// A question about a file, for desktops without a dialog of their own.
+FocusScope {
     id: root
 
     required property QtFileChooser chooser
 
-    FileDialog {
-        id: dialog
-        title: root.chooser.title
-        fileMode: root.chooser.saving ? FileDialog.SaveFile : FileDialog.OpenFile
-        nameFilters: [root.chooser.nameFilter]
-        defaultSuffix: root.chooser.suffix
-        currentFolder: root.chooser.folder
-        acceptLabel: root.chooser.saving ? qsTrId("file.save") : qsTrId("action.open")
-        rejectLabel: qsTrId("export.cancel")
-        // Asked in the program's own words where it matters.
-        options: FileDialog.DontConfirmOverwrite
-        onAccepted: root.chooser.accept(selectedFile)
-        onRejected: root.chooser.dismiss()
+    focus: true
+    Accessible.role: Accessible.Dialog
+    Accessible.name: chooser.title
+    Keys.onEscapePressed: chooser.dismiss()
+    Keys.onBackPressed: chooser.dismiss()
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.shade
+
+        MouseArea {
+            anchors.fill: parent
+            onClicked: root.chooser.dismiss()
+            onWheel: wheel => wheel.accepted = true
+        }
     }
-    Component.onCompleted: {
-        if (root.chooser.saving)
-            dialog.selectedFile = root.chooser.suggestedFile;
-        dialog.open();
+    Rectangle {
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(root.width - 2 * Theme.margin, 440)
+        height: Math.min(form.implicitHeight, root.height - 2 * Theme.margin)
+        y: root.height - height - Theme.margin
+        radius: Theme.sheetRadius
+        color: Theme.raised
+
+        MouseArea {
+            anchors.fill: parent
+            onWheel: wheel => wheel.accepted = true
+        }
+        FileForm {
+            id: form
+            anchors.fill: parent
+            focus: true
+            chooser: root.chooser
+        }
     }
 }

@@ -74,7 +74,7 @@ Window {
     Loader {
         id: panes
         anchors.fill: parent
-        enabled: !root.presenter.asking && root.modals.count === 0 && !previewLayer.wanted && !shareLayer.wanted
+        enabled: !root.presenter.asking && root.modals.count === 0 && !previewLayer.wanted && !shareLayer.wanted && !fileLayer.wanted
         focus: enabled
         onLoaded: item.focus = true
     }
@@ -90,7 +90,7 @@ Window {
         readonly property bool wanted: root.modals.count > 0
 
         anchors.fill: parent
-        enabled: wanted && !root.presenter.asking
+        enabled: wanted && !root.presenter.asking && !fileLayer.wanted
         focus: enabled
         onWantedChanged: if (status === Loader.Null)
             setSource("qrc:/Lumora/ModalLayer.qml", {
@@ -137,6 +137,24 @@ Window {
         onLoaded: item.forceActiveFocus()
     }
     Loader {
+        id: fileLayer
+
+        readonly property bool wanted: root.files.asking
+
+        anchors.fill: parent
+        enabled: !root.presenter.asking
+        focus: wanted && enabled
+        onWantedChanged: {
+            if (wanted)
+                setSource("qrc:/Lumora/FileQuestion.qml", {
+                    "chooser": root.files
+                });
+            else
+                source = "";
+        }
+        onLoaded: item.forceActiveFocus()
+    }
+    Loader {
         id: question
 
         readonly property bool wanted: root.presenter.asking
@@ -152,13 +170,5 @@ Window {
                 source = "";
         }
         onLoaded: item.forceActiveFocus()
-    }
-    Loader {
-        anchors.fill: parent
-        active: root.files.asking
-        onActiveChanged: if (active)
-            setSource("qrc:/Lumora/FileQuestion.qml", {
-                chooser: root.files
-            })
     }
 }

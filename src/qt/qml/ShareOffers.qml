@@ -48,7 +48,7 @@ FocusScope {
             SheetButton {
                 objectName: "shareCancel"
                 width: parent.width
-                text: qsTrId("share.cancel")
+                text: qsTrId("export.cancel")
                 onClicked: root.share.cancel()
             }
         }

@@ -17,7 +17,6 @@ TouchButton {
     text: modelData.title
     enabled: modelData.enabled
     Accessible.name: modelData.detail === "" ? text : text + ". " + modelData.detail
-    Accessible.onPressAction: click()
 
     contentItem: Item {
         Icon {

@@ -86,25 +86,10 @@ FocusScope {
             anchors.fill: parent
             onWheel: wheel => wheel.accepted = true
         }
-        Loader {
+        ShareOffers {
             id: content
             anchors.fill: parent
             focus: true
-            sourceComponent: root.share.askingWhere ? where : offers
-            onLoaded: item.focus = true
-        }
-    }
-    Component {
-        id: offers
-
-        ShareOffers {
-            share: root.share
-        }
-    }
-    Component {
-        id: where
-
-        SaveForm {
             share: root.share
         }
     }

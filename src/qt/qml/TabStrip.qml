@@ -44,8 +44,8 @@ Rectangle {
                 Accessible.name: text
                 Accessible.selected: checked
                 onClicked: root.home.selectTab(modelData.tag)
-                Keys.onReturnPressed: click()
-                Keys.onEnterPressed: click()
+                Keys.onReturnPressed: clicked()
+                Keys.onEnterPressed: clicked()
 
                 background: Rectangle {
                     color: tab.down ? Theme.pressed : "transparent"

@@ -11,18 +11,20 @@ T.AbstractButton {
 
     property color pressedColor: Theme.pressed
     property color focusColor: Theme.accentText
+    // Shows that the keyboard is here though a list holds it.
+    property bool marked: false
 
     implicitWidth: Math.max(Theme.touch, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(Theme.touch, implicitContentHeight + topPadding + bottomPadding)
     focusPolicy: Qt.TabFocus
     Accessible.name: text
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     background: Rectangle {
         radius: Theme.radius
         color: root.down ? root.pressedColor : "transparent"
-        border.width: root.visualFocus ? 2 : 0
+        border.width: root.visualFocus || root.marked ? 2 : 0
         border.color: root.focusColor
     }
 }

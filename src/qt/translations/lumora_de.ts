@@ -51,14 +51,6 @@
         <source></source>
         <translation>Die Datei kann nicht geschrieben werden. Wählen Sie einen anderen Ort.</translation>
     </message>
-    <message id="backup.replace">
-        <source></source>
-        <translation>„%@“ ist bereits vorhanden. Ersetzen?</translation>
-    </message>
-    <message id="backup.replace.yes">
-        <source></source>
-        <translation>Ersetzen</translation>
-    </message>
     <message id="backup.restore">
         <source></source>
         <translation>Wiederherstellen …</translation>
@@ -105,6 +97,10 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Liste ein- oder ausblenden</translation>
     </message>
+    <message id="button.export">
+        <source></source>
+        <translation>Teilen</translation>
+    </message>
     <message id="button.favourite">
         <source></source>
         <translation>Favorit</translation>
@@ -141,9 +137,17 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Sie haben noch keine Favoriten. Markieren Sie ein Verb mit dem Stern, um es hier wiederzufinden.</translation>
     </message>
-    <message id="file.save">
+    <message id="file.exists">
         <source></source>
-        <translation>Speichern</translation>
+        <translation>„%1“ ist bereits vorhanden. Ersetzen?</translation>
+    </message>
+    <message id="file.none">
+        <source></source>
+        <translation>Hier gibt es keine solche Datei.</translation>
+    </message>
+    <message id="file.replace">
+        <source></source>
+        <translation>Ersetzen</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -328,6 +332,78 @@ Verben im Verlauf: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Türkisch</translation>
+    </message>
+    <message id="share.copy">
+        <source></source>
+        <translation>Text kopieren</translation>
+    </message>
+    <message id="share.mail">
+        <source></source>
+        <translation>Per E-Mail senden</translation>
+    </message>
+    <message id="share.mail.failed">
+        <source></source>
+        <translation>„%1“ konnte nicht gesendet werden.</translation>
+    </message>
+    <message id="share.mail.unavailable">
+        <source></source>
+        <translation>Auf diesem Gerät ist kein E-Mail-Programm eingerichtet.</translation>
+    </message>
+    <message id="share.print">
+        <source></source>
+        <translation>Drucken</translation>
+    </message>
+    <message id="share.print.failed">
+        <source></source>
+        <translation>„%1“ konnte nicht gedruckt werden.</translation>
+    </message>
+    <message id="share.print.looking">
+        <source></source>
+        <translation>Drucker werden gesucht …</translation>
+    </message>
+    <message id="share.print.none">
+        <source></source>
+        <translation>Auf diesem Gerät gibt es keinen Drucker.</translation>
+    </message>
+    <message id="share.print.where">
+        <source></source>
+        <translation>Drucker wählen</translation>
+    </message>
+    <message id="share.save">
+        <source></source>
+        <translation>Sichern</translation>
+    </message>
+    <message id="share.save.as">
+        <source></source>
+        <translation>Sichern als</translation>
+    </message>
+    <message id="share.save.failed">
+        <source></source>
+        <translation>„%1“ konnte nicht gesichert werden.</translation>
+    </message>
+    <message id="share.save.folder.empty">
+        <source></source>
+        <translation>Hier gibt es keine Ordner</translation>
+    </message>
+    <message id="share.save.html">
+        <source></source>
+        <translation>Als Webseite sichern</translation>
+    </message>
+    <message id="share.save.name">
+        <source></source>
+        <translation>Dateiname</translation>
+    </message>
+    <message id="share.save.pdf">
+        <source></source>
+        <translation>Als PDF sichern</translation>
+    </message>
+    <message id="share.save.text">
+        <source></source>
+        <translation>Als Text sichern</translation>
+    </message>
+    <message id="share.save.up">
+        <source></source>
+        <translation>Übergeordneter Ordner</translation>
     </message>
     <message id="support.email">
         <source></source>
@@ -532,94 +608,6 @@ Verben im Verlauf: %d</translation>
     <message id="volume.low.warning">
         <source></source>
         <translation>Die Lautstärke ist sehr niedrig. Erhöhen Sie sie, um die Aussprache zu hören.</translation>
-    </message>
-    <message id="button.export">
-        <source></source>
-        <translation>Teilen</translation>
-    </message>
-    <message id="share.cancel">
-        <source></source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message id="share.copy">
-        <source></source>
-        <translation>Text kopieren</translation>
-    </message>
-    <message id="share.mail">
-        <source></source>
-        <translation>Per E-Mail senden</translation>
-    </message>
-    <message id="share.mail.failed">
-        <source></source>
-        <translation>„%1“ konnte nicht gesendet werden.</translation>
-    </message>
-    <message id="share.mail.unavailable">
-        <source></source>
-        <translation>Auf diesem Gerät ist kein E-Mail-Programm eingerichtet.</translation>
-    </message>
-    <message id="share.print">
-        <source></source>
-        <translation>Drucken</translation>
-    </message>
-    <message id="share.print.failed">
-        <source></source>
-        <translation>„%1“ konnte nicht gedruckt werden.</translation>
-    </message>
-    <message id="share.print.looking">
-        <source></source>
-        <translation>Drucker werden gesucht …</translation>
-    </message>
-    <message id="share.print.none">
-        <source></source>
-        <translation>Auf diesem Gerät gibt es keinen Drucker.</translation>
-    </message>
-    <message id="share.print.where">
-        <source></source>
-        <translation>Drucker wählen</translation>
-    </message>
-    <message id="share.save">
-        <source></source>
-        <translation>Sichern</translation>
-    </message>
-    <message id="share.save.as">
-        <source></source>
-        <translation>Sichern als</translation>
-    </message>
-    <message id="share.save.exists">
-        <source></source>
-        <translation>„%1“ ist bereits vorhanden. Ersetzen?</translation>
-    </message>
-    <message id="share.save.failed">
-        <source></source>
-        <translation>„%1“ konnte nicht gesichert werden.</translation>
-    </message>
-    <message id="share.save.folder.empty">
-        <source></source>
-        <translation>Hier gibt es keine Ordner</translation>
-    </message>
-    <message id="share.save.html">
-        <source></source>
-        <translation>Als Webseite sichern</translation>
-    </message>
-    <message id="share.save.name">
-        <source></source>
-        <translation>Dateiname</translation>
-    </message>
-    <message id="share.save.pdf">
-        <source></source>
-        <translation>Als PDF sichern</translation>
-    </message>
-    <message id="share.save.replace">
-        <source></source>
-        <translation>Ersetzen</translation>
-    </message>
-    <message id="share.save.text">
-        <source></source>
-        <translation>Als Text sichern</translation>
-    </message>
-    <message id="share.save.up">
-        <source></source>
-        <translation>Übergeordneter Ordner</translation>
     </message>
 </context>
 </TS>

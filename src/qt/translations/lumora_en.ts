@@ -51,14 +51,6 @@
         <source></source>
         <translation>The file cannot be written. Choose another place.</translation>
     </message>
-    <message id="backup.replace">
-        <source></source>
-        <translation>“%@” is there already. Replace it?</translation>
-    </message>
-    <message id="backup.replace.yes">
-        <source></source>
-        <translation>Replace</translation>
-    </message>
     <message id="backup.restore">
         <source></source>
         <translation>Restore…</translation>
@@ -145,9 +137,17 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>You have no favourites yet. Mark a verb with the star to find it here.</translation>
     </message>
-    <message id="file.save">
+    <message id="file.exists">
         <source></source>
-        <translation>Save</translation>
+        <translation>“%1” already exists. Replace it?</translation>
+    </message>
+    <message id="file.none">
+        <source></source>
+        <translation>There is no such file in here.</translation>
+    </message>
+    <message id="file.replace">
+        <source></source>
+        <translation>Replace</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -333,10 +333,6 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Turkish</translation>
     </message>
-    <message id="share.cancel">
-        <source></source>
-        <translation>Cancel</translation>
-    </message>
     <message id="share.copy">
         <source></source>
         <translation>Copy text</translation>
@@ -381,10 +377,6 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Save as</translation>
     </message>
-    <message id="share.save.exists">
-        <source></source>
-        <translation>“%1” already exists. Replace it?</translation>
-    </message>
     <message id="share.save.failed">
         <source></source>
         <translation>“%1” could not be saved.</translation>
@@ -404,10 +396,6 @@ Verbs in the history: %d</translation>
     <message id="share.save.pdf">
         <source></source>
         <translation>Save as PDF</translation>
-    </message>
-    <message id="share.save.replace">
-        <source></source>
-        <translation>Replace</translation>
     </message>
     <message id="share.save.text">
         <source></source>

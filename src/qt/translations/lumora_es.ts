@@ -51,14 +51,6 @@
         <source></source>
         <translation>No se puede escribir el archivo. Elige otra ubicación.</translation>
     </message>
-    <message id="backup.replace">
-        <source></source>
-        <translation>«%@» ya existe. ¿Reemplazarlo?</translation>
-    </message>
-    <message id="backup.replace.yes">
-        <source></source>
-        <translation>Reemplazar</translation>
-    </message>
     <message id="backup.restore">
         <source></source>
         <translation>Restaurar…</translation>
@@ -105,6 +97,10 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Mostrar u ocultar la lista</translation>
     </message>
+    <message id="button.export">
+        <source></source>
+        <translation>Compartir</translation>
+    </message>
     <message id="button.favourite">
         <source></source>
         <translation>Favorito</translation>
@@ -141,9 +137,17 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Aún no tienes favoritos. Marca un verbo con la estrella para encontrarlo aquí.</translation>
     </message>
-    <message id="file.save">
+    <message id="file.exists">
         <source></source>
-        <translation>Guardar</translation>
+        <translation>«%1» ya existe. ¿Reemplazarlo?</translation>
+    </message>
+    <message id="file.none">
+        <source></source>
+        <translation>Aquí no hay ningún archivo de este tipo.</translation>
+    </message>
+    <message id="file.replace">
+        <source></source>
+        <translation>Reemplazar</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -328,6 +332,78 @@ Verbos en el historial: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turco</translation>
+    </message>
+    <message id="share.copy">
+        <source></source>
+        <translation>Copiar texto</translation>
+    </message>
+    <message id="share.mail">
+        <source></source>
+        <translation>Enviar por correo</translation>
+    </message>
+    <message id="share.mail.failed">
+        <source></source>
+        <translation>No se pudo enviar «%1».</translation>
+    </message>
+    <message id="share.mail.unavailable">
+        <source></source>
+        <translation>No hay ningún programa de correo configurado en este dispositivo.</translation>
+    </message>
+    <message id="share.print">
+        <source></source>
+        <translation>Imprimir</translation>
+    </message>
+    <message id="share.print.failed">
+        <source></source>
+        <translation>No se pudo imprimir «%1».</translation>
+    </message>
+    <message id="share.print.looking">
+        <source></source>
+        <translation>Buscando impresoras…</translation>
+    </message>
+    <message id="share.print.none">
+        <source></source>
+        <translation>No hay ninguna impresora en este dispositivo.</translation>
+    </message>
+    <message id="share.print.where">
+        <source></source>
+        <translation>Elige una impresora</translation>
+    </message>
+    <message id="share.save">
+        <source></source>
+        <translation>Guardar</translation>
+    </message>
+    <message id="share.save.as">
+        <source></source>
+        <translation>Guardar como</translation>
+    </message>
+    <message id="share.save.failed">
+        <source></source>
+        <translation>No se pudo guardar «%1».</translation>
+    </message>
+    <message id="share.save.folder.empty">
+        <source></source>
+        <translation>Aquí no hay carpetas</translation>
+    </message>
+    <message id="share.save.html">
+        <source></source>
+        <translation>Guardar como página web</translation>
+    </message>
+    <message id="share.save.name">
+        <source></source>
+        <translation>Nombre del archivo</translation>
+    </message>
+    <message id="share.save.pdf">
+        <source></source>
+        <translation>Guardar como PDF</translation>
+    </message>
+    <message id="share.save.text">
+        <source></source>
+        <translation>Guardar como texto</translation>
+    </message>
+    <message id="share.save.up">
+        <source></source>
+        <translation>Carpeta superior</translation>
     </message>
     <message id="support.email">
         <source></source>
@@ -532,94 +608,6 @@ Verbos en el historial: %d</translation>
     <message id="volume.low.warning">
         <source></source>
         <translation>El volumen está muy bajo. Súbelo para oír la pronunciación.</translation>
-    </message>
-    <message id="button.export">
-        <source></source>
-        <translation>Compartir</translation>
-    </message>
-    <message id="share.cancel">
-        <source></source>
-        <translation>Cancelar</translation>
-    </message>
-    <message id="share.copy">
-        <source></source>
-        <translation>Copiar texto</translation>
-    </message>
-    <message id="share.mail">
-        <source></source>
-        <translation>Enviar por correo</translation>
-    </message>
-    <message id="share.mail.failed">
-        <source></source>
-        <translation>No se pudo enviar «%1».</translation>
-    </message>
-    <message id="share.mail.unavailable">
-        <source></source>
-        <translation>No hay ningún programa de correo configurado en este dispositivo.</translation>
-    </message>
-    <message id="share.print">
-        <source></source>
-        <translation>Imprimir</translation>
-    </message>
-    <message id="share.print.failed">
-        <source></source>
-        <translation>No se pudo imprimir «%1».</translation>
-    </message>
-    <message id="share.print.looking">
-        <source></source>
-        <translation>Buscando impresoras…</translation>
-    </message>
-    <message id="share.print.none">
-        <source></source>
-        <translation>No hay ninguna impresora en este dispositivo.</translation>
-    </message>
-    <message id="share.print.where">
-        <source></source>
-        <translation>Elige una impresora</translation>
-    </message>
-    <message id="share.save">
-        <source></source>
-        <translation>Guardar</translation>
-    </message>
-    <message id="share.save.as">
-        <source></source>
-        <translation>Guardar como</translation>
-    </message>
-    <message id="share.save.exists">
-        <source></source>
-        <translation>«%1» ya existe. ¿Reemplazarlo?</translation>
-    </message>
-    <message id="share.save.failed">
-        <source></source>
-        <translation>No se pudo guardar «%1».</translation>
-    </message>
-    <message id="share.save.folder.empty">
-        <source></source>
-        <translation>Aquí no hay carpetas</translation>
-    </message>
-    <message id="share.save.html">
-        <source></source>
-        <translation>Guardar como página web</translation>
-    </message>
-    <message id="share.save.name">
-        <source></source>
-        <translation>Nombre del archivo</translation>
-    </message>
-    <message id="share.save.pdf">
-        <source></source>
-        <translation>Guardar como PDF</translation>
-    </message>
-    <message id="share.save.replace">
-        <source></source>
-        <translation>Reemplazar</translation>
-    </message>
-    <message id="share.save.text">
-        <source></source>
-        <translation>Guardar como texto</translation>
-    </message>
-    <message id="share.save.up">
-        <source></source>
-        <translation>Carpeta superior</translation>
     </message>
 </context>
 </TS>

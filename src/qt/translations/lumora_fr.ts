@@ -51,14 +51,6 @@
         <source></source>
         <translation>Impossible d’écrire le fichier. Choisissez un autre emplacement.</translation>
     </message>
-    <message id="backup.replace">
-        <source></source>
-        <translation>« %@ » existe déjà. Le remplacer ?</translation>
-    </message>
-    <message id="backup.replace.yes">
-        <source></source>
-        <translation>Remplacer</translation>
-    </message>
     <message id="backup.restore">
         <source></source>
         <translation>Restaurer…</translation>
@@ -145,9 +137,17 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Vous n’avez pas encore de favoris. Marquez un verbe d’une étoile pour le retrouver ici.</translation>
     </message>
-    <message id="file.save">
+    <message id="file.exists">
         <source></source>
-        <translation>Enregistrer</translation>
+        <translation>« %1 » existe déjà. Le remplacer ?</translation>
+    </message>
+    <message id="file.none">
+        <source></source>
+        <translation>Aucun fichier de ce type ici.</translation>
+    </message>
+    <message id="file.replace">
+        <source></source>
+        <translation>Remplacer</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -333,10 +333,6 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Turc</translation>
     </message>
-    <message id="share.cancel">
-        <source></source>
-        <translation>Annuler</translation>
-    </message>
     <message id="share.copy">
         <source></source>
         <translation>Copier le texte</translation>
@@ -381,10 +377,6 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Enregistrer sous</translation>
     </message>
-    <message id="share.save.exists">
-        <source></source>
-        <translation>« %1 » existe déjà. Le remplacer ?</translation>
-    </message>
     <message id="share.save.failed">
         <source></source>
         <translation>« %1 » n’a pas pu être enregistré.</translation>
@@ -404,10 +396,6 @@ Verbes dans l’historique : %d</translation>
     <message id="share.save.pdf">
         <source></source>
         <translation>Enregistrer en PDF</translation>
-    </message>
-    <message id="share.save.replace">
-        <source></source>
-        <translation>Remplacer</translation>
     </message>
     <message id="share.save.text">
         <source></source>

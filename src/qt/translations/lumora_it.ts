@@ -51,14 +51,6 @@
         <source></source>
         <translation>Impossibile scrivere il file. Scegli un’altra posizione.</translation>
     </message>
-    <message id="backup.replace">
-        <source></source>
-        <translation>«%@» esiste già. Sostituirlo?</translation>
-    </message>
-    <message id="backup.replace.yes">
-        <source></source>
-        <translation>Sostituisci</translation>
-    </message>
     <message id="backup.restore">
         <source></source>
         <translation>Ripristina…</translation>
@@ -105,6 +97,10 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Mostra o nascondi l’elenco</translation>
     </message>
+    <message id="button.export">
+        <source></source>
+        <translation>Condividi</translation>
+    </message>
     <message id="button.favourite">
         <source></source>
         <translation>Preferito</translation>
@@ -141,9 +137,17 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Non hai ancora preferiti. Segna un verbo con la stella per ritrovarlo qui.</translation>
     </message>
-    <message id="file.save">
+    <message id="file.exists">
         <source></source>
-        <translation>Salva</translation>
+        <translation>«%1» esiste già. Sostituirlo?</translation>
+    </message>
+    <message id="file.none">
+        <source></source>
+        <translation>Qui non c’è nessun file di questo tipo.</translation>
+    </message>
+    <message id="file.replace">
+        <source></source>
+        <translation>Sostituisci</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -328,6 +332,78 @@ Verbi nella cronologia: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turco</translation>
+    </message>
+    <message id="share.copy">
+        <source></source>
+        <translation>Copia il testo</translation>
+    </message>
+    <message id="share.mail">
+        <source></source>
+        <translation>Invia per e-mail</translation>
+    </message>
+    <message id="share.mail.failed">
+        <source></source>
+        <translation>Impossibile inviare «%1».</translation>
+    </message>
+    <message id="share.mail.unavailable">
+        <source></source>
+        <translation>Su questo dispositivo non è configurato nessun programma di posta.</translation>
+    </message>
+    <message id="share.print">
+        <source></source>
+        <translation>Stampa</translation>
+    </message>
+    <message id="share.print.failed">
+        <source></source>
+        <translation>Impossibile stampare «%1».</translation>
+    </message>
+    <message id="share.print.looking">
+        <source></source>
+        <translation>Ricerca delle stampanti…</translation>
+    </message>
+    <message id="share.print.none">
+        <source></source>
+        <translation>Su questo dispositivo non c’è nessuna stampante.</translation>
+    </message>
+    <message id="share.print.where">
+        <source></source>
+        <translation>Scegli una stampante</translation>
+    </message>
+    <message id="share.save">
+        <source></source>
+        <translation>Salva</translation>
+    </message>
+    <message id="share.save.as">
+        <source></source>
+        <translation>Salva con nome</translation>
+    </message>
+    <message id="share.save.failed">
+        <source></source>
+        <translation>Impossibile salvare «%1».</translation>
+    </message>
+    <message id="share.save.folder.empty">
+        <source></source>
+        <translation>Qui non ci sono cartelle</translation>
+    </message>
+    <message id="share.save.html">
+        <source></source>
+        <translation>Salva come pagina web</translation>
+    </message>
+    <message id="share.save.name">
+        <source></source>
+        <translation>Nome del file</translation>
+    </message>
+    <message id="share.save.pdf">
+        <source></source>
+        <translation>Salva come PDF</translation>
+    </message>
+    <message id="share.save.text">
+        <source></source>
+        <translation>Salva come testo</translation>
+    </message>
+    <message id="share.save.up">
+        <source></source>
+        <translation>Cartella superiore</translation>
     </message>
     <message id="support.email">
         <source></source>
@@ -532,94 +608,6 @@ Verbi nella cronologia: %d</translation>
     <message id="volume.low.warning">
         <source></source>
         <translation>Il volume è molto basso. Alzalo per sentire la pronuncia.</translation>
-    </message>
-    <message id="button.export">
-        <source></source>
-        <translation>Condividi</translation>
-    </message>
-    <message id="share.cancel">
-        <source></source>
-        <translation>Annulla</translation>
-    </message>
-    <message id="share.copy">
-        <source></source>
-        <translation>Copia il testo</translation>
-    </message>
-    <message id="share.mail">
-        <source></source>
-        <translation>Invia per e-mail</translation>
-    </message>
-    <message id="share.mail.failed">
-        <source></source>
-        <translation>Impossibile inviare «%1».</translation>
-    </message>
-    <message id="share.mail.unavailable">
-        <source></source>
-        <translation>Su questo dispositivo non è configurato nessun programma di posta.</translation>
-    </message>
-    <message id="share.print">
-        <source></source>
-        <translation>Stampa</translation>
-    </message>
-    <message id="share.print.failed">
-        <source></source>
-        <translation>Impossibile stampare «%1».</translation>
-    </message>
-    <message id="share.print.looking">
-        <source></source>
-        <translation>Ricerca delle stampanti…</translation>
-    </message>
-    <message id="share.print.none">
-        <source></source>
-        <translation>Su questo dispositivo non c’è nessuna stampante.</translation>
-    </message>
-    <message id="share.print.where">
-        <source></source>
-        <translation>Scegli una stampante</translation>
-    </message>
-    <message id="share.save">
-        <source></source>
-        <translation>Salva</translation>
-    </message>
-    <message id="share.save.as">
-        <source></source>
-        <translation>Salva con nome</translation>
-    </message>
-    <message id="share.save.exists">
-        <source></source>
-        <translation>«%1» esiste già. Sostituirlo?</translation>
-    </message>
-    <message id="share.save.failed">
-        <source></source>
-        <translation>Impossibile salvare «%1».</translation>
-    </message>
-    <message id="share.save.folder.empty">
-        <source></source>
-        <translation>Qui non ci sono cartelle</translation>
-    </message>
-    <message id="share.save.html">
-        <source></source>
-        <translation>Salva come pagina web</translation>
-    </message>
-    <message id="share.save.name">
-        <source></source>
-        <translation>Nome del file</translation>
-    </message>
-    <message id="share.save.pdf">
-        <source></source>
-        <translation>Salva come PDF</translation>
-    </message>
-    <message id="share.save.replace">
-        <source></source>
-        <translation>Sostituisci</translation>
-    </message>
-    <message id="share.save.text">
-        <source></source>
-        <translation>Salva come testo</translation>
-    </message>
-    <message id="share.save.up">
-        <source></source>
-        <translation>Cartella superiore</translation>
     </message>
 </context>
 </TS>

@@ -51,14 +51,6 @@
         <source></source>
         <translation>Het bestand kan niet worden geschreven. Kies een andere plaats.</translation>
     </message>
-    <message id="backup.replace">
-        <source></source>
-        <translation>‘%@’ bestaat al. Vervangen?</translation>
-    </message>
-    <message id="backup.replace.yes">
-        <source></source>
-        <translation>Vervangen</translation>
-    </message>
     <message id="backup.restore">
         <source></source>
         <translation>Herstellen…</translation>
@@ -105,6 +97,10 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Lijst tonen of verbergen</translation>
     </message>
+    <message id="button.export">
+        <source></source>
+        <translation>Delen</translation>
+    </message>
     <message id="button.favourite">
         <source></source>
         <translation>Favoriet</translation>
@@ -141,9 +137,17 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Je hebt nog geen favorieten. Markeer een werkwoord met de ster om het hier terug te vinden.</translation>
     </message>
-    <message id="file.save">
+    <message id="file.exists">
         <source></source>
-        <translation>Opslaan</translation>
+        <translation>‘%1’ bestaat al. Vervangen?</translation>
+    </message>
+    <message id="file.none">
+        <source></source>
+        <translation>Hier staat geen bestand van dit soort.</translation>
+    </message>
+    <message id="file.replace">
+        <source></source>
+        <translation>Vervangen</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -328,6 +332,78 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turks</translation>
+    </message>
+    <message id="share.copy">
+        <source></source>
+        <translation>Tekst kopiëren</translation>
+    </message>
+    <message id="share.mail">
+        <source></source>
+        <translation>Verzenden per e-mail</translation>
+    </message>
+    <message id="share.mail.failed">
+        <source></source>
+        <translation>‘%1’ kon niet worden verzonden.</translation>
+    </message>
+    <message id="share.mail.unavailable">
+        <source></source>
+        <translation>Op dit apparaat is geen e-mailprogramma ingesteld.</translation>
+    </message>
+    <message id="share.print">
+        <source></source>
+        <translation>Afdrukken</translation>
+    </message>
+    <message id="share.print.failed">
+        <source></source>
+        <translation>‘%1’ kon niet worden afgedrukt.</translation>
+    </message>
+    <message id="share.print.looking">
+        <source></source>
+        <translation>Printers zoeken…</translation>
+    </message>
+    <message id="share.print.none">
+        <source></source>
+        <translation>Op dit apparaat is geen printer.</translation>
+    </message>
+    <message id="share.print.where">
+        <source></source>
+        <translation>Kies een printer</translation>
+    </message>
+    <message id="share.save">
+        <source></source>
+        <translation>Bewaren</translation>
+    </message>
+    <message id="share.save.as">
+        <source></source>
+        <translation>Bewaren als</translation>
+    </message>
+    <message id="share.save.failed">
+        <source></source>
+        <translation>‘%1’ kon niet worden bewaard.</translation>
+    </message>
+    <message id="share.save.folder.empty">
+        <source></source>
+        <translation>Geen mappen in deze map</translation>
+    </message>
+    <message id="share.save.html">
+        <source></source>
+        <translation>Bewaren als webpagina</translation>
+    </message>
+    <message id="share.save.name">
+        <source></source>
+        <translation>Bestandsnaam</translation>
+    </message>
+    <message id="share.save.pdf">
+        <source></source>
+        <translation>Bewaren als pdf</translation>
+    </message>
+    <message id="share.save.text">
+        <source></source>
+        <translation>Bewaren als tekst</translation>
+    </message>
+    <message id="share.save.up">
+        <source></source>
+        <translation>Bovenliggende map</translation>
     </message>
     <message id="support.email">
         <source></source>
@@ -532,94 +608,6 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="volume.low.warning">
         <source></source>
         <translation>Het volume staat erg laag. Zet het hoger om de uitspraak te horen.</translation>
-    </message>
-    <message id="button.export">
-        <source></source>
-        <translation>Delen</translation>
-    </message>
-    <message id="share.cancel">
-        <source></source>
-        <translation>Annuleren</translation>
-    </message>
-    <message id="share.copy">
-        <source></source>
-        <translation>Tekst kopiëren</translation>
-    </message>
-    <message id="share.mail">
-        <source></source>
-        <translation>Verzenden per e-mail</translation>
-    </message>
-    <message id="share.mail.failed">
-        <source></source>
-        <translation>‘%1’ kon niet worden verzonden.</translation>
-    </message>
-    <message id="share.mail.unavailable">
-        <source></source>
-        <translation>Op dit apparaat is geen e-mailprogramma ingesteld.</translation>
-    </message>
-    <message id="share.print">
-        <source></source>
-        <translation>Afdrukken</translation>
-    </message>
-    <message id="share.print.failed">
-        <source></source>
-        <translation>‘%1’ kon niet worden afgedrukt.</translation>
-    </message>
-    <message id="share.print.looking">
-        <source></source>
-        <translation>Printers zoeken…</translation>
-    </message>
-    <message id="share.print.none">
-        <source></source>
-        <translation>Op dit apparaat is geen printer.</translation>
-    </message>
-    <message id="share.print.where">
-        <source></source>
-        <translation>Kies een printer</translation>
-    </message>
-    <message id="share.save">
-        <source></source>
-        <translation>Bewaren</translation>
-    </message>
-    <message id="share.save.as">
-        <source></source>
-        <translation>Bewaren als</translation>
-    </message>
-    <message id="share.save.exists">
-        <source></source>
-        <translation>‘%1’ bestaat al. Vervangen?</translation>
-    </message>
-    <message id="share.save.failed">
-        <source></source>
-        <translation>‘%1’ kon niet worden bewaard.</translation>
-    </message>
-    <message id="share.save.folder.empty">
-        <source></source>
-        <translation>Geen mappen in deze map</translation>
-    </message>
-    <message id="share.save.html">
-        <source></source>
-        <translation>Bewaren als webpagina</translation>
-    </message>
-    <message id="share.save.name">
-        <source></source>
-        <translation>Bestandsnaam</translation>
-    </message>
-    <message id="share.save.pdf">
-        <source></source>
-        <translation>Bewaren als pdf</translation>
-    </message>
-    <message id="share.save.replace">
-        <source></source>
-        <translation>Vervangen</translation>
-    </message>
-    <message id="share.save.text">
-        <source></source>
-        <translation>Bewaren als tekst</translation>
-    </message>
-    <message id="share.save.up">
-        <source></source>
-        <translation>Bovenliggende map</translation>
     </message>
 </context>
 </TS>

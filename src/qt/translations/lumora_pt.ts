@@ -51,14 +51,6 @@
         <source></source>
         <translation>Não é possível escrever o ficheiro. Escolha outro local.</translation>
     </message>
-    <message id="backup.replace">
-        <source></source>
-        <translation>«%@» já existe. Substituir?</translation>
-    </message>
-    <message id="backup.replace.yes">
-        <source></source>
-        <translation>Substituir</translation>
-    </message>
     <message id="backup.restore">
         <source></source>
         <translation>Restaurar…</translation>
@@ -105,6 +97,10 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Mostrar ou ocultar a lista</translation>
     </message>
+    <message id="button.export">
+        <source></source>
+        <translation>Partilhar</translation>
+    </message>
     <message id="button.favourite">
         <source></source>
         <translation>Favorito</translation>
@@ -141,9 +137,17 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Ainda não tem favoritos. Marque um verbo com a estrela para o encontrar aqui.</translation>
     </message>
-    <message id="file.save">
+    <message id="file.exists">
         <source></source>
-        <translation>Guardar</translation>
+        <translation>«%1» já existe. Substituir?</translation>
+    </message>
+    <message id="file.none">
+        <source></source>
+        <translation>Aqui não há nenhum ficheiro deste tipo.</translation>
+    </message>
+    <message id="file.replace">
+        <source></source>
+        <translation>Substituir</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -328,6 +332,78 @@ Verbos no histórico: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turco</translation>
+    </message>
+    <message id="share.copy">
+        <source></source>
+        <translation>Copiar texto</translation>
+    </message>
+    <message id="share.mail">
+        <source></source>
+        <translation>Enviar por e-mail</translation>
+    </message>
+    <message id="share.mail.failed">
+        <source></source>
+        <translation>Não foi possível enviar «%1».</translation>
+    </message>
+    <message id="share.mail.unavailable">
+        <source></source>
+        <translation>Não há nenhum programa de correio configurado neste dispositivo.</translation>
+    </message>
+    <message id="share.print">
+        <source></source>
+        <translation>Imprimir</translation>
+    </message>
+    <message id="share.print.failed">
+        <source></source>
+        <translation>Não foi possível imprimir «%1».</translation>
+    </message>
+    <message id="share.print.looking">
+        <source></source>
+        <translation>À procura de impressoras…</translation>
+    </message>
+    <message id="share.print.none">
+        <source></source>
+        <translation>Não há nenhuma impressora neste dispositivo.</translation>
+    </message>
+    <message id="share.print.where">
+        <source></source>
+        <translation>Escolha uma impressora</translation>
+    </message>
+    <message id="share.save">
+        <source></source>
+        <translation>Guardar</translation>
+    </message>
+    <message id="share.save.as">
+        <source></source>
+        <translation>Guardar como</translation>
+    </message>
+    <message id="share.save.failed">
+        <source></source>
+        <translation>Não foi possível guardar «%1».</translation>
+    </message>
+    <message id="share.save.folder.empty">
+        <source></source>
+        <translation>Não há pastas aqui</translation>
+    </message>
+    <message id="share.save.html">
+        <source></source>
+        <translation>Guardar como página Web</translation>
+    </message>
+    <message id="share.save.name">
+        <source></source>
+        <translation>Nome do ficheiro</translation>
+    </message>
+    <message id="share.save.pdf">
+        <source></source>
+        <translation>Guardar como PDF</translation>
+    </message>
+    <message id="share.save.text">
+        <source></source>
+        <translation>Guardar como texto</translation>
+    </message>
+    <message id="share.save.up">
+        <source></source>
+        <translation>Pasta superior</translation>
     </message>
     <message id="support.email">
         <source></source>
@@ -532,94 +608,6 @@ Verbos no histórico: %d</translation>
     <message id="volume.low.warning">
         <source></source>
         <translation>O volume está muito baixo. Aumente-o para ouvir a pronúncia.</translation>
-    </message>
-    <message id="button.export">
-        <source></source>
-        <translation>Partilhar</translation>
-    </message>
-    <message id="share.cancel">
-        <source></source>
-        <translation>Cancelar</translation>
-    </message>
-    <message id="share.copy">
-        <source></source>
-        <translation>Copiar texto</translation>
-    </message>
-    <message id="share.mail">
-        <source></source>
-        <translation>Enviar por e-mail</translation>
-    </message>
-    <message id="share.mail.failed">
-        <source></source>
-        <translation>Não foi possível enviar «%1».</translation>
-    </message>
-    <message id="share.mail.unavailable">
-        <source></source>
-        <translation>Não há nenhum programa de correio configurado neste dispositivo.</translation>
-    </message>
-    <message id="share.print">
-        <source></source>
-        <translation>Imprimir</translation>
-    </message>
-    <message id="share.print.failed">
-        <source></source>
-        <translation>Não foi possível imprimir «%1».</translation>
-    </message>
-    <message id="share.print.looking">
-        <source></source>
-        <translation>À procura de impressoras…</translation>
-    </message>
-    <message id="share.print.none">
-        <source></source>
-        <translation>Não há nenhuma impressora neste dispositivo.</translation>
-    </message>
-    <message id="share.print.where">
-        <source></source>
-        <translation>Escolha uma impressora</translation>
-    </message>
-    <message id="share.save">
-        <source></source>
-        <translation>Guardar</translation>
-    </message>
-    <message id="share.save.as">
-        <source></source>
-        <translation>Guardar como</translation>
-    </message>
-    <message id="share.save.exists">
-        <source></source>
-        <translation>«%1» já existe. Substituir?</translation>
-    </message>
-    <message id="share.save.failed">
-        <source></source>
-        <translation>Não foi possível guardar «%1».</translation>
-    </message>
-    <message id="share.save.folder.empty">
-        <source></source>
-        <translation>Não há pastas aqui</translation>
-    </message>
-    <message id="share.save.html">
-        <source></source>
-        <translation>Guardar como página Web</translation>
-    </message>
-    <message id="share.save.name">
-        <source></source>
-        <translation>Nome do ficheiro</translation>
-    </message>
-    <message id="share.save.pdf">
-        <source></source>
-        <translation>Guardar como PDF</translation>
-    </message>
-    <message id="share.save.replace">
-        <source></source>
-        <translation>Substituir</translation>
-    </message>
-    <message id="share.save.text">
-        <source></source>
-        <translation>Guardar como texto</translation>
-    </message>
-    <message id="share.save.up">
-        <source></source>
-        <translation>Pasta superior</translation>
     </message>
 </context>
 </TS>

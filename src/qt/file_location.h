@@ -8,27 +8,28 @@
 #include <QString>
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
-#include <QUrl>
 
 namespace lumora::qt {
 
-/// A folder and a name in it, on the way to where something is saved.
-class SaveLocation final : public QObject {
+/// A folder and a name in it, on the way to where something is saved or to what
+/// is opened.
+class FileLocation final : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("Belongs to the share sheet")
+    QML_UNCREATABLE("Belongs to who asks")
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY changed)
-    Q_PROPERTY(QString folder READ folder NOTIFY changed)
-    Q_PROPERTY(QStringList folders READ folders NOTIFY changed)
-    Q_PROPERTY(bool hasParent READ hasParent NOTIFY changed)
+    Q_PROPERTY(QString folder READ folder NOTIFY folderChanged)
+    Q_PROPERTY(QStringList folders READ folders NOTIFY folderChanged)
+    Q_PROPERTY(QStringList files READ files NOTIFY folderChanged)
+    Q_PROPERTY(bool hasParent READ hasParent NOTIFY folderChanged)
     Q_PROPERTY(bool acceptable READ isAcceptable NOTIFY changed)
 
 public:
-    explicit SaveLocation(QObject* parent);
+    explicit FileLocation(QObject* parent);
 
-    /// Begins at a local file; one of another kind is not saved there.
-    void begin(const QUrl& suggestion);
-    QUrl file() const;
+    /// Begins at a local file, whose ending the others have.
+    void begin(const QString& file);
+    QString file() const;
 
     QString name() const { return name_; }
     void setName(const QString& name);
@@ -36,6 +37,8 @@ public:
     QString folder() const;
     /// The folders inside it by name, hidden ones apart.
     QStringList folders() const { return folders_; }
+    /// The files inside it with the ending of the name that it began with.
+    QStringList files() const { return files_; }
     bool hasParent() const { return !folder_.isRoot(); }
     /// Whether the name is one and the folder takes it.
     bool isAcceptable() const;
@@ -44,6 +47,8 @@ public:
     Q_INVOKABLE void goUp();
 
 signals:
+    void folderChanged();
+    /// Also with the folder.
     void changed();
 
 private:
@@ -51,6 +56,7 @@ private:
 
     QDir folder_;
     QStringList folders_;
+    QStringList files_;
     QString name_;
     QString suffix_;
 };

@@ -1,44 +1,47 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/save_location.h"
+#include "qt/file_location.h"
 
 #include <QFileInfo>
 #include <QQmlEngine>
 
 namespace lumora::qt {
 
-SaveLocation::SaveLocation(QObject* parent) : QObject{parent}
+FileLocation::FileLocation(QObject* parent) : QObject{parent}
 {
     QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
 
-void SaveLocation::begin(const QUrl& suggestion)
+void FileLocation::begin(const QString& file)
 {
-    const QFileInfo file{suggestion.toLocalFile()};
-    name_ = file.fileName();
-    suffix_ = file.suffix();
-    show(file.absoluteDir());
+    const QFileInfo suggestion{file};
+    name_ = suggestion.fileName();
+    suffix_ = suggestion.suffix();
+    show(suggestion.absoluteDir());
 }
 
-void SaveLocation::show(const QDir& folder)
+void FileLocation::show(const QDir& folder)
 {
     folder_ = folder;
     folders_ = folder_.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Readable,
                                  QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
+    files_ = folder_.entryList({QStringLiteral("*.") + suffix_}, QDir::Files | QDir::Readable,
+                               QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
+    emit folderChanged();
     emit changed();
 }
 
-QUrl SaveLocation::file() const
+QString FileLocation::file() const
 {
     auto name = name_.trimmed();
     if (QFileInfo{name}.suffix().compare(suffix_, Qt::CaseInsensitive) != 0) {
         name += u'.' + suffix_;
     }
-    return QUrl::fromLocalFile(folder_.absoluteFilePath(name));
+    return folder_.absoluteFilePath(name);
 }
 
-void SaveLocation::setName(const QString& name)
+void FileLocation::setName(const QString& name)
 {
     if (name != name_) {
         name_ = name;
@@ -46,20 +49,20 @@ void SaveLocation::setName(const QString& name)
     }
 }
 
-QString SaveLocation::folder() const
+QString FileLocation::folder() const
 {
     const auto path = folder_.absolutePath();
     const auto home = QDir::homePath();
     return path == home || path.startsWith(home + u'/') ? u'~' + path.mid(home.size()) : path;
 }
 
-bool SaveLocation::isAcceptable() const
+bool FileLocation::isAcceptable() const
 {
     return !name_.trimmed().isEmpty() && !name_.contains(u'/') &&
            QFileInfo{folder_.absolutePath()}.isWritable();
 }
 
-void SaveLocation::enter(const QString& subfolder)
+void FileLocation::enter(const QString& subfolder)
 {
     QDir folder = folder_;
     if (folders_.contains(subfolder) && folder.cd(subfolder)) {
@@ -67,7 +70,7 @@ void SaveLocation::enter(const QString& subfolder)
     }
 }
 
-void SaveLocation::goUp()
+void FileLocation::goUp()
 {
     QDir folder = folder_;
     if (folder.cdUp()) {
