@@ -20,8 +20,8 @@ T.AbstractButton {
     focusPolicy: Qt.TabFocus
     opacity: down ? 0.6 : 1
     Accessible.name: qsTrId("action.play") + " " + spoken
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Image {
         source: Theme.playPicture
