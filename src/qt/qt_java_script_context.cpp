@@ -13,8 +13,19 @@ namespace lumora::qt {
 
 namespace {
 
+/// In characters.
+constexpr qsizetype kBallast = 500'000;
+
 class QtJavaScriptContext final : public platform::JavaScriptContext {
 public:
+    QtJavaScriptContext()
+    {
+        // The engine looks for garbage each time that its texts have grown by as
+        // much as is alive of them. A script that takes a long text apart makes
+        // it do so hundreds of times, unless much is alive.
+        ballast_.setProperty(QStringLiteral("text"), QString{kBallast, u' '});
+    }
+
     void setExceptionHandler(ExceptionHandler handler) override { handler_ = std::move(handler); }
 
     std::string evaluateScript(std::string_view script) override
@@ -34,6 +45,8 @@ public:
 
 private:
     QJSEngine engine_;
+    /// Out of the reach of scripts.
+    QJSValue ballast_ = engine_.newObject();
     ExceptionHandler handler_;
 };
 
