@@ -16,10 +16,9 @@ namespace lumora::platform {
 namespace {
 
 /// Whether it is a blob, and SQLite made so that no blob is like anything.
-bool isUnlikeAll(sqlite3_value* value)
+bool isUnlikeAll(int type)
 {
-    return sqlite3_value_type(value) == SQLITE_BLOB &&
-           sqlite3_compileoption_used("LIKE_DOESNT_MATCH_BLOBS") != 0;
+    return type == SQLITE_BLOB && sqlite3_compileoption_used("LIKE_DOESNT_MATCH_BLOBS") != 0;
 }
 
 /// LIKE looks no further than the first NUL.
@@ -38,6 +37,10 @@ const PackedPattern* patternOf(sqlite3_context* context, sqlite3_value* value)
     // SQLite keeps it for as long as the pattern stays the same.
     if (const void* kept = sqlite3_get_auxdata(context, 0)) {
         return static_cast<const PackedPattern*>(kept);
+    }
+    if (isUnlikeAll(sqlite3_value_type(value))) {
+        sqlite3_result_int(context, 0);
+        return nullptr;
     }
     if (sqlite3_value_bytes(value) >
         sqlite3_limit(sqlite3_context_db_handle(context), SQLITE_LIMIT_LIKE_PATTERN_LENGTH, -1)) {
@@ -60,7 +63,8 @@ const PackedPattern* patternOf(sqlite3_context* context, sqlite3_value* value)
 
 void like(sqlite3_context* context, int /*count*/, sqlite3_value** values)
 {
-    if (isUnlikeAll(values[0]) || isUnlikeAll(values[1])) {
+    const int type = sqlite3_value_type(values[1]);
+    if (isUnlikeAll(type)) {
         sqlite3_result_int(context, 0);
         return;
     }
@@ -69,7 +73,7 @@ void like(sqlite3_context* context, int /*count*/, sqlite3_value** values)
         if (pattern == nullptr) {
             return;
         }
-        if (sqlite3_value_type(values[1]) != SQLITE_NULL) {
+        if (type != SQLITE_NULL) {
             sqlite3_result_int(context, pattern->matches(textOf(values[1])) ? 1 : 0);
         } else if (const auto* const packed = pointedCell(values[1])) {
             sqlite3_result_int(context, pattern->matchesAny(*packed) ? 1 : 0);
