@@ -47,9 +47,9 @@ Rectangle {
         font.pixelSize: !root.isCell ? Theme.small + 1 : root.isForm ? Theme.body - 1 : Theme.body
         font.weight: root.isCell ? Font.Normal : Font.DemiBold
         font.italic: root.isCell && !root.isForm
-        fontSizeMode: Text.Fit
+        fontSizeMode: root.isCell ? Text.Fit : Text.HorizontalFit
         minimumPixelSize: 11
-        wrapMode: Text.WordWrap
+        wrapMode: root.isCell ? Text.WordWrap : Text.NoWrap
         maximumLineCount: root.isCell ? 2 : 1
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter
@@ -59,13 +59,14 @@ Rectangle {
         x: leading.width > 0 ? leading.x + leading.width + Theme.gap : leading.x
         width: play.x - Theme.gap - x
         height: parent.height
-        text: root.detailText
+        text: Theme.brokenAtSpaces(root.detailText)
         color: Theme.text
         font.pixelSize: Theme.body
         fontSizeMode: Text.Fit
-        minimumPixelSize: 11
+        minimumPixelSize: 9
         wrapMode: Text.WordWrap
         maximumLineCount: 2
+        lineHeight: lineCount > 1 ? 0.85 : 1
         verticalAlignment: Text.AlignVCenter
     }
     PlayControl {

@@ -10,6 +10,7 @@ Item {
 
     required property collectionLine line
     required property real pronounWidth
+    required property int textSize
 
     signal played
 
@@ -19,7 +20,7 @@ Item {
         height: parent.height
         text: root.line.leading
         color: Theme.textSecondary
-        font.pixelSize: Theme.body - 2
+        font.pixelSize: root.textSize - 1
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 11
         verticalAlignment: Text.AlignVCenter
@@ -28,13 +29,14 @@ Item {
         x: root.pronounWidth > 0 ? root.pronounWidth + Theme.gap : 0
         width: play.x - root.line.audioPadding - x
         height: parent.height
-        text: root.line.trailing
+        text: Theme.brokenAtSpaces(root.line.trailing)
         color: Theme.text
-        font.pixelSize: Theme.body - 1
+        font.pixelSize: root.textSize
         fontSizeMode: Text.Fit
-        minimumPixelSize: 11
+        minimumPixelSize: 9
         wrapMode: Text.WordWrap
         maximumLineCount: 2
+        lineHeight: lineCount > 1 ? 0.85 : 1
         verticalAlignment: Text.AlignVCenter
     }
     PlayControl {

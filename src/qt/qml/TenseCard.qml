@@ -16,7 +16,8 @@ Rectangle {
     required property collectionLine line3
     required property collectionLine line4
     required property collectionLine line5
-    // Of the pronouns' font.
+    // Of the forms; that of the pronouns' font is with it.
+    required property int textSize
     required property FontMetrics metrics
     readonly property real lineHeight: (height - label.y - label.height - 4 - Theme.gap) / 6
     // As wide as the widest, but the form needs most of the line.
@@ -30,6 +31,7 @@ Rectangle {
         width: label.width
         height: root.lineHeight
         pronounWidth: root.pronounWidth
+        textSize: root.textSize
     }
 
     radius: Theme.radius

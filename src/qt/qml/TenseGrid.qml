@@ -14,6 +14,8 @@ Item {
     readonly property real spacing: collection.lineSpacing
     readonly property int columns: Math.max(1, Math.floor((width - 2 * inset + spacing) / grid.cellWidth))
     readonly property real usedWidth: columns * grid.cellWidth - spacing
+    // The cards stay as they are however large texts become.
+    readonly property int textSize: Math.min(Theme.body, 22) - 1
 
     // By hand, so that this tense is the first in sight.
     signal movedTo(int tense)
@@ -25,10 +27,12 @@ Item {
 
     FontMetrics {
         id: pronounMetrics
-        font.pixelSize: Theme.body - 2
+        font.pixelSize: root.textSize - 1
     }
     GridView {
         id: grid
+
+        property real beginning: 0
 
         objectName: "tenses"
         // As wide as its columns: margins of its own would be one change of
@@ -36,6 +40,7 @@ Item {
         x: Math.max(0, Math.floor((root.width - root.usedWidth) / 2))
         width: root.columns * cellWidth
         height: root.height
+        clip: true
         model: root.collection
         focus: true
         activeFocusOnTab: true
@@ -44,6 +49,12 @@ Item {
         cellWidth: Math.max(1, root.collection.itemWidth + root.spacing)
         cellHeight: Math.max(1, root.collection.itemHeight + root.spacing)
         bottomMargin: Math.max(0, root.inset - root.spacing)
+        // The title is one that may grow.
+        onOriginYChanged: {
+            if (contentY === beginning)
+                contentY = originY;
+            beginning = originY;
+        }
         onContentYChanged: if (moving)
             root.movedTo(Math.max(0, Math.round((contentY - originY - headerItem.height) / cellHeight)) * root.columns)
 
@@ -58,15 +69,16 @@ Item {
             width: root.usedWidth
             topPadding: Theme.margin
             bottomPadding: Theme.margin
-            text: root.collection.headerText
+            text: Theme.brokenAtSpaces(root.collection.headerText)
             color: Theme.text
             font.pixelSize: Theme.headline
             font.weight: Font.DemiBold
             wrapMode: Text.WordWrap
             Accessible.role: Accessible.Heading
-            Accessible.name: text
+            Accessible.name: root.collection.headerText
         }
         delegate: TenseCard {
+            textSize: root.textSize
             metrics: pronounMetrics
             width: root.collection.itemWidth
             height: root.collection.itemHeight

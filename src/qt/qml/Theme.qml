@@ -71,4 +71,9 @@ QtObject {
     readonly property int sheetRadius: 14
     readonly property int quick: reducedMotion ? 0 : 180
     readonly property int slow: Math.round(quick * 1.4)
+
+    // A form that is too long goes on below at a space only.
+    function brokenAtSpaces(form) {
+        return form.includes(" ") ? form.replace(/-/g, "\u2011").replace(/\)\(/g, ")\u2060(") : form;
+    }
 }
