@@ -47,12 +47,12 @@ CollectionLine CollectionItemModel::line(int item, std::size_t number) const
         return {};
     }
     const auto& row = rows[number];
-    return {toQString(row.leading),
-            toQString(row.trailing),
-            row.audioWidth,
-            row.audioPadding,
-            row.controlHidden,
-            indicators_.sourceFor(row.control.indicator)};
+    return {.leading = toQString(row.leading),
+            .trailing = toQString(row.trailing),
+            .audioWidth = row.audioWidth,
+            .audioPadding = row.audioPadding,
+            .controlHidden = row.controlHidden,
+            .indicator = indicators_.sourceFor(row.control.indicator)};
 }
 
 const platform::CollectionCell& CollectionItemModel::cell(int item) const
