@@ -41,6 +41,8 @@ Rectangle {
             text: root.home.searchPlaceholder
             color: Theme.textSecondary
             font: input.font
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 11
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight
             Accessible.ignored: true
