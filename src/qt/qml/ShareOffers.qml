@@ -12,23 +12,26 @@ FocusScope {
 
     required property QtShareSheet share
 
-    implicitHeight: column.implicitHeight
+    implicitHeight: column.implicitHeight + cancel.implicitHeight + Theme.gap
 
     Flickable {
         id: flickable
-        anchors.fill: parent
+        anchors.top: parent.top
+        anchors.bottom: cancel.top
+        width: parent.width
         contentHeight: column.implicitHeight
         clip: interactive
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
 
-        ScrollBar.vertical: ScrollBar {}
+        ScrollBar.vertical: ScrollBar {
+            policy: flickable.interactive ? ScrollBar.AlwaysOn : ScrollBar.AsNeeded
+        }
 
         Column {
             id: column
             width: parent.width
             topPadding: Theme.margin
-            bottomPadding: Theme.gap
 
             SheetHeading {
                 width: parent.width
@@ -45,12 +48,15 @@ FocusScope {
                         flickable.contentY = Math.max(0, Math.min(y, Math.max(flickable.contentY, y + height - flickable.height)))
                 }
             }
-            SheetButton {
-                objectName: "shareCancel"
-                width: parent.width
-                text: qsTrId("export.cancel")
-                onClicked: root.share.cancel()
-            }
         }
+    }
+    SheetButton {
+        id: cancel
+        objectName: "shareCancel"
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.gap
+        width: parent.width
+        text: qsTrId("export.cancel")
+        onClicked: root.share.cancel()
     }
 }
