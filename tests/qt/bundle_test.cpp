@@ -22,19 +22,28 @@
 namespace lumora::qt {
 namespace {
 
+constexpr const char* kLanguages[] = {"en", "fr", "de", "nl", "es", "it", "pt"};
+using Texts = std::map<std::string, std::string>;
+
 /// The texts of a translation file by their ids.
-std::map<std::string, std::string> textsOf(const QString& language)
+Texts textsOf(const char* language)
 {
-    QFile file{QStringLiteral(LUMORA_TRANSLATIONS "/lumora_%1.ts").arg(language)};
+    QFile file{QStringLiteral(LUMORA_TRANSLATIONS "/lumora_%1.ts").arg(QLatin1String{language})};
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    std::map<std::string, std::string> texts;
+    Texts texts;
     QXmlStreamReader reader{&file};
     std::string id;
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (reader.isStartElement() && reader.name() == QLatin1String("message")) {
+    while (reader.readNext() != QXmlStreamReader::EndDocument && !reader.hasError()) {
+        if (!reader.isStartElement()) {
+            continue;
+        }
+        if (reader.name() == QLatin1String("message")) {
             id = toUtf8(reader.attributes().value(QLatin1String("id")).toString());
-        } else if (reader.isStartElement() && reader.name() == QLatin1String("translation")) {
+            EXPECT_FALSE(reader.attributes().hasAttribute(QLatin1String("numerus")))
+                << id << ": the program asks for no plural forms";
+        } else if (reader.name() == QLatin1String("translation")) {
+            EXPECT_FALSE(reader.attributes().hasAttribute(QLatin1String("type")))
+                << id << " is unfinished";
             EXPECT_TRUE(texts.emplace(id, toUtf8(reader.readElementText())).second) << id;
         }
     }
@@ -42,20 +51,36 @@ std::map<std::string, std::string> textsOf(const QString& language)
     return texts;
 }
 
-TEST(Translations, BothLanguagesHaveEveryKeyAndFrenchNamesAreFrenchInBoth)
+/// What is put into a text, in alphabetical order: the order of those with a
+/// number is the language's.
+std::multiset<std::string> placeholdersOf(const std::string& text)
 {
-    const auto english = textsOf(QStringLiteral("en"));
-    const auto french = textsOf(QStringLiteral("fr"));
-    for (const auto& [key, text] : english) {
-        SCOPED_TRACE(key);
-        EXPECT_FALSE(text.empty());
-        ASSERT_TRUE(french.contains(key));
-        EXPECT_FALSE(french.at(key).empty());
-        if (key.ends_with("_french")) {
-            EXPECT_EQ(text, french.at(key));
+    static const std::regex kPlaceholder{R"~(%\d*[@a-zA-Z0-9]|\{\w*\})~"};
+    return {std::sregex_token_iterator{text.begin(), text.end(), kPlaceholder}, {}};
+}
+
+TEST(Translations, EveryLanguageHasEveryKeyWithTheSamePlaceholders)
+{
+    const auto files = std::filesystem::directory_iterator{LUMORA_TRANSLATIONS};
+    EXPECT_EQ(std::distance(begin(files), end(files)), std::ssize(kLanguages));
+    const auto english = textsOf("en");
+    for (const char* language : kLanguages) {
+        const auto texts = textsOf(language);
+        EXPECT_EQ(texts.size(), english.size()) << language;
+        for (const auto& [key, text] : english) {
+            SCOPED_TRACE(std::string{language} + " " + key);
+            const auto found = texts.find(key);
+            ASSERT_NE(found, texts.end());
+            EXPECT_NE(found->second.find_first_not_of(" \n"), std::string::npos);
+            EXPECT_EQ(placeholdersOf(found->second), placeholdersOf(text));
+            // The same everywhere: names of tenses in French, and addresses.
+            if (key.ends_with("_french") || key.ends_with(".url") || key == "support.email") {
+                EXPECT_EQ(found->second, text);
+            }
         }
     }
-    EXPECT_EQ(english.size(), french.size());
+    EXPECT_TRUE(
+        std::regex_match(english.at("support.email"), std::regex{"[\\w.]+@[\\w.]+\\.\\w+"}));
     for (int segment = 0; segment < detail::kMoodCount; ++segment) {
         for (const auto& block : detail::blocksOfSegment(segment)) {
             const std::string key{block.titleKey};
@@ -89,7 +114,7 @@ std::set<std::string> keysInSources()
 
 TEST(Translations, EveryKeyIsAskedForAndEveryKeyAskedForIsThere)
 {
-    const auto texts = textsOf(QStringLiteral("en"));
+    const auto texts = textsOf("en");
     const auto literals = keysInSources();
     std::set<std::string> families;
     for (const auto& [key, text] : texts) {

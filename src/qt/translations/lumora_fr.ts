@@ -339,7 +339,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="share.mail">
         <source></source>
-        <translation>Envoyer par courriel</translation>
+        <translation>Envoyer par e-mail</translation>
     </message>
     <message id="share.mail.failed">
         <source></source>
@@ -347,7 +347,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="share.mail.unavailable">
         <source></source>
-        <translation>Aucun logiciel de courriel n’est configuré sur cet appareil.</translation>
+        <translation>Aucun programme de messagerie n’est configuré sur cet appareil.</translation>
     </message>
     <message id="share.print">
         <source></source>
