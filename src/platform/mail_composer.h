@@ -25,6 +25,7 @@ public:
 
 /// A message that the user finishes and sends in a mail program. It is filled
 /// first and then presented, which opens it; its outcome goes to the delegate.
+/// An open one keeps itself until then.
 class MailComposer : public ViewController {
 public:
     /// Not owned; must outlive the composer or be taken away. May be null.

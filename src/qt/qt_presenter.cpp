@@ -66,6 +66,7 @@ void QtPresenter::present(platform::ViewController& /*on*/,
         return;
     }
     // Its window is another program's: there is nothing of it to show here.
+    std::erase_if(mails_, [](const auto& each) { return each.expired(); });
     mails_.push_back(mail);
     mail->loadViewIfNeeded();
     mail->viewWillAppear();
@@ -88,14 +89,14 @@ void QtPresenter::presentActionSheet(platform::ViewController& on,
 void QtPresenter::dismiss(platform::ViewController& presented, std::function<void()> completed)
 {
     const auto mail =
-        std::ranges::find(mails_, &presented, [](const auto& each) { return each.get(); });
+        std::ranges::find(mails_, &presented, [](const auto& each) { return each.lock().get(); });
     if (mail == mails_.end()) {
         modals_.dismiss(presented, std::move(completed));
         return;
     }
     // Kept until the composer, which may be calling, is through.
     QMetaObject::invokeMethod(
-        this, [kept = *mail] {}, Qt::QueuedConnection);
+        this, [kept = mail->lock()] {}, Qt::QueuedConnection);
     mails_.erase(mail);
     presented.viewDidDisappear();
     if (completed) {

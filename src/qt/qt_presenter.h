@@ -101,8 +101,9 @@ private:
     platform::Storyboard& storyboard_;
     ModalStack modals_{this};
     QtPreview preview_{this};
-    /// On show in another program's window.
-    std::vector<std::shared_ptr<platform::MailComposer>> mails_;
+    /// On show in another program's window. They keep themselves until their
+    /// outcome is known.
+    std::vector<std::weak_ptr<platform::MailComposer>> mails_;
     std::deque<Question> questions_;
 };
 

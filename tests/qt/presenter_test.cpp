@@ -75,7 +75,7 @@ TEST_F(PresenterTest, LeavesAQuestionOnlyByAnAnswerThatCancelsOrFromASheet)
     EXPECT_EQ(answered, "yesno");
 }
 
-TEST_F(PresenterTest, OpensAMailWithoutAPageAndKeepsItUntilItsEnd)
+TEST_F(PresenterTest, OpensAMailWithoutAPageAndKeepsNoneLongerThanItsCalls)
 {
     class Mail final : public platform::MailComposer {
     public:
@@ -91,15 +91,23 @@ TEST_F(PresenterTest, OpensAMailWithoutAPageAndKeepsItUntilItsEnd)
     presenter.present(screen, mail);
     EXPECT_TRUE(mail->open);
     EXPECT_EQ(presenter.modals()->count(), 0);
-    mail.reset();
-    ASSERT_FALSE(kept.expired());
 
     bool completed = false;
-    presenter.dismiss(*kept.lock(), [&] { completed = true; });
+    auto& ending = *mail;
+    presenter.dismiss(ending, [&] {
+        completed = true;
+        mail.reset();
+    });
     EXPECT_TRUE(completed);
     EXPECT_FALSE(kept.expired()) << "it may be in the middle of a call";
     QCoreApplication::processEvents();
     EXPECT_TRUE(kept.expired());
+
+    // Whose sender has gone is dismissed by nobody.
+    mail = std::make_shared<Mail>();
+    const std::weak_ptr orphan = mail;
+    presenter.present(screen, std::move(mail));
+    EXPECT_TRUE(orphan.expired());
 }
 
 } // namespace
