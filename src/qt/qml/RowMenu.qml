@@ -28,6 +28,14 @@ Menu {
         return width;
     }
 
+    // Its row may be another one after that.
+    readonly property Connections changes: Connections {
+        target: root.table.model
+        function onReloaded() {
+            root.close();
+        }
+    }
+
     objectName: "rowMenu"
     margins: Theme.gap
     padding: 6
