@@ -35,6 +35,8 @@ Rectangle {
     border.width: isCurrent ? 2 : 0
     border.color: Theme.accentText
     Accessible.role: isCell ? Accessible.ListItem : Accessible.Heading
+    Accessible.focusable: isCell
+    Accessible.focused: isCurrent
     Accessible.name: !isCell ? title : isForm ? text + " " + detailText : text
 
     Text {
@@ -72,7 +74,8 @@ Rectangle {
     PlayControl {
         id: play
         x: parent.width - width - Theme.gap
-        y: (parent.height - height) / 2
+        // As high as a finger can have it.
+        height: parent.height
         width: 50
         focusPolicy: Qt.NoFocus
         visible: root.isForm

@@ -19,4 +19,6 @@ Text {
     font.bold: table.emptyBold
     wrapMode: Text.WordWrap
     horizontalAlignment: Text.AlignHCenter
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

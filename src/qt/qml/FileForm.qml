@@ -112,7 +112,9 @@ FocusScope {
         Accessible.role: Accessible.List
         Accessible.name: root.location.folder
 
-        ScrollBar.vertical: ScrollBar {}
+        ScrollBar.vertical: ScrollBar {
+            Accessible.ignored: true
+        }
 
         delegate: FolderRow {
             required property int index

@@ -11,8 +11,13 @@ Item {
     required property collectionLine line
     required property real pronounWidth
     required property int textSize
+    readonly property string spokenText: (line.leading + " " + line.trailing).trim()
 
     signal played
+
+    Accessible.ignored: spokenText === ""
+    Accessible.role: Accessible.StaticText
+    Accessible.name: spokenText
 
     Text {
         id: pronoun
@@ -42,11 +47,11 @@ Item {
     PlayControl {
         id: play
         x: parent.width - width
-        y: (parent.height - height) / 2
+        height: parent.height
         width: root.line.audioWidth
         visible: !root.line.controlHidden
         source: root.line.indicator
-        spoken: root.line.leading + " " + root.line.trailing
+        spoken: root.spokenText
         onClicked: root.played()
     }
 }

@@ -64,6 +64,8 @@ TableRow {
             font.pixelSize: Theme.small + 1
             font.weight: Font.DemiBold
             wrapMode: Text.WordWrap
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
         }
     }
     Component {
@@ -77,6 +79,8 @@ TableRow {
             color: Theme.textSecondary
             font.pixelSize: Theme.small
             wrapMode: Text.WordWrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }

@@ -46,6 +46,7 @@ ScreenPage {
                 focus: visible
 
                 sourceComponent: VerbTable {
+                    name: root.home.tabs[place.index]?.title ?? ""
                     screen: place.list
                 }
             }
@@ -59,6 +60,7 @@ ScreenPage {
                 id: results
 
                 objectName: "searchResults"
+                name: root.home.searchPlaceholder
                 screen: root.home.searchResults
 
                 Text {
@@ -68,6 +70,8 @@ ScreenPage {
                     width: Math.min(300, parent.width - 2 * Theme.margin)
                     visible: results.list.count === 0
                     text: qsTrId("search.empty")
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                     color: Theme.textSecondary
                     font.pixelSize: Theme.title
                     font.bold: true

@@ -17,7 +17,6 @@ TableRow {
     separatorColor: "transparent"
     focusColor: Theme.barText
     objectName: image
-    Accessible.role: Accessible.MenuItem
 
     Icon {
         id: icon

@@ -14,11 +14,12 @@ Rectangle {
 
     SegmentedControl {
         anchors.fill: parent
-        anchors.margins: 6
         anchors.leftMargin: Theme.gap
         anchors.rightMargin: Theme.gap
         visible: !root.screen.moodsHidden
         padding: 2
+        inset: 6
+        name: qsTrId("verb.moods")
         prefix: "mood"
         inTabOrder: true
         onColor: Theme.accentSecondary

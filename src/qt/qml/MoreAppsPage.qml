@@ -16,6 +16,7 @@ ScreenPage {
         id: content
         anchors.fill: parent
         table: root.apps.table
+        name: root.apps.title
         stickyHeaders: false
         list.header: Item {
             width: 1

@@ -14,13 +14,9 @@ T.Switch {
 
     signal changed(bool on)
 
-    function toggleByUser() {
-        changed(!on);
-    }
-
     objectName: "switch"
     implicitWidth: 52
-    implicitHeight: 32
+    implicitHeight: 44
     padding: 0
     focusPolicy: Qt.NoFocus
     checked: on
@@ -31,8 +27,9 @@ T.Switch {
     }
 
     indicator: Rectangle {
+        y: (root.height - height) / 2
         width: root.width
-        height: root.height
+        height: 32
         radius: height / 2
         color: root.checked ? Theme.switchOn : Theme.switchOff
 

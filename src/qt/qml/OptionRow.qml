@@ -16,10 +16,13 @@ GroupedRow {
     required property bool switchOn
     required property var segmentTitles
     required property int selectedSegment
+    // A finger may touch these also above and below what is drawn.
+    readonly property int overlap: control === TableItemModel.Switch ? 6 : control === TableItemModel.Segments ? 4 : 0
     readonly property real space: width - 4 * Theme.margin
     readonly property real wishedWidth: value.item === null ? 0 : value.item.implicitWidth
     readonly property bool stacked: (control === TableItemModel.Segments || detailText !== "") && label.implicitWidth + Theme.margin + wishedWidth > space
     readonly property real valueWidth: stacked ? space : Math.min(wishedWidth, space)
+    readonly property real drawnHeight: value.height - 2 * overlap
 
     function activate() {
         if (control === TableItemModel.Switch)
@@ -37,9 +40,9 @@ GroupedRow {
         return true;
     }
 
-    cellHeight: Math.max(Theme.touch + 4, (stacked ? label.height + Theme.gap + value.height : Math.max(label.height, value.height)) + 2 * Theme.gap)
+    cellHeight: Math.max(Theme.touch + 4, (stacked ? label.height + Theme.gap + drawnHeight : Math.max(label.height, drawnHeight)) + 2 * Theme.gap)
     objectName: text
-    Accessible.name: !isCell ? title : detailText === "" ? text : text + ", " + detailText
+    Accessible.name: detailText === "" ? text : text + ", " + detailText
 
     Text {
         id: label
@@ -49,12 +52,12 @@ GroupedRow {
         text: root.text
         color: Theme.text
         font.pixelSize: Theme.body
-        wrapMode: Text.WordWrap
+        wrapMode: Text.Wrap
     }
     Loader {
         id: value
         x: root.stacked ? 2 * Theme.margin : root.width - 2 * Theme.margin - width
-        y: root.stacked ? label.y + label.height + Theme.gap : (root.height - height) / 2
+        y: root.stacked ? label.y + label.height + Theme.gap - root.overlap : (root.height - height) / 2
         width: root.valueWidth
         active: root.isCell
         sourceComponent: root.control === TableItemModel.Switch ? onOff : root.control === TableItemModel.Segments ? segments : detail

@@ -16,6 +16,7 @@ ScreenPage {
         id: content
         anchors.fill: parent
         table: root.options.table
+        name: root.options.title
         stickyHeaders: false
         list.cacheBuffer: 4000
         list.header: AboutHeader {

@@ -19,14 +19,14 @@ T.AbstractButton {
     objectName: "play"
     focusPolicy: Qt.TabFocus
     opacity: down ? 0.6 : 1
-    Accessible.name: qsTrId("action.play") + " " + spoken
+    Accessible.name: qsTrId("action.play") + " " + spoken.trim()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
     contentItem: Image {
         source: Theme.playPicture
         sourceSize: Theme.playSize
-        fillMode: Image.PreserveAspectFit
+        fillMode: Image.Pad
 
         Loader {
             anchors.centerIn: parent

@@ -33,7 +33,7 @@ FocusScope {
 
     focus: true
     Accessible.role: Accessible.Dialog
-    Accessible.name: title.text !== "" ? title.text : message.text
+    Accessible.name: title.text || message.text || qsTrId("app.title")
     Keys.onEscapePressed: presenter.cancel()
     Keys.onBackPressed: presenter.cancel()
     Keys.onDownPressed: moveFocus(true)
@@ -117,7 +117,9 @@ FocusScope {
             boundsBehavior: Flickable.StopAtBounds
             interactive: contentHeight > height
 
-            ScrollBar.vertical: ScrollBar {}
+            ScrollBar.vertical: ScrollBar {
+                Accessible.ignored: true
+            }
 
             Column {
                 id: column
@@ -147,6 +149,8 @@ FocusScope {
                     rightPadding: Theme.margin
                     bottomPadding: Theme.margin
                     text: root.presenter.questionMessage
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                     color: Theme.text
                     font.pixelSize: Theme.body
                     wrapMode: Text.WordWrap

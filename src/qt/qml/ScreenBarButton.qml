@@ -10,11 +10,18 @@ BarButton {
 
     required property Screen screen
     required property var modelData
+    readonly property bool on: modelData.image === "ic_favorite_toolbar"
 
     objectName: "bar." + modelData.identifier
     image: modelData.image
     text: modelData.title
     enabled: modelData.enabled
+    // On or off as the screen has it, whatever a press would make of it.
+    checkable: modelData.identifier === "favourite"
+    checked: on
     Accessible.name: modelData.title !== "" ? modelData.title : qsTrId("button." + modelData.identifier)
-    onClicked: root.screen.press(modelData.identifier)
+    onClicked: {
+        checked = Qt.binding(() => on);
+        root.screen.press(modelData.identifier);
+    }
 }

@@ -43,6 +43,7 @@ StackView {
             }, kind);
     }
 
+    Accessible.name: currentItem?.screen?.title ?? ""
     onScreensChanged: follow()
     Component.onCompleted: follow()
 

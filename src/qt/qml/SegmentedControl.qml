@@ -8,7 +8,7 @@ import Lumora
 
 // Segments of one width, of which one is chosen. Long titles wrap, and shrink
 // where a word alone is too long.
-Rectangle {
+Item {
     id: root
 
     required property var titles
@@ -19,6 +19,8 @@ Rectangle {
     property color onColor: Theme.segmentOn
     property color onInk: Theme.segmentInk
     property int padding: 4
+    // How much less than a finger touches is drawn, above and below.
+    property int inset: 4
     readonly property int fullSize: Theme.small + 1
     readonly property int fontSize: Math.max(9, Math.min(fullSize, Math.floor(fullSize * (segmentWidth - 2 * padding) / widest(titles.join(" ").split(" ")))))
     readonly property real segmentWidth: width / Math.max(1, titles.length)
@@ -43,9 +45,7 @@ Rectangle {
     }
 
     implicitWidth: wishedWidth
-    implicitHeight: Math.max(36, wishedHeight)
-    radius: 8
-    color: Theme.segment
+    implicitHeight: Math.max(36, wishedHeight) + 2 * inset
     Accessible.role: Accessible.Grouping
     Accessible.name: name
 
@@ -54,6 +54,14 @@ Rectangle {
         font.pixelSize: root.fullSize
         font.weight: Font.DemiBold
     }
+    Rectangle {
+        id: ground
+        anchors.fill: parent
+        anchors.topMargin: root.inset
+        anchors.bottomMargin: root.inset
+        radius: 8
+        color: Theme.segment
+    }
     Row {
         id: row
         anchors.fill: parent
@@ -61,7 +69,7 @@ Rectangle {
         Repeater {
             model: root.titles
 
-            T.AbstractButton {
+            T.RadioButton {
                 id: segment
 
                 required property int index
@@ -72,16 +80,19 @@ Rectangle {
                 height: row.height
                 implicitHeight: implicitContentHeight
                 text: modelData
+                checkable: false
+                autoExclusive: false
                 checked: index === root.selected
+                topInset: root.inset
+                bottomInset: root.inset
                 focusPolicy: root.inTabOrder ? Qt.TabFocus : Qt.NoFocus
-                Accessible.role: Accessible.RadioButton
                 Accessible.name: text
                 Accessible.checked: checked
                 onClicked: root.choose(index)
                 Keys.onReturnPressed: root.choose(index)
 
                 background: Rectangle {
-                    radius: root.radius
+                    radius: ground.radius
                     color: segment.checked ? root.onColor : segment.down ? Theme.pressed : "transparent"
                     border.width: segment.visualFocus ? 2 : 0
                     border.color: Theme.accentText

@@ -26,6 +26,7 @@ FocusScope {
 
         ScrollBar.vertical: ScrollBar {
             policy: flickable.interactive ? ScrollBar.AlwaysOn : ScrollBar.AsNeeded
+            Accessible.ignored: true
         }
 
         Column {

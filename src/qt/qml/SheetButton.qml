@@ -15,6 +15,8 @@ TouchButton {
         font.weight: Font.DemiBold
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 11
         elide: Text.ElideRight
     }
 }

@@ -89,6 +89,7 @@ FocusScope {
             sourceComponent: TableContent {
                 id: rows
                 table: root.screen.table
+                name: title.text
                 stickyHeaders: false
                 delegate: MenuRow {
                     width: ListView.view.width

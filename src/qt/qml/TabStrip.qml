@@ -28,7 +28,7 @@ Rectangle {
         Repeater {
             model: root.home.tabs
 
-            T.AbstractButton {
+            T.TabButton {
                 id: tab
 
                 required property var modelData
@@ -38,9 +38,10 @@ Rectangle {
                 width: row.width / Math.max(1, root.home.tabs.length)
                 height: row.height
                 text: modelData.title
+                checkable: false
+                autoExclusive: false
                 checked: modelData.tag === root.home.selectedTab
                 focusPolicy: Qt.TabFocus
-                Accessible.role: Accessible.PageTab
                 Accessible.name: text
                 Accessible.selected: checked
                 onClicked: root.home.selectTab(modelData.tag)

@@ -15,6 +15,8 @@ T.Control {
     property alias delegate: list.delegate
     property alias list: list
     property bool stickyHeaders: true
+    // For who cannot see what the rows are about.
+    property string name
     readonly property int indexWidth: index.visible ? index.width : 0
     // The row that is swiped open, if one is.
     property T.SwipeDelegate openRow: null
@@ -62,7 +64,8 @@ T.Control {
 
     focus: true
     focusPolicy: Qt.TabFocus
-    Accessible.role: Accessible.List
+    // A control has a role of its own; the list inside speaks for it.
+    Accessible.ignored: true
     onVisualFocusChanged: if (visualFocus && list.currentIndex < 0)
         moveTo(table.model.cellAway(list.indexAt(0, list.contentY + (stickyHeaders ? Theme.headerHeight : 0)) - 1, 1))
 
@@ -98,6 +101,8 @@ T.Control {
         property bool moved: false
 
         objectName: "list"
+        Accessible.role: Accessible.List
+        Accessible.name: root.name
         anchors.fill: parent
         model: root.table.model
         reuseItems: true
@@ -115,6 +120,7 @@ T.Control {
         }
 
         ScrollBar.vertical: ScrollBar {
+            Accessible.ignored: true
             visible: !index.visible
         }
 

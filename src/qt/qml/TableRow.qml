@@ -46,8 +46,12 @@ T.SwipeDelegate {
     focusPolicy: Qt.NoFocus
     swipe.enabled: isCell && canEdit
     swipe.right: isCell && canEdit ? actions : null
-    Accessible.role: isCell ? Accessible.ListItem : Accessible.Heading
-    Accessible.name: isCell ? text : title
+    // A list item by itself; headers and footers have texts that speak.
+    Accessible.ignored: !isCell
+    Accessible.name: text
+    Accessible.selected: selected
+    Accessible.focusable: isCell
+    Accessible.focused: isCurrent
     onClicked: if (isCell && swipe.position === 0)
         table.model.tap(index)
 
@@ -113,6 +117,8 @@ T.SwipeDelegate {
             color: Theme.textSecondary
             font.pixelSize: Theme.small
             wrapMode: Text.WordWrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
     Component {

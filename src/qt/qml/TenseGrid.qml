@@ -59,6 +59,7 @@ Item {
             root.movedTo(Math.max(0, Math.round((contentY - originY - headerItem.height) / cellHeight)) * root.columns)
 
         ScrollBar.vertical: ScrollBar {
+            Accessible.ignored: true
             parent: root
             anchors.top: parent.top
             anchors.bottom: parent.bottom

@@ -44,6 +44,8 @@ ScreenPage {
             font.pixelSize: Theme.body
             wrapMode: Text.WordWrap
             horizontalAlignment: Text.AlignHCenter
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 
@@ -54,6 +56,7 @@ ScreenPage {
             id: content
 
             table: root.verb.table
+            name: root.verb.title
             delegate: ConjugationRow {
                 width: ListView.view.width
                 table: content.table

@@ -12,7 +12,7 @@ TableRow {
     required property string detailText
     required property string image
 
-    Accessible.name: text + ", " + detailText
+    Accessible.name: [text, detailText, image !== "" ? qsTrId("button.favourite") : ""].filter(part => part !== "").join(", ")
     onPressAndHold: if (isCell && swipe.position === 0)
         table.model.hold(index)
 

@@ -12,6 +12,7 @@ TableContent {
     required property TableScreen screen
 
     table: screen.table
+    name: screen.title
     delegate: VerbRow {
         width: ListView.view.width
         table: root.table

@@ -605,6 +605,10 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Französische Verben</translation>
     </message>
+    <message id="verb.moods">
+        <source></source>
+        <translation>Modus</translation>
+    </message>
     <message id="volume.low.warning">
         <source></source>
         <translation>Die Lautstärke ist sehr niedrig. Erhöhen Sie sie, um die Aussprache zu hören.</translation>

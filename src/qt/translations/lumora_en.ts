@@ -605,6 +605,10 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>French verbs</translation>
     </message>
+    <message id="verb.moods">
+        <source></source>
+        <translation>Mood</translation>
+    </message>
     <message id="volume.low.warning">
         <source></source>
         <translation>The volume is very low. Turn it up to hear the pronunciation.</translation>

@@ -605,6 +605,10 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Verbos franceses</translation>
     </message>
+    <message id="verb.moods">
+        <source></source>
+        <translation>Modo</translation>
+    </message>
     <message id="volume.low.warning">
         <source></source>
         <translation>El volumen está muy bajo. Súbelo para oír la pronunciación.</translation>

@@ -605,6 +605,10 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Verbes français</translation>
     </message>
+    <message id="verb.moods">
+        <source></source>
+        <translation>Mode</translation>
+    </message>
     <message id="volume.low.warning">
         <source></source>
         <translation>Le volume est très bas. Augmentez-le pour entendre la prononciation.</translation>

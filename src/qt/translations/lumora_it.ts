@@ -605,6 +605,10 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Verbi francesi</translation>
     </message>
+    <message id="verb.moods">
+        <source></source>
+        <translation>Modo</translation>
+    </message>
     <message id="volume.low.warning">
         <source></source>
         <translation>Il volume è molto basso. Alzalo per sentire la pronuncia.</translation>

@@ -605,6 +605,10 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Franse werkwoorden</translation>
     </message>
+    <message id="verb.moods">
+        <source></source>
+        <translation>Wijs</translation>
+    </message>
     <message id="volume.low.warning">
         <source></source>
         <translation>Het volume staat erg laag. Zet het hoger om de uitspraak te horen.</translation>

@@ -605,6 +605,10 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Verbos franceses</translation>
     </message>
+    <message id="verb.moods">
+        <source></source>
+        <translation>Modo</translation>
+    </message>
     <message id="volume.low.warning">
         <source></source>
         <translation>O volume está muito baixo. Aumente-o para ouvir a pronúncia.</translation>
