@@ -43,8 +43,8 @@ QtObject {
     readonly property color pressed: dark ? "#2a3038" : "#e3eaf4"
     readonly property color field: dark ? "#0b1c33" : "#ffffff"
     readonly property color switchOn: dark ? "#3d7fd6" : accentPrimary
-    readonly property color switchOff: dark ? "#4a525c" : "#b7bfca"
-    readonly property color star: dark ? "#f2b84b" : "#d98a00"
+    readonly property color switchOff: dark ? "#6e7884" : "#858f9d"
+    readonly property color star: dark ? "#f2b84b" : "#b87400"
     readonly property color danger: dark ? "#ff8a80" : "#b3261e"
     readonly property color shade: "#80000000"
     // The ring's own colours are its controller's; these go with them.
