@@ -26,6 +26,16 @@ Window {
             Theme[name] = colours[name];
     }
 
+    // What goes while it has the keyboard leaves it with nobody.
+    function giveKeyboard() {
+        if (activeFocusItem !== contentItem)
+            return;
+        const layer = [question, fileLayer, shareLayer, previewLayer, modalLayer].find(layer => layer.wanted) ?? panes;
+        layer.item?.forceActiveFocus();
+    }
+
+    onActiveFocusItemChanged: if (activeFocusItem === contentItem)
+        Qt.callLater(giveKeyboard)
     minimumWidth: 280
     minimumHeight: 360
     visible: true

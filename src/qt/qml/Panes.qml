@@ -13,6 +13,16 @@ FocusScope {
     readonly property bool homeOnTop: split.primary.length === 1 && !split.primaryHidden
     readonly property int listWidth: Math.max(320, Math.min(360, Math.round(width * 0.34)))
 
+    // A pane that goes takes the keyboard with it.
+    function keepKeyboard() {
+        if (!enabled)
+            primary.focus = true;
+        else if (!activeFocus || !primary.activeFocus && !twoPanes)
+            primary.forceActiveFocus();
+    }
+
+    onTwoPanesChanged: Qt.callLater(keepKeyboard)
+
     ScreenStack {
         id: primary
         objectName: "primaryPane"
