@@ -13,7 +13,8 @@ Row {
     required property T.SwipeDelegate row
     required property int rowIndex
     required property QtTableView table
-    readonly property bool open: row.swipe.position !== 0
+    // The row may go while its buttons are in sight, and before them.
+    readonly property bool open: row !== null && row.swipe.position !== 0
     property var offered: table.model.trailingActions(rowIndex)
     readonly property int buttonWidth: 96
 
@@ -21,10 +22,10 @@ Row {
     onOpenChanged: if (open)
         offered = table.model.trailingActions(rowIndex)
 
-    anchors.right: parent.right
+    anchors.right: parent?.right
     // The row slides as far as this is wide, known before the buttons are.
     width: offered.length * buttonWidth + rightPadding
-    height: parent.height
+    height: parent?.height ?? 0
     layoutDirection: Qt.RightToLeft
 
     Repeater {

@@ -52,8 +52,12 @@ T.SwipeDelegate {
     Accessible.selected: selected
     Accessible.focusable: isCell
     Accessible.focused: isCurrent
-    onClicked: if (isCell && swipe.position === 0)
-        table.model.tap(index)
+    onClicked: {
+        if (swiped)
+            swipe.close();
+        else if (isCell)
+            table.model.tap(index);
+    }
 
     onSwipedChanged: if (swiped)
         ListView.view.parent.rowSwiped(root)
