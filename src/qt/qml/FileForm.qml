@@ -77,12 +77,15 @@ FocusScope {
     }
     Text {
         id: nothing
+
+        readonly property bool wanted: (root.chooser.saving ? root.location.folders : root.files).length === 0
+
         anchors.top: place.bottom
         width: parent.width
-        height: visible ? Math.max(Theme.touch, implicitHeight) : 0
+        height: wanted ? Math.max(Theme.touch, implicitHeight) : 0
         leftPadding: 2 * Theme.margin
         rightPadding: Theme.margin
-        visible: (root.chooser.saving ? root.location.folders : root.files).length === 0
+        visible: wanted
         text: root.chooser.saving ? qsTrId("share.save.folder.empty") : qsTrId("file.none")
         color: Theme.textSecondary
         font.pixelSize: Theme.small + 1
