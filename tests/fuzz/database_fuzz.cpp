@@ -3,6 +3,7 @@
 
 #include "app/database_preparation.h"
 #include "detail/verb_detail_table_view_controller.h"
+#include "export/export_data.h"
 #include "fuzz/fuzz.h"
 #include "lists/favourites_table_view_controller.h"
 #include "lists/history_table_view_controller.h"
@@ -96,6 +97,7 @@ public:
             detail.selectedVerb = verbs[i];
             detail.loadViewIfNeeded();
             detail.selectVerbTypes(1);
+            static_cast<void>(exporting::exportData(*detail.selectedVerb, world_.services()));
         }
         lists::FavouritesTableViewController favourites{world_.services()};
         favourites.queue = queue.get();
