@@ -82,7 +82,8 @@ FocusScope {
 
         anchors.top: place.bottom
         width: parent.width
-        height: wanted ? Math.max(Theme.touch, implicitHeight) : 0
+        topPadding: Theme.gap
+        bottomPadding: Theme.gap
         leftPadding: 2 * Theme.margin
         rightPadding: Theme.margin
         visible: wanted
@@ -103,7 +104,7 @@ FocusScope {
         }
 
         objectName: "files"
-        anchors.top: nothing.bottom
+        anchors.top: nothing.wanted ? nothing.bottom : place.bottom
         anchors.bottom: foot.top
         width: parent.width
         clip: true
