@@ -12,6 +12,7 @@
 #include "platform/transaction.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <optional>
 #include <set>
@@ -134,6 +135,12 @@ public:
     }
 
 private:
+    struct View {
+        double time = 0;
+        /// Of a clock that was ahead: nobody knows when it really was.
+        bool isAhead = false;
+    };
+
     platform::Result<void> addFavourites(const VerbIndex& verbs)
     {
         std::set<std::int64_t> known;
@@ -158,21 +165,22 @@ private:
     {
         collectViews(verbs);
         setTimesApart();
-        auto done = forEachRow(database_, "SELECT verbid, timestamp FROM history",
-                               [this](const ResultSet& row) {
-                                   const auto view = views_.find(row.longForColumn(0));
-                                   if (view != views_.end() &&
-                                       view->second <= row.doubleForColumn(1) + kTimeTolerance) {
-                                       views_.erase(view);
-                                   }
-                               });
-        for (const auto& [verb, time] : views_) {
+        auto done = forEachRow(
+            database_, "SELECT verbid, timestamp FROM history", [this](const ResultSet& row) {
+                const auto view = views_.find(row.longForColumn(0));
+                if (view != views_.end() &&
+                    (view->second.isAhead ||
+                     view->second.time <= row.doubleForColumn(1) + kTimeTolerance)) {
+                    views_.erase(view);
+                }
+            });
+        for (const auto& [verb, view] : views_) {
             if (done) {
                 done = database_.executeUpdate("DELETE FROM history WHERE verbid=?", {verb});
             }
             if (done) {
                 done = database_.executeUpdate(
-                    "INSERT INTO history(verbid, timestamp) VALUES(?, ?)", {verb, time});
+                    "INSERT INTO history(verbid, timestamp) VALUES(?, ?)", {verb, view.time});
             }
         }
         return done;
@@ -183,8 +191,8 @@ private:
         for (const auto& [verb, viewed] : document_.history) {
             if (const auto id = verbs.find(verb)) {
                 const double time = viewed - platform::kReferenceDate;
-                const auto [view, isFirst] = views_.emplace(*id, time);
-                view->second = std::max(view->second, time);
+                const auto [view, isFirst] = views_.emplace(*id, View{time});
+                view->second.time = std::max(view->second.time, time);
             } else {
                 ++counts_.unknown;
             }
@@ -192,20 +200,24 @@ private:
     }
 
     /// The bound of the history takes rows of equal times together, which
-    /// could be all. And a clock that was ahead must not keep its verbs on top.
+    /// could be all, and an update leaves the times whole seconds. And a clock
+    /// that was ahead must not keep its verbs on top.
     void setTimesApart()
     {
-        std::vector<double*> newestFirst;
+        std::vector<View*> newestFirst;
         newestFirst.reserve(views_.size());
-        for (auto& [verb, time] : views_) {
-            newestFirst.push_back(&time);
+        for (auto& [verb, view] : views_) {
+            newestFirst.push_back(&view);
         }
         std::sort(newestFirst.begin(), newestFirst.end(),
-                  [](const double* left, const double* right) { return *left > *right; });
+                  [](const View* left, const View* right) { return left->time > right->time; });
+        bool isAhead = true;
         double latest = now_;
-        for (double* time : newestFirst) {
-            *time = std::min(*time, latest);
-            latest = *time - kTimeTolerance;
+        for (View* view : newestFirst) {
+            isAhead = isAhead && view->time > latest;
+            view->isAhead = isAhead;
+            view->time = std::min(view->time, latest);
+            latest = std::floor(view->time) - kTimeTolerance;
         }
     }
 
@@ -222,8 +234,8 @@ private:
     /// Seconds since 2001-01-01 00:00:00 UTC, as the history counts.
     double now_;
     RestoredCounts counts_;
-    /// Verb and time of the views that the history lacks.
-    std::map<std::int64_t, double> views_;
+    /// By verb, the views that the history lacks.
+    std::map<std::int64_t, View> views_;
 };
 
 platform::Result<RestoredCounts> merge(Database& database, const BackupDocument& document,
@@ -261,7 +273,11 @@ tl::expected<SavedCounts, Failure> saveBackup(platform::DatabaseQueue& queue,
     if (!document) {
         return tl::unexpected(databaseFailure(document.error()));
     }
-    const auto written = platform::writeFileAtomically(file, textOf(*document, now));
+    // What a link leads to is replaced, not the link.
+    std::error_code isNew;
+    const auto target = std::filesystem::canonical(file, isNew);
+    const auto written =
+        platform::writeFileAtomically(isNew ? file : target, textOf(*document, now));
     if (!written) {
         return tl::unexpected(Failure{Problem::FileNotWritten, written.error().message});
     }

@@ -113,6 +113,21 @@ TEST_F(Backup, AddsToWhatIsThere)
     EXPECT_EQ(restored->favourites.size(), 4U);
     EXPECT_EQ(restored->history, 3);
     EXPECT_EQ(restored->unknown, 4) << "googler and three entries that are none";
+    const auto later = restoreBackup(*world.queue, file(), kNow + 3600);
+    ASSERT_TRUE(later);
+    EXPECT_EQ(later->history, 0) << "and does not come on top again";
+}
+
+TEST_F(Backup, FollowsALinkToTheFileThatIsKept)
+{
+    const auto kept = world.folder / "synchronized.json";
+    support::writeContent(kept, "old");
+    std::filesystem::create_symlink(kept, file());
+
+    ASSERT_TRUE(saveBackup(*world.queue, file(), kNow));
+
+    EXPECT_TRUE(std::filesystem::is_symlink(file()));
+    EXPECT_TRUE(restoreBackup(*world.queue, kept, kNow));
 }
 
 TEST_F(Backup, KeepsTheNewestOfAHistoryThatGrowsOverItsBound)
@@ -130,7 +145,8 @@ TEST_F(Backup, KeepsTheNewestOfAHistoryThatGrowsOverItsBound)
 
     ASSERT_TRUE(restored);
     EXPECT_EQ(restored->history, 51) << "all were viewed at once, and do not go at once";
-    EXPECT_EQ(world.count("history"), 51);
+    EXPECT_EQ(column("SELECT count(DISTINCT CAST(timestamp AS INTEGER)) FROM history"), Texts{"51"})
+        << "an update keeps whole seconds only";
 }
 
 TEST_F(Backup, RefusesWhatItDidNotWriteAndChangesNothing)
