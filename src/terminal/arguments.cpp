@@ -224,6 +224,12 @@ platform::Result<void> readWords(Arguments& arguments, const std::vector<std::st
     return checkComplete(arguments);
 }
 
+platform::Result<void> checkCount(const std::vector<std::string>& words, std::size_t most)
+{
+    return words.size() > most ? refusal("one word too many: " + quoted(words[most]))
+                               : platform::Result<void>{};
+}
+
 platform::Result<Command> commandNamed(std::string_view word)
 {
     const auto* const command = lookUp(kCommands, word);
@@ -256,11 +262,11 @@ platform::Result<Arguments> parseArguments(const std::vector<std::string>& words
     Arguments arguments;
     arguments.command = *command;
     if (arguments.command == Command::Version) {
-        return arguments;
+        return checkCount(words, 1).map([&] { return arguments; });
     }
     if (arguments.command == Command::Help) {
-        if (words.size() == 1) {
-            return arguments;
+        if (auto fits = checkCount(words, 2); !fits || words.size() == 1) {
+            return fits.map([&] { return arguments; });
         }
         return commandNamed(words[1]).map([&](Command topic) {
             arguments.topic = topic;

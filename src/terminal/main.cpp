@@ -34,9 +34,15 @@ void writeToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
     }
 }
 
+/// In one line, and without what a terminal would obey.
 int complain(const std::string& message, int status)
 {
-    std::cerr << "lumora-cli: " << platform::wellFormed(message) << '\n';
+    std::string line;
+    for (const char byte : platform::wellFormed(message)) {
+        const auto code = static_cast<unsigned char>(byte);
+        line += code < 0x20 || code == 0x7f ? std::string{"\uFFFD"} : std::string{byte};
+    }
+    std::cerr << "lumora-cli: " << line << '\n';
     return status;
 }
 

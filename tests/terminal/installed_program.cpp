@@ -50,7 +50,9 @@ Run InstalledProgram::run(const std::vector<std::string>& arguments, const std::
 {
     const auto out = folder_ / "out";
     const auto err = folder_ / "err";
-    std::string line = "env -u LANGUAGE -u LANG LC_ALL=C HOME=" + shellQuoted(folder_.path());
+    std::string line = "env -u LANGUAGE -u LANG -u XDG_DATA_HOME -u XDG_CONFIG_HOME -u "
+                       "XDG_STATE_HOME LC_ALL=C HOME=" +
+                       shellQuoted(folder_.path());
     line += " " + environment + " " + shellQuoted(folder_ / "bin" / "lumora-cli");
     for (const auto& argument : arguments) {
         line += " " + shellQuoted(argument);

@@ -162,6 +162,8 @@ TEST_F(TerminalTest, SaysWhatIsWrongInOneLine)
         {{"backup"}, 2, "which file?"},
         {{"restore", "one", "two"}, 2, "one file at a time"},
         {{"backup", "--language", "de", "file"}, 2, "this command has no option \"--language\""},
+        {{"version", "two"}, 2, "one word too many: \"two\""},
+        {{"help", "conjugate", "two"}, 2, "one word too many: \"two\""},
         {{"search", ""}, 2, "which text?"},
         {{"search", "a", "--html"}, 2, "this command has no option \"--html\""},
         {{"conjugate", "être", "--anywhere"}, 2, "this command has no option \"--anywhere\""},
@@ -173,6 +175,7 @@ TEST_F(TerminalTest, SaysWhatIsWrongInOneLine)
          "there are no translations into \"tr\", only into en, fr, de, es, pt, it and nl"},
         {{"search", "qqq"}, 1, "nothing found for \"qqq\""},
         {{"conjugate", "qqqqqq"}, 1, "no verb \"qqqqqq\""},
+        {{"conjugate", "qqq\nq\x1b[31m"}, 1, "no verb \"qqq\uFFFDq\uFFFD[31m\""},
         {{"conjugate", "allre"}, 1, "no verb \"allre\"; did you mean aller?"},
         {{"export", "pechre", "--text"}, 1, "no verb \"pechre\"; did you mean pécher or pêcher?"},
         {{"conjugate", "s'aller"}, 1, "no verb \"s'aller\"; did you mean aller?"},
@@ -367,7 +370,7 @@ TEST_F(TerminalTest, CompletesCommandsOptionsAndVerbsInTheShell)
         const char* completions;
     } cases[] = {
         {"con", "conjugate\n"},      {"export --t", "--text\n"},    {"search --language p", "pt\n"},
-        {"conjugate al", "aller\n"}, {"export evan", "évanouir\n"},
+        {"conjugate al", "aller\n"}, {"export evan", "évanouir\n"}, {"--v", "--version\n"},
     };
     // The program comes first among the shell's arguments.
     const std::string shell =
