@@ -6,6 +6,8 @@
 #include "qt/speech.h"
 
 #include <QAudioSink>
+#include <QByteArray>
+#include <QTimer>
 
 #include <chrono>
 #include <memory>
@@ -23,7 +25,13 @@ public:
     std::chrono::milliseconds afterlife() const;
 
 private:
+    void pour();
+
     std::unique_ptr<QAudioSink> sink_;
+    QIODevice* stream_ = nullptr;
+    /// What the server had no room for yet.
+    QByteArray rest_;
+    QTimer again_;
 };
 
 } // namespace lumora::qt
