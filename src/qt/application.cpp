@@ -3,6 +3,7 @@
 
 #include "qt/application.h"
 
+#include "platform/atomic_file.h"
 #include "qt/color_conversion.h"
 #include "qt/icon_provider.h"
 #include "qt/text_conversion.h"
@@ -16,7 +17,6 @@
 #include <chrono>
 #include <iostream>
 #include <ranges>
-#include <system_error>
 #include <utility>
 
 // Written by the build: the module's types of this library.
@@ -28,16 +28,6 @@ namespace {
 
 constexpr std::chrono::milliseconds kLongestWaitForAFrame{250};
 constexpr platform::Color kAccentPrimary{11 / 255.0, 78 / 255.0, 162 / 255.0, 1};
-
-/// Where the database goes; whether this works shows when it is opened.
-std::filesystem::path madeFolder(const std::filesystem::path& folder)
-{
-    std::error_code error;
-    if (std::filesystem::create_directories(folder, error)) {
-        std::filesystem::permissions(folder, std::filesystem::perms::owner_all, error);
-    }
-    return folder;
-}
 
 } // namespace
 
@@ -66,11 +56,11 @@ Application::Application(ApplicationOptions options)
                 crashReporter_,  analytics_, std::cout,     views_,      presenter_,
                 storyboard_,     speech_,    audioSession_, scripts_,    shareSheet_,
                 reviewPrompter_, mail_,      urlOpener_,    fileChooser_},
-      delegate_{services_,
-                {madeFolder(options_.folders.data), options_.folders.data.string()},
-                kAccentPrimary}
+      delegate_{services_, {options_.folders.data, options_.folders.data.string()}, kAccentPrimary}
 {
     storyboard_.setServices(services_);
+    // Whether it could be made shows when the database is opened.
+    static_cast<void>(platform::makePrivateFolder(options_.folders.data));
     // Screens ask for the kind of device while they are built.
     device_.setWindowWidth(options_.windowSize.width());
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
