@@ -4,6 +4,7 @@
 #include "qt/qt_file_chooser.h"
 
 #include "desktop/stand_in_portal.h"
+#include "support/environment_variable.h"
 #include "support/fake_presenter.h"
 #include "support/temporary_folder.h"
 
@@ -36,8 +37,7 @@ TEST(QtFileChooser, AsksTheDesktopAndInTheWindowWhereThatFails)
         {FileQuestion::Purpose::Save, 2, "SaveFile", false, true},
     };
     const support::TemporaryFolder home;
-    const auto before = qgetenv("HOME");
-    qputenv("HOME", home.path().c_str());
+    const support::EnvironmentVariable homeOfTest{"HOME", home.path()};
     support::FakePresenter presenter;
     for (const auto& c : cases) {
         SCOPED_TRACE(c.response);
@@ -72,7 +72,6 @@ TEST(QtFileChooser, AsksTheDesktopAndInTheWindowWhereThatFails)
         EXPECT_EQ(options["filters"].value<QDBusArgument>().currentSignature(),
                   c.purpose == FileQuestion::Purpose::Open ? "a(sa(us))" : "");
     }
-    qputenv("HOME", before);
 }
 
 } // namespace

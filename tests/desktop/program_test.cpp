@@ -24,7 +24,6 @@ using support::MessageBus;
 using support::StandInPortal;
 
 constexpr int kPatience = 10000;
-const QString kName = QStringLiteral("com.brindle.lumora");
 
 /// The program as it is installed, in a process and a home of its own.
 class Program {
@@ -217,14 +216,15 @@ TEST_F(RunningProgram, ASupportEmailEndsAsThePortalSays)
              .response = c.response}};
 
         // Word of the portal gets around.
-        QTest::qWait(100);
+        QTest::qWait(500);
         dynamic_cast<navigation::HomeViewController&>(*home()->controller()).contactSupport();
 
         ASSERT_TRUE(QTest::qWaitFor([&] { return !portal.requests().empty(); }, kPatience));
         EXPECT_TRUE(portal.requests()[0].options.value("body").toString().startsWith(
             QStringLiteral("\n\n\n--------------------\nApp: app.title\nDevice: ")));
         QStringList alerts;
-        while (QTest::qWaitFor([this] { return application->presenter().asking(); }, 500)) {
+        const auto isAsked = [this] { return application->presenter().asking(); };
+        while (QTest::qWaitFor(isAsked, alerts.size() < c.alerts.size() ? kPatience : 500)) {
             alerts.append(application->presenter().questionTitle());
             application->presenter().answer(0);
         }

@@ -9,6 +9,7 @@
 #include "qt/url_handlers.h"
 
 #include "desktop/stand_in_portal.h"
+#include "support/environment_variable.h"
 
 #include <QDBusUnixFileDescriptor>
 #include <QFile>
@@ -70,14 +71,12 @@ struct Programs {
                                                  (folder / "called").string() + "\nexit " +
                                                  std::to_string(status) + "\n");
         std::filesystem::permissions(folder / name, std::filesystem::perms::owner_all);
-        qputenv("PATH", folder.path().c_str());
     }
-    ~Programs() { qputenv("PATH", before); }
 
     std::string called() const { return support::contentOf(folder / "called"); }
 
-    QByteArray before = qgetenv("PATH");
     support::TemporaryFolder folder;
+    support::EnvironmentVariable path{"PATH", folder.path()};
 };
 
 TEST(DesktopMail, ThePortalTakesTheMessageAndItsAnswerIsTheOutcome)

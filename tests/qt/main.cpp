@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "qt/application.h"
+#include "support/temporary_folder.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
@@ -15,6 +16,11 @@ int main(int argc, char** argv)
     // Whatever this machine has: in silence.
     qputenv("PULSE_SERVER", "unix:/nonexistent/native");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    // Nobody's own folders.
+    const lumora::support::TemporaryFolder home;
+    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
+        qputenv(variable, home.path().c_str());
+    }
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication toolkit{argc, argv};
     lumora::qt::registerInterface();

@@ -11,6 +11,7 @@
 #include "qt/text_conversion.h"
 #include "qt/translations.h"
 #include "qt/verb_detail_screen.h"
+#include "support/environment_variable.h"
 #include "support/fake_file_chooser.h"
 #include "support/fake_presenter.h"
 #include "support/fake_ways_out.h"
@@ -294,9 +295,8 @@ TEST_F(VerbWindowTest, AVerbOfTheHistoryIsRemovedFromItsPreview)
 TEST_F(VerbWindowTest, AVerbIsExportedIntoAFile)
 {
     start({390, 844});
-    const auto oldHome = qgetenv("HOME");
+    const support::EnvironmentVariable home{"HOME", folder.path()};
     std::filesystem::create_directories(folder / "Documents");
-    qputenv("HOME", folder.path().c_str());
     for (const char* name : {"mustache.min.js", "export_html.mustache", "export_txt.mustache"}) {
         std::filesystem::copy_file(std::filesystem::path{LUMORA_SHARE_DIR} / name,
                                    folder / "share" / name);
@@ -310,7 +310,6 @@ TEST_F(VerbWindowTest, AVerbIsExportedIntoAFile)
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return std::filesystem::exists(folder / "Documents" / "aller.txt"); }, kPatience));
     EXPECT_NE(contentOf(folder / "Documents" / "aller.txt").find("je vais"), std::string::npos);
-    qputenv("HOME", oldHome);
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "qt/round_progress_item.h"
 #include "qt/table_screen.h"
 #include "qt/verb_detail_screen.h"
+#include "support/environment_variable.h"
 
 namespace lumora::qt {
 namespace {
@@ -164,7 +165,7 @@ TEST_F(WindowTest, AShortcutOpensItsTab)
 TEST_F(WindowTest, AFileIsAskedForInTheWindowWhereTheDesktopHasNoDialog)
 {
     // Where the question begins, and above the folder of this test.
-    qputenv("HOME", folder.path().c_str());
+    const support::EnvironmentVariable home{"HOME", folder.path()};
     std::filesystem::create_directory(folder / "inner");
     support::writeContent(folder / "inner" / "saved.json", "{}");
     start({360, 740});
