@@ -27,7 +27,7 @@ int TableDataSource::sectionForSectionIndexTitle(std::string_view /*title*/, int
 
 bool TableDataSource::canEditRow(IndexPath /*path*/)
 {
-    return true;
+    return false;
 }
 
 std::vector<SwipeAction> TableDataSource::trailingSwipeActions(IndexPath /*path*/)

@@ -246,6 +246,7 @@ void TableItemModel::load()
     ++generation_;
     indexTitles_ = toQStringList(rawIndexTitles_);
     actions_.clear();
+    actionsPath_.reset();
     selected_.reset();
     replaceRows(std::move(rows), std::move(sections));
     emit reloaded();

@@ -20,6 +20,8 @@ T.Control {
     readonly property int indexWidth: index.visible ? index.width : 0
     // The row that is swiped open, if one is.
     property T.SwipeDelegate openRow: null
+    // The last row was swiped away; its controller does not know yet.
+    property bool emptied: false
 
     function rowSwiped(row) {
         if (openRow !== row)
@@ -126,6 +128,13 @@ T.Control {
 
         Connections {
             target: root.table.model
+            function onReloaded() {
+                root.openRow?.swipe.close();
+                root.emptied = false;
+            }
+            function onRowsRemoved() {
+                root.emptied = list.count === 0;
+            }
             function onAboutToReset() {
                 list.keptPosition = list.contentY - list.originY;
             }
@@ -151,6 +160,7 @@ T.Control {
     EmptyState {
         anchors.centerIn: parent
         maximumWidth: parent.width - 2 * Theme.margin
+        visible: table.emptyStateVisible || root.emptied
         table: root.table
     }
     TapHandler {
