@@ -65,7 +65,14 @@ Rectangle {
             inputMethodHints: Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
             Accessible.role: Accessible.EditableText
             Accessible.name: root.home.searchPlaceholder
-            onTextChanged: root.home.changeSearchText(text)
+            onTextChanged: {
+                // A line break comes with a pasted text, and shows as a space.
+                const oneLine = text.replace(/[\r\n\u2028\u2029]+/g, " ");
+                if (oneLine !== text)
+                    text = oneLine.trim();
+                else
+                    root.home.changeSearchText(text);
+            }
             onActiveFocusChanged: root.home.searchFocusChanged(activeFocus)
             Keys.onDownPressed: root.listWanted()
             Keys.onReturnPressed: root.listWanted()
