@@ -28,14 +28,7 @@ constexpr float kHaste = 1.1F;
 
 std::string spokenText(const data::Conjugation& form)
 {
-    std::string text;
-    for (const char c : form.pronoun) {
-        if (c == '/') {
-            text += " ou ";
-        } else {
-            text += c;
-        }
-    }
+    auto text = platform::replaced(form.pronoun, "/", " ou ");
     if (!text.ends_with('\'')) {
         text += ' ';
     }

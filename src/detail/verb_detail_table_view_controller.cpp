@@ -194,7 +194,9 @@ void VerbDetailTableViewController::countView()
     if (std::find(arguments.begin(), arguments.end(), "ui_test") != arguments.end()) {
         return;
     }
-    const auto count = services_.settings.integerForKey(settings::kNumberOfVerbsViewed) + 1;
+    // A damaged count must not overflow.
+    const auto before = services_.settings.integerForKey(settings::kNumberOfVerbsViewed);
+    const auto count = before < std::numeric_limits<std::int64_t>::max() ? before + 1 : before;
     if (count >= kViewsBeforeReview && !services_.settings.boolForKey(settings::kAskedForReview)) {
         if (services_.device.hasActiveScene()) {
             services_.reviewPrompter.requestReview();

@@ -7,6 +7,7 @@
 #include "detail/tense_table.h"
 #include "platform/bundle.h"
 #include "platform/services.h"
+#include "platform/text.h"
 
 #include <nlohmann/json.hpp>
 
@@ -70,21 +71,13 @@ void forEachBlock(const Action& action)
     }
 }
 
-std::string replaced(std::string text, std::string_view what, std::string_view by)
-{
-    for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size())) {
-        text.replace(at, what.size(), by);
-    }
-    return text;
-}
-
 /// None of these stands outside a JSON string, so all may be escaped blindly.
 /// The line and paragraph separators end a line in a script, though not in JSON.
 std::string escapedForScript(std::string json)
 {
-    json = replaced(std::move(json), "/", "\\/");
-    json = replaced(std::move(json), "\u2028", "\\u2028");
-    return replaced(std::move(json), "\u2029", "\\u2029");
+    json = platform::replaced(std::move(json), "/", "\\/");
+    json = platform::replaced(std::move(json), "\u2028", "\\u2028");
+    return platform::replaced(std::move(json), "\u2029", "\\u2029");
 }
 
 } // namespace

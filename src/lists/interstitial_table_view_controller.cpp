@@ -8,8 +8,6 @@
 #include "platform/presenter.h"
 #include "platform/split_view_controller.h"
 
-#include <cstdlib>
-
 namespace lumora::lists {
 
 void InterstitialTableViewController::viewDidLoad()

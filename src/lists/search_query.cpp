@@ -5,6 +5,7 @@
 
 #include "lists/sort_column.h"
 #include "platform/settings_store.h"
+#include "platform/text.h"
 #include "settings/search_from.h"
 #include "settings/setting_keys.h"
 #include "settings/translation_language.h"
@@ -38,27 +39,13 @@ std::pair<std::string_view, std::string_view> columnsFor(settings::TranslationCo
     return {"english", "english"};
 }
 
-std::string withPlainApostrophes(std::string_view text)
-{
-    constexpr std::string_view kTypographic = "\u2019";
-    std::string plain;
-    for (auto at = text.find(kTypographic); at != std::string_view::npos;
-         at = text.find(kTypographic)) {
-        plain += text.substr(0, at);
-        plain += '\'';
-        text.remove_prefix(at + kTypographic.size());
-    }
-    plain += text;
-    return plain;
-}
-
 } // namespace
 
 SearchQuery makeSearchQuery(std::string_view text, const platform::SettingsStore& settings,
                             const platform::Device& device)
 {
     SearchQuery query;
-    query.text = withPlainApostrophes(text);
+    query.text = platform::replaced(std::string{text}, "\u2019", "'");
 
     const auto [translation, simplified] = columnsFor(
         settings::columnForLanguage(settings::effectiveTranslationLanguage(settings, device)));

@@ -15,7 +15,6 @@ struct Color {
     bool operator==(const Color&) const = default;
 };
 
-inline constexpr Color kClearColor{0, 0, 0, 0};
 inline constexpr Color kWhiteColor{1, 1, 1, 1};
 inline constexpr Color kRedColor{1, 0, 0, 1};
 inline constexpr Color kLightGrayColor{2.0 / 3, 2.0 / 3, 2.0 / 3, 1};

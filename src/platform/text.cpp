@@ -104,6 +104,14 @@ std::string wellFormed(std::string_view text)
     return isPlainLatin(text) ? std::string(text) : encoded(decoded(text));
 }
 
+std::string replaced(std::string text, std::string_view what, std::string_view by)
+{
+    for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size())) {
+        text.replace(at, what.size(), by);
+    }
+    return text;
+}
+
 std::string formatted(std::string_view format, const std::vector<FormatArgument>& arguments)
 {
     std::string line;

@@ -27,6 +27,9 @@ std::size_t characterCount(std::string_view text);
 /// Well-formed UTF-8 with each malformed sequence replaced.
 std::string wellFormed(std::string_view text);
 
+/// `text` with every `what`, which is not empty, replaced.
+std::string replaced(std::string text, std::string_view what, std::string_view by);
+
 using FormatArgument = std::variant<std::string, int>;
 
 /// Each "%@" takes a text, each "%d" a number, in order; a placeholder without
