@@ -10,10 +10,23 @@
 #include "qt/verb_detail_screen.h"
 #include "support/environment_variable.h"
 
+#include <QClipboard>
+
 namespace lumora::qt {
 namespace {
 
 struct WindowTest : WindowFixture {
+    void swipeOpen(const QQuickItem& row)
+    {
+        const auto at = [&](double part) {
+            return row.mapToScene({row.width() * part, row.height() / 2}).toPoint();
+        };
+        QTest::mousePress(application->window(), Qt::LeftButton, {}, at(0.8));
+        for (double part = 0.75; part > 0.3; part -= 0.05) {
+            QTest::mouseMove(application->window(), at(part));
+        }
+        QTest::mouseRelease(application->window(), Qt::LeftButton, {}, at(0.3));
+    }
     /// Taps the first play control on screen: its ring runs, and empties again.
     void hearAForm()
     {
@@ -115,14 +128,7 @@ TEST_F(WindowTest, ASwipedRowMakesAFavouriteThatTheOtherTabShows)
     start({390, 844});
     ASSERT_TRUE(QTest::qWaitFor([&] { return find("avoir") != nullptr; }, kPatience));
     auto* row = find("avoir");
-    const auto at = [&](double part) {
-        return row->mapToScene({row->width() * part, row->height() / 2}).toPoint();
-    };
-    QTest::mousePress(application->window(), Qt::LeftButton, {}, at(0.8));
-    for (double part = 0.75; part > 0.3; part -= 0.05) {
-        QTest::mouseMove(application->window(), at(part));
-    }
-    QTest::mouseRelease(application->window(), Qt::LeftButton, {}, at(0.3));
+    swipeOpen(*row);
     ASSERT_TRUE(settled("swipeAction0"));
     EXPECT_LT(row->property("contentItem").value<QQuickItem*>()->x(), -80) << "the row gives way";
     tap("swipeAction0");
@@ -131,6 +137,22 @@ TEST_F(WindowTest, ASwipedRowMakesAFavouriteThatTheOtherTabShows)
     tap("tab1");
     ASSERT_TRUE(QTest::qWaitFor([&] { return find("avoir") != nullptr; }, kPatience));
     EXPECT_EQ(find("aller"), nullptr);
+    EXPECT_EQ(find("emptyState"), nullptr);
+
+    swipeOpen(*find("avoir"));
+    ASSERT_TRUE(settled("swipeAction0"));
+    tap("swipeAction0");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return find("emptyState") != nullptr; }, kPatience));
+}
+
+TEST_F(WindowTest, APastedTextIsOneLine)
+{
+    start({390, 844});
+    tap("Search");
+    QGuiApplication::clipboard()->setText(QStringLiteral("être\r\n"));
+    QTest::keyClick(application->window(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return find("être") != nullptr && find("aller") == nullptr; },
+                                kPatience));
 }
 
 TEST_F(WindowTest, TypingFindsAVerbAndOpensIt)

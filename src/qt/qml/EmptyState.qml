@@ -11,6 +11,7 @@ Text {
     required property QtTableView table
     property real maximumWidth: 300
 
+    objectName: "emptyState"
     visible: table.emptyStateVisible
     width: Math.min(table.emptyWidth, maximumWidth)
     text: table.emptyText

@@ -133,7 +133,7 @@ T.Control {
                 root.emptied = false;
             }
             function onRowsRemoved() {
-                root.emptied = list.count === 0;
+                root.emptied = root.table.model.rowCount() === 0;
             }
             function onAboutToReset() {
                 list.keptPosition = list.contentY - list.originY;
