@@ -371,15 +371,15 @@ Verben im Verlauf: %d</translation>
     </message>
     <message id="share.save">
         <source></source>
-        <translation>Sichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message id="share.save.as">
         <source></source>
-        <translation>Sichern als</translation>
+        <translation>Speichern unter</translation>
     </message>
     <message id="share.save.failed">
         <source></source>
-        <translation>„%1“ konnte nicht gesichert werden.</translation>
+        <translation>„%1“ konnte nicht gespeichert werden.</translation>
     </message>
     <message id="share.save.folder.empty">
         <source></source>
@@ -387,7 +387,7 @@ Verben im Verlauf: %d</translation>
     </message>
     <message id="share.save.html">
         <source></source>
-        <translation>Als Webseite sichern</translation>
+        <translation>Als Webseite speichern</translation>
     </message>
     <message id="share.save.name">
         <source></source>
@@ -395,11 +395,11 @@ Verben im Verlauf: %d</translation>
     </message>
     <message id="share.save.pdf">
         <source></source>
-        <translation>Als PDF sichern</translation>
+        <translation>Als PDF speichern</translation>
     </message>
     <message id="share.save.text">
         <source></source>
-        <translation>Als Text sichern</translation>
+        <translation>Als Text speichern</translation>
     </message>
     <message id="share.save.up">
         <source></source>

@@ -37,7 +37,7 @@
     </message>
     <message id="backup.problem.foreign">
         <source></source>
-        <translation>Lumora did not save this file, or it is damaged.</translation>
+        <translation>This file was not saved by Lumora, or it is damaged.</translation>
     </message>
     <message id="backup.problem.newer">
         <source></source>

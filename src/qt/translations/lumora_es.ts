@@ -37,7 +37,7 @@
     </message>
     <message id="backup.problem.foreign">
         <source></source>
-        <translation>Lumora no ha guardado este archivo o está dañado.</translation>
+        <translation>Este archivo no procede de Lumora o está dañado.</translation>
     </message>
     <message id="backup.problem.newer">
         <source></source>
@@ -267,7 +267,7 @@ Verbos en el historial: %d</translation>
     </message>
     <message id="settings.includeenglish">
         <source></source>
-        <translation>Buscar en traducciones (%@)</translation>
+        <translation>Buscar en traducciones: %@</translation>
     </message>
     <message id="settings.search">
         <source></source>

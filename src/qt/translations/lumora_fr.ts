@@ -58,7 +58,7 @@
     <message id="backup.restore.counts">
         <source></source>
         <translation>Nouveaux favoris : %d
-Nouveautés dans l’historique : %d</translation>
+Nouveaux verbes dans l’historique : %d</translation>
     </message>
     <message id="backup.restore.done">
         <source></source>
@@ -139,7 +139,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="file.exists">
         <source></source>
-        <translation>« %1 » existe déjà. Le remplacer ?</translation>
+        <translation>« %1 » existe déjà. Le remplacer ?</translation>
     </message>
     <message id="file.none">
         <source></source>
@@ -267,7 +267,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="settings.includeenglish">
         <source></source>
-        <translation>Chercher dans les traductions (%@)</translation>
+        <translation>Chercher dans les traductions : %@</translation>
     </message>
     <message id="settings.search">
         <source></source>
@@ -343,7 +343,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="share.mail.failed">
         <source></source>
-        <translation>« %1 » n’a pas pu être envoyé.</translation>
+        <translation>« %1 » n’a pas pu être envoyé.</translation>
     </message>
     <message id="share.mail.unavailable">
         <source></source>
@@ -355,7 +355,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="share.print.failed">
         <source></source>
-        <translation>« %1 » n’a pas pu être imprimé.</translation>
+        <translation>« %1 » n’a pas pu être imprimé.</translation>
     </message>
     <message id="share.print.looking">
         <source></source>
@@ -379,7 +379,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="share.save.failed">
         <source></source>
-        <translation>« %1 » n’a pas pu être enregistré.</translation>
+        <translation>« %1 » n’a pas pu être enregistré.</translation>
     </message>
     <message id="share.save.folder.empty">
         <source></source>
@@ -387,7 +387,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="share.save.html">
         <source></source>
-        <translation>Enregistrer en page web</translation>
+        <translation>Enregistrer comme page web</translation>
     </message>
     <message id="share.save.name">
         <source></source>
@@ -399,7 +399,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="share.save.text">
         <source></source>
-        <translation>Enregistrer en texte</translation>
+        <translation>Enregistrer au format texte</translation>
     </message>
     <message id="share.save.up">
         <source></source>

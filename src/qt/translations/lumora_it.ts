@@ -267,7 +267,7 @@ Verbi nella cronologia: %d</translation>
     </message>
     <message id="settings.includeenglish">
         <source></source>
-        <translation>Cerca nelle traduzioni (%@)</translation>
+        <translation>Cerca nelle traduzioni: %@</translation>
     </message>
     <message id="settings.search">
         <source></source>

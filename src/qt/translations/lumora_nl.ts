@@ -371,15 +371,15 @@ Werkwoorden in de geschiedenis: %d</translation>
     </message>
     <message id="share.save">
         <source></source>
-        <translation>Bewaren</translation>
+        <translation>Opslaan</translation>
     </message>
     <message id="share.save.as">
         <source></source>
-        <translation>Bewaren als</translation>
+        <translation>Opslaan als</translation>
     </message>
     <message id="share.save.failed">
         <source></source>
-        <translation>‘%1’ kon niet worden bewaard.</translation>
+        <translation>‘%1’ kon niet worden opgeslagen.</translation>
     </message>
     <message id="share.save.folder.empty">
         <source></source>
@@ -387,7 +387,7 @@ Werkwoorden in de geschiedenis: %d</translation>
     </message>
     <message id="share.save.html">
         <source></source>
-        <translation>Bewaren als webpagina</translation>
+        <translation>Opslaan als webpagina</translation>
     </message>
     <message id="share.save.name">
         <source></source>
@@ -395,11 +395,11 @@ Werkwoorden in de geschiedenis: %d</translation>
     </message>
     <message id="share.save.pdf">
         <source></source>
-        <translation>Bewaren als pdf</translation>
+        <translation>Opslaan als pdf</translation>
     </message>
     <message id="share.save.text">
         <source></source>
-        <translation>Bewaren als tekst</translation>
+        <translation>Opslaan als tekst</translation>
     </message>
     <message id="share.save.up">
         <source></source>
@@ -463,7 +463,7 @@ Werkwoorden in de geschiedenis: %d</translation>
     </message>
     <message id="tense.ind.future">
         <source></source>
-        <translation>Toekomende tijd</translation>
+        <translation>Onvoltooid toekomende tijd</translation>
     </message>
     <message id="tense.ind.future_french">
         <source></source>
@@ -503,7 +503,7 @@ Werkwoorden in de geschiedenis: %d</translation>
     </message>
     <message id="tense.ind.present">
         <source></source>
-        <translation>Tegenwoordige tijd</translation>
+        <translation>Onvoltooid tegenwoordige tijd</translation>
     </message>
     <message id="tense.ind.present_french">
         <source></source>
@@ -531,7 +531,7 @@ Werkwoorden in de geschiedenis: %d</translation>
     </message>
     <message id="tense.other.imperative">
         <source></source>
-        <translation>Gebiedende wijs</translation>
+        <translation>Imperatief</translation>
     </message>
     <message id="tense.other.imperative_french">
         <source></source>
@@ -559,7 +559,7 @@ Werkwoorden in de geschiedenis: %d</translation>
     </message>
     <message id="tense.sub.past">
         <source></source>
-        <translation>Conjunctief voltooide tijd</translation>
+        <translation>Conjunctief voltooid tegenwoordige tijd</translation>
     </message>
     <message id="tense.sub.past_french">
         <source></source>

@@ -267,7 +267,7 @@ Verbos no histórico: %d</translation>
     </message>
     <message id="settings.includeenglish">
         <source></source>
-        <translation>Pesquisar traduções (%@)</translation>
+        <translation>Pesquisar traduções: %@</translation>
     </message>
     <message id="settings.search">
         <source></source>
