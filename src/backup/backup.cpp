@@ -4,7 +4,7 @@
 #include "backup/backup.h"
 
 #include "backup/backup_document.h"
-#include "detail/history_record.h"
+#include "data/history_record.h"
 #include "platform/atomic_file.h"
 #include "platform/clock.h"
 #include "platform/database_queue.h"
@@ -129,7 +129,7 @@ public:
             .and_then([this](const VerbIndex& verbs) {
                 return addFavourites(verbs).and_then([&] { return addViews(verbs); });
             })
-            .and_then([this] { return detail::trimHistory(database_); })
+            .and_then([this] { return data::trimHistory(database_); })
             .and_then([this] { return countViews(); })
             .map([this] { return counts_; });
     }

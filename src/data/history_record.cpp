@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "detail/history_record.h"
+#include "data/history_record.h"
 
 #include "platform/database.h"
 
-namespace lumora::detail {
+namespace lumora::data {
 
 namespace {
 
@@ -48,4 +48,4 @@ platform::Result<void> recordInHistory(platform::Database& database, std::int64_
         .and_then([&] { return trimHistory(database); });
 }
 
-} // namespace lumora::detail
+} // namespace lumora::data

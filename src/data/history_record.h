@@ -11,7 +11,7 @@ namespace lumora::platform {
 class Database;
 }
 
-namespace lumora::detail {
+namespace lumora::data {
 
 /// Puts the verb on top of the history and cuts the history to its 51 newest
 /// rows. `timestamp`: seconds since 2001-01-01 00:00:00 UTC. Ends at the first
@@ -22,4 +22,4 @@ platform::Result<void> recordInHistory(platform::Database& database, std::int64_
 /// The cutting alone.
 platform::Result<void> trimHistory(platform::Database& database);
 
-} // namespace lumora::detail
+} // namespace lumora::data

@@ -1,15 +1,13 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "detail/tense_table.h"
+#include "data/tense_table.h"
 
 #include "platform/bundle.h"
 #include "platform/settings_store.h"
 #include "settings/setting_keys.h"
 
-namespace lumora::detail {
-
-using data::Verb;
+namespace lumora::data {
 
 const std::array<TenseField, 18> kTenses{{
     {"conditionnelPasse1reForme", &Verb::conditionnelPasse1reForme},
@@ -100,4 +98,4 @@ std::string tenseTitle(std::string_view titleKey, const platform::Bundle& bundle
     return platform::localizedString(bundle, titleKey);
 }
 
-} // namespace lumora::detail
+} // namespace lumora::data

@@ -16,7 +16,7 @@ class Bundle;
 class SettingsStore;
 } // namespace lumora::platform
 
-namespace lumora::detail {
+namespace lumora::data {
 
 /// The segments of the mood control, in its order.
 enum class Mood { Indicative, Subjunctive, Conditional, Other };
@@ -25,7 +25,7 @@ inline constexpr int kMoodCount = 4;
 /// A tense as the database names it, and the verb's list of its forms.
 struct TenseField {
     std::string_view identifier;
-    data::ConjugationList data::Verb::*forms;
+    ConjugationList Verb::*forms;
 };
 
 /// A tense as the grid shows it: under a mood, with a title.
@@ -53,4 +53,4 @@ std::string_view analyticsNameOfSegment(int segment);
 std::string tenseTitle(std::string_view titleKey, const platform::Bundle& bundle,
                        const platform::SettingsStore& settings);
 
-} // namespace lumora::detail
+} // namespace lumora::data

@@ -4,9 +4,9 @@
 #include "detail/verb_detail_table_view_controller.h"
 
 #include "data/favourite_statements.h"
+#include "data/history_record.h"
 #include "data/verb_reader.h"
 #include "detail/audio_utils.h"
-#include "detail/history_record.h"
 #include "export/verb_export.h"
 #include "platform/analytics.h"
 #include "platform/audio_session.h"
@@ -26,6 +26,7 @@
 #include <algorithm>
 #include <any>
 #include <cstdint>
+#include <limits>
 #include <ostream>
 #include <utility>
 #include <vector>
@@ -39,8 +40,8 @@ constexpr std::string_view kConjugationsOfVerb =
     "display=1 ORDER BY conj_order";
 
 // The "other" table keeps a third, empty section.
-constexpr std::array<int, kMoodCount> kTableSections{9, 5, 4, 4};
-constexpr std::array<int, kMoodCount> kCollectionItems{8, 4, 3, 2};
+constexpr std::array<int, data::kMoodCount> kTableSections{9, 5, 4, 4};
+constexpr std::array<int, data::kMoodCount> kCollectionItems{8, 4, 3, 2};
 
 /// The view from which on a review may be asked for.
 constexpr std::int64_t kViewsBeforeReview = 21;
@@ -51,13 +52,14 @@ constexpr double kAudioWidth = 30;
 template <typename Counts>
 int countForSegment(const Counts& counts, int segment)
 {
-    return segment >= 0 && segment < kMoodCount ? counts[static_cast<std::size_t>(segment)] : 0;
+    return segment >= 0 && segment < data::kMoodCount ? counts[static_cast<std::size_t>(segment)]
+                                                      : 0;
 }
 
 /// The mood whose rings belong to `segment`.
 std::size_t moodOf(int segment)
 {
-    return static_cast<std::size_t>(std::clamp(segment, 0, kMoodCount - 1));
+    return static_cast<std::size_t>(std::clamp(segment, 0, data::kMoodCount - 1));
 }
 
 std::shared_ptr<CERoundProgressView> makePlayIndicator()
@@ -118,7 +120,7 @@ void VerbDetailTableViewController::viewDidLoad()
     updateFavouriteIcon();
 
     verbTypeSegmentedControl.titles.clear();
-    for (const auto key : kMoodTitleKeys) {
+    for (const auto key : data::kMoodTitleKeys) {
         verbTypeSegmentedControl.titles.push_back(localizedString(services_.bundle, key));
     }
     selectVerbLabel.text = localizedString(services_.bundle, "select");
@@ -219,7 +221,7 @@ bool VerbDetailTableViewController::loadConjugations(platform::Database& databas
         forms.push_back(reader.readConjugation(*rows));
     }
     const bool failed = rows->failed();
-    for (const auto& tense : kTenses) {
+    for (const auto& tense : data::kTenses) {
         auto& list = (*selectedVerb).*tense.forms;
         list.clear();
         std::copy_if(forms.begin(), forms.end(), std::back_inserter(list),
@@ -237,7 +239,7 @@ void VerbDetailTableViewController::recordHistory(platform::Database& database)
         return;
     }
     const double now = services_.clock.secondsSince1970() - platform::kReferenceDate;
-    if (!recordInHistory(database, selectedVerb->id, now)) {
+    if (!data::recordInHistory(database, selectedVerb->id, now)) {
         logReadingError(database);
     }
 }
@@ -325,20 +327,20 @@ void VerbDetailTableViewController::selectVerbTypes(int segment)
     verbTypeSegmentedControl.selected = segment;
     refreshConjugations();
     services_.analytics.logEvent("conjugation_tab",
-                                 {{"name", std::string{analyticsNameOfSegment(segment)}}});
+                                 {{"name", std::string{data::analyticsNameOfSegment(segment)}}});
     outletsChanged();
 }
 
 VerbDetailTableViewController::Block VerbDetailTableViewController::blockAt(int segment,
                                                                             int position) const
 {
-    const auto blocks = blocksOfSegment(segment);
+    const auto blocks = data::blocksOfSegment(segment);
     if (!selectedVerb || position < 0 || static_cast<std::size_t>(position) >= blocks.size()) {
         return {};
     }
     const auto& block = blocks[static_cast<std::size_t>(position)];
     return {&((*selectedVerb).*block.tense.forms),
-            tenseTitle(block.titleKey, services_.bundle, services_.settings)};
+            data::tenseTitle(block.titleKey, services_.bundle, services_.settings)};
 }
 
 void VerbDetailTableViewController::updateEmptyState(double toolbarHeight)

@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include "data/tense_table.h"
 #include "data/verb.h"
-#include "detail/tense_table.h"
 #include "detail/verb_collection_view_cell.h"
 #include "platform/collection_view.h"
 #include "platform/notification_center.h"
@@ -152,8 +152,8 @@ private:
 
     platform::Services services_;
     // By mood, so that a ring stays with its form when the mood changes.
-    std::array<std::vector<VerbCollectionViewCell>, kMoodCount> cells_;
-    std::array<std::vector<std::vector<std::shared_ptr<CERoundProgressView>>>, kMoodCount>
+    std::array<std::vector<VerbCollectionViewCell>, data::kMoodCount> cells_;
+    std::array<std::vector<std::vector<std::shared_ptr<CERoundProgressView>>>, data::kMoodCount>
         rowIndicators_;
     std::function<void()> outletListener_;
     bool buttonsEnabled_ = false;

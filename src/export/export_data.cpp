@@ -3,8 +3,8 @@
 
 #include "export/export_data.h"
 
+#include "data/tense_table.h"
 #include "data/verb.h"
-#include "detail/tense_table.h"
 #include "platform/bundle.h"
 #include "platform/services.h"
 #include "platform/text.h"
@@ -64,8 +64,8 @@ Json listOf(const data::ConjugationList& forms)
 template <typename Action>
 void forEachBlock(const Action& action)
 {
-    for (int segment = 0; segment < detail::kMoodCount; ++segment) {
-        for (const auto& block : detail::blocksOfSegment(segment)) {
+    for (int segment = 0; segment < data::kMoodCount; ++segment) {
+        for (const auto& block : data::blocksOfSegment(segment)) {
             action(block);
         }
     }
@@ -92,11 +92,11 @@ std::optional<std::string> exportData(const data::Verb& verb, const platform::Se
     for (const auto& [name, key] : kMoodTitles) {
         data[name] = platform::localizedString(services.bundle, key);
     }
-    forEachBlock([&](const detail::TenseBlock& block) {
+    forEachBlock([&](const data::TenseBlock& block) {
         data[titleName(block.titleKey)] =
-            detail::tenseTitle(block.titleKey, services.bundle, services.settings);
+            data::tenseTitle(block.titleKey, services.bundle, services.settings);
     });
-    forEachBlock([&](const detail::TenseBlock& block) {
+    forEachBlock([&](const data::TenseBlock& block) {
         data[listName(block.tense.identifier)] = listOf(verb.*block.tense.forms);
     });
     try {

@@ -3,7 +3,7 @@
 
 #include "detail/verb_detail_table_view_controller.h"
 
-#include "detail/tense_table.h"
+#include "data/tense_table.h"
 #include "support/world.h"
 
 #include <gtest/gtest.h>
@@ -134,7 +134,7 @@ TEST_F(VerbDetail, TakesTitlesFromTheChosenNameSetAtEveryLookup)
     for (int segment = 0; segment < 4; ++segment) {
         detail->selectVerbTypes(segment);
         for (int item = 0; item < detail->numberOfItems(); ++item) {
-            const auto block = detail::blocksOfSegment(segment);
+            const auto block = data::blocksOfSegment(segment);
             const auto expected =
                 item < static_cast<int>(block.size())
                     ? std::string{block[static_cast<std::size_t>(item)].titleKey} + "_french"

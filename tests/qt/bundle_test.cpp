@@ -3,7 +3,7 @@
 
 #include "qt/qt_bundle.h"
 
-#include "detail/tense_table.h"
+#include "data/tense_table.h"
 #include "qt/text_conversion.h"
 #include "qt/translations.h"
 #include "support/temporary_folder.h"
@@ -81,8 +81,8 @@ TEST(Translations, EveryLanguageHasEveryKeyWithTheSamePlaceholders)
     }
     EXPECT_TRUE(
         std::regex_match(english.at("support.email"), std::regex{"[\\w.]+@[\\w.]+\\.\\w+"}));
-    for (int segment = 0; segment < detail::kMoodCount; ++segment) {
-        for (const auto& block : detail::blocksOfSegment(segment)) {
+    for (int segment = 0; segment < data::kMoodCount; ++segment) {
+        for (const auto& block : data::blocksOfSegment(segment)) {
             const std::string key{block.titleKey};
             EXPECT_TRUE(english.contains(key)) << key;
             EXPECT_TRUE(english.contains(key + "_french")) << key;
