@@ -159,7 +159,7 @@ Result<void> Database::open()
     sqlite3_busy_timeout(connection_, kBusyMilliseconds);
     // A sort of all rows would else end in a temporary file, and the pages of a
     // long table would push each other out at every search.
-    sqlite3_exec(connection_, "PRAGMA temp_store = MEMORY; PRAGMA cache_size = -16000", nullptr,
+    sqlite3_exec(connection_, "PRAGMA temp_store = MEMORY; PRAGMA cache_size = -4000", nullptr,
                  nullptr, nullptr);
     registerQuickLike(connection_);
     return {};
