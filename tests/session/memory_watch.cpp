@@ -40,6 +40,11 @@ void MemoryWatch::look(QQuickWindow& window, std::uint64_t action)
     megabytes_.push_back(megabytesInUse());
 }
 
+bool MemoryWatch::isCounted() const
+{
+    return megabytes_.size() >= kFewest && megabytes_.front() > 0;
+}
+
 double MemoryWatch::megabytesInQuarter(std::size_t quarter) const
 {
     const auto length = megabytes_.size() / 4;
@@ -51,7 +56,7 @@ double MemoryWatch::megabytesInQuarter(std::size_t quarter) const
 
 bool MemoryWatch::grows() const
 {
-    if (megabytes_.size() < kFewest) {
+    if (!isCounted()) {
         return false;
     }
     for (std::size_t quarter = 1; quarter < 4; ++quarter) {
@@ -65,7 +70,7 @@ bool MemoryWatch::grows() const
 std::string MemoryWatch::summary() const
 {
     std::ostringstream text;
-    if (megabytes_.size() < kFewest || megabytes_.front() == 0) {
+    if (!isCounted()) {
         text << "Memory was not compared.";
     } else {
         text << "Memory in use at home, by quarters of the session after action " << kWarmActions

@@ -28,6 +28,7 @@ public:
     std::string summary() const;
 
 private:
+    bool isCounted() const;
     double megabytesInQuarter(std::size_t quarter) const;
 
     std::vector<double> megabytes_;
