@@ -25,7 +25,9 @@ FocusScope {
         interactive: contentHeight > height
 
         ScrollBar.vertical: ScrollBar {
-            policy: flickable.interactive ? ScrollBar.AlwaysOn : ScrollBar.AsNeeded
+            // It would fade out on a sheet that has just got its height.
+            visible: flickable.interactive
+            policy: ScrollBar.AlwaysOn
             Accessible.ignored: true
         }
 
