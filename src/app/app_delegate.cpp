@@ -197,9 +197,8 @@ void AppDelegate::openLink(std::string_view link)
             return platform::localizedString(services_.bundle, key);
         };
         services_.presenter.presentAlert(
-            home, {{},
-                   text(target ? "link.unknown" : "link.malformed"),
-                   {{text("common.ok"), platform::ActionStyle::Cancel, {}}}});
+            home, platform::notice({}, text(target ? "link.unknown" : "link.malformed"),
+                                   text("common.ok")));
         return;
     }
     // However many links are followed, the way back is the list.

@@ -131,9 +131,7 @@ void BackupMenu::announce(const RestoredCounts& restored)
 void BackupMenu::tell(std::string_view titleKey, std::string message)
 {
     services_.presenter.presentAlert(
-        screen_, {text(titleKey),
-                  std::move(message),
-                  {{text("common.ok"), platform::ActionStyle::Cancel, nullptr}}});
+        screen_, platform::notice(text(titleKey), std::move(message), text("common.ok")));
 }
 
 void BackupMenu::tellFailure(std::string_view titleKey, const Failure& failure)

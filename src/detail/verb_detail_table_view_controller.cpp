@@ -548,11 +548,10 @@ void VerbDetailTableViewController::warnOfLowVolume()
                                         services_.settings)) {
         return;
     }
-    services_.presenter.presentAlert(*this,
-                                     {std::nullopt,
-                                      localizedString(services_.bundle, "volume.low.warning"),
-                                      {{localizedString(services_.bundle, "common.ok"),
-                                        platform::ActionStyle::Cancel, nullptr}}});
+    services_.presenter.presentAlert(
+        *this,
+        platform::notice(std::nullopt, localizedString(services_.bundle, "volume.low.warning"),
+                         localizedString(services_.bundle, "common.ok")));
     services_.settings.setValue(now, settings::kTimeAudioWarning);
     if (const auto written = services_.settings.synchronize(); !written) {
         services_.console << "Unable to write the settings: " << written.error().message

@@ -98,11 +98,10 @@ platform::ViewController& SupportEmailSender::presentingScreen() const
 
 void SupportEmailSender::showAlert(std::string_view titleKey, std::string_view messageKey) const
 {
-    services_.presenter.presentAlert(presentingScreen(),
-                                     {localizedString(services_.bundle, titleKey),
-                                      localizedString(services_.bundle, messageKey),
-                                      {{localizedString(services_.bundle, "common.ok"),
-                                        platform::ActionStyle::Cancel, nullptr}}});
+    services_.presenter.presentAlert(
+        presentingScreen(), platform::notice(localizedString(services_.bundle, titleKey),
+                                             localizedString(services_.bundle, messageKey),
+                                             localizedString(services_.bundle, "common.ok")));
 }
 
 void SupportEmailSender::showError() const

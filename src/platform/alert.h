@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lumora::platform {
@@ -25,6 +26,13 @@ struct Alert {
     std::string message;
     std::vector<AlertAction> actions;
 };
+
+/// A message that one button of that title answers.
+inline Alert notice(std::optional<std::string> title, std::string message, std::string button)
+{
+    return {
+        std::move(title), std::move(message), {{std::move(button), ActionStyle::Cancel, nullptr}}};
+}
 
 /// A choice that rises from what was tapped.
 struct ActionSheet {

@@ -255,9 +255,7 @@ void QtShareSheet::sayPrintFailed(const QString& title)
 void QtShareSheet::sayThat(const QString& sentence)
 {
     presenter_.presentAlert(
-        screen_, {std::nullopt,
-                  toUtf8(sentence),
-                  {{toUtf8(qtTrId("common.ok")), platform::ActionStyle::Cancel, nullptr}}});
+        screen_, platform::notice(std::nullopt, toUtf8(sentence), toUtf8(qtTrId("common.ok"))));
 }
 
 } // namespace lumora::qt

@@ -80,7 +80,7 @@ Rectangle {
         focusPolicy: Qt.NoFocus
         visible: root.isForm
         source: root.indicatorSource
-        spoken: root.text + " " + root.detailText
+        spoken: (root.text + " " + root.detailText).trim()
         onClicked: root.table.model.tapAccessory(root.index)
     }
     Rectangle {

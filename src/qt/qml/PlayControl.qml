@@ -19,7 +19,7 @@ T.AbstractButton {
     objectName: "play"
     focusPolicy: Qt.TabFocus
     opacity: down ? 0.6 : 1
-    Accessible.name: qsTrId("action.play") + " " + spoken.trim()
+    Accessible.name: qsTrId("action.play") + " " + spoken
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
