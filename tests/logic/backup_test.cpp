@@ -14,6 +14,7 @@
 namespace lumora::backup {
 namespace {
 
+using support::rowsOf;
 using support::World;
 
 /// Seconds since 1970; the history counts from 2001.
@@ -30,26 +31,15 @@ protected:
         return restoreBackup(*world.queue, file(), kNow);
     }
 
-    std::vector<std::string> column(const std::string& sql) const
-    {
-        std::vector<std::string> values;
-        world.queue->inDatabase([&](platform::Database& database) {
-            auto rows = database.executeQuery(sql, {});
-            while (rows && rows->next()) {
-                values.push_back(rows->stringForColumn(0));
-            }
-        });
-        return values;
-    }
     std::vector<std::string> favourites() const
     {
-        return column("SELECT french FROM favourite, verb WHERE verbid = verb._id "
-                      "ORDER BY favourite._id");
+        return rowsOf(*world.queue, "SELECT french FROM favourite, verb WHERE verbid = verb._id "
+                                    "ORDER BY favourite._id");
     }
     std::vector<std::string> history() const
     {
-        return column("SELECT french || ' ' || timestamp FROM history, verb "
-                      "WHERE verbid = verb._id ORDER BY timestamp DESC");
+        return rowsOf(*world.queue, "SELECT french || ' ' || timestamp FROM history, verb "
+                                    "WHERE verbid = verb._id ORDER BY timestamp DESC");
     }
 
     World world;
@@ -102,11 +92,13 @@ TEST_F(Backup, AddsToWhatIsThere)
 
     ASSERT_TRUE(restored);
     EXPECT_EQ(favourites(), (Texts{"avoir", "ressortir", "ressortir", "aller", "être"}));
-    EXPECT_EQ(column("SELECT verbid FROM favourite"), (Texts{"1", "10", "9", "3", "2"}));
-    EXPECT_EQ(column("SELECT verbid FROM history ORDER BY timestamp"),
+    EXPECT_EQ(rowsOf(*world.queue, "SELECT verbid FROM favourite"),
+              (Texts{"1", "10", "9", "3", "2"}));
+    EXPECT_EQ(rowsOf(*world.queue, "SELECT verbid FROM history ORDER BY timestamp"),
               (Texts{"1", "2", "3", "5", "4"}));
-    EXPECT_EQ(column("SELECT timestamp FROM history WHERE verbid < 4 ORDER BY verbid"),
-              (Texts{"150.0", "200.0", "300.0"}))
+    EXPECT_EQ(
+        rowsOf(*world.queue, "SELECT timestamp FROM history WHERE verbid < 4 ORDER BY verbid"),
+        (Texts{"150.0", "200.0", "300.0"}))
         << "a view counts when it is the newest of its verb";
     EXPECT_EQ(world.count("history WHERE timestamp > " + std::to_string(kHistoryNow)), 0)
         << "nothing stays on top because a clock was ahead";
@@ -145,7 +137,9 @@ TEST_F(Backup, KeepsTheNewestOfAHistoryThatGrowsOverItsBound)
 
     ASSERT_TRUE(restored);
     EXPECT_EQ(restored->history, 51) << "all were viewed at once, and do not go at once";
-    EXPECT_EQ(column("SELECT count(DISTINCT CAST(timestamp AS INTEGER)) FROM history"), Texts{"51"})
+    EXPECT_EQ(
+        rowsOf(*world.queue, "SELECT count(DISTINCT CAST(timestamp AS INTEGER)) FROM history"),
+        Texts{"51"})
         << "an update keeps whole seconds only";
 }
 
@@ -236,8 +230,6 @@ protected:
         world.bundle.texts["backup.restore.counts"] = "%d and %d new";
         world.bundle.texts["backup.restore.unknown"] = "%d unknown";
         world.clock.now = kNow;
-        options->queue = world.queue.get();
-        options->loadViewIfNeeded();
     }
 
     void press(const std::string& choice)
@@ -252,7 +244,7 @@ protected:
     const platform::Alert& told() const { return world.presenter.alerts.back().alert; }
 
     std::shared_ptr<navigation::OptionsTableViewController> options =
-        std::make_shared<navigation::OptionsTableViewController>(world.services());
+        world.load<navigation::OptionsTableViewController>();
 };
 
 TEST_F(BackupFromTheOptions, SavesRestoresAndTellsTheOtherScreens)
@@ -265,28 +257,23 @@ TEST_F(BackupFromTheOptions, SavesRestoresAndTellsTheOtherScreens)
     EXPECT_EQ(told().message, "1 and 0 saved");
 
     world.execute("DELETE FROM favourite");
-    lists::HistoryTableViewController history{world.services()};
-    history.queue = world.queue.get();
-    history.loadViewIfNeeded();
-    detail::VerbDetailTableViewController detail{world.services()};
-    detail.queue = world.queue.get();
-    detail.selectedVerb = world.verb(3);
-    detail.loadViewIfNeeded();
+    const auto history = world.load<lists::HistoryTableViewController>();
+    const auto detail = world.load<detail::VerbDetailTableViewController>();
+    detail->selectedVerb = world.verb(3);
     press("backup.restore");
     EXPECT_EQ(world.fileChooser.question->purpose, platform::FileQuestion::Purpose::Open);
     world.fileChooser.chosen(file());
     EXPECT_EQ(told().message, "1 and 0 new");
-    EXPECT_EQ(world.posted("VerbFavouriteToggled"), 1);
-    EXPECT_TRUE(detail.selectedVerb->isFavourite);
-    EXPECT_EQ(detail.favouriteBarButton.image, "ic_favorite_toolbar");
+    EXPECT_EQ(world.posted["VerbFavouriteToggled"], 1);
+    EXPECT_TRUE(detail->selectedVerb->isFavourite);
+    EXPECT_EQ(detail->favouriteBarButton.image, "ic_favorite_toolbar");
 
     support::writeContent(file(), R"({"lumora": 1, "favourites": [7],
         "history": [{"french": "avoir", "viewed": 1600000000}]})");
     press("backup.restore");
     world.fileChooser.chosen(file());
     EXPECT_EQ(told().message, "0 and 1 new\n1 unknown");
-    ASSERT_EQ(history.verbs.size(), 2U);
-    EXPECT_EQ(history.verbs[1]->french, "avoir");
+    EXPECT_EQ(support::infinitives(history->verbs), Texts{"avoir"});
 }
 
 TEST_F(BackupFromTheOptions, SaysWhatWentWrong)

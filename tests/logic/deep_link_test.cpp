@@ -3,11 +3,6 @@
 
 #include "app/deep_link.h"
 
-#include "app/app_delegate.h"
-#include "detail/verb_detail_table_view_controller.h"
-#include "platform/navigation_controller.h"
-#include "support/world.h"
-
 #include <gtest/gtest.h>
 
 namespace lumora::app {
@@ -45,35 +40,6 @@ TEST(DeepLink, NamesAVerbOrNothing)
         const auto link = DeepLink::parse(c.link);
         EXPECT_EQ(link ? std::optional{link->infinitive} : std::nullopt, c.infinitive);
     }
-}
-
-TEST(DeepLink, OpensTheVerbOverTheListOrSaysThatThereIsNone)
-{
-    support::World world;
-    std::filesystem::create_directory(world.folder / "documents");
-    world.bundle.resources["verbs.db"] = world.folder / "small.db";
-    world.bundle.info["CFBundleShortVersionString"] = "1";
-    AppDelegate delegate{
-        world.services(), {world.folder / "documents", std::nullopt}, {0, 0, 1, 1}};
-    delegate.window.rootViewController = world.storyboard.instantiateInitialViewController();
-    delegate.didFinishLaunching({});
-    auto& split = dynamic_cast<platform::SplitViewController&>(*delegate.window.rootViewController);
-    auto& stack = dynamic_cast<platform::NavigationController&>(*split.viewControllers().front());
-    split.showDetailViewController(world.storyboard.instantiateDestination("showDetail"));
-
-    delegate.openLink("lumora://verb/%C3%A9vanouir");
-
-    EXPECT_EQ(stack.viewControllers().size(), 1U) << "what was open has gone";
-    ASSERT_NE(world.shownDetail(), nullptr);
-    EXPECT_EQ(world.shownDetail()->selectedVerb->french, "évanouir (s')");
-    EXPECT_EQ(world.shownDetail()->queue, delegate.queue.get());
-
-    delegate.openLink("lumora://verb/alller");
-    delegate.openLink("lumora://aller");
-    ASSERT_EQ(world.presenter.alerts.size(), 2U);
-    EXPECT_EQ(world.presenter.alerts[0].alert.message, "link.unknown");
-    EXPECT_EQ(world.presenter.alerts[1].alert.message, "link.malformed");
-    EXPECT_EQ(world.presenter.segues.size(), 1U);
 }
 
 } // namespace

@@ -112,18 +112,10 @@ TEST_F(FormSearch, ShowsWhatTheRealTableHolds)
 TEST_F(FormSearch, LeavesTheDetailScreenItsForms)
 {
     const auto forms = [&] {
-        std::vector<std::string> rows;
-        world_.queue->inDatabase([&](platform::Database& database) {
-            auto read = database.executeQuery(
-                "SELECT pronoun, verb, type, conj_order as pid FROM conjugation WHERE verbid = ? "
-                "AND display = 1 ORDER BY conj_order",
-                {1});
-            while (read && read->next()) {
-                rows.push_back(read->stringForColumn(0) + "|" + read->stringForColumn(1) + "|" +
-                               read->stringForColumn(2) + "|" + read->stringForColumn(3));
-            }
-        });
-        return rows;
+        return support::rowsOf(*world_.queue,
+                               "SELECT pronoun || '|' || verb || '|' || type || '|' || conj_order "
+                               "FROM conjugation WHERE verbid = 1 AND display = 1 "
+                               "ORDER BY conj_order");
     };
     const auto before = forms();
 

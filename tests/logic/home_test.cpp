@@ -21,13 +21,6 @@ using support::World;
 
 class Home : public testing::Test {
 protected:
-    void SetUp() override
-    {
-        home = std::make_shared<HomeViewController>(world.services());
-        home->queue = world.queue.get();
-        home->loadViewIfNeeded();
-    }
-
     std::vector<Tab> tabs() const
     {
         std::vector<Tab> tags;
@@ -37,33 +30,23 @@ protected:
         return tags;
     }
 
-    /// Where a step leads.
-    template <typename Step>
-    std::shared_ptr<platform::ViewController> perform(const Step& step)
-    {
-        step();
-        return world.presenter.segues.back().destination;
-    }
-
+    /// The screen on top of the stack that the last step led to.
     template <typename Controller>
-    static Controller& topOf(platform::ViewController& stack)
+    Controller& shown() const
     {
-        return dynamic_cast<Controller&>(
-            *dynamic_cast<platform::NavigationController&>(stack).topViewController());
+        auto& stack = dynamic_cast<platform::NavigationController&>(
+            *world.presenter.segues.back().destination);
+        return dynamic_cast<Controller&>(*stack.topViewController());
     }
 
     World world;
-    std::shared_ptr<HomeViewController> home;
+    std::shared_ptr<HomeViewController> home = world.load<HomeViewController>();
 };
 
 TEST_F(Home, ATabOpenEventShowsTheTabItNames)
 {
     using Info = std::map<std::string, std::any, std::less<>>;
-    struct Case {
-        Info info;
-        Tab tab;
-    };
-    const Case cases[] = {
+    const std::pair<Info, Tab> cases[] = {
         {{{"SelectedTab", std::string{"Favourites"}}}, Tab::Favourites},
         {{{"SelectedTab", std::string{"History"}}}, Tab::History},
         {{{"SelectedTab", std::string{"List"}}}, Tab::List},
@@ -71,10 +54,10 @@ TEST_F(Home, ATabOpenEventShowsTheTabItNames)
         {{{"SelectedTab", 1}}, Tab::List},
         {{}, Tab::List},
     };
-    for (const auto& c : cases) {
+    for (const auto& [info, tab] : cases) {
         home->didSelectItem(Tab::History);
-        world.notifications.post({"TabOpenEvent", {}, c.info});
-        EXPECT_EQ(home->tabBar.selectedItem, c.tab);
+        world.notifications.post({"TabOpenEvent", {}, info});
+        EXPECT_EQ(home->tabBar.selectedItem, tab);
     }
 }
 
@@ -151,11 +134,11 @@ TEST_F(Home, WhatTheOptionsChangeShowsWhenTheyClose)
     int refreshes = 0;
     const auto subscription = world.notifications.addObserver(
         "RefreshConjugations", [&](const platform::Notification&) { ++refreshes; });
-    const auto& list = dynamic_cast<lists::VerbListTableViewController&>(*home->currentChild());
-    auto& table = world.table(dynamic_cast<platform::TableViewController&>(*home->currentChild()));
+    auto& list = dynamic_cast<lists::VerbListTableViewController&>(*home->currentChild());
+    const auto& table = world.table(list);
     const int reloads = table.reloads;
-    const auto stack = perform([&] { home->showOptions(); });
-    auto& options = topOf<navigation::OptionsTableViewController>(*stack);
+    home->showOptions();
+    auto& options = shown<navigation::OptionsTableViewController>();
     EXPECT_EQ(options.queue, world.queue.get());
     options.loadViewIfNeeded();
     options.viewWillAppear();
@@ -177,10 +160,10 @@ TEST_F(Home, WhatTheOptionsChangeShowsWhenTheyClose)
 
 TEST_F(Home, TheMenuButtonLeadsThroughTheDrawer)
 {
-    const auto drawerStack =
-        perform([&] { home->navigationItem().leftBarButton.value().action(); });
-    ASSERT_TRUE(dynamic_cast<platform::SideMenuNavigationController*>(drawerStack.get()));
-    auto& drawer = topOf<navigation::NavigationDrawerTableTableViewController>(*drawerStack);
+    home->navigationItem().leftBarButton.value().action();
+    ASSERT_TRUE(dynamic_cast<platform::SideMenuNavigationController*>(
+        world.presenter.segues.back().destination.get()));
+    auto& drawer = shown<navigation::NavigationDrawerTableTableViewController>();
     drawer.didSelectRow({1, 0});
     EXPECT_EQ(world.presenter.segues.back().identifier, "Options");
     drawer.didSelectRow({1, 1});

@@ -210,7 +210,7 @@ TEST_F(Options, LanguageAndSpeedAreChosenFromSheets)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.key);
         options.didSelectRow(c.path);
-        const auto& [on, sheet, anchor] = world.presenter.sheets.back();
+        const auto& [sheet, anchor] = world.presenter.sheets.back();
         EXPECT_EQ(anchor, c.path);
         EXPECT_EQ(sheet.title, c.title);
         const std::size_t automatic = c.title ? 0 : 1;
@@ -244,7 +244,7 @@ TEST_F(Options, TheHistoryIsClearedAfterAYes)
     int refreshes = 0;
     const auto subscription =
         world.notifications.addObserver("RefreshHistory", [&](const platform::Notification&) {
-            world.count("history"); // would stop the program inside the queue
+            world.count("verb"); // would stop the program inside the queue
             ++refreshes;
         });
     world.execute("INSERT INTO history(verbid, timestamp) VALUES(1, 1), (2, 2)");

@@ -4,7 +4,6 @@
 #include "detail/verb_detail_table_view_controller.h"
 #include "support/world.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -87,21 +86,15 @@ TEST_F(Pronunciation, SpeaksThePronounWithTheForm)
 
 TEST_F(Pronunciation, TheSettingIsAFactorOnTheDefaultRate)
 {
-    struct Case {
-        std::optional<platform::SettingValue> speed;
-        float factor;
-    };
-    const Case cases[] = {{std::nullopt, 1}, {std::int64_t{0}, 1}, {-0.5, 1},
-                          {0.5, 0.5F},       {0.25, 0.25F},        {0.75, 0.75F},
-                          {2.0, 2},          {std::int64_t{1}, 1}, {std::string{}, 1},
-                          {false, 1}};
-    for (const auto& c : cases) {
-        world.settings.removeValue("audio_speed");
-        if (c.speed) {
-            world.settings.setValue(*c.speed, "audio_speed");
-        }
+    say("je", "vais");
+    EXPECT_EQ(voice().spoken.back().rate, platform::kDefaultSpeechRate);
+    const std::pair<platform::SettingValue, float> cases[] = {
+        {std::int64_t{0}, 1}, {-0.5, 1},          {0.5, 0.5F}, {0.75, 0.75F}, {2.0, 2},
+        {std::int64_t{1}, 1}, {std::string{}, 1}, {false, 1}};
+    for (const auto& [speed, factor] : cases) {
+        world.settings.setValue(speed, "audio_speed");
         say("je", "vais");
-        EXPECT_EQ(voice().spoken.back().rate, platform::kDefaultSpeechRate * c.factor);
+        EXPECT_EQ(voice().spoken.back().rate, platform::kDefaultSpeechRate * factor);
     }
 }
 
@@ -159,15 +152,11 @@ TEST_F(Pronunciation, TheRingRunsAheadOfTheWordsAndEmptiesAtTheEnd)
 {
     say("il/elle", "était");
     // "il ou elle était" has 16 characters and one more byte.
-    struct Case {
-        std::size_t location;
-        float progress;
-    };
-    const Case cases[] = {
+    const std::pair<std::size_t, float> cases[] = {
         {0, 0.1F}, {1, 0.1F}, {6, 6 / 16.0F * 1.1F}, {11, 11 / 16.0F * 1.1F}, {16, 1}};
-    for (const auto& c : cases) {
-        voice().reachWord(c.location, 2);
-        EXPECT_FLOAT_EQ(ringOfRow({1, 0}), c.progress);
+    for (const auto& [location, progress] : cases) {
+        voice().reachWord(location, 2);
+        EXPECT_FLOAT_EQ(ringOfRow({1, 0}), progress);
     }
     int invalidated = 0;
     detail.audioTimer = [&] { ++invalidated; };
@@ -244,28 +233,12 @@ TEST_F(Pronunciation, ALineOfTheCollectionSpeaksWithItsOwnRing)
 
 TEST_F(Pronunciation, ATapThatFindsNoFormDoesNothing)
 {
-    const std::function<void()> taps[] = {
-        [&] {
-            detail.accessoryButtonTapped({0, 0});
-        },
-        [&] {
-            detail.accessoryButtonTapped({1, 2});
-        },
-        [&] {
-            detail.accessoryButtonTapped({1, -1});
-        },
-        [&] {
-            detail.accessoryButtonTapped({9, 0});
-        },
-        [&] { detail.audioTapped(-1, 0); },
-        [&] { detail.audioTapped(8, 0); },
-        [&] { detail.audioTapped(0, 2); },
-        [&] { detail.audioTapped(0, -1); },
-        [&] { detail.audioTapped(0, 6); },
-    };
     world.audioSession.volume = 0;
-    for (const auto& tap : taps) {
-        tap();
+    for (const platform::IndexPath row : {platform::IndexPath{0, 0}, {1, 2}, {1, -1}, {9, 0}}) {
+        detail.accessoryButtonTapped(row);
+    }
+    for (const auto& [item, line] : {std::pair{-1, 0}, {8, 0}, {0, 2}, {0, -1}, {0, 6}}) {
+        detail.audioTapped(item, line);
     }
     detail.selectedVerb = nullptr;
     detail.accessoryButtonTapped({1, 0});

@@ -13,51 +13,35 @@ namespace {
 
 using lists::FavouritesTableViewController;
 using lists::HistoryTableViewController;
+using support::infinitives;
 using support::World;
 
-template <typename List>
-std::vector<std::string> names(const List& list)
-{
-    std::vector<std::string> texts;
-    for (const auto& verb : list.verbs) {
-        texts.push_back(verb->french);
-    }
-    return texts;
-}
+using Texts = std::vector<std::string>;
 
 class RemovableLists : public testing::Test {
 protected:
-    template <typename List>
-    std::shared_ptr<List> make()
-    {
-        auto list = std::make_shared<List>(world.services());
-        list->queue = world.queue.get();
-        list->loadViewIfNeeded();
-        return list;
-    }
-
     World world;
 };
 
 TEST_F(RemovableLists, FavouritesFollowTheSortColumnAndOrphansAreNone)
 {
     world.execute("INSERT INTO favourite(verbid) VALUES (3), (1), (NULL), (4711), (2)");
-    const auto favourites = make<FavouritesTableViewController>();
-    EXPECT_EQ(names(*favourites), (std::vector<std::string>{"aller", "avoir", "être"}));
+    const auto favourites = world.load<FavouritesTableViewController>();
+    EXPECT_EQ(infinitives(favourites->verbs), (Texts{"aller", "avoir", "être"}));
 
     world.settings.setValue(false, "SortByLang");
     world.settings.setValue(std::string{"tr"}, "translation_language");
     world.notifications.post({"VerbFavouriteToggled", {}, {}});
-    EXPECT_EQ(names(*favourites), (std::vector<std::string>{"être", "aller", "avoir"}));
+    EXPECT_EQ(infinitives(favourites->verbs), (Texts{"être", "aller", "avoir"}));
 }
 
 TEST_F(RemovableLists, HistoryIsNewestFirstWithStars)
 {
     world.execute("INSERT INTO history(verbid, timestamp) VALUES (1, 10.5), (3, 30), (2, 20)");
     world.execute("INSERT INTO favourite(verbid) VALUES (2)");
-    const auto history = make<HistoryTableViewController>();
+    const auto history = world.load<HistoryTableViewController>();
 
-    EXPECT_EQ(names(*history), (std::vector<std::string>{"aller", "être", "avoir"}));
+    EXPECT_EQ(infinitives(history->verbs), (Texts{"aller", "être", "avoir"}));
     EXPECT_EQ(history->cellForRow({0, 1}).image, "ic_favorite_list");
     EXPECT_EQ(history->cellForRow({0, 0}).image, "");
 
@@ -70,7 +54,7 @@ TEST_F(RemovableLists, HistoryIsNewestFirstWithStars)
 
 TEST_F(RemovableLists, AskingForRowsShowsOrHidesTheEmptyState)
 {
-    const auto favourites = make<FavouritesTableViewController>();
+    const auto favourites = world.load<FavouritesTableViewController>();
     auto& table = world.table(*favourites);
     EXPECT_EQ(table.backgroundView.value().text, "favourites.empty");
 
@@ -89,8 +73,8 @@ TEST_F(RemovableLists, ASwipeDeletesTheRowButNotTheRecord)
 {
     world.execute("INSERT INTO favourite(verbid) VALUES (3), (1)");
     world.execute("INSERT INTO history(verbid, timestamp) VALUES (3, 1), (3, 2), (1, 3)");
-    const auto favourites = make<FavouritesTableViewController>();
-    const auto history = make<HistoryTableViewController>();
+    const auto favourites = world.load<FavouritesTableViewController>();
+    const auto history = world.load<HistoryTableViewController>();
     const auto favouriteReloads = world.table(*favourites).reloads;
 
     auto remove = favourites->trailingSwipeActions({0, 0}).at(0);
@@ -102,20 +86,20 @@ TEST_F(RemovableLists, ASwipeDeletesTheRowButNotTheRecord)
     EXPECT_EQ(world.count("favourite WHERE verbid = 3"), 0);
     EXPECT_EQ(favourites->verbs.size(), 2U);
     EXPECT_EQ(world.table(*favourites).reloads, favouriteReloads) << "its own news";
-    EXPECT_EQ(world.posted("VerbFavouriteToggled"), 1);
+    EXPECT_EQ(world.posted["VerbFavouriteToggled"], 1);
 
     EXPECT_EQ(history->trailingSwipeActions({0, 1}).at(0).title, "action.remove");
     history->trailingSwipeActions({0, 1}).at(0).handler([](bool) {});
     EXPECT_EQ(world.count("history"), 1) << "every row of the verb goes";
-    EXPECT_EQ(world.posted("VerbFavouriteToggled"), 1);
+    EXPECT_EQ(world.posted["VerbFavouriteToggled"], 1);
 }
 
 TEST_F(RemovableLists, AFailedRemovalIsALogLine)
 {
     world.execute("INSERT INTO favourite(verbid) VALUES (3)");
     world.execute("INSERT INTO history(verbid, timestamp) VALUES (3, 1)");
-    const auto favourites = make<FavouritesTableViewController>();
-    const auto history = make<HistoryTableViewController>();
+    const auto favourites = world.load<FavouritesTableViewController>();
+    const auto history = world.load<HistoryTableViewController>();
     auto removeFavourite = favourites->trailingSwipeActions({0, 0}).at(0);
     auto removeView = history->trailingSwipeActions({0, 0}).at(0);
     world.execute("DROP TABLE favourite");

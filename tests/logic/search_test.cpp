@@ -15,14 +15,12 @@ using lists::SearchResultsTableViewController;
 using platform::SettingValue;
 using support::World;
 
-const std::string kColumnsUpToOrder =
+const std::string kColumns =
     "SELECT verb._id, english, lower(french) as french, simplified_french, german, "
     "simplified_german, spanish, simplified_spanish, dutch, simplified_dutch, italian, "
     "simplified_italian, portuguese, simplified_portuguese, substr(";
 
-struct Settings {
-    std::vector<std::pair<const char*, SettingValue>> values;
-};
+using Settings = std::vector<std::pair<const char*, SettingValue>>;
 
 TEST(SearchQuery, AssemblesTheStatementFromTheSettings)
 {
@@ -38,20 +36,20 @@ TEST(SearchQuery, AssemblesTheStatementFromTheSettings)
         {"all settings missing",
          {},
          "aller",
-         kColumnsUpToOrder +
+         kColumns +
              "simplified_french, 0, 1) as index_letter, favourite._id as favourite_available FROM "
              "verb\n\nLEFT OUTER JOIN favourite ON verb._id = favourite.verbid\nWHERE french LIKE "
              "? OR simplified_french LIKE ?\n\nORDER BY simplified_french",
          "aller%",
          2},
         {"everything on, in German",
-         {{{"SortByLang", false},
-           {"translation_language", std::string{"de"}},
-           {"IncludeEnglish", true},
-           {"SearchFrom", std::string{"W"}},
-           {"IncludeConjugations", true}}},
+         {{"SortByLang", false},
+          {"translation_language", std::string{"de"}},
+          {"IncludeEnglish", true},
+          {"SearchFrom", std::string{"W"}},
+          {"IncludeConjugations", true}},
          "geh",
-         kColumnsUpToOrder +
+         kColumns +
              "simplified_german, 0, 1) as index_letter, favourite._id as favourite_available FROM "
              "verb\nLEFT OUTER JOIN conjugation ON verb._id = conjugation.verbid\nLEFT OUTER JOIN "
              "favourite ON verb._id = favourite.verbid\nWHERE french LIKE ? OR simplified_french "
@@ -60,13 +58,13 @@ TEST(SearchQuery, AssemblesTheStatementFromTheSettings)
          "%geh%",
          5},
         {"English names its column twice; Portuguese would order by the simplified one",
-         {{{"SortByLang", true},
-           {"translation_language", std::string{"tr"}},
-           {"IncludeEnglish", true},
-           {"IncludeConjugations", std::int64_t{1}},
-           {"SearchFrom", std::int64_t{7}}}},
+         {{"SortByLang", true},
+          {"translation_language", std::string{"tr"}},
+          {"IncludeEnglish", true},
+          {"IncludeConjugations", std::int64_t{1}},
+          {"SearchFrom", std::int64_t{7}}},
          "go",
-         kColumnsUpToOrder +
+         kColumns +
              "simplified_french, 0, 1) as index_letter, favourite._id as favourite_available FROM "
              "verb\n\nLEFT OUTER JOIN favourite ON verb._id = favourite.verbid\nWHERE french LIKE "
              "? OR simplified_french LIKE ? OR english LIKE ? OR english LIKE ?\n\nORDER BY "
@@ -77,7 +75,7 @@ TEST(SearchQuery, AssemblesTheStatementFromTheSettings)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.why);
         World world;
-        for (const auto& [key, value] : c.settings.values) {
+        for (const auto& [key, value] : c.settings) {
             world.settings.setValue(value, key);
         }
 
@@ -93,7 +91,7 @@ TEST(SearchResults, FindsWhatAPersonTypes)
 {
     struct Case {
         const char* text;
-        std::vector<std::pair<const char*, SettingValue>> settings;
+        Settings settings;
         std::vector<std::string> found;
     };
     const std::pair<const char*, SettingValue> anywhere{"SearchFrom", std::string{"W"}};
@@ -122,18 +120,13 @@ TEST(SearchResults, FindsWhatAPersonTypes)
         for (const auto& [key, value] : c.settings) {
             world.settings.setValue(value, key);
         }
-        SearchResultsTableViewController results{world.services()};
-        results.queue = world.queue.get();
+        const auto results = world.load<SearchResultsTableViewController>();
 
-        results.search(c.text);
+        results->search(c.text);
 
-        std::vector<std::string> found;
-        for (const auto& verb : results.verbs) {
-            found.push_back(verb->french);
-        }
-        EXPECT_EQ(found, c.found);
+        EXPECT_EQ(support::infinitives(results->verbs), c.found);
         EXPECT_TRUE(world.crashReporter.lines.empty());
-        EXPECT_EQ(results.numberOfRowsInSection(0), static_cast<int>(c.found.size()));
+        EXPECT_EQ(results->numberOfRowsInSection(0), static_cast<int>(c.found.size()));
     }
 }
 
@@ -152,8 +145,8 @@ TEST(SearchResults, AFailureIsLoggedAndEmptiesTheList)
     EXPECT_TRUE(results.verbs.empty());
     EXPECT_EQ(results.query, "a'");
     EXPECT_EQ(world.crashReporter.lines,
-              (std::vector<std::string>{
-                  "An error occurred when performing search: no such table: favourite (1)"}));
+              std::vector<std::string>{
+                  "An error occurred when performing search: no such table: favourite (1)"});
 }
 
 } // namespace

@@ -7,14 +7,11 @@
 #include "app/rescue_file.h"
 #include "detail/verb_detail_table_view_controller.h"
 #include "navigation/home_view_controller.h"
-#include "platform/atomic_file.h"
 #include "platform/navigation_controller.h"
 
 #include "support/world.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
 
 namespace lumora {
 namespace {
@@ -22,8 +19,10 @@ namespace {
 using app::AppDelegate;
 using app::UserData;
 using support::contentOf;
+using support::rowsOf;
 using support::World;
 using support::writeContent;
+using Texts = std::vector<std::string>;
 
 /// A machine on which the program is about to start, again and again.
 class StartUp : public testing::Test {
@@ -65,27 +64,19 @@ protected:
     std::string userRows() const
     {
         std::string text;
-        open()->inDatabase([&](platform::Database& connection) {
-            auto favourites = connection.executeQuery("SELECT verbid FROM favourite", {});
-            while (favourites && favourites->next()) {
-                text += favourites->stringForColumn(0) + " ";
-            }
-            text += "|";
-            auto history = connection.executeQuery("SELECT verbid, timestamp FROM history", {});
-            while (history && history->next()) {
-                text += " " + history->stringForColumn(0) + "@" + history->stringForColumn(1);
-            }
-        });
+        for (const auto& verb : rowsOf(*open(), "SELECT verbid FROM favourite")) {
+            text += verb + " ";
+        }
+        text += "|";
+        for (const auto& view : rowsOf(*open(), "SELECT verbid || '@' || timestamp FROM history")) {
+            text += " " + view;
+        }
         return text;
     }
 
     bool isFresh() const
     {
-        bool old = true;
-        open()->inDatabase([&](platform::Database& connection) {
-            old = connection.executeQuery("SELECT x FROM old", {}).has_value();
-        });
-        return !old;
+        return rowsOf(*open(), "SELECT name FROM sqlite_master WHERE name = 'old'").empty();
     }
 
     AppDelegate makeDelegate()
@@ -93,6 +84,20 @@ protected:
         AppDelegate delegate{world.services(), {documents, documents.string()}, {0, 0, 1, 1}};
         delegate.window.rootViewController = world.storyboard.instantiateInitialViewController();
         return delegate;
+    }
+    static platform::SplitViewController& splitOf(const AppDelegate& delegate)
+    {
+        return dynamic_cast<platform::SplitViewController&>(*delegate.window.rootViewController);
+    }
+    static platform::NavigationController& stackOf(const AppDelegate& delegate)
+    {
+        return dynamic_cast<platform::NavigationController&>(
+            *splitOf(delegate).viewControllers().front());
+    }
+    static navigation::HomeViewController& homeOf(const AppDelegate& delegate)
+    {
+        return dynamic_cast<navigation::HomeViewController&>(
+            *stackOf(delegate).topViewController());
     }
 
     World world;
@@ -145,13 +150,17 @@ TEST_F(StartUp, CarriesFavouritesAndHistoryOverInTheirOrder)
     EXPECT_TRUE(world.crashReporter.lines.empty());
 }
 
-TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsIt)
+TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsItBesideThoseBefore)
 {
     const std::string whole = contentOf(resource);
-    const std::string cases[] = {"", "not a database at all, just text that goes on for a while",
-                                 whole.substr(0, 100), whole.substr(0, whole.size() / 2)};
-    for (const auto& content : cases) {
-        SCOPED_TRACE(content.size());
+    const std::pair<const char*, std::string> cases[] = {
+        {"verbs.db.damaged", ""},
+        {"verbs.db.damaged.1", "not a database at all, just text that goes on for a while"},
+        {"verbs.db.damaged.2", whole.substr(0, 100)},
+        {"verbs.db.damaged.3", whole.substr(0, whole.size() / 2)},
+    };
+    for (const auto& [aside, content] : cases) {
+        SCOPED_TRACE(aside);
         writeContent(database, content);
         world.settings.setValue(std::string{"1.0"}, "installed_version");
         world.crashReporter.lines.clear();
@@ -163,9 +172,30 @@ TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsIt)
         ASSERT_EQ(world.crashReporter.lines.size(), 1U);
         EXPECT_TRUE(world.crashReporter.lines[0].starts_with(
             "An error occurred when reading migration settings: "));
-        EXPECT_EQ(contentOf(documents / "verbs.db.damaged"), content);
-        std::filesystem::remove(documents / "verbs.db.damaged");
     }
+    for (const auto& [aside, content] : cases) {
+        EXPECT_EQ(contentOf(documents / aside), content) << aside;
+    }
+}
+
+TEST_F(StartUp, EveryFavouriteAndViewOfTheFirstVersionStillNamesTheSameVerb)
+{
+    world.bundle.resources["verbs.db"] = LUMORA_VERBS_DB;
+    std::filesystem::copy_file(LUMORA_OLD_DATABASE, database);
+    const auto headwords = [&] {
+        return std::pair{rowsOf(*open(), "SELECT french FROM favourite JOIN verb ON "
+                                         "verb._id = verbid ORDER BY favourite._id"),
+                         rowsOf(*open(), "SELECT french FROM history JOIN verb ON "
+                                         "verb._id = verbid ORDER BY timestamp")};
+    };
+    const auto before = headwords();
+    ASSERT_EQ(before.first.size(), 12U);
+    ASSERT_EQ(before.second.size(), 8U);
+
+    ASSERT_TRUE(prepare());
+
+    EXPECT_TRUE(world.crashReporter.lines.empty());
+    EXPECT_EQ(headwords(), before);
 }
 
 TEST_F(StartUp, KeepsWhatWasReadBeforeAReadingFailed)
@@ -176,10 +206,8 @@ TEST_F(StartUp, KeepsWhatWasReadBeforeAReadingFailed)
     ASSERT_TRUE(prepare());
 
     EXPECT_EQ(userRows(), "3 1 |");
-    EXPECT_EQ(
-        world.crashReporter.lines,
-        (std::vector<std::string>{"An error occurred when reading migration settings: no such "
-                                  "table: history (1)"}));
+    EXPECT_EQ(world.crashReporter.lines, Texts{"An error occurred when reading migration "
+                                               "settings: no such table: history (1)"});
 }
 
 TEST_F(StartUp, ReadsDatabasesPutAsideOnceTheyCanBeReadAgain)
@@ -194,19 +222,6 @@ TEST_F(StartUp, ReadsDatabasesPutAsideOnceTheyCanBeReadAgain)
     EXPECT_EQ(userRows(), "5 3 | 2@8.0 4@1.0 2@9.0");
     EXPECT_FALSE(std::filesystem::exists(documents / "verbs.db.damaged"));
     EXPECT_FALSE(std::filesystem::exists(documents / "verbs.db.damaged.1"));
-}
-
-TEST_F(StartUp, PutsADatabaseAsideOverNoOther)
-{
-    writeContent(database, "no database");
-    writeContent(documents / "verbs.db.damaged", "an older one");
-    world.settings.setValue(std::string{"1.0"}, "installed_version");
-
-    ASSERT_TRUE(prepare());
-
-    EXPECT_TRUE(isFresh());
-    EXPECT_EQ(contentOf(documents / "verbs.db.damaged"), "an older one");
-    EXPECT_EQ(contentOf(documents / "verbs.db.damaged.1"), "no database");
 }
 
 TEST_F(StartUp, WhatWaitsBesideItNeverBlocksAGoodDatabase)
@@ -246,8 +261,7 @@ TEST_F(StartUp, AnInsertThatFailsStopsTheRestoreAndKeepsTheRescueFile)
 
     EXPECT_EQ(userRows(), "3 |") << "what was inserted stays, the rest is skipped";
     EXPECT_EQ(world.crashReporter.lines,
-              (std::vector<std::string>{
-                  "An error occurred when inserting migration settings: refused (19)"}));
+              Texts{"An error occurred when inserting migration settings: refused (19)"});
     EXPECT_EQ(world.settings.stringForKey("installed_version"), "2.0");
 
     // Meanwhile the user goes on; then the cause is gone. What was removed
@@ -452,8 +466,7 @@ TEST_F(StartUp, AnOldSettingsFileThatCannotBeDeletedIsReported)
 
     app::carryOverOldSettings(documents.string(), world.settings, world.crashReporter);
 
-    EXPECT_EQ(world.crashReporter.lines,
-              (std::vector<std::string>{"Unable to delete file. Will try again later. %@"}));
+    EXPECT_EQ(world.crashReporter.lines, Texts{"Unable to delete file. Will try again later. %@"});
 }
 
 TEST_F(StartUp, AShortcutOpensItsTab)
@@ -477,18 +490,13 @@ TEST_F(StartUp, AShortcutOpensItsTab)
 
         EXPECT_FALSE(delegate.didFinishLaunching({app::ShortcutItem{c.type}}));
 
-        EXPECT_EQ(world.posted("TabOpenEvent"), before + c.posts);
-        before = world.posted("TabOpenEvent");
-        auto& split =
-            dynamic_cast<platform::SplitViewController&>(*delegate.window.rootViewController);
-        auto& stack =
-            dynamic_cast<platform::NavigationController&>(*split.viewControllers().front());
-        auto& home = dynamic_cast<navigation::HomeViewController&>(*stack.topViewController());
-        EXPECT_EQ(home.tabBar.selectedItem, c.tab);
+        EXPECT_EQ(world.posted["TabOpenEvent"], before + c.posts);
+        before = world.posted["TabOpenEvent"];
+        EXPECT_EQ(homeOf(delegate).tabBar.selectedItem, c.tab);
         bool success = false;
         delegate.performActionForShortcutItem({c.type}, [&](bool done) { success = done; });
         EXPECT_TRUE(success);
-        before = world.posted("TabOpenEvent");
+        before = world.posted["TabOpenEvent"];
     }
 }
 
@@ -497,9 +505,9 @@ TEST_F(StartUp, TheSearchShortcutComesBackToTheListAndFocusesTheField)
     world.device.tablet = true;
     auto delegate = makeDelegate();
     delegate.didFinishLaunching({});
-    auto& split = dynamic_cast<platform::SplitViewController&>(*delegate.window.rootViewController);
-    auto& stack = dynamic_cast<platform::NavigationController&>(*split.viewControllers().front());
-    auto& home = dynamic_cast<navigation::HomeViewController&>(*stack.topViewController());
+    auto& split = splitOf(delegate);
+    auto& stack = stackOf(delegate);
+    auto& home = homeOf(delegate);
     home.loadViewIfNeeded();
     const app::ShortcutItem search{"com.brindle.shortcut.search"};
 
@@ -515,6 +523,28 @@ TEST_F(StartUp, TheSearchShortcutComesBackToTheListAndFocusesTheField)
     EXPECT_FALSE(home.searchBar.isFirstResponder);
     world.clock.advance(std::chrono::milliseconds{100});
     EXPECT_TRUE(home.searchBar.isFirstResponder);
+}
+
+TEST_F(StartUp, ALinkOpensItsVerbOverTheListOrSaysThatThereIsNone)
+{
+    auto delegate = makeDelegate();
+    delegate.didFinishLaunching({});
+    splitOf(delegate).showDetailViewController(
+        world.storyboard.instantiateDestination("showDetail"));
+
+    delegate.openLink("lumora://verb/%C3%A9vanouir");
+
+    EXPECT_EQ(stackOf(delegate).viewControllers().size(), 1U) << "what was open has gone";
+    ASSERT_NE(world.shownDetail(), nullptr);
+    EXPECT_EQ(world.shownDetail()->selectedVerb->french, "évanouir (s')");
+    EXPECT_EQ(world.shownDetail()->queue, delegate.queue.get());
+
+    delegate.openLink("lumora://verb/alller");
+    delegate.openLink("lumora://aller");
+    ASSERT_EQ(world.presenter.alerts.size(), 2U);
+    EXPECT_EQ(world.presenter.alerts[0].alert.message, "link.unknown");
+    EXPECT_EQ(world.presenter.alerts[1].alert.message, "link.malformed");
+    EXPECT_EQ(world.presenter.segues.size(), 1U);
 }
 
 TEST_F(StartUp, ANarrowWindowDropsOnlyAnEmptyDetailScreen)

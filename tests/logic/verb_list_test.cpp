@@ -16,29 +16,10 @@ using platform::IndexPath;
 using platform::SettingValue;
 using support::World;
 
-std::vector<std::string> verbsOfSection(const VerbListTableViewController& list,
-                                        const std::string& letter)
-{
-    std::vector<std::string> names;
-    const auto found = list.verbs.find(letter);
-    if (found != list.verbs.end()) {
-        for (const auto& verb : found->second) {
-            names.push_back(verb->french);
-        }
-    }
-    return names;
-}
+using Texts = std::vector<std::string>;
 
 class VerbList : public testing::Test {
 protected:
-    std::shared_ptr<VerbListTableViewController> makeList()
-    {
-        auto list = std::make_shared<VerbListTableViewController>(world.services());
-        list->queue = world.queue.get();
-        list->loadViewIfNeeded();
-        return list;
-    }
-
     World world;
 };
 
@@ -47,50 +28,37 @@ TEST_F(VerbList, CutsSectionsByTheLetterOfTheSortColumn)
     struct Case {
         const char* why;
         std::optional<SettingValue> sortByLang;
-        std::optional<std::string> language;
-        std::vector<std::string> keys;
+        std::string language;
+        Texts keys;
     };
-    const std::vector<std::string> byFrench{"A", "E", "F", "P"};
+    const Texts byFrench{"A", "E", "F", "P"};
+    const Texts byEnglish{"B", "F", "G", "H", "S", "É"};
     const Case cases[] = {
         {"missing means French", {}, "de", byFrench},
         {"true means French", true, "de", byFrench},
         {"a number is no boolean", std::int64_t{0}, "de", byFrench},
         {"German is simplified", false, "de", {"A", "F", "G", "S"}},
-        {"English keeps its accents, which come after Z",
-         false,
-         "en",
-         {"B", "F", "G", "H", "S", "É"}},
-        {"Turkish has no column", false, "tr", {"B", "F", "G", "H", "S", "É"}},
-        {"Portuguese is plain: its accent is a section",
-         false,
-         "pt-BR",
-         {"", "F", "I", "S", "T", "É"}},
-        {"an empty choice is none: the device's English",
-         false,
-         "",
-         {"B", "F", "G", "H", "S", "É"}},
+        {"English keeps its accents, which come after Z", false, "en", byEnglish},
+        {"Turkish has no column", false, "tr", byEnglish},
+        {"Portuguese is plain", false, "pt-BR", {"", "F", "I", "S", "T", "É"}},
+        {"an empty choice is none: the device's English", false, "", byEnglish},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.why);
-        World fresh;
         if (c.sortByLang) {
-            fresh.settings.setValue(*c.sortByLang, "SortByLang");
+            world.settings.setValue(*c.sortByLang, "SortByLang");
         }
-        fresh.settings.setValue(*c.language, "translation_language");
-        VerbListTableViewController list{fresh.services()};
-        list.queue = fresh.queue.get();
+        world.settings.setValue(c.language, "translation_language");
 
-        list.reloadVerbs();
-
-        EXPECT_EQ(list.keys, c.keys);
+        EXPECT_EQ(world.load<VerbListTableViewController>()->keys, c.keys);
     }
 }
 
 TEST_F(VerbList, KeepsTheOrderOfTheQueryInsideASection)
 {
-    const auto list = makeList();
+    const auto list = world.load<VerbListTableViewController>();
 
-    EXPECT_EQ(verbsOfSection(*list, "E"), (std::vector<std::string>{"être", "évanouir (s')"}));
+    EXPECT_EQ(support::infinitives(list->verbs["E"]), (Texts{"être", "évanouir (s')"}));
     EXPECT_EQ(list->titleForHeaderInSection(1), "E");
     EXPECT_EQ(list->sectionForSectionIndexTitle("F", 0), 2);
     EXPECT_EQ(list->sectionForSectionIndexTitle("Q", 0), -1);
@@ -101,7 +69,7 @@ TEST_F(VerbList, ReadsNullAsEmptyAndAFavouriteOnlyFromARowOfItsOwn)
     world.execute("UPDATE verb SET german = NULL WHERE french = 'aller'");
     world.execute("INSERT INTO favourite(verbid) VALUES (3), (NULL)");
     world.settings.setValue(std::string{"de"}, "translation_language");
-    const auto list = makeList();
+    const auto list = world.load<VerbListTableViewController>();
 
     const auto aller = list->cellForRow({0, 0});
     EXPECT_EQ(aller.text, "aller");
@@ -113,7 +81,7 @@ TEST_F(VerbList, ReadsNullAsEmptyAndAFavouriteOnlyFromARowOfItsOwn)
 
 TEST_F(VerbList, SwipeTogglesTheFavouriteEverywhere)
 {
-    const auto list = makeList();
+    const auto list = world.load<VerbListTableViewController>();
     const auto reloads = world.table(*list).reloads;
 
     auto actions = list->trailingSwipeActions({0, 0});
@@ -126,7 +94,7 @@ TEST_F(VerbList, SwipeTogglesTheFavouriteEverywhere)
 
     EXPECT_TRUE(completed);
     EXPECT_EQ(world.count("favourite WHERE verbid = 3"), 1);
-    EXPECT_EQ(world.posted("VerbFavouriteToggled"), 1);
+    EXPECT_EQ(world.posted["VerbFavouriteToggled"], 1);
     EXPECT_EQ(world.table(*list).reloads, reloads) << "its own news is no reason to reload";
     EXPECT_EQ(world.table(*list).reloadedRows, (std::vector<IndexPath>{{0, 0}}));
     EXPECT_EQ(list->cellForRow({0, 0}).image, "ic_favorite_list");
@@ -141,19 +109,19 @@ TEST_F(VerbList, SwipeTogglesTheFavouriteEverywhere)
 
 TEST_F(VerbList, AFavouriteThatCannotBeWrittenStaysOnScreenAndOnTheConsole)
 {
-    const auto list = makeList();
+    const auto list = world.load<VerbListTableViewController>();
     world.execute("DROP TABLE favourite");
 
     list->trailingSwipeActions({0, 0})[0].handler([](bool) {});
 
     EXPECT_EQ(world.console.str(), "Unable to update favourite no such table: favourite\n");
     EXPECT_EQ(list->cellForRow({0, 0}).image, "ic_favorite_list");
-    EXPECT_EQ(world.posted("VerbFavouriteToggled"), 1);
+    EXPECT_EQ(world.posted["VerbFavouriteToggled"], 1);
 }
 
 TEST_F(VerbList, ReloadsOnAFavouriteToggledElsewhere)
 {
-    const auto list = makeList();
+    const auto list = world.load<VerbListTableViewController>();
     world.execute("INSERT INTO favourite(verbid) VALUES (1)");
 
     world.notifications.post({"VerbFavouriteToggled", {}, {}});
@@ -163,15 +131,14 @@ TEST_F(VerbList, ReloadsOnAFavouriteToggledElsewhere)
 
 TEST_F(VerbList, AFailedQueryLeavesSectionsWithoutRows)
 {
-    const auto list = makeList();
+    const auto list = world.load<VerbListTableViewController>();
     const auto keys = list->keys;
     world.execute("ALTER TABLE verb RENAME TO verb_gone");
 
     list->reloadVerbs();
 
     EXPECT_EQ(world.crashReporter.lines,
-              (std::vector<std::string>{
-                  "An error occurred when reading list of verbs: no such table: verb (1)"}));
+              Texts{"An error occurred when reading list of verbs: no such table: verb (1)"});
     EXPECT_EQ(list->keys, keys);
     EXPECT_EQ(list->numberOfRowsInSection(0), 0);
     EXPECT_TRUE(list->trailingSwipeActions({0, 0}).empty());
@@ -190,7 +157,7 @@ TEST_F(VerbList, WithoutAQueueItStaysEmpty)
 
 TEST_F(VerbList, ATapHandsTheVerbToTheDetailScreen)
 {
-    const auto list = makeList();
+    const auto list = world.load<VerbListTableViewController>();
 
     list->rowTapped({1, 1});
 

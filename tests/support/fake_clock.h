@@ -6,7 +6,6 @@
 #include "platform/clock.h"
 
 #include <chrono>
-#include <cstddef>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -30,7 +29,6 @@ public:
         }
         now = end;
     }
-    std::size_t waiting() const { return waiting_.size(); }
 
     double now = platform::kReferenceDate;
 

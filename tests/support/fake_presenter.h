@@ -20,19 +20,15 @@ namespace lumora::support {
 class FakePresenter final : public platform::Presenter {
 public:
     struct PerformedSegue {
-        platform::ViewController* source = nullptr;
         std::string identifier;
-        std::optional<platform::IndexPath> sender;
         /// Null without a storyboard, and when the source refused.
         std::shared_ptr<platform::ViewController> destination;
-        bool preview = false;
     };
     struct PresentedAlert {
         platform::ViewController* on = nullptr;
         platform::Alert alert;
     };
     struct PresentedSheet {
-        platform::ViewController* on = nullptr;
         platform::ActionSheet sheet;
         platform::IndexPath anchor;
     };
@@ -47,12 +43,12 @@ public:
     void performSegue(platform::ViewController& source, std::string_view identifier,
                       std::optional<platform::IndexPath> sender) override
     {
-        take(source, identifier, sender, false);
+        take(source, identifier, sender);
     }
     void previewSegue(platform::ViewController& source, std::string_view identifier,
                       std::optional<platform::IndexPath> sender) override
     {
-        take(source, identifier, sender, true);
+        take(source, identifier, sender);
     }
     void present(platform::ViewController& on,
                  std::shared_ptr<platform::ViewController> shown) override
@@ -63,10 +59,10 @@ public:
     {
         alerts.push_back({&on, alert});
     }
-    void presentActionSheet(platform::ViewController& on, const platform::ActionSheet& sheet,
+    void presentActionSheet(platform::ViewController& /*on*/, const platform::ActionSheet& sheet,
                             platform::IndexPath anchor) override
     {
-        sheets.push_back({&on, sheet, anchor});
+        sheets.push_back({sheet, anchor});
     }
     void dismiss(platform::ViewController& presented, std::function<void()> completed) override
     {
@@ -95,15 +91,14 @@ public:
 
 private:
     void take(platform::ViewController& source, std::string_view identifier,
-              std::optional<platform::IndexPath> sender, bool preview)
+              std::optional<platform::IndexPath> sender)
     {
         std::shared_ptr<platform::ViewController> destination;
         if (storyboard_ != nullptr && source.shouldPerformSegue(identifier)) {
             destination = storyboard_->instantiateDestination(identifier);
             source.prepareForSegue({std::string(identifier), *destination, sender});
         }
-        segues.push_back(
-            {&source, std::string(identifier), sender, std::move(destination), preview});
+        segues.push_back({std::string(identifier), std::move(destination)});
     }
 
     platform::Storyboard* storyboard_;

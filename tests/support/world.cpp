@@ -47,6 +47,28 @@ void executeOn(platform::DatabaseQueue& queue, const std::string& sql)
     });
 }
 
+std::vector<std::string> rowsOf(platform::DatabaseQueue& queue, const std::string& sql)
+{
+    std::vector<std::string> texts;
+    queue.inDatabase([&](platform::Database& database) {
+        auto rows = database.executeQuery(sql, {});
+        while (rows && rows->next()) {
+            texts.push_back(rows->stringForColumn(0));
+        }
+        EXPECT_TRUE(rows && !rows->failed()) << sql << ": " << database.lastErrorMessage();
+    });
+    return texts;
+}
+
+std::vector<std::string> infinitives(const std::vector<data::VerbPtr>& verbs)
+{
+    std::vector<std::string> texts;
+    for (const auto& verb : verbs) {
+        texts.push_back(verb->french);
+    }
+    return texts;
+}
+
 void writeSmallDatabase(const std::filesystem::path& file)
 {
     const auto queue = platform::DatabaseQueue::open(platform::fileUrl(file));
@@ -62,7 +84,7 @@ World::World()
     storyboard.setServices(services());
     for (const char* name : {"VerbFavouriteToggled", "VerbViewed", "TabOpenEvent"}) {
         subscriptions_.push_back(notifications.addObserver(
-            name, [this](const platform::Notification& news) { ++posted_[news.name]; }));
+            name, [this](const platform::Notification& news) { ++posted[news.name]; }));
     }
 }
 
@@ -83,20 +105,7 @@ void World::execute(const std::string& sql)
 
 int World::count(const std::string& tableAndCondition)
 {
-    int rows = -1;
-    queue->inDatabase([&](platform::Database& database) {
-        auto result = database.executeQuery("SELECT count(*) FROM " + tableAndCondition, {});
-        if (result && result->next()) {
-            rows = static_cast<int>(result->longForColumn(0));
-        }
-    });
-    return rows;
-}
-
-int World::posted(const std::string& name) const
-{
-    const auto found = posted_.find(name);
-    return found == posted_.end() ? 0 : found->second;
+    return std::stoi(rowsOf(*queue, "SELECT count(*) FROM " + tableAndCondition).at(0));
 }
 
 data::VerbPtr World::verb(std::int64_t id)

@@ -43,6 +43,11 @@ void writeSmallDatabase(const std::filesystem::path& file);
 /// Runs one statement on a database file; stops the test on a failure.
 void executeOn(platform::DatabaseQueue& queue, const std::string& sql);
 
+/// The first column of a query, which must not fail.
+std::vector<std::string> rowsOf(platform::DatabaseQueue& queue, const std::string& sql);
+
+std::vector<std::string> infinitives(const std::vector<data::VerbPtr>& verbs);
+
 /// Forgets everything, and counts how often it was to keep it.
 class FlushedSettingsStore final : public platform::SettingsStore {
 public:
@@ -64,11 +69,19 @@ public:
 
     platform::Services services();
 
+    /// A screen on the database, as it is before it appears.
+    template <typename Screen>
+    std::shared_ptr<Screen> load()
+    {
+        auto screen = std::make_shared<Screen>(services());
+        screen->queue = queue.get();
+        screen->loadViewIfNeeded();
+        return screen;
+    }
+
     void execute(const std::string& sql);
     /// Rows of "TABLE" or "TABLE WHERE …".
     int count(const std::string& tableAndCondition);
-    /// How often a notification was posted.
-    int posted(const std::string& name) const;
     /// The verb of an id, as a list would have read it.
     data::VerbPtr verb(std::int64_t id);
     FakeTableView& table(platform::TableViewController& controller);
@@ -77,6 +90,8 @@ public:
 
     TemporaryFolder folder;
     platform::NotificationCenter notifications;
+    /// How often each notification was posted.
+    std::map<std::string, int> posted;
     FlushedSettingsStore settings;
     FakeBundle bundle;
     FakeDevice device;
@@ -100,7 +115,6 @@ public:
     std::unique_ptr<platform::DatabaseQueue> queue;
 
 private:
-    std::map<std::string, int> posted_;
     std::vector<platform::NotificationCenter::Subscription> subscriptions_;
 };
 
