@@ -132,11 +132,6 @@ std::string ResultSet::stringForColumn(int column) const
             static_cast<std::size_t>(sqlite3_column_bytes(statement_, column))};
 }
 
-bool ResultSet::isNull(int column) const
-{
-    return statement_ == nullptr || sqlite3_column_type(statement_, column) == SQLITE_NULL;
-}
-
 Database::Database(std::string fileUrl) : fileUrl_(std::move(fileUrl)) {}
 
 Database::~Database()

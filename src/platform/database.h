@@ -46,7 +46,6 @@ public:
     double doubleForColumn(int column) const;
     bool boolForColumn(int column) const;
     std::string stringForColumn(int column) const;
-    bool isNull(int column) const;
 
 private:
     friend class Database;

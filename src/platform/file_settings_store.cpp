@@ -122,7 +122,6 @@ FileSettingsStore::FileSettingsStore(std::filesystem::path file) : file_(std::mo
         setValues(std::move(reader.values));
         return;
     }
-    damaged_ = true;
     std::filesystem::path aside = file_;
     aside += ".damaged";
     if (const auto renamed = renameDurably(file_, aside); !renamed) {

@@ -24,12 +24,8 @@ public:
 
     Result<void> synchronize() override;
 
-    /// Whether the file was found damaged and put aside.
-    bool wasDamaged() const { return damaged_; }
-
 private:
     std::filesystem::path file_;
-    bool damaged_ = false;
     /// Why the file must not be written: it is there but could not be read.
     std::optional<Error> refused_;
 };

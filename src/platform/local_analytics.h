@@ -22,7 +22,6 @@ public:
     void logEvent(std::string_view name,
                   const std::map<std::string, std::string>& parameters) override;
     void setAnalyticsCollectionEnabled(bool enabled) override;
-    bool isCollectionEnabled() const { return enabled_; }
 
     static constexpr std::size_t kMaximumBytes = std::size_t{256} * 1024;
 

@@ -3,6 +3,7 @@
 
 #include "platform/database_queue.h"
 
+#include "support/statements.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -21,6 +22,8 @@ namespace lumora::platform {
 
 namespace {
 
+using support::executeOn;
+using support::rowsOf;
 using support::TemporaryFolder;
 using support::writeContent;
 
@@ -28,19 +31,6 @@ class DatabaseTest : public testing::Test {
 protected:
     /// Runs `block` on the file of this test.
     void in(const std::function<void(Database&)>& block) { queue->inDatabase(block); }
-
-    static void update(Database& database, std::string_view sql,
-                       const std::vector<SqlValue>& values = {})
-    {
-        const auto done = database.executeUpdate(sql, values);
-        ASSERT_TRUE(done) << sql << ": " << done.error().message;
-    }
-
-    static std::int64_t count(Database& database)
-    {
-        auto rows = database.executeQuery("SELECT count(*) FROM verb", {});
-        return rows && rows->next() ? rows->longForColumn(0) : -1;
-    }
 
     TemporaryFolder folder;
     std::unique_ptr<DatabaseQueue> queue = DatabaseQueue::open(fileUrl(folder / "verbs.db"));
@@ -54,15 +44,15 @@ TEST_F(DatabaseTest, ValuesComeBackAsTheyWereBound)
     constexpr auto kLowest = std::numeric_limits<std::int64_t>::min();
 
     in([&](Database& database) {
-        auto rows = database.executeQuery("SELECT ?, ? AS b, ? AS 'Ça', ?, ?",
+        auto rows = database.executeQuery("SELECT ?, ? AS b, ? AS 'Ça', ? IS NULL, ? IS NULL",
                                           {kLowest, 0.1, awkward, nullptr, std::string()});
         ASSERT_TRUE(rows);
         ASSERT_TRUE(rows->next());
         EXPECT_EQ(rows->longForColumn(0), kLowest);
         EXPECT_EQ(rows->doubleForColumn(rows->columnIndex("B")), 0.1);
         EXPECT_EQ(rows->stringForColumn(rows->columnIndex("Ça")), awkward);
-        EXPECT_TRUE(rows->isNull(3));
-        EXPECT_FALSE(rows->isNull(4)) << "an empty text is not NULL";
+        EXPECT_TRUE(rows->boolForColumn(3));
+        EXPECT_FALSE(rows->boolForColumn(4)) << "an empty text is not NULL";
         EXPECT_FALSE(rows->next());
         EXPECT_FALSE(rows->next()) << "a finished set must not start again";
         EXPECT_FALSE(rows->failed());
@@ -81,7 +71,6 @@ TEST_F(DatabaseTest, NullAndAbsentColumnsReadAsZeroAndEmpty)
             EXPECT_EQ(rows->doubleForColumn(column), 0.0);
             EXPECT_FALSE(rows->boolForColumn(column));
             EXPECT_EQ(rows->stringForColumn(column), "");
-            EXPECT_TRUE(rows->isNull(column));
         }
         EXPECT_EQ(rows->columnIndex("missing"), -1);
         EXPECT_EQ(rows->columnIndex("non"), -1);
@@ -91,25 +80,21 @@ TEST_F(DatabaseTest, NullAndAbsentColumnsReadAsZeroAndEmpty)
 TEST_F(DatabaseTest, FailuresCarryThePrimaryCodeAndSurviveTheNextSuccess)
 {
     in([&](Database& database) {
-        update(database, "CREATE TABLE verb (id INTEGER PRIMARY KEY, name TEXT UNIQUE)");
-        update(database, "INSERT INTO verb VALUES (1, 'aller')");
+        executeOn(database, "CREATE TABLE verb (id INTEGER PRIMARY KEY, name TEXT UNIQUE)");
+        executeOn(database, "INSERT INTO verb VALUES (1, 'aller')");
 
-        struct Case {
-            const char* sql;
-            int code;
+        const std::pair<const char*, int> cases[] = {
+            {"SELECT nothing FROM verb", SQLITE_ERROR},
+            {"INSERT INTO verb VALUES (2, 'aller')", SQLITE_CONSTRAINT}, // extended: unique
+            {"INSERT INTO verb VALUES ('x', 'être')", SQLITE_MISMATCH},
         };
-        for (const auto& [sql, code] : {
-                 Case{"SELECT nothing FROM verb", SQLITE_ERROR},
-                 Case{"INSERT INTO verb VALUES (2, 'aller')",
-                      SQLITE_CONSTRAINT}, // extended: unique
-                 Case{"INSERT INTO verb VALUES ('x', 'être')", SQLITE_MISMATCH},
-             }) {
+        for (const auto& [sql, code] : cases) {
             SCOPED_TRACE(sql);
             const auto failed = database.executeUpdate(sql, {});
             ASSERT_FALSE(failed);
             EXPECT_EQ(failed.error().code, code);
             EXPECT_FALSE(failed.error().message.empty());
-            EXPECT_EQ(count(database), 1);
+            EXPECT_EQ(rowsOf(database, "SELECT name FROM verb"), std::vector<std::string>{"aller"});
             EXPECT_EQ(database.lastErrorCode(), code);
             EXPECT_EQ(database.lastErrorMessage(), failed.error().message);
         }
@@ -129,17 +114,14 @@ TEST_F(DatabaseTest, AWrongNumberOfValuesIsAMistakeOfOurs)
 TEST_F(DatabaseTest, ARowSetIsNotDisturbedByTheSameStatementInside)
 {
     in([&](Database& database) {
-        update(database, "CREATE TABLE verb (id INTEGER)");
-        update(database, "INSERT INTO verb VALUES (1), (2), (3)");
-        int pairs = 0;
+        executeOn(database, "CREATE TABLE verb (id INTEGER)");
+        executeOn(database, "INSERT INTO verb VALUES (1), (2), (3)");
+        std::size_t pairs = 0;
         auto outer = database.executeQuery("SELECT id FROM verb", {});
         while (outer && outer->next()) {
-            auto inner = database.executeQuery("SELECT id FROM verb", {});
-            while (inner && inner->next()) {
-                ++pairs;
-            }
+            pairs += rowsOf(database, "SELECT id FROM verb").size();
         }
-        EXPECT_EQ(pairs, 9);
+        EXPECT_EQ(pairs, 9U);
     });
 }
 
@@ -147,8 +129,8 @@ TEST_F(DatabaseTest, ARowSetThatOutlivesTheConnectionEndsAndLetsGoOfTheFile)
 {
     std::optional<ResultSet> kept;
     in([&](Database& database) {
-        update(database, "CREATE TABLE verb (id INTEGER)");
-        update(database, "INSERT INTO verb VALUES (1), (2)");
+        executeOn(database, "CREATE TABLE verb (id INTEGER)");
+        executeOn(database, "INSERT INTO verb VALUES (1), (2)");
         kept = std::move(*database.executeQuery("SELECT id FROM verb", {}));
         ASSERT_TRUE(kept->next());
 
@@ -161,7 +143,7 @@ TEST_F(DatabaseTest, ARowSetThatOutlivesTheConnectionEndsAndLetsGoOfTheFile)
     });
     in([&](Database& database) {
         EXPECT_TRUE(database.isOpen());
-        update(database, "DROP TABLE verb"); // fails while anyone reads
+        executeOn(database, "DROP TABLE verb"); // fails while anyone reads
     });
 }
 
@@ -179,18 +161,18 @@ TEST_F(DatabaseTest, AConnectionThatDoesNotOpenAgainFailsEveryStatementWithTheRe
     });
     std::filesystem::remove(folder / "verbs.db");
 
-    in([](Database& database) { EXPECT_TRUE(database.executeUpdate("SELECT 1", {})); });
+    executeOn(*queue, "SELECT 1");
 }
 
 TEST_F(DatabaseTest, ACorruptFileFailsTheStatementAndNotTheProgram)
 {
     in([&](Database& database) {
-        update(database, "CREATE TABLE verb (name TEXT)");
-        update(database, "BEGIN");
+        executeOn(database, "CREATE TABLE verb (name TEXT)");
+        executeOn(database, "BEGIN");
         for (int row = 0; row < 500; ++row) {
-            update(database, "INSERT INTO verb VALUES (?)", {std::string(100, 'x')});
+            executeOn(database, "INSERT INTO verb VALUES (?)", {std::string(100, 'x')});
         }
-        update(database, "COMMIT");
+        executeOn(database, "COMMIT");
         database.close();
     });
     // The head stays good, so that the failure comes while stepping.
@@ -223,9 +205,7 @@ TEST(DatabaseQueue, OpensTheVeryFileWhateverItsName)
         SCOPED_TRACE(name);
         const auto queue = DatabaseQueue::open(fileUrl(folder / name));
         ASSERT_NE(queue, nullptr);
-        queue->inDatabase([](Database& database) {
-            EXPECT_TRUE(database.executeUpdate("CREATE TABLE verb (id)", {}));
-        });
+        executeOn(*queue, "CREATE TABLE verb (id)");
         EXPECT_GT(std::filesystem::file_size(folder / name), 0U);
     }
     EXPECT_EQ(fileUrl("/tmp/à (1)~.db"), "file:///tmp/%C3%A0%20%281%29~.db");

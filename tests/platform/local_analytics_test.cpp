@@ -44,29 +44,34 @@ TEST(LocalAnalytics, WritesOneLineOfJsonAnEvent)
     EXPECT_FALSE(std::getline(lines, line));
 }
 
+/// Whether a program that starts now writes its events.
+bool collectsIn(const TemporaryFolder& folder)
+{
+    const support::FakeClock clock;
+    LocalAnalytics(folder.path(), clock).logEvent("search", {});
+    return std::filesystem::remove(folder / "analytics.jsonl");
+}
+
 TEST(LocalAnalytics, TheUsersRefusalOutlivesTheProgram)
 {
     const TemporaryFolder folder;
     const support::FakeClock clock;
-    EXPECT_TRUE(LocalAnalytics(folder.path(), clock).isCollectionEnabled());
-
-    LocalAnalytics(folder.path(), clock).setAnalyticsCollectionEnabled(false);
-    LocalAnalytics refused(folder.path(), clock);
-    refused.logEvent("search", {});
-
-    EXPECT_FALSE(refused.isCollectionEnabled());
-    EXPECT_FALSE(std::filesystem::exists(folder / "analytics.jsonl"));
-    refused.setAnalyticsCollectionEnabled(true);
-    EXPECT_TRUE(LocalAnalytics(folder.path(), clock).isCollectionEnabled());
+    EXPECT_TRUE(collectsIn(folder));
+    for (const bool enabled : {false, true}) {
+        LocalAnalytics analytics(folder.path(), clock);
+        analytics.setAnalyticsCollectionEnabled(enabled);
+        analytics.logEvent("at once", {});
+        EXPECT_EQ(std::filesystem::remove(folder / "analytics.jsonl"), enabled);
+        EXPECT_EQ(collectsIn(folder), enabled);
+    }
 }
 
 TEST(LocalAnalytics, ADamagedFlagCollectsNothing)
 {
-    const support::FakeClock clock;
     for (const char* content : {"", "{", "[]", "{}", "{\"collectionEnabled\": 1}"}) {
         const TemporaryFolder folder;
         writeContent(folder / "analytics.json", content);
-        EXPECT_FALSE(LocalAnalytics(folder.path(), clock).isCollectionEnabled()) << content;
+        EXPECT_FALSE(collectsIn(folder)) << content;
     }
 }
 

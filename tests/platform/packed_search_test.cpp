@@ -5,6 +5,8 @@
 
 #include "platform/database_queue.h"
 #include "platform/packed_pattern.h"
+#include "support/statements.h"
+#include "support/stock_sqlite.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +20,10 @@
 namespace lumora::platform {
 namespace {
 
+using support::executeOn;
+using support::rowsOf;
 using support::TemporaryFolder;
+using Ids = std::vector<std::string>;
 
 const PackedColumn kForms{"conjugation", "verbid", "verb", "packed_forms", "forms", "verb"};
 
@@ -45,36 +50,34 @@ TEST(PackedPattern, AnswersAsLikeDoesWhateverTheBytes)
         "Z[a@`{", "\xC3\xA9\xA9z", "aaaaaaaaaaaaaaaaAB", std::string(126, 'x') + "AbAb",
     };
     // Whole characters, halves of them, overlong and impossible ones.
-    const std::vector<std::string> pieces = {
-        "%",
-        "%",
-        "_",
-        "_",
-        "a",
-        "b",
-        "A",
-        "V",
-        "s",
-        "é",
-        "É",
-        "\xC3",
-        "\xA9",
-        "\x80",
-        " ",
-        "all",
-        "\xC1\xA1",
-        "\xED\xA0\x80",
-        "\xEF\xBF\xBE",
-        "\uFFFD",
-        "\U0001F600",
-        "x",
-        "\xFF",
-        "ab",
-        "\xFE\xA9",
-        "suis",
-        "œ",
-        "\xF9\x81\x81\x81\x81",
-    };
+    const std::vector<std::string> pieces = {"%",
+                                             "%",
+                                             "_",
+                                             "_",
+                                             "a",
+                                             "b",
+                                             "A",
+                                             "V",
+                                             "s",
+                                             "é",
+                                             "É",
+                                             "\xC3",
+                                             "\xA9",
+                                             "\x80",
+                                             " ",
+                                             "all",
+                                             "\xC1\xA1",
+                                             "\xED\xA0\x80",
+                                             "\xEF\xBF\xBE",
+                                             "\uFFFD",
+                                             "\U0001F600",
+                                             "x",
+                                             "\xFF",
+                                             "ab",
+                                             "\xFE\xA9",
+                                             "suis",
+                                             "œ",
+                                             "\xF9\x81\x81\x81\x81"};
     std::vector<std::string> patterns = {"",
                                          "%",
                                          "%%",
@@ -137,48 +140,22 @@ protected:
               "INSERT INTO verb VALUES (1, 'avoir'), (2, 'être'), (3, 'aller'), (9, 'sans')",
               "INSERT INTO conjugation VALUES (1, 'ai', 'p'), (1, 'as', 'p'), (2, 'Suis', 'p'), "
               "(2, 'es', 'p'), (3, 'vais', 'p'), (3, 'suis allé', 'c')",
-              "INSERT INTO packed_forms VALUES (1, x'0061690061730000'), "
-              "(2, x'007375697300657300')"}) {
-            update(sql);
+              "INSERT INTO packed_forms SELECT verbid, CAST(char(0) || group_concat(lower(verb) || "
+              "char(0), '') AS BLOB) FROM conjugation GROUP BY verbid"}) {
+            executeOn(*queue, sql);
         }
-        queue->inDatabase([&](Database& database) {
-            for (const auto& [id, texts] :
-                 {std::pair{1, std::vector<std::string>{"ai", "as"}},
-                  std::pair{3, std::vector<std::string>{"vais", "suis allé"}}}) {
-                ASSERT_TRUE(database.executeUpdate(
-                    "REPLACE INTO packed_forms VALUES (?, CAST(? AS BLOB))", {id, packed(texts)}));
-            }
-        });
-    }
-
-    void update(const std::string& sql)
-    {
-        queue->inDatabase([&](Database& database) {
-            const auto done = database.executeUpdate(sql, {});
-            ASSERT_TRUE(done) << sql << ": " << done.error().message;
-        });
     }
 
     /// The verbs with a matching form, and in `fast` whether they came fast.
-    std::vector<std::int64_t> search(const char* pattern, bool& fast)
+    Ids search(const char* pattern, bool& fast)
     {
-        std::vector<std::int64_t> ids;
+        Ids ids;
         queue->inDatabase([&](Database& database) {
             const PackedSearch search(database, kForms);
             fast = search.isActive();
-            auto rows = database.executeQuery(kSearch, {std::string(pattern)});
-            while (rows && rows->next()) {
-                ids.push_back(rows->longForColumn(0));
-            }
-            EXPECT_TRUE(rows && !rows->failed()) << database.lastErrorMessage();
+            ids = rowsOf(database, kSearch, {std::string(pattern)});
         });
         return ids;
-    }
-
-    std::int64_t number(Database& database, const char* sql)
-    {
-        auto rows = database.executeQuery(sql, {});
-        return rows && rows->next() ? rows->longForColumn(0) : -1;
     }
 
     static constexpr const char* kSearch =
@@ -189,29 +166,24 @@ protected:
     std::unique_ptr<DatabaseQueue> queue = DatabaseQueue::open(fileUrl(folder / "verbs.db"));
 };
 
-using Ids = std::vector<std::int64_t>;
-
 TEST_F(PackedSearchTest, FindsTheSameFastAndWithoutTheHelperTable)
 {
     bool fast = false;
-    EXPECT_EQ(search("SUIS%", fast), (Ids{3, 2}));
+    EXPECT_EQ(search("SUIS%", fast), (Ids{"3", "2"}));
     EXPECT_TRUE(fast);
     EXPECT_EQ(search("", fast), Ids{});
 
     // What was read stays with the queue, not with the connection.
-    update("UPDATE packed_forms SET forms = 'x'");
+    executeOn(*queue, "UPDATE packed_forms SET forms = 'x'");
     queue->inDatabase([](Database& database) { database.close(); });
-    EXPECT_EQ(search("a_", fast), Ids{1});
+    EXPECT_EQ(search("a_", fast), Ids{"1"});
     EXPECT_TRUE(fast);
 
     for (const char* spoil :
-         {"SELECT 1", "DELETE FROM packed_forms; ", "DROP TABLE packed_forms"}) {
-        update(spoil);
-        if (std::string(spoil).starts_with("DELETE")) {
-            update("INSERT INTO packed_forms VALUES (1, 7)");
-        }
+         {"SELECT 1", "UPDATE packed_forms SET forms = 7", "DROP TABLE packed_forms"}) {
+        executeOn(*queue, spoil);
         queue = DatabaseQueue::open(fileUrl(folder / "verbs.db"));
-        EXPECT_EQ(search("suis%", fast), (Ids{3, 2})) << spoil;
+        EXPECT_EQ(search("suis%", fast), (Ids{"3", "2"})) << spoil;
         EXPECT_FALSE(fast) << spoil;
     }
 }
@@ -223,13 +195,13 @@ TEST_F(PackedSearchTest, LeavesEveryOtherStatementTheRealTable)
             "SELECT count(*) FROM verb JOIN conjugation ON verb._id = conjugation.verbid";
         {
             const PackedSearch search(database, kForms);
-            EXPECT_EQ(number(database, count), 3) << "one row a verb";
+            EXPECT_EQ(rowsOf(database, count), Ids{"3"}) << "one row a verb";
         }
-        EXPECT_EQ(number(database, count), 6);
-        EXPECT_EQ(number(database, "SELECT count(*) FROM conjugation WHERE type = 'c'"), 1);
-        EXPECT_EQ(number(database, "SELECT count(*) FROM sqlite_temp_master"), 0);
+        EXPECT_EQ(rowsOf(database, count), Ids{"6"});
+        EXPECT_EQ(rowsOf(database, "SELECT count(*) FROM conjugation WHERE type = 'c'"), Ids{"1"});
+        EXPECT_EQ(rowsOf(database, "SELECT count(*) FROM sqlite_temp_master"), Ids{"0"});
     });
-    update("DELETE FROM conjugation WHERE verbid = 3");
+    executeOn(*queue, "DELETE FROM conjugation WHERE verbid = 3");
 
     queue->inDatabase([&](Database& database) {
         auto rows = database.executeQuery("SELECT 1", {});
@@ -238,12 +210,9 @@ TEST_F(PackedSearchTest, LeavesEveryOtherStatementTheRealTable)
             rows = database.executeQuery(kSearch, {std::string("%")});
             ASSERT_TRUE(rows->next());
         }
-        EXPECT_EQ(number(database, "SELECT count(*) FROM conjugation"), -1)
-            << "rows outlived the search: the connection is given up";
+        EXPECT_FALSE(database.isOpen()) << "rows outlived the search: it is given up";
     });
-    queue->inDatabase([&](Database& database) {
-        EXPECT_EQ(number(database, "SELECT count(*) FROM conjugation"), 4);
-    });
+    EXPECT_EQ(rowsOf(*queue, "SELECT count(*) FROM conjugation"), Ids{"4"});
 }
 
 TEST_F(PackedSearchTest, LikesWhatTheBuiltInDoes)
@@ -252,23 +221,9 @@ TEST_F(PackedSearchTest, LikesWhatTheBuiltInDoes)
         "WITH all_values(v) AS (VALUES (NULL), ('10'), (10), (1.5), (x'3130'), (''), ('%'), "
         "('1%'), ('É'), ('%b%'), (char(97, 0, 98))) SELECT group_concat(ifnull(a.v LIKE b.v, "
         "'n')) FROM all_values a, all_values b";
-    std::string builtIn;
-    sqlite3* plain = nullptr;
-    ASSERT_EQ(sqlite3_open(":memory:", &plain), SQLITE_OK);
-    sqlite3_exec(
-        plain, both.c_str(),
-        [](void* answer, int, char** row, char**) {
-            *static_cast<std::string*>(answer) = row[0];
-            return 0;
-        },
-        &builtIn, nullptr);
-    sqlite3_close(plain);
-    queue->inDatabase([&](Database& database) {
-        auto rows = database.executeQuery(both, {});
-        ASSERT_TRUE(rows && rows->next());
-        EXPECT_EQ(rows->stringForColumn(0), builtIn);
-        EXPECT_EQ(builtIn.size(), 241U);
-    });
+    const auto builtIn = support::joinedRows(":memory:", both);
+    EXPECT_EQ(rowsOf(*queue, both), builtIn);
+    EXPECT_EQ(builtIn.at(0).size(), 241U);
 }
 
 TEST_F(PackedSearchTest, SurvivesASchemaChangeByAnotherConnection)
@@ -276,11 +231,7 @@ TEST_F(PackedSearchTest, SurvivesASchemaChangeByAnotherConnection)
     const auto other = DatabaseQueue::open(fileUrl(folder / "verbs.db"));
     int tables = 0;
     const auto change = [&] {
-        other->inDatabase([&](Database& database) {
-            const auto done =
-                database.executeUpdate("CREATE TABLE other" + std::to_string(tables++) + "(a)", {});
-            EXPECT_TRUE(done) << done.error().message;
-        });
+        executeOn(*other, "CREATE TABLE other" + std::to_string(tables++) + "(a)");
     };
     queue->inDatabase([&](Database& database) {
         const PackedSearch search(database, kForms);
@@ -290,19 +241,17 @@ TEST_F(PackedSearchTest, SurvivesASchemaChangeByAnotherConnection)
         change(); // Prepared, not yet stepped.
         Ids ids;
         while (rows->next()) {
-            ids.push_back(rows->longForColumn(0));
+            ids.push_back(rows->stringForColumn(0));
         }
         EXPECT_FALSE(rows->failed()) << database.lastErrorMessage();
-        EXPECT_EQ(ids, (Ids{3, 1}));
+        EXPECT_EQ(ids, (Ids{"3", "1"}));
 
         change(); // Between two statements of one search.
-        EXPECT_EQ(number(database, "SELECT count(*) FROM verb JOIN conjugation ON verb._id = "
-                                   "conjugation.verbid WHERE conjugation.verb LIKE '%ai%'"),
-                  2);
+        EXPECT_EQ(rowsOf(database, kSearch, {std::string("%ai%")}), (Ids{"3", "1"}));
     });
     change();
     bool fast = false;
-    EXPECT_EQ(search("e%", fast), Ids{2});
+    EXPECT_EQ(search("e%", fast), Ids{"2"});
     EXPECT_TRUE(fast);
 }
 

@@ -13,37 +13,34 @@ namespace lumora::platform {
 
 TEST(Text, UpperCaseIsTheFullMappingWithoutALanguage)
 {
-    struct Case {
-        const char* text;
-        const char* upper;
+    const std::pair<const char*, const char*> cases[] = {
+        {"s'asseoir z{`", "S'ASSEOIR Z{`"},
+        {"être, œuvrer, haïr", "ÊTRE, ŒUVRER, HAÏR"},
+        {"straße ﬁn", "STRASSE FIN"},
+        {"i ÿ", "I Ÿ"},
+        {"e\u0301", "E\u0301"},
+        {"a\xffz", "A\uFFFDZ"},
     };
-    for (const auto& [text, upper] : {
-             Case{"s'asseoir z{`", "S'ASSEOIR Z{`"},
-             Case{"être, œuvrer, haïr", "ÊTRE, ŒUVRER, HAÏR"},
-             Case{"straße ﬁn", "STRASSE FIN"},
-             Case{"i ÿ", "I Ÿ"},
-             Case{"e\u0301", "E\u0301"},
-             Case{"a\xffz", "A\uFFFDZ"},
-         }) {
+    for (const auto& [text, upper] : cases) {
         EXPECT_EQ(upperCased(text), upper);
     }
 }
 
 TEST(Text, ComposesCanonicallyAndReplacesMalformedBytes)
 {
-    struct Case {
-        const char* text;
-        const char* composed;
+    const std::pair<const char*, const char*> cases[] = {
+        {"plain", "plain"},
+        {"e\u0301te\u0301", "été"},
+        {"c\u0327a", "ça"},
+        {"été œ", "été œ"},
+        {"e\u0323\u0302", "ệ"},                   // two marks
+        {"ﬁ ²", "ﬁ ²"},                           // compatibility forms stay
+        {"\u212B", "Å"},                          // a single character with another composition
+        {"a\xC3", "a\uFFFD"},                     // cut short
+        {"\xC0\xAF", "\uFFFD\uFFFD"},             // an overlong solidus
+        {"\xED\xA0\x80z", "\uFFFD\uFFFD\uFFFDz"}, // a surrogate
     };
-    for (const auto& [text, expected] : {
-             Case{"plain", "plain"}, Case{"e\u0301te\u0301", "été"}, Case{"c\u0327a", "ça"},
-             Case{"été œ", "été œ"}, Case{"e\u0323\u0302", "ệ"}, // two marks
-             Case{"ﬁ ²", "ﬁ ²"},                                 // compatibility forms stay
-             Case{"\u212B", "Å"},              // a single character with another composition
-             Case{"a\xC3", "a\uFFFD"},         // cut short
-             Case{"\xC0\xAF", "\uFFFD\uFFFD"}, // an overlong solidus
-             Case{"\xED\xA0\x80z", "\uFFFD\uFFFD\uFFFDz"}, // a surrogate
-         }) {
+    for (const auto& [text, expected] : cases) {
         EXPECT_EQ(composed(text), expected);
         EXPECT_EQ(composed(composed(text)), expected);
     }

@@ -7,8 +7,6 @@
 #include "detail/verb_detail_table_view_controller.h"
 #include "platform/navigation_controller.h"
 
-#include <gtest/gtest.h>
-
 namespace lumora::support {
 
 namespace {
@@ -38,27 +36,6 @@ constexpr const char* kStatements[] = {
 };
 
 } // namespace
-
-void executeOn(platform::DatabaseQueue& queue, const std::string& sql)
-{
-    queue.inDatabase([&](platform::Database& database) {
-        const auto done = database.executeUpdate(sql, {});
-        ASSERT_TRUE(done) << sql << ": " << done.error().message;
-    });
-}
-
-std::vector<std::string> rowsOf(platform::DatabaseQueue& queue, const std::string& sql)
-{
-    std::vector<std::string> texts;
-    queue.inDatabase([&](platform::Database& database) {
-        auto rows = database.executeQuery(sql, {});
-        while (rows && rows->next()) {
-            texts.push_back(rows->stringForColumn(0));
-        }
-        EXPECT_TRUE(rows && !rows->failed()) << sql << ": " << database.lastErrorMessage();
-    });
-    return texts;
-}
 
 std::vector<std::string> infinitives(const std::vector<data::VerbPtr>& verbs)
 {

@@ -5,7 +5,6 @@
 
 #include "app/main_storyboard.h"
 #include "data/verb.h"
-#include "platform/database_queue.h"
 #include "platform/notification_center.h"
 #include "platform/services.h"
 #include "platform/settings_store.h"
@@ -22,6 +21,7 @@
 #include "support/fake_ways_out.h"
 #include "support/recording_analytics.h"
 #include "support/recording_crash_reporter.h"
+#include "support/statements.h"
 #include "support/temporary_folder.h"
 
 #include <filesystem>
@@ -39,12 +39,6 @@ namespace lumora::support {
 
 /// Writes a database of six verbs with the tables of the shipped one.
 void writeSmallDatabase(const std::filesystem::path& file);
-
-/// Runs one statement on a database file; stops the test on a failure.
-void executeOn(platform::DatabaseQueue& queue, const std::string& sql);
-
-/// The first column of a query, which must not fail.
-std::vector<std::string> rowsOf(platform::DatabaseQueue& queue, const std::string& sql);
 
 std::vector<std::string> infinitives(const std::vector<data::VerbPtr>& verbs);
 

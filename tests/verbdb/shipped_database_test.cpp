@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "conjugator/grammar.h"
+#include "support/stock_sqlite.h"
 #include "verbdb/content.h"
 #include "verbdb/simplify.h"
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
-
 #include <unicode/normalizer2.h>
 
 #include <algorithm>
@@ -23,76 +22,43 @@
 namespace lumora::verbdb {
 namespace {
 
-using Row = std::vector<std::string>;
+using support::Row;
 
-/// Reads the database that ships.
-class ShippedDatabase : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        ASSERT_EQ(sqlite3_open_v2(LUMORA_VERBS_DB, &database_, SQLITE_OPEN_READONLY, nullptr),
-                  SQLITE_OK);
-    }
+/// Visits rows of the database that ships, of which there must be some.
+void forEachRow(const char* sql, const std::function<void(const Row&)>& visit)
+{
+    bool any = false;
+    support::forEachRow(LUMORA_VERBS_DB, sql, [&](const Row& row) {
+        any = true;
+        visit(row);
+    });
+    EXPECT_TRUE(any) << sql;
+}
 
-    void TearDown() override { sqlite3_close(database_); }
-
-    void forEachRow(const char* sql, const std::function<void(const Row&)>& visit)
-    {
-        sqlite3_stmt* statement = nullptr;
-        ASSERT_EQ(sqlite3_prepare_v2(database_, sql, -1, &statement, nullptr), SQLITE_OK);
-        Row row(static_cast<std::size_t>(sqlite3_column_count(statement)));
-        std::size_t rows = 0;
-        while (sqlite3_step(statement) == SQLITE_ROW) {
-            for (std::size_t i = 0; i < row.size(); ++i) {
-                const auto column = static_cast<int>(i);
-                const auto* text = sqlite3_column_text(statement, column);
-                row[i] = text == nullptr ? "NULL" : reinterpret_cast<const char*>(text);
-            }
-            visit(row);
-            ++rows;
-        }
-        sqlite3_finalize(statement);
-        EXPECT_GT(rows, 0U) << sql;
-    }
-
-    void expectNone(const char* sql)
-    {
-        sqlite3_stmt* statement = nullptr;
-        ASSERT_EQ(sqlite3_prepare_v2(database_, sql, -1, &statement, nullptr), SQLITE_OK)
-            << sqlite3_errmsg(database_);
-        std::string first;
-        if (sqlite3_step(statement) == SQLITE_ROW) {
-            for (int i = 0; i < sqlite3_column_count(statement); ++i) {
-                const auto* text = sqlite3_column_text(statement, i);
-                first += std::string(text ? reinterpret_cast<const char*>(text) : "NULL") + " ";
-            }
-        }
-        sqlite3_finalize(statement);
-        EXPECT_EQ(first, "") << sql;
-    }
-
-    sqlite3* database_ = nullptr;
-};
-
-TEST_F(ShippedDatabase, HasOnlyFormsOfKnownTensesWithText)
+TEST(ShippedDatabase, HasOnlyFormsOfKnownTensesWithText)
 {
     std::string types;
     for (const auto name : conjugator::kTenseNames) {
         types += (types.empty() ? "'" : ", '") + std::string(name) + "'";
     }
-    expectNone(("SELECT verbid, type FROM conjugation WHERE type NOT IN (" + types + ")").c_str());
-    expectNone("SELECT verbid, type FROM conjugation WHERE trim(verb) <> verb OR verb = ''");
-    expectNone("SELECT verbid, verb FROM conjugation WHERE verb LIKE '%,%' AND display = 0");
-    expectNone("SELECT verbid FROM conjugation WHERE verbid NOT IN (SELECT _id FROM verb)");
-    expectNone("SELECT _id FROM verb WHERE _id NOT IN (SELECT verbid FROM conjugation WHERE"
-               " type = 'infinitif' AND display = 1)");
-    expectNone("SELECT verbid FROM conjugation WHERE display NOT IN (0, 1)");
-    expectNone("SELECT a.verbid, a.conj_order FROM conjugation a JOIN conjugation b ON b.verbid ="
-               " a.verbid AND b.conj_order = a.conj_order + 1 WHERE a.display < b.display");
-    expectNone("SELECT verbid FROM conjugation GROUP BY verbid"
-               " HAVING count(DISTINCT conj_order) <> count(*)");
-    expectNone("SELECT verbid, pronoun FROM conjugation WHERE (pronoun = '') <>"
-               " (type IN ('imperatif', 'infinitif', 'participe'))");
+    const std::string none[] = {
+        "SELECT verbid, type FROM conjugation WHERE type NOT IN (" + types + ")",
+        "SELECT verbid, type FROM conjugation WHERE trim(verb) <> verb OR verb = ''",
+        "SELECT verbid, verb FROM conjugation WHERE verb LIKE '%,%' AND display = 0",
+        "SELECT verbid FROM conjugation WHERE verbid NOT IN (SELECT _id FROM verb)",
+        "SELECT _id FROM verb WHERE _id NOT IN (SELECT verbid FROM conjugation WHERE"
+        " type = 'infinitif' AND display = 1)",
+        "SELECT verbid FROM conjugation WHERE display NOT IN (0, 1)",
+        "SELECT a.verbid, a.conj_order FROM conjugation a JOIN conjugation b ON b.verbid ="
+        " a.verbid AND b.conj_order = a.conj_order + 1 WHERE a.display < b.display",
+        "SELECT verbid FROM conjugation GROUP BY verbid"
+        " HAVING count(DISTINCT conj_order) <> count(*)",
+        "SELECT verbid, pronoun FROM conjugation WHERE (pronoun = '') <>"
+        " (type IN ('imperatif', 'infinitif', 'participe'))",
+    };
+    for (const auto& sql : none) {
+        EXPECT_EQ(support::joinedRows(LUMORA_VERBS_DB, sql), std::vector<std::string>{}) << sql;
+    }
 }
 
 /// "que j'" and "je me" are je; the impersonal il is il/elle/on.
@@ -112,7 +78,7 @@ std::size_t personOf(std::string pronoun)
     return 0;
 }
 
-TEST_F(ShippedDatabase, GivesEachTenseItsPersonsInOrder)
+TEST(ShippedDatabase, GivesEachTenseItsPersonsInOrder)
 {
     std::map<std::pair<std::string, std::string>, std::vector<std::size_t>> personsOf;
     forEachRow("SELECT verbid, type, pronoun FROM conjugation WHERE display = 1 AND pronoun <> ''"
@@ -190,7 +156,7 @@ const std::map<std::string, std::string>& simpleTenses()
     return tenses;
 }
 
-TEST_F(ShippedDatabase, MakesCompoundFormsOfAuxiliaryAndAgreeingParticiple)
+TEST(ShippedDatabase, MakesCompoundFormsOfAuxiliaryAndAgreeingParticiple)
 {
     // By auxiliary, tense and person.
     std::map<std::string, std::map<std::string, std::map<std::size_t, std::string>>> auxiliaries;
@@ -232,7 +198,7 @@ TEST_F(ShippedDatabase, MakesCompoundFormsOfAuxiliaryAndAgreeingParticiple)
         });
 }
 
-TEST_F(ShippedDatabase, ElidesBeforeVowelsAndMuteHOnly)
+TEST(ShippedDatabase, ElidesBeforeVowelsAndMuteHOnly)
 {
     std::set<std::string> aspirated;
     for (const auto& verb : readContent(LUMORA_CONTENT_DIR).verbs) {
@@ -257,7 +223,7 @@ TEST_F(ShippedDatabase, ElidesBeforeVowelsAndMuteHOnly)
                });
 }
 
-TEST_F(ShippedDatabase, FoldsEveryHeadwordAndTranslation)
+TEST(ShippedDatabase, FoldsEveryHeadwordAndTranslation)
 {
     forEachRow("SELECT french, simplified_french, german, simplified_german, dutch,"
                " simplified_dutch, spanish, simplified_spanish, italian, simplified_italian,"
@@ -272,7 +238,7 @@ TEST_F(ShippedDatabase, FoldsEveryHeadwordAndTranslation)
                });
 }
 
-TEST_F(ShippedDatabase, HasComposedTextWithPlainApostrophes)
+TEST(ShippedDatabase, HasComposedTextWithPlainApostrophes)
 {
     UErrorCode error = U_ZERO_ERROR;
     const auto* nfc = icu::Normalizer2::getNFCInstance(error);

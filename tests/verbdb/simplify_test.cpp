@@ -10,10 +10,7 @@ namespace {
 
 TEST(Simplified, FoldsTextAsPeopleTypeIt)
 {
-    const struct {
-        const char* text;
-        const char* expected;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"être", "etre"},
         {"œuvrer", "oeuvrer"},
         {"Œuvrer", "oeuvrer"},
@@ -28,8 +25,8 @@ TEST(Simplified, FoldsTextAsPeopleTypeIt)
         {"pôr à mão", "por a mao"},
         {"crème (brûler) fouetter", "creme (bruler) fouetter"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(simplified(c.text), c.expected);
+    for (const auto& [text, expected] : cases) {
+        EXPECT_EQ(simplified(text), expected);
     }
 }
 

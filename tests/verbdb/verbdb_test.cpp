@@ -3,12 +3,13 @@
 
 #include "verbdb/verbdb.h"
 
+#include "support/stock_sqlite.h"
+#include "support/temporary_folder.h"
+
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <sstream>
 #include <string>
@@ -18,40 +19,23 @@ namespace lumora::verbdb {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string readFile(const fs::path& path)
-{
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-void writeFile(const fs::path& path, const std::string& text)
-{
-    std::ofstream(path, std::ios::binary) << text;
-}
+using support::contentOf;
+using support::writeContent;
 
 /// A copy of the frozen tables, with the shipped models, in a folder of its own.
 class Verbdb : public testing::Test {
 protected:
     void SetUp() override
     {
-        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        folder_ = fs::path(testing::TempDir()) / (std::string("verbdb_") + test->name());
-        fs::remove_all(folder_);
-        fs::create_directories(folder_);
-        for (const auto* name : {"verbs.tsv", "retired_ids.tsv"}) {
-            fs::copy(fs::path(LUMORA_FROZEN_CONTENT_DIR) / name, folder_ / name);
-        }
-        fs::copy(fs::path(LUMORA_CONTENT_DIR) / "models.tsv", folder_ / "models.tsv");
+        fs::copy(LUMORA_FROZEN_CONTENT_DIR, folder_.path());
+        fs::copy(LUMORA_CONTENT_DIR "/models.tsv", folder_ / "models.tsv");
     }
-
-    void TearDown() override { fs::remove_all(folder_); }
 
     int build(const std::string& name, std::vector<std::string> arguments = {})
     {
         std::ostringstream output;
         std::ostringstream errors;
-        arguments.insert(arguments.end(), {folder_.string(), (folder_ / name).string()});
+        arguments.insert(arguments.end(), {folder_.path().string(), (folder_ / name).string()});
         const int code = run(arguments, output, errors);
         errors_ = errors.str();
         return code;
@@ -60,26 +44,10 @@ protected:
     /// The rows of a query, columns divided by "|".
     std::vector<std::string> query(const std::string& sql)
     {
-        std::vector<std::string> rows;
-        sqlite3* database = nullptr;
-        sqlite3_open((folder_ / "verbs.db").c_str(), &database);
-        const int code = sqlite3_exec(
-            database, sql.c_str(),
-            [](void* context, int columns, char** values, char**) {
-                std::string row;
-                for (int i = 0; i < columns; ++i) {
-                    row += (i == 0 ? "" : "|") + std::string(values[i] ? values[i] : "NULL");
-                }
-                static_cast<std::vector<std::string>*>(context)->push_back(row);
-                return 0;
-            },
-            &rows, nullptr);
-        EXPECT_EQ(code, SQLITE_OK) << sqlite3_errmsg(database);
-        sqlite3_close(database);
-        return rows;
+        return support::joinedRows(folder_ / "verbs.db", sql);
     }
 
-    fs::path folder_;
+    support::TemporaryFolder folder_;
     std::string errors_;
 };
 
@@ -136,24 +104,24 @@ TEST_F(Verbdb, KeepsTheColumnsOthersRelyOn)
     EXPECT_EQ(columns("conjugation"), Rows{"_id,verbid,pronoun,verb,type,conj_order,display"});
     EXPECT_EQ(columns("favourite"), Rows{"_id,verbid"});
     EXPECT_EQ(columns("history"), Rows{"_id,verbid,timestamp"});
-    EXPECT_EQ(query("INSERT INTO history (verbid, timestamp) VALUES (1, 0.5); "
-                    "SELECT _id, timestamp FROM history"),
+    EXPECT_EQ(query("INSERT INTO history (verbid, timestamp) VALUES (1, 0.5) "
+                    "RETURNING _id, timestamp"),
               Rows{"1|0.5"});
 }
 
 TEST_F(Verbdb, MakesTheSameBytesFromTheSameTables)
 {
     ASSERT_EQ(build("first.db"), 0) << errors_;
-    writeFile(folder_ / "second.db", "an older file is replaced");
+    writeContent(folder_ / "second.db", "an older file is replaced");
     ASSERT_EQ(build("second.db"), 0) << errors_;
 
-    EXPECT_GT(readFile(folder_ / "first.db").size(), 100000U);
-    EXPECT_TRUE(readFile(folder_ / "first.db") == readFile(folder_ / "second.db"));
+    EXPECT_GT(contentOf(folder_ / "first.db").size(), 100000U);
+    EXPECT_TRUE(contentOf(folder_ / "first.db") == contentOf(folder_ / "second.db"));
 }
 
 TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
 {
-    const auto sound = readFile(folder_ / "verbs.tsv");
+    const auto sound = contentOf(folder_ / "verbs.tsv");
     const auto begin = sound.find("id\t");
     const auto head = sound.substr(begin, sound.find('\n', begin) + 1 - begin);
     const std::string line = "1|aimer|aimer|avoir|-|-|love|lieben|houden van|amar|amare|amar\n";
@@ -202,11 +170,11 @@ TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.refusal);
-        writeFile(folder_ / "verbs.tsv", c.verbs);
+        writeContent(folder_ / "verbs.tsv", c.verbs);
         EXPECT_EQ(build("verbs.db"), 1);
-        EXPECT_EQ(errors_, folder_.string() + "/" + c.refusal + "\n");
+        EXPECT_EQ(errors_, folder_.path().string() + "/" + c.refusal + "\n");
     }
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder_), {}), 3) << "only the tables";
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder_.path()), {}), 3) << "only the tables";
 }
 
 TEST_F(Verbdb, KeepsTheOldFileWhenItCannotWrite)
@@ -231,7 +199,7 @@ TEST_F(Verbdb, AnswersItsArguments)
     EXPECT_EQ(run({}, output, errors), 2);
     EXPECT_EQ(run({"--all", "x"}, output, errors), 2);
     output.str("");
-    EXPECT_EQ(run({"--report", folder_.string()}, output, errors), 0);
+    EXPECT_EQ(run({"--report", folder_.path().string()}, output, errors), 0);
     EXPECT_TRUE(output.str().starts_with("verbs              20\n")) << output.str();
     EXPECT_NE(output.str().find("  saillir\t2\n"), std::string::npos) << "stands twice";
 }
