@@ -10,12 +10,11 @@ namespace {
 
 TEST(DeepLink, NamesAVerbOrNothing)
 {
-    struct Case {
+    const struct {
         const char* link;
         std::optional<std::string> infinitive;
         const char* why;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"lumora://verb/aller", "aller", "plain"},
         {"LUMORA://Verb/aller", "aller", "scheme and host in any case"},
         {"lumora://verb/%C3%AAtre", "être", "encoded"},

@@ -71,21 +71,6 @@ TEST_F(Home, MakesEachListOnceAndKeepsIt)
     EXPECT_EQ(home->currentChild(), list);
 }
 
-TEST_F(Home, TheHistoryTabComesAndGoesWithTheFeature)
-{
-    EXPECT_EQ(tabs(), (std::vector{Tab::List, Tab::Favourites, Tab::History}));
-    home->didSelectItem(Tab::History);
-
-    world.settings.setValue(false, "UseHistory");
-    world.notifications.post({"HistoryFeatureToggled", false, {}});
-    EXPECT_EQ(tabs(), (std::vector{Tab::List, Tab::Favourites}));
-    EXPECT_EQ(home->tabBar.selectedItem, Tab::List);
-
-    world.settings.setValue(true, "UseHistory");
-    world.notifications.post({"HistoryFeatureToggled", true, {}});
-    EXPECT_EQ(tabs().size(), 3U);
-}
-
 TEST_F(Home, AnEmptySearchTextDoesNotReachTheResults)
 {
     auto& results = *home->searchResultsController();
@@ -147,11 +132,17 @@ TEST_F(Home, WhatTheOptionsChangeShowsWhenTheyClose)
     EXPECT_EQ(table.reloads, reloads);
     EXPECT_EQ(refreshes, 0);
 
+    const std::vector withHistory{Tab::List, Tab::Favourites, Tab::History};
+    EXPECT_EQ(tabs(), withHistory);
     EXPECT_EQ(list.verbs.begin()->second.front()->french, "aller");
+    home->didSelectItem(Tab::History);
     world.settings.setValue(std::string{"de"}, "translation_language");
     options.segmentChanged({0, 2}, 0);
     options.switchToggled({2, 0}, false);
     EXPECT_EQ(tabs(), (std::vector{Tab::List, Tab::Favourites}));
+    EXPECT_EQ(home->tabBar.selectedItem, Tab::List);
+    options.switchToggled({2, 0}, true);
+    EXPECT_EQ(tabs(), withHistory);
     options.close();
     EXPECT_EQ(list.verbs.begin()->second.front()->french, "avoir") << "ärgern comes first";
     EXPECT_EQ(refreshes, 1);

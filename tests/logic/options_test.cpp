@@ -195,7 +195,8 @@ TEST_F(Options, LanguageAndSpeedAreChosenFromSheets)
         {{1, 1},
          {},
          "translation_language",
-         {{"settings.translations.english", "en"},
+         {{"settings.translations.automatic", {}},
+          {"settings.translations.english", "en"},
           {"settings.translations.dutch", "nl"},
           {"settings.translations.french", "fr"},
           {"settings.translations.german", "de"},
@@ -213,13 +214,12 @@ TEST_F(Options, LanguageAndSpeedAreChosenFromSheets)
         const auto& [sheet, anchor] = world.presenter.sheets.back();
         EXPECT_EQ(anchor, c.path);
         EXPECT_EQ(sheet.title, c.title);
-        const std::size_t automatic = c.title ? 0 : 1;
-        ASSERT_EQ(sheet.actions.size(), automatic + c.choices.size() + 1);
+        ASSERT_EQ(sheet.actions.size(), c.choices.size() + 1);
         EXPECT_EQ(sheet.actions.back().title, "export.cancel");
         EXPECT_EQ(sheet.actions.back().style, platform::ActionStyle::Cancel);
         for (std::size_t choice = 0; choice < c.choices.size(); ++choice) {
             options.viewWillAppear();
-            const auto& action = sheet.actions[automatic + choice];
+            const auto& action = sheet.actions[choice];
             const int flushes = world.settings.flushes;
             const int reloads = world.table(options).reloads;
             action.handler();
@@ -232,10 +232,7 @@ TEST_F(Options, LanguageAndSpeedAreChosenFromSheets)
         }
     }
     EXPECT_EQ(options.cellForRow({0, 0}).text, "and in settings.translations.spanish");
-    const auto& automatic = world.presenter.sheets.front().sheet.actions.front();
-    EXPECT_EQ(automatic.title, "settings.translations.automatic");
-    automatic.handler();
-    EXPECT_EQ(world.settings.objectForKey("translation_language"), std::nullopt);
+    world.settings.removeValue("translation_language");
     EXPECT_EQ(options.cellForRow({0, 0}).text, "and in settings.translations.english");
 }
 

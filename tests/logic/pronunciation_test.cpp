@@ -59,13 +59,12 @@ private:
 
 TEST_F(Pronunciation, SpeaksThePronounWithTheForm)
 {
-    struct Case {
+    const struct {
         const char* pronoun;
         const char* form;
         const char* spoken;
         const char* why;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"j'", "aime", "j'aime", "elided: no space"},
         {"je", "vais", "je vais", "plain"},
         {"il/elle/on", "aime", "il ou elle ou on aime", "every slash"},
@@ -100,14 +99,13 @@ TEST_F(Pronunciation, TheSettingIsAFactorOnTheDefaultRate)
 
 TEST_F(Pronunciation, WarnsOfALowVolumeOnceADay)
 {
-    struct Case {
+    const double now = 1'700'000'000.25;
+    const struct {
         float volume;
         std::optional<platform::SettingValue> warned;
         bool warns;
         const char* why;
-    };
-    const double now = 1'700'000'000.25;
-    const Case cases[] = {
+    } cases[] = {
         {0.1F, std::nullopt, true, "never warned"},
         {0.149F, std::nullopt, true, "just below"},
         {0.15F, std::nullopt, false, "loud enough"},
@@ -251,13 +249,12 @@ TEST_F(Pronunciation, ATapThatFindsNoFormDoesNothing)
 
 TEST_F(Pronunciation, AFailingAudioSessionIsPrintedAndSpeechGoesOn)
 {
-    struct Case {
+    const struct {
         platform::Result<void> category;
         platform::Result<void> activation;
         const char* console;
         std::size_t calls;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {{}, {}, "", 2},
         {tl::unexpected{platform::Error{"Busy", 5}},
          {},

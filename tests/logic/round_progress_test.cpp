@@ -54,13 +54,12 @@ public:
 
 TEST(RoundProgress, AnimatesRisingAndJumpsFalling)
 {
-    struct Case {
+    const struct {
         float from;
         float to;
         float stored;
         bool animated;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {0.3F, 0.6F, 0.6F, true},   {0.6F, 0.0F, 0.0F, false},
         {0.5F, 0.5F, 0.5F, false},  {0.2F, 1.5F, 1.0F, true},
         {0.2F, -0.2F, 0.0F, false}, {0.2F, std::numeric_limits<float>::quiet_NaN(), 0.0F, false},
@@ -84,36 +83,23 @@ TEST(RoundProgress, AnimatesRisingAndJumpsFalling)
     }
 }
 
-TEST(RoundProgress, DrawsTheLargestCentredDiscAndAWedge)
+TEST(RoundProgress, DrawsAFrameOfAnAnimationAsTheLargestCentredDiscAndAWedge)
 {
     CERoundProgressView view;
     view.setTrackColor({0, 0, 0.25, 1});
-    view.setTintColor({0, 0, 0.75, 1});
-    view.setProgress(0.5F, false);
-    RecordingContext context;
-
-    view.layer().drawInContext(context, {40, 20});
-
-    EXPECT_EQ(context.words.str(), "ellipse 10 0 20 20\n"
-                                   "fill 0.25\n"
-                                   "arc 20 10 10 0 1pi\n"
-                                   "line 20 10\n"
-                                   "close\n"
-                                   "fill 0.75\n");
-}
-
-TEST(RoundProgress, DrawsAFrameOfAnAnimationWithItsOwnColours)
-{
-    CERoundProgressView view;
     view.setTintColor({0, 0, 0.75, 1});
     view.setStartAngle(1);
     view.setProgress(1, false);
     RecordingContext context;
 
-    view.layer().presentationCopy(0)->drawInContext(context, {20, 20});
+    view.layer().presentationCopy(0.5F)->drawInContext(context, {40, 20});
 
-    EXPECT_EQ(context.words.str(), "ellipse 0 0 20 20\nfill 1\narc 10 10 10 1 0.31831pi\n"
-                                   "line 10 10\nclose\nfill 0.75\n");
+    EXPECT_EQ(context.words.str(), "ellipse 10 0 20 20\n"
+                                   "fill 0.25\n"
+                                   "arc 20 10 10 1 1.31831pi\n"
+                                   "line 20 10\n"
+                                   "close\n"
+                                   "fill 0.75\n");
 }
 
 } // namespace

@@ -24,15 +24,14 @@ using Settings = std::vector<std::pair<const char*, SettingValue>>;
 
 TEST(SearchQuery, AssemblesTheStatementFromTheSettings)
 {
-    struct Case {
+    const struct {
         const char* why;
         Settings settings;
         const char* text;
         std::string statement;
         const char* pattern;
         int placeholders;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"all settings missing",
          {},
          "aller",
@@ -89,15 +88,14 @@ TEST(SearchQuery, AssemblesTheStatementFromTheSettings)
 
 TEST(SearchResults, FindsWhatAPersonTypes)
 {
-    struct Case {
-        const char* text;
-        Settings settings;
-        std::vector<std::string> found;
-    };
     const std::pair<const char*, SettingValue> anywhere{"SearchFrom", std::string{"W"}};
     const std::pair<const char*, SettingValue> translations{"IncludeEnglish", true};
     const std::pair<const char*, SettingValue> conjugations{"IncludeConjugations", true};
-    const Case cases[] = {
+    const struct {
+        const char* text;
+        Settings settings;
+        std::vector<std::string> found;
+    } cases[] = {
         {"aller", {}, {"aller"}},
         {"ALL", {}, {"aller"}},
         {"etre", {}, {"être"}},

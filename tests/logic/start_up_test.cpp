@@ -11,18 +11,21 @@
 
 #include "support/world.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace lumora {
 namespace {
 
 using app::AppDelegate;
-using app::UserData;
 using support::contentOf;
 using support::rowsOf;
 using support::World;
 using support::writeContent;
-using Texts = std::vector<std::string>;
+using testing::ElementsAre;
+using testing::StartsWith;
+
+constexpr const char* kReadingFailed = "An error occurred when reading migration settings: ";
 
 /// A machine on which the program is about to start, again and again.
 class StartUp : public testing::Test {
@@ -109,13 +112,12 @@ protected:
 
 TEST_F(StartUp, ReplacesTheDatabaseExactlyWhenItIsMissingOrOfAnotherVersion)
 {
-    struct Case {
+    const struct {
         const char* why;
         const char* recorded;
         bool installed;
         bool replaced;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"first start", nullptr, false, true},   {"same version", "2.0", true, false},
         {"deleted by hand", "2.0", false, true}, {"update", "1.0", true, true},
         {"downgrade", "3.0", true, true},        {"never recorded", nullptr, true, true},
@@ -169,9 +171,7 @@ TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsItBesideThoseBefore)
 
         EXPECT_TRUE(isFresh());
         EXPECT_EQ(userRows(), "|");
-        ASSERT_EQ(world.crashReporter.lines.size(), 1U);
-        EXPECT_TRUE(world.crashReporter.lines[0].starts_with(
-            "An error occurred when reading migration settings: "));
+        EXPECT_THAT(world.crashReporter.lines, ElementsAre(StartsWith(kReadingFailed)));
     }
     for (const auto& [aside, content] : cases) {
         EXPECT_EQ(contentOf(documents / aside), content) << aside;
@@ -206,8 +206,8 @@ TEST_F(StartUp, KeepsWhatWasReadBeforeAReadingFailed)
     ASSERT_TRUE(prepare());
 
     EXPECT_EQ(userRows(), "3 1 |");
-    EXPECT_EQ(world.crashReporter.lines, Texts{"An error occurred when reading migration "
-                                               "settings: no such table: history (1)"});
+    EXPECT_THAT(world.crashReporter.lines,
+                ElementsAre(std::string{kReadingFailed} + "no such table: history (1)"));
 }
 
 TEST_F(StartUp, ReadsDatabasesPutAsideOnceTheyCanBeReadAgain)
@@ -233,9 +233,7 @@ TEST_F(StartUp, WhatWaitsBesideItNeverBlocksAGoodDatabase)
     EXPECT_TRUE(prepare());
 
     EXPECT_EQ(userRows(), "3 |");
-    ASSERT_EQ(world.crashReporter.lines.size(), 1U);
-    EXPECT_TRUE(world.crashReporter.lines[0].starts_with(
-        "An error occurred when reading migration settings: "));
+    EXPECT_THAT(world.crashReporter.lines, ElementsAre(StartsWith(kReadingFailed)));
 }
 
 TEST_F(StartUp, ADatabaseThatAnotherProgramHoldsIsLeftAlone)
@@ -260,8 +258,8 @@ TEST_F(StartUp, AnInsertThatFailsStopsTheRestoreAndKeepsTheRescueFile)
     ASSERT_TRUE(prepare());
 
     EXPECT_EQ(userRows(), "3 |") << "what was inserted stays, the rest is skipped";
-    EXPECT_EQ(world.crashReporter.lines,
-              Texts{"An error occurred when inserting migration settings: refused (19)"});
+    EXPECT_THAT(world.crashReporter.lines,
+                ElementsAre("An error occurred when inserting migration settings: refused (19)"));
     EXPECT_EQ(world.settings.stringForKey("installed_version"), "2.0");
 
     // Meanwhile the user goes on; then the cause is gone. What was removed
@@ -276,45 +274,22 @@ TEST_F(StartUp, AnInsertThatFailsStopsTheRestoreAndKeepsTheRescueFile)
     EXPECT_FALSE(std::filesystem::exists(rescue));
 }
 
-TEST_F(StartUp, GoesOnAfterAnInterruptionAtAnyStep)
+TEST_F(StartUp, GoesOnBesideHalfACopyAndAJournalOfAnotherDatabase)
 {
-    const UserData rows{{3, 2}, {{1, 5}, {2, 6}}};
-    const std::string all = "3 2 | 1@5.0 2@6.0";
-    struct Case {
-        const char* why;
-        bool oldThere;
-        bool copyThere;
-        const char* recorded;
-        const char* partial;
-    };
-    const Case cases[] = {
-        {"rescue written, old database whole", true, false, "1.0", nullptr},
-        {"half a copy beside the old one", true, true, "1.0", nullptr},
-        {"old one deleted", false, true, "1.0", nullptr},
-        {"new one in place, nothing restored", false, false, "1.0", ""},
-        {"restored in part", false, false, "1.0", "(3)"},
-        {"restored, rescue not removed, version not recorded", false, false, "1.0", "(3), (2)"},
-        {"restored in part, version recorded", false, false, "2.0", "(3)"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.why);
+    for (const bool oldThere : {true, false}) {
+        SCOPED_TRACE(oldThere);
         std::filesystem::remove(database);
-        ASSERT_TRUE(app::RescueFile{rescue}.write(rows));
-        if (c.oldThere) {
+        ASSERT_TRUE(app::RescueFile{rescue}.write({{3, 2}, {{1, 5}, {2, 6}}}));
+        if (oldThere) {
             installOld("(3), (2)", "(1, 5), (2, 6)");
         }
-        if (c.partial != nullptr) {
-            installOld(c.partial, "");
-        }
-        if (c.copyThere) {
-            writeContent(documents / "verbs.db.new", "SQLite format 3");
-            writeContent(documents / "verbs.db-journal", "stale");
-        }
-        world.settings.setValue(std::string{c.recorded}, "installed_version");
+        writeContent(documents / "verbs.db.new", "SQLite format 3");
+        writeContent(documents / "verbs.db-journal", "stale");
+        world.settings.setValue(std::string{"1.0"}, "installed_version");
 
         ASSERT_TRUE(prepare());
 
-        EXPECT_EQ(userRows(), all);
+        EXPECT_EQ(userRows(), "3 2 | 1@5.0 2@6.0");
         EXPECT_FALSE(std::filesystem::exists(rescue));
         EXPECT_FALSE(std::filesystem::exists(documents / "verbs.db.new"));
         EXPECT_TRUE(world.crashReporter.lines.empty());
@@ -403,12 +378,11 @@ std::string plist(const std::string& entries)
 
 TEST_F(StartUp, CarriesOldSettingsOverOnceAndByKind)
 {
-    struct Case {
+    const struct {
         const char* why;
         std::string content;
         platform::SettingsStore::Values carried;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"all four",
          plist("<key>IncludeEnglish</key><false/><key>SearchFrom</key><string>W</string>"
                "<key>SearchConjugations</key><integer>1</integer>"
@@ -466,17 +440,17 @@ TEST_F(StartUp, AnOldSettingsFileThatCannotBeDeletedIsReported)
 
     app::carryOverOldSettings(documents.string(), world.settings, world.crashReporter);
 
-    EXPECT_EQ(world.crashReporter.lines, Texts{"Unable to delete file. Will try again later. %@"});
+    EXPECT_THAT(world.crashReporter.lines,
+                ElementsAre("Unable to delete file. Will try again later. %@"));
 }
 
 TEST_F(StartUp, AShortcutOpensItsTab)
 {
-    struct Case {
+    const struct {
         const char* type;
         navigation::Tab tab;
         int posts;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"com.brindle.shortcut.favourite", navigation::Tab::Favourites, 1},
         {"com.brindle.shortcut.history", navigation::Tab::History, 1},
         {"com.brindle.shortcut.list", navigation::Tab::List, 1},

@@ -210,11 +210,10 @@ TEST_F(VerbDetail, KeepsTheFiftyOneNewestViews)
 
 TEST_F(VerbDetail, RecordsNothingOnlyWhenTheHistoryIsAnExplicitFalse)
 {
-    struct Case {
+    const struct {
         std::optional<platform::SettingValue> useHistory;
         int rows;
-    };
-    const Case cases[] = {{std::nullopt, 1}, {true, 1}, {false, 0}, {std::int64_t{0}, 1}};
+    } cases[] = {{std::nullopt, 1}, {true, 1}, {false, 0}, {std::int64_t{0}, 1}};
     int views = 0;
     for (const auto& c : cases) {
         world.execute("DELETE FROM history");
@@ -266,7 +265,7 @@ TEST_F(VerbDetail, TogglesTheFavouriteAndFollowsOthers)
 
 TEST_F(VerbDetail, AsksForAReviewOnceFromTheTwentyFirstViewOn)
 {
-    struct Case {
+    const struct {
         std::int64_t viewedBefore;
         bool asked;
         bool inFront;
@@ -274,8 +273,7 @@ TEST_F(VerbDetail, AsksForAReviewOnceFromTheTwentyFirstViewOn)
         int requests;
         bool askedAfter;
         std::int64_t viewedAfter;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {19, false, true, "", 0, false, 20},  {20, false, true, "", 1, true, 21},
         {500, false, true, "", 1, true, 501}, {20, true, true, "", 0, true, 21},
         {20, false, false, "", 0, true, 21},  {20, false, true, "ui_test", 0, false, 20},

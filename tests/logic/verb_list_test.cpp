@@ -25,15 +25,14 @@ protected:
 
 TEST_F(VerbList, CutsSectionsByTheLetterOfTheSortColumn)
 {
-    struct Case {
+    const Texts byFrench{"A", "E", "F", "P"};
+    const Texts byEnglish{"B", "F", "G", "H", "S", "É"};
+    const struct {
         const char* why;
         std::optional<SettingValue> sortByLang;
         std::string language;
         Texts keys;
-    };
-    const Texts byFrench{"A", "E", "F", "P"};
-    const Texts byEnglish{"B", "F", "G", "H", "S", "É"};
-    const Case cases[] = {
+    } cases[] = {
         {"missing means French", {}, "de", byFrench},
         {"true means French", true, "de", byFrench},
         {"a number is no boolean", std::int64_t{0}, "de", byFrench},

@@ -23,12 +23,11 @@ TEST(Verb, PicksTheTranslationByChoiceThenByDevice)
     verb.italian = "italian";
     verb.portuguese = "portuguese";
 
-    struct Case {
+    const struct {
         const char* stored;
         const char* device;
         const char* expected;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"en", "de-DE", "english"},       {"fr", "de-DE", "french"},
         {"de", "en-GB", "german"},        {"es", "de-DE", "spanish"},
         {"pt", "de-DE", "portuguese"},    {"it", "de-DE", "italian"},

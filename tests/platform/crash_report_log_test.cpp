@@ -47,12 +47,11 @@ int overflow(volatile int* depth) // NOLINT(misc-no-recursion): that is the poin
 
 TEST(CrashReporter, FillsPlaceholdersInOrder)
 {
-    struct Case {
+    const struct {
         const char* format;
         std::vector<LogArgument> arguments;
         const char* line;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"verb %@ has %d forms", {"aller", 48}, "verb aller has 48 forms"},
         {"%@%@", {"a", "b"}, "ab"},
         {"%@", {"%d"}, "%d"}, // an argument is no format

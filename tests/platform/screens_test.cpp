@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -21,29 +22,25 @@ class Screen final : public ViewController {
 public:
     Screen(std::string name, std::string& diary) : name_(std::move(name)), diary_(diary) {}
 
-    void viewWillAppear() override
-    {
-        diary_ += name_ + ":will ";
-        if (onWillAppear) {
-            onWillAppear();
-        }
-    }
-    void viewDidAppear() override { diary_ += name_ + ":did "; }
-    void viewDidDisappear() override
-    {
-        diary_ += name_ + ":gone ";
-        if (onDidDisappear) {
-            onDidDisappear();
-        }
-    }
+    void viewWillAppear() override { note("will"); }
+    void viewDidAppear() override { note("did"); }
+    void viewDidDisappear() override { note("gone"); }
 
-    std::function<void()> onWillAppear;
-    std::function<void()> onDidDisappear;
+    /// What happens at an event.
+    std::map<std::string, std::function<void()>> then;
 
 protected:
-    void viewDidLoad() override { diary_ += name_ + ":load "; }
+    void viewDidLoad() override { note("load"); }
 
 private:
+    void note(const std::string& event)
+    {
+        diary_ += name_ + ":" + event + " ";
+        if (const auto found = then.find(event); found != then.end()) {
+            found->second();
+        }
+    }
+
     std::string name_;
     std::string& diary_;
 };
@@ -109,8 +106,8 @@ TEST_F(Screens, AScreenMayDieOrChangeTheViewWhileItIsTold)
     auto list = screen("list");
     auto verb = screen("verb");
     const auto settings = screen("settings");
-    verb->onWillAppear = [&] { tracker.setVisible({settings}); };
-    list->onDidDisappear = [&] { list.reset(); };
+    verb->then["will"] = [&] { tracker.setVisible({settings}); };
+    list->then["gone"] = [&] { list.reset(); };
 
     tracker.setVisible({list});
     tracker.setVisible({verb});

@@ -30,14 +30,13 @@ constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 
 TEST(SettingsStore, TypedReadsCoerceByTheTable)
 {
-    struct Case {
+    const struct {
         SettingValue stored;
         std::int64_t asInteger;
         const char* asText;
         float asFloat;
         bool asBool;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {true, 1, "1", 1, true},
         {false, 0, "0", 0, false},
         {std::int64_t{0}, 0, "0", 0, false},
