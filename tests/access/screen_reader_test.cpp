@@ -32,23 +32,12 @@ std::string described(const Accessible& object)
 struct ScreenReaderTest : WindowFixture {
     Translations translations{{QStringLiteral("en")}};
 
-    void launch(const QSize& size)
-    {
-        start(size);
-        for (const char* name :
-             {"mustache.min.js", "export_html.mustache", "export_txt.mustache"}) {
-            std::filesystem::copy_file(std::filesystem::path{LUMORA_SHARE_DIR} / name,
-                                       folder / "share" / name);
-        }
-    }
-
     /// These are there, in this order, and nothing is without a name, of no
     /// known kind or there twice.
     void expectHeard(const char* where, const std::vector<std::string>& expected)
     {
         SCOPED_TRACE(where);
-        constexpr int kAnimations = 500;
-        QTest::qWait(kAnimations);
+        pictureAtRest();
         std::set<std::string> seen;
         std::string heard;
         auto next = expected.begin();
@@ -91,7 +80,7 @@ struct ScreenReaderTest : WindowFixture {
 
 TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
 {
-    launch({390, 844});
+    start({390, 844});
     expectHeard("home", {"push button: Menu", "heading: French verbs", "text: Search for a verb",
                          "list: Verbs", "heading: A", "list item: aller, go", "page tab list: ",
                          "page tab: Verbs (checked) (selected)", "page tab: History"});
@@ -136,7 +125,7 @@ TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
 
 TEST_F(ScreenReaderTest, HearsOfBothPanesOfATablet)
 {
-    launch({1024, 768});
+    start({1024, 768});
     tap("aller");
     expectHeard("verb",
                 {"list: Verbs", "list item: aller, go", "push button: Verbs", "heading: aller",

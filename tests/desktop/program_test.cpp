@@ -1,19 +1,14 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/application.h"
 #include "qt/home_screen.h"
 #include "qt/text_conversion.h"
 
 #include "desktop/stand_in_portal.h"
-#include "support/world.h"
+#include "qt/window_fixture.h"
 
 #include <QDBusConnectionInterface>
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QtTest/QTest>
-
-#include <gtest/gtest.h>
+#include <QProcess>
 
 #include <csignal>
 
@@ -22,8 +17,6 @@ namespace {
 
 using support::MessageBus;
 using support::StandInPortal;
-
-constexpr int kPatience = 10000;
 
 /// The program as it is installed, in a process and a home of its own.
 class Program {
@@ -55,7 +48,7 @@ public:
     int end()
     {
         const bool ended =
-            QTest::qWaitFor([this] { return process_.state() == QProcess::NotRunning; }, kPatience);
+            WindowFixture::until([this] { return process_.state() == QProcess::NotRunning; });
         return ended && process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
     }
     void send(int signal) const { ::kill(static_cast<pid_t>(process_.processId()), signal); }
@@ -71,56 +64,44 @@ private:
     QProcess process_;
 };
 
-/// The program in this process, on a bus, with a database of six verbs.
-struct RunningProgram : testing::Test {
-    void start()
+/// The program in this process, on a bus.
+struct RunningProgram : WindowFixture {
+    void begin()
     {
-        std::filesystem::create_directories(folder / "share");
-        support::writeSmallDatabase(folder / "share" / "verbs.db");
-        support::writeContent(folder / "share" / "bundle.json",
-                              R"({"CFBundleShortVersionString": "1"})");
-        ApplicationOptions options;
-        options.folders = {folder / "data", folder / "config", folder / "state"};
-        options.shareFolder = folder / "share";
-        options.launchArguments = {"ui_test"};
         options.desktop.bus = bus.connect();
         instance = std::make_unique<RunningInstance>(options.desktop.bus);
         ASSERT_EQ(instance->start({}), RunningInstance::Role::First);
-        application = std::make_unique<Application>(options);
+        ASSERT_NO_FATAL_FAILURE(open({390, 844}));
         QObject::connect(instance.get(), &RunningInstance::requested, application.get(),
                          [this](const InstanceRequest& request) {
                              tokens.append(request.activationToken);
                              application->serve(request);
                          });
-        ASSERT_TRUE(application->show());
         ASSERT_TRUE(QTest::qWaitForWindowActive(application->window()));
     }
 
-    HomeScreen* home() const
-    {
-        return qobject_cast<HomeScreen*>(application->splitScreen().primary().constFirst());
-    }
+    void TearDown() override { application.reset(); }
+
+    HomeScreen* home() const { return qobject_cast<HomeScreen*>(split().primary().constFirst()); }
     QString topTitle() const
     {
-        return qobject_cast<Screen*>(application->splitScreen().primary().constLast())->title();
+        return qobject_cast<Screen*>(split().primary().constLast())->title();
     }
 
-    support::TemporaryFolder folder;
     MessageBus bus;
     std::unique_ptr<RunningInstance> instance;
-    std::unique_ptr<Application> application;
     QStringList tokens;
 };
 
 TEST_F(RunningProgram, ASecondStartHandsItsRequestOverAndEnds)
 {
-    start();
+    begin();
     // Even before the launch is through.
     Program favourites{
         bus.address(),
         {QStringLiteral("--shortcut"), QStringLiteral("com.brindle.shortcut.favourite")}};
     EXPECT_EQ(favourites.end(), 0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return application->isLaunched(); }, kPatience));
+    ASSERT_TRUE(until([&] { return application->isLaunched(); }));
     EXPECT_EQ(home()->selectedTab(), 1);
     EXPECT_FALSE(std::filesystem::exists(favourites.home / "lumora")) << "it wrote nothing";
 
@@ -133,12 +114,11 @@ TEST_F(RunningProgram, ASecondStartHandsItsRequestOverAndEnds)
     Program search{bus.address(),
                    {QStringLiteral("--shortcut"), QStringLiteral("com.brindle.shortcut.search")}};
     EXPECT_EQ(search.end(), 0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return home()->searchFocus(); }, kPatience));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return application->presenter().modals()->count() == 0; }, kPatience))
+    ASSERT_TRUE(until([&] { return home()->searchFocus(); }));
+    EXPECT_TRUE(until([&] { return application->presenter().modals()->count() == 0; }))
         << "the menu gives way";
-    QTest::qWait(400);
-    EXPECT_EQ(application->splitScreen().primary().size(), 1);
+    pictureAtRest();
+    EXPECT_EQ(split().primary().size(), 1);
     QTest::keyClick(application->window(), 'p');
     EXPECT_EQ(home()->searchText(), QStringLiteral("p")) << "the cursor is in the field";
 
@@ -164,24 +144,23 @@ TEST_F(RunningProgram, LooksAsTheDesktopIsSetAndFollowsIt)
              {appearance, {{"color-scheme", 1U}}},
              {interface,
               {{"text-scaling-factor", 1.5}, {"enable-animations", false}, {"cursor-size", 24}}}}}};
-    start();
+    begin();
     const auto now = [this] {
         return Appearance{application->window()->property("dark").toBool(),
                           application->window()->property("textScale").toDouble(),
                           application->window()->property("reducedMotion").toBool()};
     };
     const auto becomes = [&](const Appearance& expected) {
-        return QTest::qWaitFor([&] { return now() == expected; }, kPatience);
+        return until([&] { return now() == expected; });
     };
     EXPECT_TRUE(becomes({true, 1.5, true}));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return application->isLaunched(); }, kPatience));
+    ASSERT_TRUE(until([this] { return application->isLaunched(); }));
     auto& modals = *application->presenter().modals();
     home()->press(QStringLiteral("menu"));
     ASSERT_EQ(modals.count(), 1);
-    QTest::qWait(100);
+    pictureAtRest();
     modals.modals().back()->close();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return modals.count() == 0; }, kPatience))
-        << "goes without moving";
+    EXPECT_TRUE(until([&] { return modals.count() == 0; })) << "goes without moving";
 
     portal.changeSetting(appearance, QStringLiteral("color-scheme"), 2U);
     EXPECT_TRUE(becomes({false, 1.5, true}));
@@ -206,8 +185,8 @@ TEST_F(RunningProgram, ASupportEmailEndsAsThePortalSays)
         {1, {}},
         {2, {"export.email.error", "export.email.error"}},
     };
-    start();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return application->isLaunched(); }, kPatience));
+    begin();
+    ASSERT_TRUE(until([this] { return application->isLaunched(); }));
     for (const auto& c : cases) {
         SCOPED_TRACE(c.response);
         const StandInPortal portal{
@@ -219,7 +198,7 @@ TEST_F(RunningProgram, ASupportEmailEndsAsThePortalSays)
         QTest::qWait(500);
         dynamic_cast<navigation::HomeViewController&>(*home()->controller()).contactSupport();
 
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !portal.requests().empty(); }, kPatience));
+        ASSERT_TRUE(until([&] { return !portal.requests().empty(); }));
         EXPECT_TRUE(portal.requests()[0].options.value("body").toString().startsWith(
             QStringLiteral("\n\n\n--------------------\nApp: app.title\nDevice: ")));
         QStringList alerts;
@@ -240,12 +219,9 @@ TEST(Program, OpensItsLinkAndEndsInOrderOnASignal)
     for (std::size_t i = 0; i < std::size(ends); ++i) {
         SCOPED_TRACE(i == 0 ? "with a bus" : "without a bus");
         Program program{addresses[i], {QStringLiteral("lumora://verb/aller")}};
-        ASSERT_TRUE(QTest::qWaitFor(
-            [&] {
-                return program.file("analytics.jsonl").find("select_content") != std::string::npos;
-            },
-            kPatience))
-            << program.errors().toStdString();
+        ASSERT_TRUE(WindowFixture::until([&] {
+            return program.file("analytics.jsonl").find("select_content") != std::string::npos;
+        })) << program.errors().toStdString();
         program.send(ends[i]);
         EXPECT_EQ(program.end(), 0) << program.errors().toStdString();
         EXPECT_NE(program.file("settings.json").find("\"number_of_verbs_viewed\""),

@@ -1,13 +1,8 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "export/verb_export.h"
+#include "export_fixture.h"
 
-#include "qt/qt_java_script_context.h"
-#include "support/world.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <libxml/HTMLparser.h>
 
 #include <algorithm>
@@ -66,36 +61,18 @@ Page read(const std::string& html)
     return page;
 }
 
-class HostileContentTest : public testing::Test {
-protected:
-    HostileContentTest()
-    {
-        for (const char* name :
-             {"mustache.min.js", "export_html.mustache", "export_txt.mustache"}) {
-            world.bundle.resources[name] = std::filesystem::path{LUMORA_SHARE_DIR} / name;
-        }
-        world.scriptEngine = &contexts;
-    }
-
-    /// A verb all of whose texts are this one.
+struct HostileContentTest : RenderingFixture {
+    /// Of a verb all of whose texts are this one.
     VerbRenderings exported(const std::string& text)
     {
-        data::Verb verb;
         verb.french = text;
         verb.english = text;
-        const auto form =
-            std::make_shared<const data::Conjugation>(data::Conjugation{text, text, "", 0});
         for (auto* forms : {&verb.indicatifPresent, &verb.subjonctifImparfait,
                             &verb.conditionnelPasse2eForme, &verb.imperatif, &verb.participe}) {
-            *forms = {form, form};
+            *forms = {form(text, text), form(text, text)};
         }
-        auto renderings = VerbExport{}.exportVerb(verb, world.services());
-        EXPECT_TRUE(renderings && *renderings) << world.console.str();
-        return renderings && *renderings ? **renderings : VerbRenderings{};
+        return render();
     }
-
-    support::World world;
-    qt::QtJavaScriptContextFactory contexts;
 };
 
 TEST_F(HostileContentTest, NoTextOfAVerbBecomesPartOfThePageOrOfTheScript)

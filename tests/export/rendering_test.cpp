@@ -1,84 +1,23 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "export/verb_export.h"
+#include "export_fixture.h"
 
-#include "qt/qt_java_script_context.h"
-#include "support/world.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-// The real engine and the real library.
 namespace lumora::exporting {
 namespace {
 
-using support::contentOf;
-using support::writeContent;
 using testing::HasSubstr;
 using testing::Not;
 
-const std::filesystem::path kShare{LUMORA_SHARE_DIR};
-
-std::shared_ptr<const data::Conjugation> form(std::string pronoun, std::string verb)
-{
-    return std::make_shared<const data::Conjugation>(
-        data::Conjugation{std::move(pronoun), std::move(verb), "", 0});
-}
-
-class RenderingTest : public testing::Test {
-protected:
-    RenderingTest()
-    {
-        world.scriptEngine = &contexts;
-        for (const char* name :
-             {"mustache.min.js", "export_html.mustache", "export_txt.mustache"}) {
-            world.bundle.resources[name] = kShare / name;
-        }
-        verb.french = "aimer";
-        verb.english = "love";
-    }
-
-    void replaceTemplate(const std::string& name, std::string_view content)
-    {
-        writeContent(world.folder / name, content);
-        world.bundle.resources[name] = world.folder / name;
-    }
-
-    VerbRenderings render()
-    {
-        auto renderings = VerbExport{}.exportVerb(verb, world.services());
-        EXPECT_TRUE(renderings && *renderings) << world.console.str();
-        return renderings && *renderings ? **renderings : VerbRenderings{};
-    }
-
-    support::World world;
-    qt::QtJavaScriptContextFactory contexts;
-    data::Verb verb;
-};
+using RenderingTest = RenderingFixture;
 
 TEST_F(RenderingTest, TextsArriveUnchanged)
 {
-    replaceTemplate("export_txt.mustache",
-                    "{{#Imperatif}}<{{{pronoun}}}|{{{verb}}}>{{/Imperatif}}");
-    const std::string texts[] = {
-        "j'",
-        "il/elle/on",
-        "a\"b",
-        R"(a\b)",
-        R"(\u0041 \n \/)",
-        "`",
-        "${alert(1)}",
-        "`, {}); throw 1; //",
-        "a\u2028b\u2029c",
-        "line\nand\ttab\r",
-        "</script>",
-        "{{french}} {{{french}}}",
-        "été œuf 😀 e\u0301",
-        std::string{"a\0b", 3},
-        "\x01\x7F",
-    };
-    for (const auto& text : texts) {
+    addResource("export_txt.mustache", "{{#Imperatif}}<{{{pronoun}}}|{{{verb}}}>{{/Imperatif}}");
+    for (const std::string& text : std::initializer_list<std::string>{
+             "j'", "il/elle/on", "a\"b", R"(a\b)", R"(\u0041 \n \/)", "`", "${alert(1)}",
+             "`, {}); throw 1; //", "a\u2028b\u2029c", "line\nand\ttab\r", "</script>",
+             "{{french}} {{{french}}}", "été œuf 😀 e\u0301", std::string{"a\0b", 3}, "\x01\x7F"}) {
         SCOPED_TRACE(text);
         verb.imperatif = {form(text, "x"), form("", text)};
         EXPECT_EQ(render().text, "<" + text + "|x><|" + text + ">");
@@ -99,8 +38,8 @@ TEST_F(RenderingTest, ATemplateThatBreaksTheScriptIsRenderedAsTheWordUndefined)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.why);
         world.console.str({});
-        replaceTemplate("export_html.mustache", c.html);
-        replaceTemplate("export_txt.mustache", "{{french}}");
+        addResource("export_html.mustache", c.html);
+        addResource("export_txt.mustache", "{{french}}");
 
         const auto renderings = render();
 
@@ -113,7 +52,7 @@ TEST_F(RenderingTest, ATemplateThatBreaksTheScriptIsRenderedAsTheWordUndefined)
 TEST_F(RenderingTest, ShippedTemplatesSuitTheScript)
 {
     for (const char* name : {"export_html.mustache", "export_txt.mustache"}) {
-        const auto content = contentOf(kShare / name);
+        const auto content = support::contentOf(share / name);
         EXPECT_THAT(content, HasSubstr("{{#SubjonctifPlusqueParfait}}"));
         EXPECT_THAT(content, Not(HasSubstr("`")));
         EXPECT_THAT(content, Not(HasSubstr("${")));

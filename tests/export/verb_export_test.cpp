@@ -1,45 +1,23 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "export/verb_export.h"
+#include "export_fixture.h"
 
 #include "settings/setting_keys.h"
-#include "support/world.h"
 
 #include <nlohmann/json.hpp>
-
-#include <gtest/gtest.h>
 
 namespace lumora::exporting {
 namespace {
 
-using support::contentOf;
-using support::writeContent;
-
-std::shared_ptr<const data::Conjugation> form(std::string pronoun, std::string verb)
-{
-    return std::make_shared<const data::Conjugation>(
-        data::Conjugation{std::move(pronoun), std::move(verb), "", 0});
-}
-
 /// Resources of a line each.
-class VerbExportTest : public testing::Test {
-protected:
+struct VerbExportTest : ExportFixture {
     VerbExportTest()
     {
         addResource("mustache.min.js", "library;");
         addResource("export_html.mustache", "<p>{{french}}</p>\n");
         addResource("export_txt.mustache", "{{{french}}}\n");
-        verb.french = "aimer";
     }
-
-    void addResource(const std::string& name, std::string_view content)
-    {
-        writeContent(world.folder / name, content);
-        world.bundle.resources[name] = world.folder / name;
-    }
-
-    auto exportVerb() { return VerbExport{}.exportVerb(verb, world.services()); }
 
     nlohmann::json exportedData()
     {
@@ -48,9 +26,6 @@ protected:
         const auto begin = script.find("`, ") + 3;
         return nlohmann::json::parse(script.substr(begin, script.size() - begin - 2));
     }
-
-    support::World world;
-    data::Verb verb;
 };
 
 TEST_F(VerbExportTest, EvaluatesTheLibraryAndThenEachTemplateWithTheSameData)
@@ -79,7 +54,6 @@ TEST_F(VerbExportTest, HandsOverNamesTitlesAndEveryListButTheInfinitive)
 {
     verb.german = "lieben";
     verb.dutch = "beminnen";
-    verb.english = "love";
     verb.indicatifPresent = {form("j'", "aime"), form("tu", "aimes")};
     verb.subjonctifPlusqueParfait = {form("que j'", "eusse aimé")};
     verb.infinitif = {form("", "aimer")};
@@ -126,10 +100,10 @@ TEST_F(VerbExportTest, TakesFrenchTenseTitlesWhenTheyAreWantedButNeverForMoods)
 TEST_F(VerbExportTest, SaysWhichWayItFails)
 {
     const std::string missing = "Unable to find mustache JS file\n";
-    for (const char* name : {"mustache.min.js", "export_html.mustache", "export_txt.mustache"}) {
+    for (const char* name : support::kTemplates) {
         SCOPED_TRACE(name);
         const auto file = world.bundle.resources.at(name);
-        const auto content = contentOf(file);
+        const auto content = support::contentOf(file);
 
         world.bundle.resources.erase(name);
         world.console.str({});

@@ -5,10 +5,7 @@
 #include "qt/translations.h"
 #include "window_fixture.h"
 
-#include <QImage>
 #include <QJSValue>
-
-#include <utility>
 
 namespace lumora::qt {
 namespace {
@@ -23,23 +20,10 @@ constexpr int kSmallestPixels = 12;
 struct LanguagesTest : WindowFixture, testing::WithParamInterface<const char*> {
     Translations translations{{QString::fromLatin1(GetParam())}};
 
-    /// Until the picture stays as it is.
-    void waitForRest() const
-    {
-        constexpr int kSameBefore = 4;
-        QImage picture;
-        int same = 0;
-        EXPECT_TRUE(until([&] {
-            const QImage last = std::exchange(picture, application->window()->grabWindow());
-            same = picture == last ? same + 1 : 0;
-            return same == kSameBefore;
-        }));
-    }
-
     void expectAllTextsFit(const char* where) const
     {
         SCOPED_TRACE(where);
-        waitForRest();
+        pictureAtRest();
         EXPECT_GT(expectTextsFit(*application->window()->contentItem()), 5);
     }
 
@@ -112,13 +96,12 @@ TEST_P(LanguagesTest, EveryTextHasRoom)
         if (find("bar.backup") != nullptr) {
             tap("bar.backup");
             expectAllTextsFit("backup");
-            QTest::keyClick(application->window(), Qt::Key_Escape);
+            key(Qt::Key_Escape);
         }
         tap("bar.done");
     }
     tap("aller");
-    application->window()->resize(kTablet);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !split().collapsed(); }, kPatience));
+    turn(kTablet);
     lookAtTheTenses();
 }
 

@@ -3,8 +3,8 @@
 
 #include "qt/qt_presenter.h"
 
-#include "platform/mail_composer.h"
-#include "platform/storyboard.h"
+#include "app/main_storyboard.h"
+#include "support/fake_ways_out.h"
 
 #include <QCoreApplication>
 
@@ -13,24 +13,8 @@
 namespace lumora::qt {
 namespace {
 
-class NoStoryboard final : public platform::Storyboard {
-public:
-    std::shared_ptr<platform::ViewController> instantiateViewController(std::string_view) override
-    {
-        return nullptr;
-    }
-    std::shared_ptr<platform::ViewController> instantiateDestination(std::string_view) override
-    {
-        return nullptr;
-    }
-    platform::SegueStyle segueStyle(std::string_view /*segueIdentifier*/) const override
-    {
-        return platform::SegueStyle::ShowDetail;
-    }
-};
-
 struct PresenterTest : testing::Test {
-    NoStoryboard storyboard;
+    app::MainStoryboard storyboard;
     QtPresenter presenter{storyboard};
     platform::ViewController screen;
     std::string answered;
@@ -77,12 +61,8 @@ TEST_F(PresenterTest, LeavesAQuestionOnlyByAnAnswerThatCancelsOrFromASheet)
 
 TEST_F(PresenterTest, OpensAMailWithoutAPageAndKeepsNoneLongerThanItsCalls)
 {
-    class Mail final : public platform::MailComposer {
+    class Mail final : public support::FakeMailComposer {
     public:
-        void setMailComposeDelegate(platform::MailComposerDelegate* /*delegate*/) override {}
-        void setToRecipients(std::vector<std::string> /*addresses*/) override {}
-        void setSubject(std::string /*subject*/) override {}
-        void setMessageBody(std::string /*body*/, bool /*isHtml*/) override {}
         void viewDidAppear() override { open = true; }
         bool open = false;
     };

@@ -4,46 +4,55 @@
 #pragma once
 
 #include "qt/application.h"
+#include "support/shipped_templates.h"
 #include "support/temporary_folder.h"
+#include "support/window_driver.h"
 #include "support/world.h"
 
+#include <QImage>
 #include <QPointingDevice>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QtTest/QTest>
 
-#include <fstream>
 #include <functional>
 #include <memory>
-#include <optional>
-#include <ranges>
-#include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
 namespace lumora::qt {
 
+using support::WindowDriver;
+
 /// The whole program with a window and a database of six verbs.
 struct WindowFixture : testing::Test {
-    static constexpr int kPatience = 3000;
+    static constexpr int kPatience = 10000;
 
     support::TemporaryFolder folder;
+    ApplicationOptions options;
     std::unique_ptr<Application> application;
 
-    void start(const QSize& size, std::optional<std::string> shortcut = std::nullopt)
+    /// A window of that size that is not launched yet.
+    void open(const QSize& size)
     {
-        std::filesystem::create_directories(folder / "share");
-        support::writeSmallDatabase(folder / "share" / "verbs.db");
-        std::ofstream{folder / "share" / "bundle.json"} << R"({"CFBundleShortVersionString": "1",
-                "CFBundleIdentifier": "com.brindle.lumora"})";
-        ApplicationOptions options;
+        const auto share = folder / "share";
+        std::filesystem::create_directories(share);
+        support::writeSmallDatabase(share / "verbs.db");
+        support::copyTemplates(LUMORA_SHARE_DIR, share);
+        support::writeContent(share / "bundle.json", R"({"CFBundleShortVersionString": "1",
+                "CFBundleIdentifier": "com.brindle.lumora"})");
         options.folders = {folder / "data", folder / "config", folder / "state"};
-        options.shareFolder = folder / "share";
+        options.shareFolder = share;
         options.launchArguments = {"ui_test"};
-        options.shortcut = std::move(shortcut);
         options.windowSize = size;
         application = std::make_unique<Application>(options);
         ASSERT_TRUE(application->show());
+    }
+
+    void start(const QSize& size)
+    {
+        ASSERT_NO_FATAL_FAILURE(open(size));
         application->launch();
         application->window()->requestActivate();
         ASSERT_TRUE(QTest::qWaitForWindowActive(application->window()));
@@ -51,30 +60,37 @@ struct WindowFixture : testing::Test {
 
     SplitScreen& split() const { return application->splitScreen(); }
 
-    QQuickItem* find(const QString& name)
+    /// Changes the size of the window, and with it the panes.
+    void turn(const QSize& size)
     {
-        return visibleItem(application->window()->contentItem(), name);
+        application->window()->resize(size);
+        ASSERT_TRUE(until([&] { return split().collapsed() == (size.width() < 700); }));
     }
 
-    /// The topmost one.
-    static QQuickItem* visibleItem(QQuickItem* parent, const QString& name)
+    /// The topmost visible item of that name.
+    QQuickItem* find(const QString& name) const
     {
-        const auto children = parent->childItems();
-        for (auto* child : std::views::reverse(children)) {
-            if (child->isVisible() && child->objectName() == name && child->width() > 0) {
-                return child;
-            }
-            if (auto* found = child->isVisible() ? visibleItem(child, name) : nullptr) {
-                return found;
-            }
-        }
-        return nullptr;
+        return WindowDriver{*application->window()}.find(name);
     }
 
     /// Lets the program run until that is so.
     static bool until(const std::function<bool()>& condition)
     {
         return QTest::qWaitFor(condition, kPatience);
+    }
+
+    /// Waits until the picture stays as it is.
+    QImage pictureAtRest() const
+    {
+        constexpr int kSameBefore = 4;
+        QImage picture;
+        int same = 0;
+        EXPECT_TRUE(until([&] {
+            const QImage last = std::exchange(picture, application->window()->grabWindow());
+            same = picture == last ? same + 1 : 0;
+            return same == kSameBefore;
+        }));
+        return picture;
     }
 
     /// Waits until the item is there, can be used and has stopped moving.
@@ -85,9 +101,10 @@ struct WindowFixture : testing::Test {
         int still = 0;
         const bool found = until([&] {
             auto* const now = find(name);
-            const bool moved = now == nullptr || now != item || middleOf(*now) != place;
+            const bool moved =
+                now == nullptr || now != item || WindowDriver::middleOf(*now) != place;
             item = now;
-            place = item == nullptr ? QPointF{} : middleOf(*item);
+            place = item == nullptr ? QPointF{} : WindowDriver::middleOf(*item);
             still = moved || !item->isEnabled() ? 0 : still + 1;
             return still > 3;
         });
@@ -95,15 +112,15 @@ struct WindowFixture : testing::Test {
         return found ? item : nullptr;
     }
 
-    static QPointF middleOf(const QQuickItem& item)
+    static QPoint middleOf(const QQuickItem& item)
     {
-        return item.mapToScene({item.width() / 2, item.height() / 2});
+        return WindowDriver::middleOf(item).toPoint();
     }
 
     void tap(const QString& name, Qt::MouseButton button = Qt::LeftButton)
     {
         if (const auto* item = settled(name)) {
-            QTest::mouseClick(application->window(), button, {}, middleOf(*item).toPoint());
+            QTest::mouseClick(application->window(), button, {}, middleOf(*item));
         }
     }
 
@@ -111,7 +128,7 @@ struct WindowFixture : testing::Test {
     void touch(const QString& name)
     {
         if (const auto* item = settled(name)) {
-            const auto point = middleOf(*item).toPoint();
+            const auto point = middleOf(*item);
             QTest::touchEvent(application->window(), finger()).press(0, point);
             QTest::touchEvent(application->window(), finger()).release(0, point);
         }

@@ -27,38 +27,6 @@ struct WindowTest : WindowFixture {
         }
         QTest::mouseRelease(application->window(), Qt::LeftButton, {}, at(0.3));
     }
-    /// Taps the first play control on screen: its ring runs, and empties again.
-    void hearAForm()
-    {
-        ASSERT_TRUE(QTest::qWaitFor([&] { return find("play") != nullptr; }, kPatience));
-        auto* control = find("play");
-        auto* source = control->property("source").value<IndicatorSource*>();
-        ASSERT_NE(source, nullptr);
-        const auto progress = [&] {
-            return dynamic_cast<const detail::CERoundProgressLayer&>(source->layer()).progress;
-        };
-        EXPECT_EQ(progress(), 0);
-        tap("play");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return progress() > 0.3F; }, kPatience));
-        auto* ring = control->findChild<RoundProgressItem*>();
-        ASSERT_NE(ring, nullptr);
-        EXPECT_EQ(ring->source(), source);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return progress() == 0; }, kPatience));
-    }
-
-    static QQuickItem* itemWithText(QQuickItem* parent, const QString& text)
-    {
-        for (auto* child : parent->childItems()) {
-            if (child->isVisible() && child->property("text").toString() == text) {
-                return child;
-            }
-            if (auto* found = itemWithText(child, text)) {
-                return found;
-            }
-        }
-        return nullptr;
-    }
-
     QString topTitle(const QList<QObject*>& screens)
     {
         return screens.isEmpty() ? QString{} : qobject_cast<Screen*>(screens.last())->title();
@@ -77,11 +45,11 @@ TEST_F(WindowTest, OnAPhoneATapOpensAVerbOverTheListAndBackReturns)
 
     tap("backButton");
     EXPECT_EQ(split().primary().size(), 1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return split().screenCount() == atFirst; }, kPatience))
+    EXPECT_TRUE(until([&] { return split().screenCount() == atFirst; }))
         << "the screen goes with its page";
 
     tap("aller");
-    QTest::keyClick(application->window(), Qt::Key_Escape);
+    key(Qt::Key_Escape);
     EXPECT_EQ(split().primary().size(), 1);
 }
 
@@ -97,37 +65,45 @@ TEST_F(WindowTest, AVerbStaysOpenWhenTheWindowChangesItsPanes)
     tap("mood3");
     auto* screen = split().secondary().last();
 
-    application->window()->resize(390, 844);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return split().collapsed(); }, kPatience));
+    turn({390, 844});
     ASSERT_EQ(split().primary().size(), 2);
     EXPECT_EQ(split().primary().last(), screen) << "the same screen";
     EXPECT_EQ(qobject_cast<VerbDetailScreen*>(screen)->selectedMood(), 3);
 
-    application->window()->resize(1024, 768);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !split().collapsed(); }, kPatience));
+    turn({1024, 768});
     EXPECT_EQ(split().secondary().last(), screen);
     EXPECT_EQ(split().primary().size(), 1);
 }
 
-TEST_F(WindowTest, OnAPhoneAPlayControlSpeaksItsRow)
+TEST_F(WindowTest, APlayControlSpeaksItsRowOnAPhoneAndItsLineOnATablet)
 {
     start({390, 844});
     tap("aller");
-    hearAForm();
-}
-
-TEST_F(WindowTest, OnATabletAPlayControlSpeaksItsLine)
-{
-    start({1024, 768});
-    tap("aller");
-    hearAForm();
+    for (const QSize size : {QSize{390, 844}, QSize{1024, 768}}) {
+        SCOPED_TRACE(size.width());
+        turn(size);
+        auto* const control = settled("play");
+        ASSERT_NE(control, nullptr);
+        auto* const source = control->property("source").value<IndicatorSource*>();
+        ASSERT_NE(source, nullptr);
+        const auto progress = [&] {
+            return dynamic_cast<const detail::CERoundProgressLayer&>(source->layer()).progress;
+        };
+        EXPECT_EQ(progress(), 0);
+        tap("play");
+        EXPECT_TRUE(until([&] { return progress() > 0.3F; }));
+        const auto* ring = control->findChild<RoundProgressItem*>();
+        ASSERT_NE(ring, nullptr);
+        EXPECT_EQ(ring->source(), source);
+        EXPECT_TRUE(until([&] { return progress() == 0; }));
+    }
 }
 
 TEST_F(WindowTest, ASwipedRowMakesAFavouriteThatTheOtherTabShows)
 {
     start({390, 844});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return find("avoir") != nullptr; }, kPatience));
-    auto* row = find("avoir");
+    auto* row = settled("avoir");
+    ASSERT_NE(row, nullptr);
     swipeOpen(*row);
     ASSERT_TRUE(settled("swipeAction0"));
     EXPECT_LT(row->property("contentItem").value<QQuickItem*>()->x(), -80) << "the row gives way";
@@ -135,53 +111,31 @@ TEST_F(WindowTest, ASwipedRowMakesAFavouriteThatTheOtherTabShows)
     EXPECT_EQ(row->property("image").toString(), QStringLiteral("ic_favorite_list"));
 
     tap("tab1");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return find("avoir") != nullptr; }, kPatience));
+    ASSERT_TRUE(until([&] { return find("avoir") != nullptr; }));
     EXPECT_EQ(find("aller"), nullptr);
     EXPECT_EQ(find("emptyState"), nullptr);
 
     swipeOpen(*find("avoir"));
-    ASSERT_TRUE(settled("swipeAction0"));
     tap("swipeAction0");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return find("emptyState") != nullptr; }, kPatience));
+    EXPECT_TRUE(until([&] { return find("emptyState") != nullptr; }));
 }
 
-TEST_F(WindowTest, APastedTextIsOneLine)
+TEST_F(WindowTest, ASearchTakesOneLineAndSaysWhenItIsInVain)
 {
     start({390, 844});
     tap("Search");
     QGuiApplication::clipboard()->setText(QStringLiteral("être\r\n"));
-    QTest::keyClick(application->window(), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return find("être") != nullptr && find("aller") == nullptr; },
-                                kPatience));
-}
-
-TEST_F(WindowTest, TypingFindsAVerbAndOpensIt)
-{
-    start({390, 844});
-    tap("Search");
-    for (const char letter : {'e', 't', 'r'}) {
-        QTest::keyClick(application->window(), letter);
-    }
-    ASSERT_TRUE(QTest::qWaitFor([&] { return find("être") != nullptr && find("aller") == nullptr; },
-                                kPatience));
-
-    tap("être");
-    EXPECT_EQ(topTitle(split().primary()), QStringLiteral("être"));
-}
-
-TEST_F(WindowTest, ASearchInVainSaysSo)
-{
-    start({390, 844});
-    tap("Search");
-    QTest::keyClick(application->window(), 'q');
-    EXPECT_TRUE(QTest::qWaitFor([&] { return find("nothingFound") != nullptr; }, kPatience));
+    key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_TRUE(until([&] { return find("être") != nullptr && find("aller") == nullptr; }));
+    type("q");
+    EXPECT_TRUE(until([&] { return find("nothingFound") != nullptr; }));
 }
 
 TEST_F(WindowTest, AShortcutOpensItsTab)
 {
-    start({390, 844}, "com.brindle.shortcut.favourite");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return find("tab1") != nullptr; }, kPatience));
-    EXPECT_TRUE(find("tab1")->property("checked").toBool());
+    options.shortcut = "com.brindle.shortcut.favourite";
+    start({390, 844});
+    EXPECT_TRUE(settled("tab1")->property("checked").toBool());
 }
 
 TEST_F(WindowTest, AFileIsAskedForInTheWindowWhereTheDesktopHasNoDialog)
@@ -268,8 +222,7 @@ TEST_F(WindowTest, AModalHidesWhatIsBelowOnAPhoneAndGoesBeforeAnythingElseIsDone
     presenter.present(*lower, upper);
     EXPECT_EQ(diary, "lower+ lower- upper+ ");
 
-    application->window()->resize(1024, 768);
-    ASSERT_TRUE(until([&] { return !split().collapsed(); }));
+    turn({1024, 768});
     EXPECT_EQ(diary, "lower+ lower- upper+ lower+ ");
 
     diary.clear();
@@ -309,8 +262,7 @@ TEST_F(WindowTest, ARequestFromOutsideWithdrawsWhatWaitsForTheUser)
     EXPECT_FALSE(presenter.asking());
     EXPECT_EQ(cancelled, 2);
     EXPECT_TRUE(until([&] { return presenter.modals()->count() == 0; }));
-    EXPECT_NE(find("tab1"), nullptr);
-    EXPECT_TRUE(find("tab1")->property("checked").toBool());
+    EXPECT_TRUE(settled("tab1")->property("checked").toBool());
 }
 
 } // namespace

@@ -54,7 +54,7 @@ public:
 };
 
 /// A message as it was filled in; the test says how it ends.
-class FakeMailComposer final : public platform::MailComposer {
+class FakeMailComposer : public platform::MailComposer {
 public:
     void setMailComposeDelegate(platform::MailComposerDelegate* newDelegate) override
     {

@@ -20,23 +20,6 @@ namespace {
 constexpr int kPatience = 5000;
 constexpr int kStep = 10;
 
-QQuickItem* visibleItem(QQuickItem* parent, const QString& name)
-{
-    const auto children = parent->childItems();
-    for (auto* child : std::views::reverse(children)) {
-        if (!child->isVisible()) {
-            continue;
-        }
-        if (child->objectName() == name && child->width() > 0) {
-            return child;
-        }
-        if (auto* found = visibleItem(child, name)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
 void collectCells(QQuickItem* parent, const QRectF& window, std::vector<QQuickItem*>& found)
 {
     for (auto* child : parent->childItems()) {
@@ -66,7 +49,24 @@ void sendMouse(QQuickWindow& window, QEvent::Type type, const QPointF& point)
 
 QQuickItem* WindowDriver::find(const QString& name) const
 {
-    return visibleItem(window_.contentItem(), name);
+    return findIn(*window_.contentItem(), name);
+}
+
+QQuickItem* WindowDriver::findIn(QQuickItem& parent, const QString& name)
+{
+    const auto children = parent.childItems();
+    for (auto* child : std::views::reverse(children)) {
+        if (!child->isVisible()) {
+            continue;
+        }
+        if (child->objectName() == name && child->width() > 0) {
+            return child;
+        }
+        if (auto* found = findIn(*child, name)) {
+            return found;
+        }
+    }
+    return nullptr;
 }
 
 std::vector<QQuickItem*> WindowDriver::cells() const

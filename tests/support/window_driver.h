@@ -22,6 +22,7 @@ public:
 
     /// The topmost visible item of that name; null when there is none.
     QQuickItem* find(const QString& name) const;
+    static QQuickItem* findIn(QQuickItem& parent, const QString& name);
     /// The cells of tables that are wholly in the window, from its top.
     std::vector<QQuickItem*> cells() const;
     /// The list that scrolls the item; null when none does.
