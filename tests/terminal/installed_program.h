@@ -27,11 +27,16 @@ public:
     Run run(const std::vector<std::string>& arguments, const std::string& environment = {},
             const std::string& redirection = {}) const;
     /// Output goes to a terminal of that width; stderr too.
-    Run runOnTerminal(const std::vector<std::string>& arguments, unsigned short columns) const;
+    Run runOnTerminal(const std::vector<std::string>& arguments, int columns) const;
 
+    std::filesystem::path home() const { return folder_.path(); }
     std::filesystem::path share() const { return folder_ / "share" / "lumora"; }
 
 private:
+    std::string lineOf(const std::vector<std::string>& arguments,
+                       const std::string& environment) const;
+    Run runLine(const std::string& line, const std::string& redirection) const;
+
     support::TemporaryFolder folder_;
 };
 
