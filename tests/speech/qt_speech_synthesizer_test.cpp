@@ -86,7 +86,7 @@ TEST_F(QtSpeechSynthesizerTest, StopsAtOnceAndNothingFollows)
         speak("qu'il ou elle ou on ait compris", 0.5F);
         EXPECT_TRUE(voice->isSpeaking());
         if (milliseconds > 0) {
-            SpeechListener::waitFor(milliseconds);
+            QTest::qWait(milliseconds);
         }
         const auto heard = listener.events.size();
 
@@ -96,7 +96,7 @@ TEST_F(QtSpeechSynthesizerTest, StopsAtOnceAndNothingFollows)
         ASSERT_EQ(listener.events.size(), heard + 1);
         EXPECT_EQ(listener.events.back().what, "cancel");
         voice->stopSpeaking();
-        SpeechListener::waitFor(700);
+        QTest::qWait(700);
         EXPECT_EQ(listener.events.size(), heard + 1);
     }
 }
@@ -104,10 +104,10 @@ TEST_F(QtSpeechSynthesizerTest, StopsAtOnceAndNothingFollows)
 TEST_F(QtSpeechSynthesizerTest, ANewUtteranceEndsTheOldOne)
 {
     speak("nous avons compris", 0.5F);
-    SpeechListener::waitFor(150);
+    QTest::qWait(150);
     speak("un");
     speak("tu vas");
-    ASSERT_TRUE(SpeechListener::waitUntil([&] { return !voice->isSpeaking(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !voice->isSpeaking(); }));
 
     const auto second = std::find_if(listener.events.begin(), listener.events.end(),
                                      [](const auto& event) { return event.what == "cancel"; });
@@ -132,8 +132,8 @@ TEST_F(QtSpeechSynthesizerTest, ADelegateMayDoAnythingInACallback)
         }
     };
     speak("un");
-    ASSERT_TRUE(SpeechListener::waitUntil([&] { return voice == nullptr; }));
-    SpeechListener::waitFor(300);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return voice == nullptr; }));
+    QTest::qWait(300);
     EXPECT_EQ(listener.whats(),
               (Texts{"word 0+2", "finish", "word 0+4", "finish", "word 0+5", "word 6+6"}));
 }
@@ -153,7 +153,7 @@ TEST_F(QtSpeechSynthesizerTest, ScreensSpeakOverOneEngineAndLeaveInSilence)
     other->setDelegate(&otherListener);
     other->speak({"vous voilà", "fr"});
     speak("je vais");
-    SpeechListener::waitFor(100);
+    QTest::qWait(100);
 
     other.reset();
 

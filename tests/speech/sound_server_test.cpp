@@ -17,6 +17,7 @@
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -42,21 +43,19 @@ public:
     std::string start()
     {
         for (const char* program : {"pulseaudio", "pactl", "parec"}) {
-            if (QStandardPaths::findExecutable(QString::fromLatin1(program)).isEmpty()) {
+            if (QStandardPaths::findExecutable(program).isEmpty()) {
                 return std::string{"there is no "} + program + " on this machine";
             }
         }
         process_.setProcessChannelMode(QProcess::MergedChannels);
-        process_.start(QStringLiteral("pulseaudio"),
-                       {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
-                        QStringLiteral("--use-pid-file=no"), QStringLiteral("--exit-idle-time=30"),
-                        QStringLiteral("--log-level=error"), QStringLiteral("-L"),
-                        QStringLiteral("module-native-protocol-unix socket=") + socket(),
-                        QStringLiteral("-L"),
-                        QStringLiteral("module-null-sink sink_name=nowhere")});
+        process_.start("pulseaudio",
+                       {"-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=30",
+                        "--log-level=error", "-L",
+                        QStringLiteral("module-native-protocol-unix socket=") + socket(), "-L",
+                        "module-null-sink sink_name=nowhere"});
         const auto runs = [this] { return process_.state() == QProcess::Running; };
         process_.waitForStarted();
-        SpeechListener::waitUntil([&] { return !runs() || control({"info"}); }, 4000);
+        std::ignore = QTest::qWaitFor([&] { return !runs() || control({"info"}); }, 4000);
         return runs() && control({"info"})
                    ? std::string{}
                    : "no sound server could be started: " + process_.readAll().toStdString();
@@ -67,14 +66,10 @@ public:
         process_.waitForFinished();
     }
 
-    static bool control(const std::vector<const char*>& words)
+    static bool control(const QStringList& words)
     {
-        QStringList arguments;
-        for (const char* word : words) {
-            arguments << QString::fromLatin1(word);
-        }
         QProcess pactl;
-        pactl.start(QStringLiteral("pactl"), arguments);
+        pactl.start("pactl", words);
         return pactl.waitForFinished(2000) && pactl.exitCode() == 0;
     }
 
@@ -125,12 +120,10 @@ public:
 
     Recorder()
     {
-        process_.start(QStringLiteral("parec"),
-                       {QStringLiteral("--device=nowhere.monitor"), QStringLiteral("--raw"),
-                        QStringLiteral("--format=s16le"), QStringLiteral("--channels=1"),
-                        QStringLiteral("--rate=%1").arg(kRate),
-                        QStringLiteral("--latency-msec=20")});
-        SpeechListener::waitUntil([this] { return process_.bytesAvailable() > 0; });
+        process_.start("parec",
+                       {"--device=nowhere.monitor", "--raw", "--format=s16le", "--channels=1",
+                        QStringLiteral("--rate=%1").arg(kRate), "--latency-msec=20"});
+        std::ignore = QTest::qWaitFor([this] { return process_.bytesAvailable() > 0; });
     }
 
     /// From the first sample that sounds to the last, in seconds.
@@ -164,7 +157,7 @@ TEST_F(PulseAudioSessionTest, FollowsTheVolumeOfTheDefaultOutput)
 {
     const PulseAudioSession session;
     struct Case {
-        std::vector<const char*> command;
+        QStringList command;
         float volume;
         const char* why;
     };
@@ -181,8 +174,7 @@ TEST_F(PulseAudioSessionTest, FollowsTheVolumeOfTheDefaultOutput)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.why);
         ASSERT_TRUE(SoundServer::control(c.command));
-        EXPECT_TRUE(
-            SpeechListener::waitUntil([&] { return session.outputVolume() == c.volume; }, 2000))
+        EXPECT_TRUE(QTest::qWaitFor([&] { return session.outputVolume() == c.volume; }, 2000))
             << session.outputVolume();
     }
 }
@@ -191,23 +183,21 @@ TEST_F(PulseAudioSessionTest, IsMissedAndFoundAgain)
 {
     PulseAudioSession session;
     ASSERT_TRUE(SoundServer::control({"set-sink-volume", "nowhere", "40%"}));
-    ASSERT_TRUE(SpeechListener::waitUntil([&] { return session.outputVolume() == 0.4F; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return session.outputVolume() == 0.4F; }));
     EXPECT_TRUE(session.activate());
 
     server.stop();
 
-    EXPECT_TRUE(SpeechListener::waitUntil([&] { return session.outputVolume() == 1; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return session.outputVolume() == 1; }));
     const auto refused = session.activate();
     ASSERT_FALSE(refused);
     EXPECT_FALSE(refused.error().message.empty());
-    SpeechListener::waitFor(100);
-    EXPECT_TRUE(session.activate()) << "where there is no sound, none is missed";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return session.activate().has_value(); }))
+        << "where there is no sound, none is missed";
     ASSERT_EQ(server.start(), "");
     ASSERT_TRUE(SoundServer::control({"set-sink-volume", "nowhere", "20%"}));
-    EXPECT_TRUE(SpeechListener::waitUntil([&] {
-        SpeechListener::waitFor(20);
-        return session.activate() && session.outputVolume() == 0.2F;
-    }));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return session.activate() && session.outputVolume() == 0.2F; }, 8000));
 }
 
 TEST_F(PlaybackTest, HearsAnUtteranceWhole)
@@ -223,7 +213,7 @@ TEST_F(PlaybackTest, HearsAnUtteranceWhole)
 
     ASSERT_TRUE(listener.waitForEnd());
     EXPECT_EQ(listener.events.back().what, "finish");
-    SpeechListener::waitFor(300);
+    QTest::qWait(300);
     const std::atomic<bool> cancelled = false;
     const auto expected = EspeakVoice{}.synthesize(utterance, cancelled);
     ASSERT_TRUE(expected);
@@ -237,11 +227,11 @@ TEST_F(PlaybackTest, HearsNoMoreOfAStoppedUtterance)
     QtSpeech speech;
     const auto voice = speech.makeSpeechSynthesizer();
     voice->speak({"qu'il ou elle ou on ait compris", "fr", platform::kDefaultSpeechRate / 2});
-    SpeechListener::waitFor(600);
+    QTest::qWait(600);
 
     voice->stopSpeaking();
 
-    SpeechListener::waitFor(1500);
+    QTest::qWait(1500);
     const double seconds = recorder.secondsOfSound();
     EXPECT_GT(seconds, 0.2);
     EXPECT_LT(seconds, 0.8);

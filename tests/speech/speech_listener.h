@@ -6,10 +6,8 @@
 #include "platform/speech_synthesizer.h"
 
 #include <QElapsedTimer>
-#include <QEventLoop>
-#include <QTimer>
+#include <QtTest/QTest>
 
-#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -39,35 +37,18 @@ public:
 
     std::vector<std::string> whats() const
     {
-        std::vector<std::string> all(events.size());
-        std::transform(events.begin(), events.end(), all.begin(),
-                       [](const Event& event) { return event.what; });
+        std::vector<std::string> all;
+        for (const auto& event : events) {
+            all.push_back(event.what);
+        }
         return all;
     }
 
-    /// Lets the event loop run until `condition` holds; false when it does not
-    /// within some seconds.
-    static bool waitUntil(const std::function<bool()>& condition, int milliseconds = 8000)
-    {
-        QEventLoop loop;
-        QTimer look;
-        QObject::connect(&look, &QTimer::timeout, &loop, [&] {
-            if (condition()) {
-                loop.quit();
-            }
-        });
-        look.start(2);
-        QTimer::singleShot(milliseconds, &loop, [&] { loop.exit(1); });
-        return condition() || loop.exec() == 0;
-    }
-    static void waitFor(int milliseconds)
-    {
-        waitUntil([] { return false; }, milliseconds);
-    }
+    /// False when it takes more than some seconds.
     bool waitForEnd() const
     {
-        return waitUntil(
-            [this] { return !events.empty() && !events.back().what.starts_with("w"); });
+        return QTest::qWaitFor(
+            [this] { return !events.empty() && !events.back().what.starts_with("w"); }, 8000);
     }
 
     std::vector<Event> events;
