@@ -6,12 +6,11 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusReply>
 #include <QDBusVariant>
-#include <QEventLoop>
 #include <QFutureWatcher>
+#include <QSignalSpy>
 #include <QtConcurrentRun>
 
 #include <gtest/gtest.h>
@@ -23,39 +22,11 @@ namespace lumora::support {
 namespace {
 
 constexpr int kAnswerTime = 2000;
+constexpr int kReadingTime = 60000;
 constexpr int kDeepest = 60;
 
 /// An object of the tree: whose it is, and its path.
-struct Reference {
-    QString service;
-    QDBusObjectPath path;
-};
-
-QDBusArgument& operator<<(QDBusArgument& argument, const Reference& reference)
-{
-    argument.beginStructure();
-    argument << reference.service << reference.path;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, Reference& reference)
-{
-    argument.beginStructure();
-    argument >> reference.service >> reference.path;
-    argument.endStructure();
-    return argument;
-}
-
-} // namespace
-
-} // namespace lumora::support
-
-Q_DECLARE_METATYPE(lumora::support::Reference)
-
-namespace lumora::support {
-
-namespace {
+using Reference = std::pair<QString, QDBusObjectPath>;
 
 const QString kAccessible = QStringLiteral("org.a11y.atspi.Accessible");
 
@@ -64,10 +35,7 @@ class Reader {
 public:
     explicit Reader(const QString& address)
         : bus_{QDBusConnection::connectToBus(address, QStringLiteral("reader"))}
-    {
-        qDBusRegisterMetaType<Reference>();
-        qDBusRegisterMetaType<QList<Reference>>();
-    }
+    {}
     ~Reader() { QDBusConnection::disconnectFromBus(QStringLiteral("reader")); }
 
     std::vector<Accessible> read()
@@ -87,7 +55,7 @@ private:
                      const QVariantList& arguments = {}) const
     {
         auto call =
-            QDBusMessage::createMethodCall(object.service, object.path.path(), interface, method);
+            QDBusMessage::createMethodCall(object.first, object.second.path(), interface, method);
         call.setArguments(arguments);
         const auto reply = bus_.call(call, QDBus::Block, kAnswerTime);
         EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage)
@@ -150,11 +118,10 @@ QString accessibilityBus()
 std::vector<Accessible> accessibleTree()
 {
     QFutureWatcher<std::vector<Accessible>> reading;
-    QEventLoop answers;
-    QObject::connect(&reading, &QFutureWatcherBase::finished, &answers, &QEventLoop::quit);
+    QSignalSpy end{&reading, &QFutureWatcherBase::finished};
     reading.setFuture(
         QtConcurrent::run([address = accessibilityBus()] { return Reader{address}.read(); }));
-    answers.exec();
+    EXPECT_TRUE(end.wait(kReadingTime));
     return reading.result();
 }
 

@@ -12,30 +12,22 @@ namespace {
 
 TEST(StandardFolders, FollowTheBaseFolderVariables)
 {
-    struct {
+    const struct {
         std::map<std::string, std::string> environment;
-        std::string data;
-        std::string config;
-        std::string state;
+        StandardFolders folders;
         const char* why;
     } cases[] = {
         {{{"HOME", "/home/a"}},
-         "/home/a/.local/share/lumora",
-         "/home/a/.config/lumora",
-         "/home/a/.local/state/lumora",
+         {"/home/a/.local/share/lumora", "/home/a/.config/lumora", "/home/a/.local/state/lumora"},
          "fallbacks"},
         {{{"HOME", "/home/a"},
           {"XDG_DATA_HOME", "/d"},
           {"XDG_CONFIG_HOME", "/c"},
           {"XDG_STATE_HOME", "/s"}},
-         "/d/lumora",
-         "/c/lumora",
-         "/s/lumora",
+         {"/d/lumora", "/c/lumora", "/s/lumora"},
          "all set"},
         {{{"HOME", "/home/a"}, {"XDG_DATA_HOME", "relative/d"}, {"XDG_CONFIG_HOME", ""}},
-         "/home/a/.local/share/lumora",
-         "/home/a/.config/lumora",
-         "/home/a/.local/state/lumora",
+         {"/home/a/.local/share/lumora", "/home/a/.config/lumora", "/home/a/.local/state/lumora"},
          "relative and empty values do not count"},
     };
     for (const auto& c : cases) {
@@ -45,9 +37,9 @@ TEST(StandardFolders, FollowTheBaseFolderVariables)
                 const auto found = c.environment.find(variable);
                 return found == c.environment.end() ? std::nullopt : std::optional{found->second};
             });
-        EXPECT_EQ(folders.data, c.data);
-        EXPECT_EQ(folders.config, c.config);
-        EXPECT_EQ(folders.state, c.state);
+        EXPECT_EQ(folders.data, c.folders.data);
+        EXPECT_EQ(folders.config, c.folders.config);
+        EXPECT_EQ(folders.state, c.folders.state);
     }
 }
 

@@ -3,14 +3,12 @@
 
 #include "security/trace.h"
 
+#include "support/shell.h"
 #include "support/temporary_folder.h"
 
 #include <fstream>
 #include <regex>
 #include <stdexcept>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace lumora::security {
 
@@ -20,27 +18,6 @@ constexpr const char* kCalls =
     "trace=socket,execve,execveat,open,openat,openat2,creat,mkdir,mkdirat,mknod,mknodat,rename,"
     "renameat,renameat2,unlink,unlinkat,rmdir,link,linkat,symlink,symlinkat,chmod,fchmodat,"
     "truncate";
-
-int run(std::vector<std::string> command, const std::map<std::string, std::string>& environment)
-{
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::clearenv();
-        for (const auto& [name, value] : environment) {
-            ::setenv(name.c_str(), value.c_str(), 1);
-        }
-        std::vector<char*> arguments;
-        for (auto& argument : command) {
-            arguments.push_back(argument.data());
-        }
-        arguments.push_back(nullptr);
-        ::execvp(arguments[0], arguments.data());
-        ::_exit(127);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
 
 /// The texts in quotes of a line, and the folder of a descriptor before each.
 std::vector<std::filesystem::path> pathsIn(const std::string& line)
@@ -84,22 +61,18 @@ Trace traced(const std::vector<std::string>& command,
              const std::map<std::string, std::string>& environment)
 {
     const support::TemporaryFolder folder;
+    std::string commandLine = "exec env -i";
+    for (const auto& [name, value] : environment) {
+        commandLine += " " + support::shellQuoted(name + "=" + value);
+    }
     // A file for each thread, so that no call is torn by another's.
-    std::vector<std::string> all{"strace",
-                                 "-ff",
-                                 "--seccomp-bpf",
-                                 "-qq",
-                                 "-y",
-                                 "-s",
-                                 "4096",
-                                 "-e",
-                                 kCalls,
-                                 "-o",
-                                 (folder / "trace").string(),
-                                 "--"};
-    all.insert(all.end(), command.begin(), command.end());
+    commandLine += " strace -ff --seccomp-bpf -qq -y -s 4096 -e " + std::string{kCalls} + " -o " +
+                   support::shellQuoted(folder / "trace") + " --";
+    for (const auto& word : command) {
+        commandLine += " " + support::shellQuoted(word);
+    }
     Trace trace;
-    trace.exitStatus = run(all, environment);
+    trace.exitStatus = support::runInShell(commandLine);
     for (const auto& file : std::filesystem::directory_iterator{folder.path()}) {
         std::ifstream lines{file.path()};
         for (std::string line; std::getline(lines, line);) {

@@ -3,27 +3,13 @@
 
 #include "installed_program.h"
 
+#include "support/shell.h"
 #include "support/shipped_templates.h"
 #include "support/world.h"
 
-#include <cstdlib>
-
-#include <sys/wait.h>
-
 namespace lumora::terminal {
 
-namespace {
-
-std::string shellQuoted(const std::string& word)
-{
-    std::string quoted = "'";
-    for (const char byte : word) {
-        quoted += byte == '\'' ? std::string{"'\\''"} : std::string{byte};
-    }
-    return quoted + "'";
-}
-
-} // namespace
+using support::shellQuoted;
 
 InstalledProgram::InstalledProgram()
 {
@@ -67,11 +53,9 @@ Run InstalledProgram::runLine(const std::string& line, const std::string& redire
 {
     const auto out = folder_ / "out";
     const auto err = folder_ / "err";
-    // NOLINTNEXTLINE(bugprone-command-processor): every word is quoted.
-    const int waited = std::system(
-        (line + " >" + shellQuoted(out) + " 2>" + shellQuoted(err) + " " + redirection).c_str());
-    return {WIFEXITED(waited) ? WEXITSTATUS(waited) : -1, support::contentOf(out),
-            support::contentOf(err)};
+    const int status = support::runInShell(line + " >" + shellQuoted(out) + " 2>" +
+                                           shellQuoted(err) + " " + redirection);
+    return {status, support::contentOf(out), support::contentOf(err)};
 }
 
 } // namespace lumora::terminal
