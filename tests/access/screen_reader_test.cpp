@@ -89,8 +89,7 @@ TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
     tap("Search");
     type("a");
     expectHeard("search", {"push button: Clear the search", "list item: aller, go"});
-    tap("aller");
-    tap("bar.favourite");
+    tap("aller", "bar.favourite");
     expectHeard("verb", {"push button: Back", "heading: aller", "push button: Share",
                          "check box: Favourite (checked)", "radio button: Indicative (checked)",
                          "radio button: Other", "list: aller", "list item: go", "heading: Present",
@@ -101,19 +100,14 @@ TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
     tap("share1");
     expectHeard("saving",
                 {"dialog: aller", "text: File name", "push button: Cancel", "push button: Save"});
-    tap("fileCancel");
-    tap("backButton");
-    tap("searchClear");
-    tap("tab0");
+    tap("fileCancel", "backButton", "searchClear", "tab0");
     expectHeard("a favourite", {"list item: aller, go, Favourite", "list item: avoir, have"});
     tap("bar.menu");
     expectHeard("menu", {"popup menu: Lumora", "list: Lumora", "list item: Settings"});
     tap("IconMoreApps");
     expectHeard("more programs", {"heading: More apps", "push button: Done", "list: More apps",
                                   "list item: English Verbs"});
-    tap("bar.done");
-    tap("bar.menu");
-    tap("IconSettings");
+    tap("bar.done", "bar.menu", "IconSettings");
     expectHeard("options", {"heading: Settings", "list: Settings", "heading: Lumora",
                             "push button: https://www.brindle.example", "heading: Search",
                             "check box: Search translations (English) (checked)",
@@ -131,7 +125,7 @@ TEST_F(ScreenReaderTest, HearsOfBothPanesOfATablet)
                 {"list: Verbs", "list item: aller, go", "push button: Verbs", "heading: aller",
                  "check box: Favourite", "radio button: Indicative (checked)", "heading: Present",
                  "label: je vais", "push button: Play je vais"});
-    tap("aller", Qt::RightButton);
+    click("aller", Qt::RightButton);
     expectHeard("menu of a row", {"menu item: Open"});
 }
 

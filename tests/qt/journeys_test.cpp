@@ -43,8 +43,7 @@ struct Journey : WindowFixture {
 
     void openOptions()
     {
-        touch("bar.menu");
-        touch("IconSettings");
+        touch("bar.menu", "IconSettings");
         ASSERT_TRUE(settled("bar.done"));
     }
 
@@ -61,14 +60,14 @@ struct Journey : WindowFixture {
             const auto* current = find("list")->property("currentItem").value<QQuickItem*>();
             return current != nullptr && current->objectName() == label;
         };
-        key(Qt::Key_Home);
+        keys("Home");
         for (auto row = rows().size(); row > 0 && !isThere(); --row) {
-            key(Qt::Key_Down);
+            keys("Down");
         }
         return settled(label);
     }
 
-    void click(QQuickItem* parent, const QString& name)
+    void clickIn(QQuickItem* parent, const QString& name)
     {
         const auto* item = parent == nullptr ? nullptr : WindowDriver::findIn(*parent, name);
         ASSERT_NE(item, nullptr);
@@ -82,26 +81,19 @@ TEST_F(Journey, FindAVerbStarItAndSeeItAmongTheFavourites)
     touch("Search");
     type("etr");
     ASSERT_TRUE(until([&] { return verbs() == QStringList{"être"}; }));
-    touch("être");
-    touch("bar.favourite");
-    touch("backButton");
-    touch("searchClear");
-    touch("tab1");
+    touch("être", "bar.favourite", "backButton", "searchClear", "tab1");
     EXPECT_TRUE(until([&] { return verbs() == QStringList{"être"}; }));
 }
 
 TEST_F(Journey, ClearTheHistory)
 {
     start(kPhone);
-    touch("aller");
-    touch("backButton");
-    touch("tab2");
+    touch("aller", "backButton", "tab2");
     ASSERT_TRUE(until([&] { return verbs() == QStringList{"aller"}; }));
 
     openOptions();
     ASSERT_NE(option("settings.history_clear"), nullptr);
-    touch("settings.history_clear");
-    touch("answer0");
+    touch("settings.history_clear", "answer0");
     closeOptions();
     EXPECT_TRUE(until([&] { return verbs().isEmpty(); }));
 }
@@ -115,10 +107,9 @@ TEST_F(Journey, ChangeTheLanguageAndSeeTheListSortedByIt)
     EXPECT_EQ(verbs(), byFrench);
 
     openOptions();
-    click(option("settings.sortby"), "segment0");
+    clickIn(option("settings.sortby"), "segment0");
     ASSERT_NE(option("settings.translations"), nullptr);
-    touch("settings.translations");
-    touch("answer4");
+    touch("settings.translations", "answer4");
     closeOptions();
     EXPECT_TRUE(until([&] { return verbs() == byGerman; })) << verbs().join(' ').toStdString();
 }
@@ -128,7 +119,7 @@ TEST_F(Journey, SwitchTheHistoryOffAndItsTabGoes)
     start(kPhone);
     touch("tab2");
     openOptions();
-    click(option("settings.history"), "switch");
+    clickIn(option("settings.history"), "switch");
     closeOptions();
     EXPECT_TRUE(until([&] { return find("tab1") != nullptr && find("tab2") == nullptr; }));
     EXPECT_TRUE(find("tab0")->property("checked").toBool());
@@ -151,8 +142,7 @@ TEST_F(Journey, PullTheMenuInAndPushItOut)
     QTest::mouseClick(application->window(), Qt::LeftButton, {}, {370, 500});
     EXPECT_TRUE(until([&] { return modals() == 0; }));
 
-    touch("bar.menu");
-    touch("IconMoreApps");
+    touch("bar.menu", "IconMoreApps");
     ASSERT_TRUE(settled("AppIconGerman"));
     touch("bar.done");
     EXPECT_TRUE(until([&] { return modals() == 0; }));
@@ -163,55 +153,45 @@ TEST_F(Journey, WithTheKeyboardAlone)
     start(kPhone);
     ASSERT_TRUE(settled("aller"));
     // Finds a verb, opens it and comes back.
-    key(Qt::Key_F, Qt::ControlModifier);
+    keys("Ctrl+F");
     type("voir");
-    key(Qt::Key_Escape);
+    keys("Esc");
     type("a");
     ASSERT_TRUE(until([&] { return verbs() == QStringList({"aller", "avoir"}); }));
-    key(Qt::Key_Down);
-    key(Qt::Key_Return);
+    keys("Down, Return");
     ASSERT_TRUE(until([&] { return split().primary().size() == 2; }));
-    key(Qt::Key_Escape);
+    keys("Esc");
     EXPECT_EQ(split().primary().size(), 1);
 
     // Makes another one a favourite by its menu.
-    key(Qt::Key_F, Qt::ControlModifier);
-    key(Qt::Key_Escape);
+    keys("Ctrl+F, Esc");
     ASSERT_TRUE(until([&] { return verbs().size() == 6; }));
-    key(Qt::Key_Down);
-    key(Qt::Key_Down);
-    key(Qt::Key_Menu);
+    keys("Down, Down, Menu");
     ASSERT_TRUE(settled("menuAction0"));
-    key(Qt::Key_Down);
-    key(Qt::Key_Return);
+    keys("Down, Return");
     ASSERT_TRUE(until([&] { return find("menuAction0") == nullptr; }));
-    key(Qt::Key_2, Qt::ControlModifier);
+    keys("Ctrl+2");
     EXPECT_TRUE(until([&] { return verbs() == QStringList{"avoir"}; }));
 
     // Changes a switch and segments.
-    key(Qt::Key_F10);
+    keys("F10");
     ASSERT_TRUE(settled("IconSettings"));
-    key(Qt::Key_Down);
-    key(Qt::Key_Return);
+    keys("Down, Return");
     ASSERT_TRUE(settled("settings.sortby"));
-    key(Qt::Key_Down);
-    key(Qt::Key_Space);
+    keys("Down, Space");
     EXPECT_FALSE(application->settings().boolForKey("IncludeEnglish"));
-    key(Qt::Key_Down);
-    key(Qt::Key_Down);
-    key(Qt::Key_Left);
+    keys("Down, Down, Left");
     EXPECT_FALSE(application->settings().boolForKey("SortByLang"));
-    key(Qt::Key_Escape);
+    keys("Esc");
     EXPECT_TRUE(until([&] { return modals() == 0; }));
-    key(Qt::Key_1, Qt::ControlModifier);
+    keys("Ctrl+1");
     EXPECT_TRUE(until([&] { return verbs().size() == 6; }));
 }
 
 TEST_F(Journey, TurnTheDeviceAndFindEverythingAsItWas)
 {
     start({390, 360});
-    touch("tab1");
-    touch("tab0");
+    touch("tab1", "tab0");
     ASSERT_TRUE(settled("aller"));
     drag({200, 220}, {200, 130});
     ASSERT_TRUE(until([&] { return !find("list")->property("moving").toBool(); }));
@@ -222,8 +202,7 @@ TEST_F(Journey, TurnTheDeviceAndFindEverythingAsItWas)
     EXPECT_GT(before, 40);
     turn({800, 360});
     EXPECT_EQ(position(), before);
-    touch("tab1");
-    touch("tab0");
+    touch("tab1", "tab0");
     EXPECT_EQ(position(), before);
 
     touch("Search");

@@ -96,7 +96,7 @@ TEST_P(LanguagesTest, EveryTextHasRoom)
         if (find("bar.backup") != nullptr) {
             tap("bar.backup");
             expectAllTextsFit("backup");
-            key(Qt::Key_Escape);
+            keys("Esc");
         }
         tap("bar.done");
     }

@@ -257,7 +257,7 @@ TEST_F(VerbWindowTest, APreviewIsOpenedOrLeftOrUsedForWhatItsRowOffers)
     hold("aller");
     EXPECT_EQ(split().primary().size(), 1);
     EXPECT_EQ(find("mood0"), nullptr);
-    key(Qt::Key_Escape);
+    keys("Esc");
     EXPECT_TRUE(until([&] { return find("preview") == nullptr; }));
     EXPECT_EQ(split().primary().size(), 1);
 
@@ -282,9 +282,7 @@ TEST_F(VerbWindowTest, APreviewIsOpenedOrLeftOrUsedForWhatItsRowOffers)
 TEST_F(VerbWindowTest, AVerbOfTheHistoryIsRemovedFromItsPreview)
 {
     start({1024, 768});
-    tap("aller");
-    tap("avoir");
-    tap("tab2");
+    tap("aller", "avoir", "tab2");
     hold("aller");
     tap("previewAction0");
     const auto* history = split().home()->currentList()->table()->model();
@@ -297,11 +295,9 @@ TEST_F(VerbWindowTest, AVerbIsExportedIntoAFile)
     start({390, 844});
     const support::EnvironmentVariable home{"HOME", folder.path()};
     std::filesystem::create_directories(folder / "Documents");
-    tap("aller");
-    tap("bar.export");
-    tap("share1");
+    tap("aller", "bar.export", "share1");
     ASSERT_NE(find("fileName"), nullptr);
-    key(Qt::Key_Return);
+    keys("Return");
     EXPECT_TRUE(until([&] { return std::filesystem::exists(folder / "Documents" / "aller.txt"); }));
     EXPECT_NE(contentOf(folder / "Documents" / "aller.txt").find("je vais"), std::string::npos);
 }

@@ -10,6 +10,7 @@
 #include "support/world.h"
 
 #include <QImage>
+#include <QKeySequence>
 #include <QPointingDevice>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -117,22 +118,18 @@ struct WindowFixture : testing::Test {
         return WindowDriver::middleOf(item).toPoint();
     }
 
-    void tap(const QString& name, Qt::MouseButton button = Qt::LeftButton)
+    void click(const QString& name, Qt::MouseButton button = Qt::LeftButton)
     {
         if (const auto* item = settled(name)) {
             QTest::mouseClick(application->window(), button, {}, middleOf(*item));
         }
     }
 
-    /// The finger's tap.
-    void touch(const QString& name)
-    {
-        if (const auto* item = settled(name)) {
-            const auto point = middleOf(*item);
-            QTest::touchEvent(application->window(), finger()).press(0, point);
-            QTest::touchEvent(application->window(), finger()).release(0, point);
-        }
-    }
+    /// Clicks one after the other, each as soon as that can be done.
+    void tap(const auto&... names) { (click(names), ...); }
+
+    /// As a finger does.
+    void touch(const auto&... names) { (touchOne(names), ...); }
 
     void drag(const QPoint& from, const QPoint& to)
     {
@@ -146,9 +143,10 @@ struct WindowFixture : testing::Test {
         QTest::touchEvent(application->window(), finger()).release(0, to);
     }
 
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    /// "Ctrl+F, Down": up to four.
+    void keys(const char* sequence)
     {
-        QTest::keyClick(application->window(), key, modifiers);
+        QTest::keySequence(application->window(), QKeySequence{QString::fromLatin1(sequence)});
     }
 
     void type(const char* text)
@@ -159,6 +157,15 @@ struct WindowFixture : testing::Test {
     }
 
 private:
+    void touchOne(const QString& name)
+    {
+        if (const auto* item = settled(name)) {
+            const auto point = middleOf(*item);
+            QTest::touchEvent(application->window(), finger()).press(0, point);
+            QTest::touchEvent(application->window(), finger()).release(0, point);
+        }
+    }
+
     static QPointingDevice* finger()
     {
         static auto* const device = QTest::createTouchDevice();

@@ -49,7 +49,7 @@ TEST_F(WindowTest, OnAPhoneATapOpensAVerbOverTheListAndBackReturns)
         << "the screen goes with its page";
 
     tap("aller");
-    key(Qt::Key_Escape);
+    keys("Esc");
     EXPECT_EQ(split().primary().size(), 1);
 }
 
@@ -125,7 +125,7 @@ TEST_F(WindowTest, ASearchTakesOneLineAndSaysWhenItIsInVain)
     start({390, 844});
     tap("Search");
     QGuiApplication::clipboard()->setText(QStringLiteral("être\r\n"));
-    key(Qt::Key_V, Qt::ControlModifier);
+    keys("Ctrl+V");
     EXPECT_TRUE(until([&] { return find("être") != nullptr && find("aller") == nullptr; }));
     type("q");
     EXPECT_TRUE(until([&] { return find("nothingFound") != nullptr; }));
@@ -161,19 +161,19 @@ TEST_F(WindowTest, AFileIsAskedForInTheWindowWhereTheDesktopHasNoDialog)
     ASSERT_TRUE(until([&] { return find("folder") != nullptr; }));
     const auto* list = find("files");
     const auto folders = application->fileChooser().location()->folders();
-    key(Qt::Key_End);
+    keys("End");
     EXPECT_TRUE(list->hasActiveFocus());
     while (list->property("currentIndex").toInt() < folders.indexOf("inner")) {
-        key(Qt::Key_Down);
+        keys("Down");
     }
-    key(Qt::Key_Return);
+    keys("Return");
     tap("file");
     EXPECT_EQ(chosen, folder / "inner" / "saved.json");
 
     chosen.clear();
     ask(platform::FileQuestion::Purpose::Open);
     ASSERT_TRUE(until([&] { return find("file") != nullptr; }));
-    key(Qt::Key_Space);
+    keys("Space");
     EXPECT_EQ(chosen, folder / "inner" / "saved.json") << "it begins where the last file was";
     ask(platform::FileQuestion::Purpose::Open);
     tap("fileCancel");
