@@ -5,9 +5,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <climits>
 #include <csignal>
+#include <fstream>
 #include <map>
 #include <stdexcept>
 #include <system_error>
@@ -112,21 +111,9 @@ std::string linkTarget(const std::string& link)
 
 std::string readText(pid_t process, long address)
 {
+    std::ifstream memory{"/proc/" + std::to_string(process) + "/mem", std::ios::binary};
     std::string text;
-    while (address != 0 && text.size() < PATH_MAX) {
-        errno = 0;
-        const long word = ::ptrace(PTRACE_PEEKDATA, process, address, nullptr);
-        if (errno != 0) {
-            break;
-        }
-        const auto* bytes = reinterpret_cast<const char*>(&word);
-        const auto* end = std::find(bytes, bytes + sizeof word, '\0');
-        text.append(bytes, end);
-        if (end != bytes + sizeof word) {
-            break;
-        }
-        address += static_cast<long>(sizeof word);
-    }
+    std::getline(memory.seekg(address), text, '\0');
     return text;
 }
 

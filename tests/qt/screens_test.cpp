@@ -6,6 +6,7 @@
 #include "window_fixture.h"
 
 #include <QColor>
+#include <QJSValue>
 #include <QQmlComponent>
 #include <QQmlEngine>
 
@@ -16,6 +17,11 @@
 namespace lumora::qt {
 namespace {
 
+/// The narrowest phone, and a tablet; high, so that all tenses are in sight.
+constexpr QSize kPhone{360, 1600};
+constexpr QSize kTablet{768, 2000};
+/// A text that had to be made smaller than this is no longer read with ease.
+constexpr int kSmallestPixels = 12;
 constexpr double kForText = 4.5;
 constexpr double kForShapes = 3;
 
@@ -36,35 +42,67 @@ double contrast(const QColor& one, const QColor& other)
     return std::max(first, second) / std::min(first, second);
 }
 
-/// Whether texts and icons stand out from what they are drawn on.
-struct ContrastTest : WindowFixture, testing::WithParamInterface<bool> {
-    Translations translations{{QStringLiteral("en")}};
+/// Every screen: whether its texts have room, and they and the icons stand out
+/// from what they are drawn on.
+struct ScreensTest : WindowFixture, testing::WithParamInterface<const char*> {
+    const QString look = QString::fromLatin1(GetParam());
+    Translations translations{{look.left(2)}};
+    /// And cut off on purpose.
+    bool rowIsAside = false;
 
-    void expectReadable(const char* where)
+    void lookAt(const char* where)
     {
         SCOPED_TRACE(where);
         const auto picture = pictureAtRest();
-        EXPECT_GE(checkBelow(*application->window()->contentItem(), picture), 3);
+        EXPECT_GE(lookBelow(*application->window()->contentItem(), picture, true), 3);
     }
 
-    /// How many were drawn.
-    int checkBelow(const QQuickItem& parent, const QImage& picture) const
+    /// How many texts and icons were seen whole.
+    int lookBelow(const QQuickItem& parent, const QImage& picture, bool opaque) const
     {
         int count = 0;
         for (const auto* item : parent.childItems()) {
-            if (!item->isVisible() || item->opacity() < 1) {
+            if (!item->isVisible() || item->opacity() == 0) {
                 continue;
             }
+            const bool isOpaque = opaque && item->opacity() == 1;
             const bool isText = item->inherits("QQuickText") &&
                                 !item->property("text").toString().trimmed().isEmpty();
             const bool isIcon = QByteArray{item->metaObject()->className()}.startsWith("Icon_") &&
                                 !isPictureOfAProgram(*item);
-            if ((isText || isIcon) && item->isEnabled()) {
-                count += check(*item, isText ? kForText : kForShapes, picture);
+            if (isText && !rowIsAside) {
+                expectFits(*item);
             }
-            count += checkBelow(*item, picture);
+            if ((isText || isIcon) && isOpaque && item->isEnabled()) {
+                count += standsOut(*item, isText ? kForText : kForShapes, picture);
+            }
+            count += lookBelow(*item, picture, isOpaque);
         }
         return count;
+    }
+
+    void expectFits(const QQuickItem& text) const
+    {
+        SCOPED_TRACE(toUtf8(text.property("text").toString()));
+        EXPECT_FALSE(text.property("truncated").toBool());
+        EXPECT_LE(text.property("contentWidth").toReal(), text.width() + 0.5);
+        EXPECT_LE(text.property("contentHeight").toReal(), text.height() + 0.5);
+        const auto pixels = text.property("fontInfo").value<QJSValue>().property("pixelSize");
+        EXPECT_GE(pixels.toInt(), kSmallestPixels);
+        const auto& frame = frameOf(text);
+        const auto place = text.mapRectToItem(&frame, text.boundingRect());
+        EXPECT_GE(place.left(), 0);
+        EXPECT_LE(place.right(), frame.width());
+    }
+
+    /// What a text must not grow out of: its button, or else the window.
+    const QQuickItem& frameOf(const QQuickItem& text) const
+    {
+        const QQuickItem* frame = &text;
+        while (frame->parentItem() != nullptr && !frame->inherits("QQuickAbstractButton")) {
+            frame = frame->parentItem();
+        }
+        return *frame;
     }
 
     /// It has colours of its own.
@@ -75,7 +113,7 @@ struct ContrastTest : WindowFixture, testing::WithParamInterface<bool> {
     }
 
     /// Nothing is said of what is covered or clipped away.
-    static bool check(const QQuickItem& item, double least, const QImage& picture)
+    static bool standsOut(const QQuickItem& item, double least, const QImage& picture)
     {
         const auto color = item.property("color").value<QColor>();
         const auto place =
@@ -110,6 +148,14 @@ struct ContrastTest : WindowFixture, testing::WithParamInterface<bool> {
                std::abs(qBlue(pixel) - color.blue()) < kTolerance;
     }
 
+    void lookAtTheTenses()
+    {
+        for (const char* mood : {"mood0", "mood1", "mood2", "mood3"}) {
+            tap(mood);
+            lookAt(mood);
+        }
+    }
+
     void swipe(const QString& row)
     {
         const auto middle = middleOf(*settled(row));
@@ -117,41 +163,53 @@ struct ContrastTest : WindowFixture, testing::WithParamInterface<bool> {
     }
 };
 
-TEST_P(ContrastTest, EveryTextAndIconStandsOut)
+TEST_P(ScreensTest, EveryTextHasRoomAndStandsOutAsIconsDo)
 {
-    start({390, 844});
-    application->setAppearance({.dark = GetParam()});
-    expectReadable("home");
-    swipe("aller");
-    expectReadable("swipe");
-    tap("swipeAction0", "tab1");
-    expectReadable("favourites");
+    start(kPhone);
+    application->setAppearance({.dark = look.endsWith("dark")});
+    lookAt("home");
+    tap("tab2");
+    lookAt("no history");
+    tap("tab1");
+    lookAt("no favourites");
     tap("tab0", "Search");
     type("qwx");
-    expectReadable("nothing found");
+    lookAt("nothing found");
     tap("searchClear", "aller");
-    expectReadable("verb");
+    lookAtTheTenses();
     tap("bar.export");
-    expectReadable("ways out");
+    lookAt("ways out");
     tap("share1");
-    expectReadable("saving");
-    tap("fileCancel", "backButton", "tab2");
-    swipe("aller");
-    expectReadable("removal");
-    tap("bar.menu");
-    expectReadable("menu");
+    lookAt("saving");
+    tap("fileCancel", "backButton", "bar.menu");
+    lookAt("menu");
     tap("IconMoreApps");
-    expectReadable("more programs");
+    lookAt("more programs");
     tap("bar.done", "bar.menu", "IconSettings");
-    expectReadable("options");
+    lookAt("options");
     tap("bar.backup");
-    expectReadable("question");
+    lookAt("question");
+    keys("Esc");
+    tap("bar.done", "aller");
+    turn(kTablet);
+    lookAtTheTenses();
+
+    turn(kPhone);
+    tap("backButton");
+    rowIsAside = true;
+    swipe("aller");
+    lookAt("swipe");
+    tap("swipeAction0", "tab1");
+    lookAt("favourites");
+    tap("tab2");
+    swipe("aller");
+    lookAt("removal");
 }
 
-TEST_P(ContrastTest, RingsAndSwitchesStandOut)
+TEST_P(ScreensTest, RingsAndSwitchesStandOut)
 {
-    start({390, 844});
-    application->setAppearance({.dark = GetParam()});
+    start(kPhone);
+    application->setAppearance({.dark = look.endsWith("dark")});
     QQmlComponent asking{qmlEngine(application->window())};
     asking.setData("import QtQml\nimport Lumora\nQtObject { property QtObject theme: Theme }",
                    QUrl{"qrc:/Lumora/asking.qml"});
@@ -179,9 +237,9 @@ TEST_P(ContrastTest, RingsAndSwitchesStandOut)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Themes, ContrastTest, testing::Bool(), [](const auto& dark) {
-    return std::string{dark.param ? "dark" : "light"};
-});
+INSTANTIATE_TEST_SUITE_P(Looks, ScreensTest,
+                         testing::Values("en_dark", "de", "en", "es", "fr", "it", "nl", "pt"),
+                         [](const auto& test) { return std::string{test.param}; });
 
 } // namespace
 } // namespace lumora::qt
