@@ -127,9 +127,8 @@ TEST(MoreApps, ATapOpensThePageInTheStoreOfTheUsersCountry)
         apps.otherApps = {c.product};
         apps.didSelectRow({0, 0});
 
-        const auto& [name, parameters] = world.analytics.events.back();
-        EXPECT_EQ(name, "more_apps");
-        EXPECT_EQ(parameters, (std::map<std::string, std::string>{{"select", c.selected}}));
+        EXPECT_EQ(world.analytics.events.back(),
+                  (support::RecordingAnalytics::Event{"more_apps", {{"select", c.selected}}}));
         EXPECT_EQ(world.urlOpener.opened, c.opened);
     }
 }

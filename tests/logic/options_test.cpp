@@ -271,9 +271,8 @@ TEST_F(Options, TellsItsDelegateWhenItHasGoneWhetherAnythingChanged)
 {
     world.presenter.holdsDismissals = true;
     options.viewDidAppear();
-    ASSERT_EQ(world.analytics.events.size(), 1U);
-    EXPECT_EQ(world.analytics.events[0].name, "settings");
-    EXPECT_TRUE(world.analytics.events[0].parameters.empty());
+    const std::vector<support::RecordingAnalytics::Event> events{{"settings", {}}};
+    EXPECT_EQ(world.analytics.events, events);
 
     const auto& done = options.navigationItem().rightBarButtons.at(0);
     done.action();

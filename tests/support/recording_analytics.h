@@ -17,6 +17,7 @@ public:
     struct Event {
         std::string name;
         std::map<std::string, std::string> parameters;
+        bool operator==(const Event&) const = default;
     };
 
     void logEvent(std::string_view name,

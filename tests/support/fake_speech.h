@@ -3,11 +3,13 @@
 
 #pragma once
 
+#include "platform/audio_session.h"
 #include "platform/speech_synthesizer.h"
 
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -69,6 +71,27 @@ public:
     }
 
     std::vector<FakeSpeechSynthesizer*> synthesizers;
+};
+
+/// Plays at the volume of a test's choice and writes down what it is asked for.
+class FakeAudioSession final : public platform::AudioSession {
+public:
+    float outputVolume() const override { return volume; }
+    platform::Result<void> setCategoryPlayback() override
+    {
+        calls.emplace_back("category");
+        return categoryResult;
+    }
+    platform::Result<void> activate() override
+    {
+        calls.emplace_back("activate");
+        return activateResult;
+    }
+
+    float volume = 1;
+    platform::Result<void> categoryResult;
+    platform::Result<void> activateResult;
+    std::vector<std::string> calls;
 };
 
 } // namespace lumora::support
