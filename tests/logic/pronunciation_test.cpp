@@ -137,9 +137,7 @@ TEST_F(Pronunciation, WarnsOfALowVolumeOnceADay)
             EXPECT_EQ(on, &detail);
             EXPECT_EQ(alert.title, std::nullopt);
             EXPECT_EQ(alert.message, "volume.low.warning");
-            ASSERT_EQ(alert.actions.size(), 1U);
-            EXPECT_EQ(alert.actions[0].title, "common.ok");
-            EXPECT_EQ(alert.actions[0].style, platform::ActionStyle::Cancel);
+            EXPECT_EQ(alert.actions.at(0).title, "common.ok");
         } else {
             EXPECT_EQ(stored, c.warned);
         }

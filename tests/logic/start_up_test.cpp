@@ -44,7 +44,8 @@ protected:
     }
 
     /// The working database as another version left it.
-    void installOld(const std::string& favourites, const std::string& history)
+    void installOld(const std::string& favourites, const std::string& history,
+                    const std::string& version = "1.0")
     {
         support::writeSmallDatabase(database);
         const auto queue = open();
@@ -55,7 +56,7 @@ protected:
             support::executeOn(*queue, "INSERT INTO history(verbid, timestamp) VALUES " + history);
         }
         support::executeOn(*queue, "CREATE TABLE old(x)");
-        world.settings.setValue(std::string{"1.0"}, "installed_version");
+        world.settings.setValue(version, "installed_version");
     }
 
     std::unique_ptr<platform::DatabaseQueue> open() const
@@ -226,8 +227,7 @@ TEST_F(StartUp, ReadsDatabasesPutAsideOnceTheyCanBeReadAgain)
 
 TEST_F(StartUp, WhatWaitsBesideItNeverBlocksAGoodDatabase)
 {
-    installOld("(3)", "");
-    world.settings.setValue(std::string{"2.0"}, "installed_version");
+    installOld("(3)", "", "2.0");
     std::filesystem::create_directory(rescue);
 
     EXPECT_TRUE(prepare());
@@ -298,8 +298,7 @@ TEST_F(StartUp, GoesOnBesideHalfACopyAndAJournalOfAnotherDatabase)
 
 TEST_F(StartUp, AVerbViewedSinceIsNotPutBackToItsOldTime)
 {
-    installOld("", "(1, 5.25)");
-    world.settings.setValue(std::string{"2.0"}, "installed_version");
+    installOld("", "(1, 5.25)", "2.0");
     ASSERT_TRUE(app::RescueFile{rescue}.write({{}, {{1, 5}, {2, 6}}}));
 
     ASSERT_TRUE(prepare());
@@ -326,16 +325,11 @@ TEST_F(StartUp, ARescueFileThatMakesNoSenseIsPutAside)
 
 TEST_F(StartUp, WithoutItsDatabaseResourceOrVersionTheProgramStops)
 {
-    auto noResource = world.bundle;
-    noResource.resources.clear();
-    EXPECT_DEATH(static_cast<void>(app::prepareDatabase(documents, noResource, world.settings,
-                                                        world.crashReporter)),
-                 "verb database is missing");
-    auto noVersion = world.bundle;
-    noVersion.info.clear();
-    EXPECT_DEATH(static_cast<void>(app::prepareDatabase(documents, noVersion, world.settings,
-                                                        world.crashReporter)),
-                 "version is unknown");
+    auto resources = std::exchange(world.bundle.resources, {});
+    EXPECT_DEATH(static_cast<void>(prepare()), "verb database is missing");
+    world.bundle.resources = std::move(resources);
+    world.bundle.info.clear();
+    EXPECT_DEATH(static_cast<void>(prepare()), "version is unknown");
 }
 
 TEST_F(StartUp, ADirectoryThatCannotBeWrittenLeavesTheVersionAndStartsWithoutAQueue)
