@@ -32,15 +32,6 @@ TEST(SearchQuery, AssemblesTheStatementFromTheSettings)
         const char* pattern;
         int placeholders;
     } cases[] = {
-        {"all settings missing",
-         {},
-         "aller",
-         kColumns +
-             "simplified_french, 0, 1) as index_letter, favourite._id as favourite_available FROM "
-             "verb\n\nLEFT OUTER JOIN favourite ON verb._id = favourite.verbid\nWHERE french LIKE "
-             "? OR simplified_french LIKE ?\n\nORDER BY simplified_french",
-         "aller%",
-         2},
         {"everything on, in German",
          {{"SortByLang", false},
           {"translation_language", std::string{"de"}},
@@ -56,7 +47,7 @@ TEST(SearchQuery, AssemblesTheStatementFromTheSettings)
              "GROUP BY verb._id\nORDER BY simplified_german",
          "%geh%",
          5},
-        {"English names its column twice; Portuguese would order by the simplified one",
+        {"values of other kinds are none, and English names its column twice",
          {{"SortByLang", true},
           {"translation_language", std::string{"tr"}},
           {"IncludeEnglish", true},

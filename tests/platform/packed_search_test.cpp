@@ -174,7 +174,7 @@ TEST_F(PackedSearchTest, FindsTheSameFastAndWithoutTheHelperTable)
     EXPECT_EQ(search("", fast), Ids{});
 
     // What was read stays with the queue, not with the connection.
-    executeOn(*queue, "UPDATE packed_forms SET forms = 'x'");
+    executeOn(*queue, "UPDATE packed_forms SET forms = x'78'");
     queue->inDatabase([](Database& database) { database.close(); });
     EXPECT_EQ(search("a_", fast), Ids{"1"});
     EXPECT_TRUE(fast);

@@ -12,7 +12,6 @@
 #include "qt/translations.h"
 #include "qt/verb_detail_screen.h"
 #include "support/environment_variable.h"
-#include "support/fake_file_chooser.h"
 #include "support/fake_presenter.h"
 #include "support/fake_ways_out.h"
 #include "window_fixture.h"

@@ -3,12 +3,14 @@
 
 #pragma once
 
+#include "platform/file_chooser.h"
 #include "platform/mail_composer.h"
 #include "platform/review_prompter.h"
 #include "platform/share_sheet.h"
 #include "platform/url_opener.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -95,6 +97,20 @@ public:
 
     bool canSend = true;
     std::vector<std::shared_ptr<FakeMailComposer>> composers;
+};
+
+/// Keeps the question; the test answers it.
+class FakeFileChooser final : public platform::FileChooser {
+public:
+    void choose(const platform::FileQuestion& asked,
+                std::function<void(const std::filesystem::path&)> then) override
+    {
+        question = asked;
+        chosen = std::move(then);
+    }
+
+    std::optional<platform::FileQuestion> question;
+    std::function<void(const std::filesystem::path&)> chosen;
 };
 
 } // namespace lumora::support

@@ -12,7 +12,6 @@
 #include "support/fake_bundle.h"
 #include "support/fake_clock.h"
 #include "support/fake_device.h"
-#include "support/fake_file_chooser.h"
 #include "support/fake_java_script_context.h"
 #include "support/fake_presenter.h"
 #include "support/fake_speech.h"
