@@ -146,10 +146,7 @@ TEST_F(Backup, KeepsTheNewestOfAHistoryThatGrowsOverItsBound)
 TEST_F(Backup, RefusesWhatItDidNotWriteAndChangesNothing)
 {
     const std::string whole = R"({"lumora": 1, "favourites": [{"id": 3, "french": "aller"}]})";
-    struct {
-        std::string text;
-        Problem problem;
-    } cases[] = {
+    const std::pair<std::string, Problem> cases[] = {
         {"", Problem::NotABackup},
         {"null", Problem::NotABackup},
         {"[1]", Problem::NotABackup},
@@ -165,10 +162,11 @@ TEST_F(Backup, RefusesWhatItDidNotWriteAndChangesNothing)
         {std::string(4'000'000, '['), Problem::NotABackup},
         {std::string(5'000'000, ' ') + whole, Problem::FileNotRead},
     };
-    for (const auto& c : cases) {
-        const auto restored = restore(c.text);
-        ASSERT_FALSE(restored) << c.text.substr(0, 60);
-        EXPECT_EQ(restored.error().problem, c.problem) << c.text.substr(0, 60);
+    for (const auto& [text, problem] : cases) {
+        SCOPED_TRACE(text.substr(0, 60));
+        const auto restored = restore(text);
+        ASSERT_FALSE(restored);
+        EXPECT_EQ(restored.error().problem, problem);
     }
     for (std::size_t length = 0; length < whole.size(); ++length) {
         EXPECT_FALSE(restore(whole.substr(0, length))) << length;

@@ -276,6 +276,15 @@ TEST_F(StartUp, AnInsertThatFailsStopsTheRestoreAndKeepsTheRescueFile)
 
 TEST_F(StartUp, GoesOnBesideHalfACopyAndAJournalOfAnotherDatabase)
 {
+    // A transaction that is not at its end: its journal is ready to be played back.
+    const auto other = platform::DatabaseQueue::open(platform::fileUrl(world.folder / "other.db"));
+    for (const char* sql :
+         {"PRAGMA cache_size = 1", "CREATE TABLE other(x)", "BEGIN",
+          "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500) "
+          "INSERT INTO other SELECT randomblob(1000) FROM n"}) {
+        support::executeOn(*other, sql);
+    }
+    const auto journal = contentOf(world.folder / "other.db-journal");
     for (const bool oldThere : {true, false}) {
         SCOPED_TRACE(oldThere);
         std::filesystem::remove(database);
@@ -284,7 +293,7 @@ TEST_F(StartUp, GoesOnBesideHalfACopyAndAJournalOfAnotherDatabase)
             installOld("(3), (2)", "(1, 5), (2, 6)");
         }
         writeContent(documents / "verbs.db.new", "SQLite format 3");
-        writeContent(documents / "verbs.db-journal", "stale");
+        writeContent(documents / "verbs.db-journal", oldThere ? "stale" : journal);
         world.settings.setValue(std::string{"1.0"}, "installed_version");
 
         ASSERT_TRUE(prepare());

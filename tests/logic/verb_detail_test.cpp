@@ -162,64 +162,39 @@ TEST_F(VerbDetail, WithoutAVerbShowsTheLabelAndNoToolbar)
     }
 }
 
-TEST_F(VerbDetail, OnlyTheTableKeepsAPreviewWithoutAToolbar)
-{
-    const auto detail = open(aller);
-    detail->isPeeking = true;
-    detail->viewWillAppear();
-    EXPECT_TRUE(detail->toolbar.hidden);
-
-    detail->numberOfSections();
-    EXPECT_EQ(detail->toolbarHeightConstaint, 0);
-    detail->numberOfItems();
-    EXPECT_EQ(detail->toolbarHeightConstaint, detail->defaultToolbarHeight);
-}
-
-TEST_F(VerbDetail, RecordsTheViewOnceAndAnnouncesIt)
+TEST_F(VerbDetail, RecordsTheViewOnceBesideTheFiftyNewestAndAnnouncesIt)
 {
     world.clock.now = platform::kReferenceDate + 123456789.75;
-    world.execute("INSERT INTO history(verbid, timestamp) VALUES (3, 1), (3, 2), (1, 3)");
+    for (int time = 1; time <= 60; ++time) {
+        world.execute("INSERT INTO history(verbid, timestamp) VALUES (" +
+                      std::to_string(100 + time) + ", " + std::to_string(time) + ")");
+    }
+    world.execute("INSERT INTO history(verbid, timestamp) VALUES (3, 1), (3, 100)");
 
     open(aller);
 
     EXPECT_EQ(world.count("history WHERE verbid = 3"), 1);
     EXPECT_EQ(world.count("history WHERE verbid = 3 AND timestamp = 123456789.75"), 1);
-    EXPECT_EQ(world.count("history"), 2);
+    EXPECT_EQ(world.count("history"), 51);
+    EXPECT_EQ(world.count("history WHERE timestamp <= 10"), 0);
     EXPECT_EQ(world.posted["VerbViewed"], 1);
     EXPECT_EQ(world.settings.integerForKey("number_of_verbs_viewed"), 1);
     EXPECT_EQ(world.analytics.events.back(),
               (Event{"select_content", {{"item_id", "3"}, {"item_name", "aller"}}}));
 }
 
-TEST_F(VerbDetail, KeepsTheFiftyOneNewestViews)
-{
-    for (int time = 1; time <= 60; ++time) {
-        world.execute("INSERT INTO history(verbid, timestamp) VALUES (" +
-                      std::to_string(100 + time) + ", " + std::to_string(time) + ")");
-    }
-    world.clock.now = platform::kReferenceDate + 1000;
-
-    open(aller);
-
-    EXPECT_EQ(world.count("history"), 51);
-    EXPECT_EQ(world.count("history WHERE timestamp <= 10"), 0);
-    EXPECT_EQ(world.count("history WHERE verbid = 3"), 1);
-}
-
 TEST_F(VerbDetail, RecordsNothingOnlyWhenTheHistoryIsAnExplicitFalse)
 {
-    const struct {
-        std::optional<platform::SettingValue> useHistory;
-        int rows;
-    } cases[] = {{std::nullopt, 1}, {true, 1}, {false, 0}, {std::int64_t{0}, 1}};
+    const std::pair<std::optional<platform::SettingValue>, int> cases[] = {
+        {std::nullopt, 1}, {true, 1}, {false, 0}, {std::int64_t{0}, 1}};
     int views = 0;
-    for (const auto& c : cases) {
+    for (const auto& [useHistory, rows] : cases) {
         world.execute("DELETE FROM history");
-        if (c.useHistory) {
-            world.settings.setValue(*c.useHistory, "UseHistory");
+        if (useHistory) {
+            world.settings.setValue(*useHistory, "UseHistory");
         }
         open(aller);
-        EXPECT_EQ(world.count("history"), c.rows);
+        EXPECT_EQ(world.count("history"), rows);
         EXPECT_EQ(world.posted["VerbViewed"], ++views);
     }
 }
@@ -327,7 +302,7 @@ TEST_F(VerbDetail, SharesBothRenderingsOrSaysWhyNot)
     EXPECT_EQ(shared.anchor, "export");
 }
 
-TEST_F(VerbDetail, APreviewThatIsOpenedIsNeitherCountedNorRecordedAgain)
+TEST_F(VerbDetail, APreviewHasNoToolbarAndIsNotRecordedAgainWhenItIsOpened)
 {
     const auto detail = std::make_shared<VerbDetailTableViewController>(world.services());
     detail->queue = world.queue.get();
@@ -336,6 +311,11 @@ TEST_F(VerbDetail, APreviewThatIsOpenedIsNeitherCountedNorRecordedAgain)
     detail->loadViewIfNeeded();
     detail->viewWillAppear();
     EXPECT_TRUE(detail->verbTypeSegmentedControl.hidden);
+    EXPECT_TRUE(detail->toolbar.hidden);
+    detail->numberOfItems();
+    EXPECT_EQ(detail->toolbarHeightConstaint, detail->defaultToolbarHeight);
+    detail->numberOfSections();
+    EXPECT_EQ(detail->toolbarHeightConstaint, 0) << "only the table knows of previews";
 
     detail->isPeeking = false;
     detail->loadViewIfNeeded();

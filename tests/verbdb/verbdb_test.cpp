@@ -133,10 +133,7 @@ TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
         auto text = line;
         return verbs(text.replace(text.find(old), old.size(), replacement));
     };
-    const struct {
-        std::string verbs;
-        const char* refusal;
-    } cases[] = {
+    const std::pair<std::string, const char*> cases[] = {
         {"", "verbs.tsv:1: the file is empty"},
         {head, "verbs.tsv:1: there are no verbs"},
         {line, "verbs.tsv:1: the header must be id, infinitive, model, auxiliary, traits, "
@@ -168,11 +165,11 @@ TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
                           "ben|"),
          "verbs.tsv:2: not valid UTF-8"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.refusal);
-        writeContent(folder_ / "verbs.tsv", c.verbs);
+    for (const auto& [tables, refusal] : cases) {
+        SCOPED_TRACE(refusal);
+        writeContent(folder_ / "verbs.tsv", tables);
         EXPECT_EQ(build("verbs.db"), 1);
-        EXPECT_EQ(errors_, folder_.path().string() + "/" + c.refusal + "\n");
+        EXPECT_EQ(errors_, folder_.path().string() + "/" + refusal + "\n");
     }
     EXPECT_EQ(std::distance(fs::directory_iterator(folder_.path()), {}), 3) << "only the tables";
 }
