@@ -32,6 +32,7 @@ constexpr QSize kPhone{390, 844};
 constexpr int kHoldMilliseconds = 60;
 constexpr int kUsualHoldMilliseconds = 800;
 constexpr int kPatience = 5000;
+constexpr int kPatienceWithTap = 1500;
 /// A question over a sheet over a verb over a search: more is no way out.
 constexpr int kMostEscapes = 15;
 
@@ -297,17 +298,17 @@ std::string RandomSession::goHome()
     // A verb in the second pane comes to lie over the home screen.
     window.resize(kPhone);
     application_.setAppearance({});
-    if (!becomes([&] { return application_.splitScreen().collapsed(); }) || !escape()) {
+    if (!becomes([&] { return application_.splitScreen().collapsed(); }, kPatience) || !escape()) {
         return "Escape does not lead home once there is one pane" + state();
     }
     QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
     auto* const field = driver.find(QStringLiteral("Search"));
-    if (field == nullptr || !becomes([&] { return field->hasActiveFocus(); })) {
+    if (field == nullptr || !becomes([&] { return field->hasActiveFocus(); }, kPatience)) {
         return "the home screen has no search field that answers";
     }
     QTest::keyClick(&window, Qt::Key_Escape);
     QTest::keyClick(&window, Qt::Key_1, Qt::ControlModifier);
-    if (!becomes([&] { return driver.cells().size() > 5; })) {
+    if (!becomes([&] { return driver.cells().size() > 5; }, kPatience)) {
         return "the home screen shows no list";
     }
     if (!openVerb()) {
@@ -330,7 +331,7 @@ bool RandomSession::openVerb()
         const auto cells = WindowDriver{*application_.window()}.cells();
         if (!cells.empty()) {
             tap(WindowDriver::middleOf(*cells[cells.size() / 2]), Qt::LeftButton);
-            WindowDriver::wait(300);
+            becomes(isOpen, kPatienceWithTap);
         }
     }
     return isOpen();
@@ -418,9 +419,9 @@ std::string RandomSession::state() const
     return text.str();
 }
 
-bool RandomSession::becomes(const std::function<bool()>& condition) const
+bool RandomSession::becomes(const std::function<bool()>& condition, int milliseconds) const
 {
-    return QTest::qWaitFor(condition, kPatience);
+    return QTest::qWaitFor(condition, milliseconds);
 }
 
 } // namespace lumora::session

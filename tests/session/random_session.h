@@ -72,7 +72,7 @@ private:
     bool escape();
     /// One of the list on the home screen; false when none opens.
     bool openVerb();
-    bool becomes(const std::function<bool()>& condition) const;
+    bool becomes(const std::function<bool()>& condition, int milliseconds) const;
 
     qt::Application& application_;
     std::uint64_t seed_;
