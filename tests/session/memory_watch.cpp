@@ -21,13 +21,6 @@ constexpr std::size_t kFewest = 16;
 constexpr double kGrowth = 1.01;
 constexpr double kBytesInMegabyte = 1024.0 * 1024.0;
 
-/// In use by this process; the sanitizers' memory is not counted.
-double megabytesInUse()
-{
-    const auto all = ::mallinfo2();
-    return static_cast<double>(all.uordblks + all.hblkhd) / kBytesInMegabyte;
-}
-
 } // namespace
 
 void MemoryWatch::look(QQuickWindow& window, std::uint64_t action)
@@ -65,6 +58,12 @@ bool MemoryWatch::grows() const
         }
     }
     return true;
+}
+
+double MemoryWatch::megabytesInUse()
+{
+    const auto all = ::mallinfo2();
+    return static_cast<double>(all.uordblks + all.hblkhd) / kBytesInMegabyte;
 }
 
 std::string MemoryWatch::summary() const

@@ -27,6 +27,9 @@ public:
     bool grows() const;
     std::string summary() const;
 
+    /// By this process now; the sanitizers' memory is not counted.
+    static double megabytesInUse();
+
 private:
     bool isCounted() const;
     double megabytesInQuarter(std::size_t quarter) const;
