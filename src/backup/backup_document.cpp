@@ -3,6 +3,7 @@
 
 #include "backup/backup_document.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <ctime>
@@ -22,6 +23,8 @@ constexpr int kVersion = 1;
 /// Deeper than any document of ours; what lies below is not kept in memory.
 constexpr int kDepth = 3;
 constexpr double kMilliseconds = 1000;
+/// The end of the year 9999; a damaged history may name any time.
+constexpr double kLastSecond = 253402300799;
 
 std::string isoTime(double secondsSince1970)
 {
@@ -110,7 +113,8 @@ std::string textOf(const BackupDocument& document, double now)
     for (const auto& [verb, viewed] : document.history) {
         auto entry = jsonOf(verb);
         // Without the noise of the last binary digits.
-        entry["viewed"] = std::round(viewed * kMilliseconds) / kMilliseconds;
+        entry["viewed"] =
+            std::round(std::clamp(viewed, 0.0, kLastSecond) * kMilliseconds) / kMilliseconds;
         root["history"].push_back(std::move(entry));
     }
     return root.dump(2, ' ', false, json::error_handler_t::replace) + "\n";
