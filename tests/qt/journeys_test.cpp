@@ -85,7 +85,7 @@ TEST_F(Journey, FindAVerbStarItAndSeeItAmongTheFavourites)
     EXPECT_TRUE(until([&] { return verbs() == QStringList{"être"}; }));
 }
 
-TEST_F(Journey, ClearTheHistory)
+TEST_F(Journey, ClearTheHistorySwitchItOffAndItsTabGoes)
 {
     start(kPhone);
     touch("aller", "backButton", "tab2");
@@ -96,6 +96,12 @@ TEST_F(Journey, ClearTheHistory)
     touch("settings.history_clear", "answer0");
     closeOptions();
     EXPECT_TRUE(until([&] { return verbs().isEmpty(); }));
+
+    openOptions();
+    clickIn(option("settings.history"), "switch");
+    closeOptions();
+    EXPECT_TRUE(until([&] { return find("tab1") != nullptr && find("tab2") == nullptr; }));
+    EXPECT_TRUE(find("tab0")->property("checked").toBool());
 }
 
 TEST_F(Journey, ChangeTheLanguageAndSeeTheListSortedByIt)
@@ -112,17 +118,6 @@ TEST_F(Journey, ChangeTheLanguageAndSeeTheListSortedByIt)
     touch("settings.translations", "answer4");
     closeOptions();
     EXPECT_TRUE(until([&] { return verbs() == byGerman; })) << verbs().join(' ').toStdString();
-}
-
-TEST_F(Journey, SwitchTheHistoryOffAndItsTabGoes)
-{
-    start(kPhone);
-    touch("tab2");
-    openOptions();
-    clickIn(option("settings.history"), "switch");
-    closeOptions();
-    EXPECT_TRUE(until([&] { return find("tab1") != nullptr && find("tab2") == nullptr; }));
-    EXPECT_TRUE(find("tab0")->property("checked").toBool());
 }
 
 TEST_F(Journey, PullTheMenuInAndPushItOut)

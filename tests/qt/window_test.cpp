@@ -47,10 +47,6 @@ TEST_F(WindowTest, OnAPhoneATapOpensAVerbOverTheListAndBackReturns)
     EXPECT_EQ(split().primary().size(), 1);
     EXPECT_TRUE(until([&] { return split().screenCount() == atFirst; }))
         << "the screen goes with its page";
-
-    tap("aller");
-    keys("Esc");
-    EXPECT_EQ(split().primary().size(), 1);
 }
 
 TEST_F(WindowTest, AVerbStaysOpenWhenTheWindowChangesItsPanes)
