@@ -34,7 +34,7 @@ struct ScreenReaderTest : WindowFixture {
 
     /// These are there, in this order, and nothing is without a name, of no
     /// known kind or there twice.
-    void expectHeard(const char* where, const std::vector<std::string>& expected)
+    void expectHeard(const char* where, const std::vector<std::string>& expected) const
     {
         SCOPED_TRACE(where);
         pictureAtRest();

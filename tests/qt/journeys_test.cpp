@@ -12,10 +12,10 @@ constexpr QSize kTablet{1024, 768};
 /// Whole ways through the program. No language is installed, so each text is
 /// its key.
 struct Journey : WindowFixture {
-    int modals() { return application->presenter().modals()->count(); }
+    int modals() const { return application->presenter().modals()->count(); }
 
     /// The rows of the list on top.
-    QList<QQuickItem*> rows()
+    QList<QQuickItem*> rows() const
     {
         QList<QQuickItem*> rows;
         auto* const list = find("list");
@@ -32,7 +32,7 @@ struct Journey : WindowFixture {
     }
 
     /// The verbs of the list on top.
-    QStringList verbs()
+    QStringList verbs() const
     {
         QStringList names;
         for (const auto* row : rows()) {
@@ -41,20 +41,20 @@ struct Journey : WindowFixture {
         return names;
     }
 
-    void openOptions()
+    void openOptions() const
     {
         touch("bar.menu", "IconSettings");
         ASSERT_TRUE(settled("bar.done"));
     }
 
-    void closeOptions()
+    void closeOptions() const
     {
         touch("bar.done");
         ASSERT_TRUE(until([&] { return modals() == 0; }));
     }
 
     /// Goes to a row of the options with the keyboard.
-    QQuickItem* option(const QString& label)
+    QQuickItem* option(const QString& label) const
     {
         const auto isThere = [&] {
             const auto* current = find("list")->property("currentItem").value<QQuickItem*>();
@@ -67,7 +67,7 @@ struct Journey : WindowFixture {
         return settled(label);
     }
 
-    void clickIn(QQuickItem* parent, const QString& name)
+    void clickIn(QQuickItem* parent, const QString& name) const
     {
         const auto* item = parent == nullptr ? nullptr : WindowDriver::findIn(*parent, name);
         ASSERT_NE(item, nullptr);

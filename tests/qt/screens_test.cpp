@@ -50,7 +50,7 @@ struct ScreensTest : WindowFixture, testing::WithParamInterface<const char*> {
     /// And cut off on purpose.
     bool rowIsAside = false;
 
-    void lookAt(const char* where)
+    void lookAt(const char* where) const
     {
         SCOPED_TRACE(where);
         const auto picture = pictureAtRest();
@@ -148,7 +148,7 @@ struct ScreensTest : WindowFixture, testing::WithParamInterface<const char*> {
                std::abs(qBlue(pixel) - color.blue()) < kTolerance;
     }
 
-    void lookAtTheTenses()
+    void lookAtTheTenses() const
     {
         for (const char* mood : {"mood0", "mood1", "mood2", "mood3"}) {
             tap(mood);
@@ -156,7 +156,7 @@ struct ScreensTest : WindowFixture, testing::WithParamInterface<const char*> {
         }
     }
 
-    void swipe(const QString& row)
+    void swipe(const QString& row) const
     {
         const auto middle = middleOf(*settled(row));
         drag(middle + QPoint{120, 0}, middle - QPoint{120, 0});

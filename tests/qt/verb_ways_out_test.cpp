@@ -238,7 +238,7 @@ TEST(FitToPages, ShrinksUntilWordsAreWholeAndOnePageHoldsThem)
 class VerbWindowTest : public qt::WindowFixture {
 protected:
     /// Holds a row as a finger does.
-    void hold(const QString& name)
+    void hold(const QString& name) const
     {
         const auto* row = settled(name);
         ASSERT_NE(row, nullptr);

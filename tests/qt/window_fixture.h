@@ -62,7 +62,7 @@ struct WindowFixture : testing::Test {
     SplitScreen& split() const { return application->splitScreen(); }
 
     /// Changes the size of the window, and with it the panes.
-    void turn(const QSize& size)
+    void turn(const QSize& size) const
     {
         application->window()->resize(size);
         ASSERT_TRUE(until([&] { return split().collapsed() == (size.width() < 700); }));
@@ -95,7 +95,7 @@ struct WindowFixture : testing::Test {
     }
 
     /// Waits until the item is there, can be used and has stopped moving.
-    QQuickItem* settled(const QString& name)
+    QQuickItem* settled(const QString& name) const
     {
         QQuickItem* item = nullptr;
         QPointF place;
@@ -118,7 +118,7 @@ struct WindowFixture : testing::Test {
         return WindowDriver::middleOf(item).toPoint();
     }
 
-    void click(const QString& name, Qt::MouseButton button = Qt::LeftButton)
+    void click(const QString& name, Qt::MouseButton button = Qt::LeftButton) const
     {
         if (const auto* item = settled(name)) {
             QTest::mouseClick(application->window(), button, {}, middleOf(*item));
@@ -126,12 +126,12 @@ struct WindowFixture : testing::Test {
     }
 
     /// Clicks one after the other, each as soon as that can be done.
-    void tap(const auto&... names) { (click(names), ...); }
+    void tap(const auto&... names) const { (click(names), ...); }
 
     /// As a finger does.
-    void touch(const auto&... names) { (touchOne(names), ...); }
+    void touch(const auto&... names) const { (touchOne(names), ...); }
 
-    void drag(const QPoint& from, const QPoint& to)
+    void drag(const QPoint& from, const QPoint& to) const
     {
         constexpr int kSteps = 10;
         QTest::touchEvent(application->window(), finger()).press(0, from);
@@ -144,12 +144,12 @@ struct WindowFixture : testing::Test {
     }
 
     /// "Ctrl+F, Down": up to four.
-    void keys(const char* sequence)
+    void keys(const char* sequence) const
     {
         QTest::keySequence(application->window(), QKeySequence{QString::fromLatin1(sequence)});
     }
 
-    void type(const char* text)
+    void type(const char* text) const
     {
         for (; *text != 0; ++text) {
             QTest::keyClick(application->window(), *text);
@@ -157,7 +157,7 @@ struct WindowFixture : testing::Test {
     }
 
 private:
-    void touchOne(const QString& name)
+    void touchOne(const QString& name) const
     {
         if (const auto* item = settled(name)) {
             const auto point = middleOf(*item);

@@ -16,7 +16,7 @@ namespace lumora::qt {
 namespace {
 
 struct WindowTest : WindowFixture {
-    void swipeOpen(const QQuickItem& row)
+    void swipeOpen(const QQuickItem& row) const
     {
         const auto at = [&](double part) {
             return row.mapToScene({row.width() * part, row.height() / 2}).toPoint();
