@@ -9,11 +9,14 @@
 #include "support/window_driver.h"
 #include "support/world.h"
 
+#include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QImage>
 #include <QKeySequence>
 #include <QPointingDevice>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QStyleHints>
 #include <QtTest/QTest>
 
 #include <functional>
@@ -48,6 +51,8 @@ struct WindowFixture : testing::Test {
         options.launchArguments = {"ui_test"};
         options.windowSize = size;
         application = std::make_unique<Application>(options);
+        // A blinking cursor is never at rest.
+        QGuiApplication::styleHints()->setCursorFlashTime(0);
         ASSERT_TRUE(application->show());
     }
 
@@ -83,13 +88,15 @@ struct WindowFixture : testing::Test {
     /// Waits until the picture stays as it is.
     QImage pictureAtRest() const
     {
-        constexpr int kSameBefore = 4;
+        constexpr int kRest = 250;
         QImage picture;
-        int same = 0;
+        QElapsedTimer rest;
         EXPECT_TRUE(until([&] {
             const QImage last = std::exchange(picture, application->window()->grabWindow());
-            same = picture == last ? same + 1 : 0;
-            return same == kSameBefore;
+            if (picture != last) {
+                rest.start();
+            }
+            return rest.hasExpired(kRest);
         }));
         return picture;
     }
