@@ -44,6 +44,7 @@ private:
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const Tables tables;
+    const fuzz::TimeLimit limit;
     if (size == 0) {
         return 0;
     }

@@ -164,6 +164,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 /// read of it; an update puts a good one in its place.
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
+    const fuzz::TimeLimit limit;
     machine().install(fuzz::textOf(data, size));
     if (machine().start("2.0")) {
         machine().goThroughScreens();

@@ -17,6 +17,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static support::World world;
     static const std::vector<data::VerbPtr> verbs{world.verb(1), world.verb(3), world.verb(6)};
+    const fuzz::TimeLimit limit;
     const auto text = fuzz::textOf(data, size);
     const auto link = app::DeepLink::parse(text);
     if (!link) {

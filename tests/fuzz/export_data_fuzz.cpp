@@ -18,6 +18,7 @@ using namespace lumora;
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static support::World world;
+    const fuzz::TimeLimit limit;
     FuzzedDataProvider source{data, size};
     world.settings.setValue(source.ConsumeBool(), "ShowTranslated");
     data::Verb verb;

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <ctime>
 #include <iostream>
 #include <string_view>
 
@@ -27,5 +28,24 @@ inline void require(bool holds, const char* what)
         std::abort();
     }
 }
+
+/// An input is done with in two seconds of the processor's time: how busy the
+/// machine is says nothing of the input.
+class TimeLimit {
+public:
+    TimeLimit() = default;
+    ~TimeLimit()
+    {
+        require(std::clock() - begin_ < kMostSeconds * CLOCKS_PER_SEC,
+                "an input is done with in two seconds");
+    }
+    TimeLimit(const TimeLimit&) = delete;
+    TimeLimit& operator=(const TimeLimit&) = delete;
+
+private:
+    static constexpr std::clock_t kMostSeconds = 2;
+
+    std::clock_t begin_ = std::clock();
+};
 
 } // namespace lumora::fuzz

@@ -15,6 +15,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     constexpr double kNow = 1.8e9;
     static support::World world;
     static const auto file = world.folder / "import.json";
+    const fuzz::TimeLimit limit;
     const auto text = fuzz::textOf(data, size);
     if (const auto document = backup::parseDocument(text)) {
         const auto again = backup::parseDocument(backup::textOf(*document, kNow));

@@ -14,6 +14,7 @@ using namespace lumora;
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const support::TemporaryFolder folder;
+    const fuzz::TimeLimit limit;
     const auto file = folder / "lumora.plist";
     support::writeContent(file, fuzz::textOf(data, size));
     platform::MemorySettingsStore settings;

@@ -14,6 +14,7 @@ using namespace lumora;
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const support::TemporaryFolder folder;
+    const fuzz::TimeLimit limit;
     const auto file = folder / "settings.json";
     const auto aside = folder / "settings.json.damaged";
     const auto bytes = fuzz::textOf(data, size);
