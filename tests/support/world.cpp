@@ -7,6 +7,8 @@
 #include "detail/verb_detail_table_view_controller.h"
 #include "platform/navigation_controller.h"
 
+#include <algorithm>
+
 namespace lumora::support {
 
 namespace {
@@ -39,10 +41,8 @@ constexpr const char* kStatements[] = {
 
 std::vector<std::string> infinitives(const std::vector<data::VerbPtr>& verbs)
 {
-    std::vector<std::string> texts;
-    for (const auto& verb : verbs) {
-        texts.push_back(verb->french);
-    }
+    std::vector<std::string> texts(verbs.size());
+    std::ranges::transform(verbs, texts.begin(), [](const auto& verb) { return verb->french; });
     return texts;
 }
 
@@ -75,17 +75,17 @@ platform::Services World::services()
             reviewPrompter, mail,      urlOpener,    fileChooser};
 }
 
-void World::execute(const std::string& sql)
+void World::execute(const std::string& sql) const
 {
     executeOn(*queue, sql);
 }
 
-int World::count(const std::string& tableAndCondition)
+int World::count(const std::string& tableAndCondition) const
 {
     return std::stoi(rowsOf(*queue, "SELECT count(*) FROM " + tableAndCondition).at(0));
 }
 
-data::VerbPtr World::verb(std::int64_t id)
+data::VerbPtr World::verb(std::int64_t id) const
 {
     data::VerbPtr verb;
     queue->inDatabase([&](platform::Database& database) {

@@ -71,11 +71,11 @@ public:
         return screen;
     }
 
-    void execute(const std::string& sql);
+    void execute(const std::string& sql) const;
     /// Rows of "TABLE" or "TABLE WHERE …".
-    int count(const std::string& tableAndCondition);
+    int count(const std::string& tableAndCondition) const;
     /// The verb of an id, as a list would have read it.
-    data::VerbPtr verb(std::int64_t id);
+    data::VerbPtr verb(std::int64_t id) const;
     FakeTableView& table(platform::TableViewController& controller);
     /// The detail screen that the last step led to; null when it led elsewhere.
     std::shared_ptr<detail::VerbDetailTableViewController> shownDetail() const;

@@ -46,15 +46,15 @@ TEST(ShippedDatabase, HasOnlyFormsOfKnownTensesWithText)
         "SELECT verbid, type FROM conjugation WHERE trim(verb) <> verb OR verb = ''",
         "SELECT verbid, verb FROM conjugation WHERE verb LIKE '%,%' AND display = 0",
         "SELECT verbid FROM conjugation WHERE verbid NOT IN (SELECT _id FROM verb)",
-        "SELECT _id FROM verb WHERE _id NOT IN (SELECT verbid FROM conjugation WHERE"
-        " type = 'infinitif' AND display = 1)",
+        R"(SELECT _id FROM verb WHERE _id NOT IN
+           (SELECT verbid FROM conjugation WHERE type = 'infinitif' AND display = 1))",
         "SELECT verbid FROM conjugation WHERE display NOT IN (0, 1)",
-        "SELECT a.verbid, a.conj_order FROM conjugation a JOIN conjugation b ON b.verbid ="
-        " a.verbid AND b.conj_order = a.conj_order + 1 WHERE a.display < b.display",
-        "SELECT verbid FROM conjugation GROUP BY verbid"
-        " HAVING count(DISTINCT conj_order) <> count(*)",
-        "SELECT verbid, pronoun FROM conjugation WHERE (pronoun = '') <>"
-        " (type IN ('imperatif', 'infinitif', 'participe'))",
+        R"(SELECT a.verbid, a.conj_order FROM conjugation a JOIN conjugation b ON
+           b.verbid = a.verbid AND b.conj_order = a.conj_order + 1 WHERE a.display < b.display)",
+        R"(SELECT verbid FROM conjugation GROUP BY verbid
+           HAVING count(DISTINCT conj_order) <> count(*))",
+        R"(SELECT verbid, pronoun FROM conjugation
+           WHERE (pronoun = '') <> (type IN ('imperatif', 'infinitif', 'participe')))",
     };
     for (const auto& sql : none) {
         EXPECT_EQ(support::joinedRows(LUMORA_VERBS_DB, sql), std::vector<std::string>{}) << sql;
