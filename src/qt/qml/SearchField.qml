@@ -13,14 +13,14 @@ Rectangle {
     // To what was found, by keyboard.
     signal listWanted
 
-    implicitHeight: Math.max(52, Theme.body + 35)
+    implicitHeight: Math.max(Theme.touch, Theme.body + 27) + Theme.gap
     color: Theme.barBackground
 
     Rectangle {
         anchors.fill: parent
         anchors.leftMargin: 12
         anchors.rightMargin: 12
-        anchors.bottomMargin: 10
+        anchors.bottomMargin: Theme.gap
         radius: Theme.radius
         color: Theme.field
         border.width: input.activeFocus ? 2 : 0
