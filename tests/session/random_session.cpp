@@ -312,40 +312,7 @@ std::string RandomSession::goHome()
         return "the home screen shows no list";
     }
     if (!openVerb()) {
-        application_.window()->grabWindow().save(
-            QStringLiteral("/work/scratch/shots/fail-%1.png").arg(seed_));
-        std::ostringstream more;
-        const auto cs = WindowDriver{*application_.window()}.cells();
-        more << "\ncells " << cs.size();
-        if (!cs.empty()) {
-            auto* c = cs[cs.size() / 2];
-            const auto pt = WindowDriver::middleOf(*c);
-            more << " middle " << c->objectName().toStdString() << " at " << nameOf(pt);
-            auto* list = WindowDriver::listOf(c);
-            more << " contentY " << list->property("contentY").toDouble() << " moving "
-                 << list->property("moving").toBool() << " interactive "
-                 << list->property("interactive").toBool() << " enabled " << list->isEnabled();
-            std::vector<QQuickItem*> found;
-            collectControls(application_.window()->contentItem(),
-                            QRectF{{}, QSizeF{application_.window()->size()}}, found);
-            for (auto* f : found) {
-                const QRectF r = f->mapRectToScene(QRectF{0, 0, f->width(), f->height()});
-                if (r.contains(pt)) {
-                    more << "\n  " << f->metaObject()->className() << " "
-                         << f->objectName().toStdString() << " " << r.x() << "," << r.y() << " "
-                         << r.width() << "x" << r.height() << " z " << f->z();
-                }
-            }
-        }
-        auto* g = application_.window()->mouseGrabberItem();
-        more << "\ngrabber " << (g ? g->metaObject()->className() : "none");
-        for (int more_taps = 0; more_taps < 6; ++more_taps) {
-            const bool opened = openVerb();
-            more << "\nagain: " << opened << state();
-            if (opened)
-                break;
-        }
-        return "no verb opens" + more.str();
+        return "no verb opens" + state();
     }
     if (!escape()) {
         return "there is no way back from a verb" + state();
