@@ -3,6 +3,7 @@
 
 #include "qt/desktop_mail.h"
 
+#include "qt/library_files.h"
 #include "qt/plain_text.h"
 #include "qt/text_conversion.h"
 
@@ -141,6 +142,7 @@ void DesktopMail::openInMailProgram(const MailMessage& message, Finished finishe
     }
 
     auto* const program = new QProcess{this};
+    program->setProcessEnvironment(environmentForOthers());
     program->setStandardInputFile(QProcess::nullDevice());
     program->setStandardOutputFile(QProcess::nullDevice());
     program->setStandardErrorFile(QProcess::nullDevice());

@@ -3,6 +3,7 @@
 
 #include "qt/desktop_url_opener.h"
 
+#include "qt/library_files.h"
 #include "qt/text_conversion.h"
 
 #include <QProcess>
@@ -40,7 +41,11 @@ bool isForPortal(const QUrl& url)
 
 bool openInHandler(const QString& url)
 {
-    return QProcess::startDetached(QStringLiteral("xdg-open"), {url});
+    QProcess program;
+    program.setProgram(QStringLiteral("xdg-open"));
+    program.setArguments({url});
+    program.setProcessEnvironment(environmentForOthers());
+    return program.startDetached();
 }
 
 } // namespace

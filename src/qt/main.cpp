@@ -3,6 +3,7 @@
 
 #include "qt/application.h"
 #include "qt/command_line.h"
+#include "qt/library_files.h"
 #include "qt/termination_signals.h"
 #include "qt/text_conversion.h"
 #include "qt/tour.h"
@@ -35,12 +36,12 @@ bool hasDisplay()
 /// What must be settled before the toolkit starts.
 void prepareEnvironment(bool tour)
 {
-    // Nothing is written outside the program's own folders. Switching the
-    // cache off would throw away what was compiled at build time too.
-    const auto cache = StandardFolders::fromEnvironment().state / "qml";
-    qputenv("QML_DISK_CACHE_PATH", cache.c_str());
     QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
-    if (tour) {
+    if (!tour) {
+        // Switching the toolkit's cache off would throw away what was compiled
+        // at build time too.
+        keepLibraryFilesIn(StandardFolders::fromEnvironment().state);
+    } else {
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
             !qEnvironmentVariableIsSet("DISPLAY") &&
             !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {

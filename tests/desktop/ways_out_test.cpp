@@ -5,6 +5,8 @@
 #include "qt/desktop_mail.h"
 #include "qt/desktop_review_prompter.h"
 #include "qt/desktop_url_opener.h"
+#include "qt/library_files.h"
+#include "qt/standard_folders.h"
 #include "qt/text_conversion.h"
 #include "qt/url_handlers.h"
 
@@ -72,9 +74,10 @@ bool ends(const Outcome& outcome)
 struct Programs {
     explicit Programs(const char* name, int status)
     {
-        support::writeContent(folder / name, "#!/bin/sh\nprintf '%s|' \"$@\" >> " +
-                                                 (folder / "called").string() + "\nexit " +
-                                                 std::to_string(status) + "\n");
+        support::writeContent(folder / name,
+                              "#!/bin/sh\nprintf '%s|' \"$@\" $MESA_SHADER_CACHE_DIR >> " +
+                                  (folder / "called").string() + "\nexit " +
+                                  std::to_string(status) + "\n");
         std::filesystem::permissions(folder / name, std::filesystem::perms::owner_all);
     }
 
@@ -176,6 +179,9 @@ TEST(UrlHandlers, AreThePrograms)
 
 TEST(DesktopUrlOpener, TakesFewKindsOfAddresses)
 {
+    // What is settled for this program alone no browser hears of.
+    keepLibraryFilesIn(StandardFolders::fromEnvironment().state);
+    ASSERT_TRUE(qEnvironmentVariableIsSet("MESA_SHADER_CACHE_DIR"));
     const Programs programs{"xdg-open", 0};
     DesktopUrlOpener opener{{QDBusConnection{QString{}}, handlesAll}};
     for (const char* url :

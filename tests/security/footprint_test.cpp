@@ -2,17 +2,48 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "security/trace.h"
+#include "support/shell.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
+
+#include <sys/stat.h>
 
 namespace lumora::security {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// A screen without a monitor, for one test.
+class Screen {
+public:
+    explicit Screen(const fs::path& files) : files_{files}
+    {
+        fs::create_directory(files_);
+        // It says its number once it can be drawn on.
+        const auto pipe = support::shellQuoted(files_ / "number");
+        support::runInShell("mkfifo " + pipe + "; Xvfb -displayfd 1 -nolisten tcp > " + pipe +
+                            " 2> /dev/null & echo $! > " +
+                            support::shellQuoted(files_ / "process"));
+        std::ifstream{files_ / "number"} >> number_;
+    }
+    ~Screen()
+    {
+        support::runInShell("kill $(cat " + support::shellQuoted(files_ / "process") + ")");
+    }
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    std::string display() const { return ":" + number_; }
+
+private:
+    fs::path files_;
+    std::string number_;
+};
 
 /// A home of its own, with everything in it that the toolkit and its libraries
 /// may ask the environment for.
@@ -79,10 +110,17 @@ TEST_F(Footprint, ATourOfEveryScreenOpensNoNetworkSocketAndWritesOnlyItsPictures
 
 TEST_F(Footprint, TheProgramWritesOnlyBelowItsThreeFoldersForItsUserAlone)
 {
+    // With all that draws on a real one, where shaders are compiled.
+    const Screen screen{home / "screen"};
+    auto variables = environment();
+    variables["QT_QPA_PLATFORM"] = "xcb";
+    variables["DISPLAY"] = screen.display();
+    const auto usersOwn = ::umask(S_IWGRP | S_IWOTH);
     // In the foreground, or it sends the signal twice and the second one kills.
     const auto trace =
         traced({"timeout", "--foreground", "--preserve-status", "-s", "TERM", "6", LUMORA_PROGRAM},
-               environment());
+               variables);
+    ::umask(usersOwn);
 
     EXPECT_EQ(trace.exitStatus, 0);
     const std::vector<fs::path> folders{home / "data/lumora", home / "config/lumora",
@@ -101,8 +139,9 @@ TEST_F(Footprint, TheProgramWritesOnlyBelowItsThreeFoldersForItsUserAlone)
     for (const auto& folder : folders) {
         EXPECT_EQ(fs::status(folder).permissions(), fs::perms::owner_all) << folder;
         for (const auto& file : fs::recursive_directory_iterator{folder}) {
-            // What the toolkit compiles it writes as it likes, in our folder.
-            if (file.is_regular_file() && !isBelow(file.path(), folders[2] / "qml")) {
+            // What is compiled is written as the toolkit likes, in our folder.
+            if (file.is_regular_file() && !isBelow(file.path(), folders[2] / "qml") &&
+                !isBelow(file.path(), folders[2] / "shaders")) {
                 EXPECT_EQ(file.status().permissions(),
                           fs::perms::owner_read | fs::perms::owner_write)
                     << file.path();
