@@ -150,6 +150,42 @@ TEST_F(Footprint, TheProgramWritesOnlyBelowItsThreeFoldersForItsUserAlone)
     }
 }
 
+TEST_F(Footprint, WhateverAPersonDoesStaysWithThePerson)
+{
+    // Searches, options, exports, speech, links: in a home among the temporary files.
+    const auto trace =
+        traced({LUMORA_RANDOM_SESSION, "--seed", "2", "--actions", "300"}, environment());
+    EXPECT_EQ(trace.exitStatus, 0);
+    expectHarmless(trace, {home / "temporary"});
+}
+
+TEST_F(Footprint, TheTerminalsProgramWritesOnlyTheFileThatItIsAskedFor)
+{
+    const auto data = home / "data/lumora";
+    const auto share = fs::path{LUMORA_PROGRAM}.parent_path().parent_path() / "share/lumora";
+    fs::create_directories(data);
+    fs::copy_file(share / "verbs.db", data / "verbs.db");
+    for (const std::vector<std::string>& command :
+         {std::vector<std::string>{LUMORA_CLI, "conjugate", "aller"},
+          {LUMORA_CLI, "search", "al"},
+          {LUMORA_CLI, "export", "--html", "aller"}}) {
+        SCOPED_TRACE(command[1]);
+        const auto trace = traced(command, environment());
+        EXPECT_EQ(trace.exitStatus, 0);
+        EXPECT_THAT(trace.sockets, testing::IsEmpty());
+        EXPECT_THAT(trace.programs, testing::SizeIs(1));
+        EXPECT_THAT(trace.written, testing::IsEmpty());
+    }
+
+    const auto saved = home / "saved";
+    fs::create_directory(saved);
+    const auto trace = traced({LUMORA_CLI, "backup", saved / "backup.json"}, environment());
+
+    EXPECT_EQ(trace.exitStatus, 0);
+    expectHarmless(trace, {saved, data});
+    EXPECT_TRUE(fs::exists(saved / "backup.json"));
+}
+
 /// The eyes of the tests above: what they must see is seen.
 TEST_F(Footprint, ATraceShowsSocketsShellsAndFiles)
 {

@@ -62,10 +62,12 @@ private:
     }
 };
 
-/// Files to import: good, bad, none of ours.
+/// Files to import, good and bad, and what is none of ours.
 void makeFiles(const std::filesystem::path& folder)
 {
     std::filesystem::create_directories(folder / "folder");
+    support::writeContent(folder / "backup.json",
+                          R"({"lumora": 1, "favourites": [{"french": "aller"}]})");
     support::writeContent(folder / "broken.json", "{\"favourites\": [1, ");
     support::writeContent(folder / "other.json", "[]");
     support::writeContent(folder / "empty", "");
@@ -156,11 +158,17 @@ int main(int argc, char** argv)
           QStringLiteral("10000")},
          {QStringLiteral("verbose"), QStringLiteral("Names every action.")}});
     arguments.process(toolkit);
+    bool isSeed = true;
+    bool isCount = false;
     const auto seed = arguments.isSet(QStringLiteral("seed"))
-                          ? arguments.value(QStringLiteral("seed")).toULongLong()
+                          ? arguments.value(QStringLiteral("seed")).toULongLong(&isSeed)
                           : std::random_device{}();
+    const auto actions = arguments.value(QStringLiteral("actions")).toULongLong(&isCount);
+    if (!isSeed || !isCount || actions == 0) {
+        std::cerr << "random-session: --seed and --actions want whole numbers\n";
+        return 2;
+    }
     std::cerr << "Seed " << seed << std::endl;
     qt::registerInterface();
-    return run(seed, arguments.value(QStringLiteral("actions")).toULongLong(),
-               arguments.isSet(QStringLiteral("verbose")));
+    return run(seed, actions, arguments.isSet(QStringLiteral("verbose")));
 }

@@ -86,8 +86,8 @@ std::string RandomSession::act(std::uint64_t number)
     static const auto kTotal =
         std::accumulate(kActions.begin(), kActions.end(), 0U,
                         [](auto sum, const auto& action) { return sum + action.weight; });
-    // Of its own, so that a clock that ticked otherwise changes this action at
-    // most.
+    // Of its own: what a slower machine shows a moment later changes what this
+    // action meets, not which ones follow.
     std::seed_seq numbers{seed_, number};
     random_.seed(numbers);
 
