@@ -13,6 +13,9 @@ namespace lumora::bench {
 // Each measures one matter and adds its lines to the report. `database` is a
 // copy of the shipped one, `program` this program.
 
+/// How long the database takes to build, and how large it is.
+void measureDatabase(Report& report, const std::filesystem::path& database);
+
 /// The list of all verbs against the same statement in a bare SQLite loop.
 Figure listFigure(const std::filesystem::path& database, int rounds);
 void measureList(Report& report, const std::filesystem::path& database);

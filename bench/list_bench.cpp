@@ -70,7 +70,9 @@ Figure listFigure(const std::filesystem::path& database, int rounds)
 
 void measureList(Report& report, const std::filesystem::path& database)
 {
-    report.add(listFigure(database, 30));
+    auto figure = listFigure(database, 30);
+    holdAgainstReference(figure, 1.5);
+    report.add(figure);
 }
 
 } // namespace lumora::bench

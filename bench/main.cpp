@@ -48,6 +48,7 @@ int run(const std::string& program, const std::vector<std::string>& asked)
         {"start", "Start", [&](auto& report) { measureFirstFrame(report, program); }},
         {"memory", "Memory", [&](auto& report) { measureMemory(report, program); }},
         {"growth", "Growth", [&](auto& report) { bench::measureGrowth(report); }},
+        {"database", "Verb database", [&](auto& report) { measureDatabase(report, database); }},
     };
     for (const auto& name : asked) {
         const auto known = std::any_of(sections.begin(), sections.end(),

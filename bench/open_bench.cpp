@@ -208,7 +208,10 @@ Figure formsFigure(const std::filesystem::path& database, int verbs)
 
 void measureOpening(Report& report, const std::filesystem::path& database)
 {
-    report.add(formsFigure(database, 1000));
+    auto forms = formsFigure(database, 1000);
+    forms.asked = "95 % in 1 ms";
+    forms.holds = forms.own.p95() <= 1;
+    report.add(forms);
     const support::TemporaryFolder world;
     for (const auto& [name, size] : {std::pair{"tap to drawn grid, phone", QSize{390, 844}},
                                      std::pair{"tap to drawn grid, tablet", QSize{1024, 768}}}) {

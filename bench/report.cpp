@@ -19,6 +19,12 @@ std::string number(double value)
 
 } // namespace
 
+void holdAgainstReference(Figure& figure, double times)
+{
+    figure.asked = fmt::format("{} times it", times);
+    figure.holds = figure.own.median() <= times * figure.referenceSamples.median();
+}
+
 void Report::section(const std::string& title)
 {
     output_ << fmt::format("\n{:<43}{:>8}{:>8}       {:<31}{:>8}{:>8}{:>7}   {}\n", title, "median",

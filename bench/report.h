@@ -24,6 +24,9 @@ struct Figure {
     const char* unit = "ms";
 };
 
+/// Asks that a figure's median is at most so many times its reference's.
+void holdAgainstReference(Figure& figure, double times);
+
 /// One table on a stream, a line as soon as its figure is there.
 class Report {
 public:
