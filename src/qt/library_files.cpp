@@ -3,7 +3,6 @@
 
 #include "qt/library_files.h"
 
-#include "platform/atomic_file.h"
 #include "qt/standard_folders.h"
 #include "qt/text_conversion.h"
 
@@ -43,9 +42,6 @@ bool hasSoundCookie()
 
 void keepLibraryFilesIn(const std::filesystem::path& state)
 {
-    // Without it they go back to the places they know. The program itself says
-    // so when it cannot write.
-    static_cast<void>(platform::makePrivateFolder(state));
     settle(kCompiledPages, state);
     settle(kShaders, state);
     if (!hasSoundCookie()) {

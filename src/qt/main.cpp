@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "platform/atomic_file.h"
 #include "qt/application.h"
 #include "qt/command_line.h"
 #include "qt/library_files.h"
@@ -101,6 +102,9 @@ int runApplication(const CommandLine& commandLine, const InstanceRequest& reques
     registerInterface();
     ApplicationOptions options;
     options.folders = StandardFolders::fromEnvironment();
+    if (const auto made = lumora::platform::makePrivateFolder(options.folders.state); !made) {
+        std::cerr << "lumora: " << made.error().message << '\n';
+    }
     options.shareFolder = shareFolder();
     for (const auto& argument : commandLine.launchArguments) {
         options.launchArguments.push_back(toUtf8(argument));
