@@ -40,15 +40,15 @@ std::size_t searchByStockPlan(DatabaseWorld& world, const std::string& text)
 Figure firstKeyFigure(const std::filesystem::path& database)
 {
     constexpr int kStarts = 5;
-    constexpr const char* kText = "parl";
+    const std::string text = "parl";
     Figure figure{"the first key, conjugations searched", {}, "SQLite's own plan", {}, {}, {}};
     for (int start = 0; start < kStarts; ++start) {
         DatabaseWorld world{database};
         world.settings().setValue(true, "IncludeConjugations");
         lists::SearchResultsTableViewController results{world.services()};
         results.queue = &world.queue();
-        figure.own.add(millisecondsOf([&] { results.search(kText); }));
-        figure.referenceSamples.add(millisecondsOf([&] { searchByStockPlan(world, kText); }));
+        figure.own.add(millisecondsOf([&] { results.search(text); }));
+        figure.referenceSamples.add(millisecondsOf([&] { searchByStockPlan(world, text); }));
     }
     return figure;
 }
