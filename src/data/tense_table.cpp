@@ -9,7 +9,7 @@
 
 namespace lumora::data {
 
-const std::array<TenseField, 18> kTenses{{
+constexpr std::array<TenseField, 18> kTenses{{
     {"conditionnelPasse1reForme", &Verb::conditionnelPasse1reForme},
     {"conditionnelPasse2eForme", &Verb::conditionnelPasse2eForme},
     {"conditionnelPresent", &Verb::conditionnelPresent},
@@ -35,33 +35,43 @@ const std::array<std::string_view, kMoodCount> kMoodTitleKeys{
 
 namespace {
 
+/// A name that is none does not compile.
+consteval TenseField tenseNamed(std::string_view identifier)
+{
+    std::size_t tense = 0;
+    while (kTenses.at(tense).identifier != identifier) {
+        ++tense;
+    }
+    return kTenses.at(tense);
+}
+
 constexpr TenseBlock kIndicative[] = {
-    {{"indicatifPresent", &Verb::indicatifPresent}, "tense.ind.present"},
-    {{"indicatifPasseCompose", &Verb::indicatifPasseCompose}, "tense.ind.presentperfect"},
-    {{"indicatifImparfait", &Verb::indicatifImparfait}, "tense.ind.imperfect"},
-    {{"indicatifPlusQueParfait", &Verb::indicatifPlusQueParfait}, "tense.ind.pluperfect"},
-    {{"indicatifFuturSimple", &Verb::indicatifFuturSimple}, "tense.ind.future"},
-    {{"indicatifFuturAnterieur", &Verb::indicatifFuturAnterieur}, "tense.ind.pastfuture"},
-    {{"indicatifPasseSimple", &Verb::indicatifPasseSimple}, "tense.ind.simplepast"},
-    {{"indicatifPasseAnterieur", &Verb::indicatifPasseAnterieur}, "tense.ind.pastperfect"},
+    {tenseNamed("indicatifPresent"), "tense.ind.present"},
+    {tenseNamed("indicatifPasseCompose"), "tense.ind.presentperfect"},
+    {tenseNamed("indicatifImparfait"), "tense.ind.imperfect"},
+    {tenseNamed("indicatifPlusQueParfait"), "tense.ind.pluperfect"},
+    {tenseNamed("indicatifFuturSimple"), "tense.ind.future"},
+    {tenseNamed("indicatifFuturAnterieur"), "tense.ind.pastfuture"},
+    {tenseNamed("indicatifPasseSimple"), "tense.ind.simplepast"},
+    {tenseNamed("indicatifPasseAnterieur"), "tense.ind.pastperfect"},
 };
 
 constexpr TenseBlock kSubjunctive[] = {
-    {{"subjonctifPresent", &Verb::subjonctifPresent}, "tense.sub.present"},
-    {{"subjonctifPasse", &Verb::subjonctifPasse}, "tense.sub.past"},
-    {{"subjonctifImparfait", &Verb::subjonctifImparfait}, "tense.sub.imperfect"},
-    {{"subjonctifPlusqueParfait", &Verb::subjonctifPlusqueParfait}, "tense.sub.pluperfect"},
+    {tenseNamed("subjonctifPresent"), "tense.sub.present"},
+    {tenseNamed("subjonctifPasse"), "tense.sub.past"},
+    {tenseNamed("subjonctifImparfait"), "tense.sub.imperfect"},
+    {tenseNamed("subjonctifPlusqueParfait"), "tense.sub.pluperfect"},
 };
 
 constexpr TenseBlock kConditional[] = {
-    {{"conditionnelPresent", &Verb::conditionnelPresent}, "tense.con.present"},
-    {{"conditionnelPasse1reForme", &Verb::conditionnelPasse1reForme}, "tense.con.firstpast"},
-    {{"conditionnelPasse2eForme", &Verb::conditionnelPasse2eForme}, "tense.con.secondpast"},
+    {tenseNamed("conditionnelPresent"), "tense.con.present"},
+    {tenseNamed("conditionnelPasse1reForme"), "tense.con.firstpast"},
+    {tenseNamed("conditionnelPasse2eForme"), "tense.con.secondpast"},
 };
 
 constexpr TenseBlock kOther[] = {
-    {{"imperatif", &Verb::imperatif}, "tense.other.imperative"},
-    {{"participe", &Verb::participe}, "tense.other.participle"},
+    {tenseNamed("imperatif"), "tense.other.imperative"},
+    {tenseNamed("participe"), "tense.other.participle"},
 };
 
 } // namespace
