@@ -3,7 +3,7 @@
 
 #include "app/deep_link.h"
 
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <algorithm>
 #include <charconv>
@@ -71,10 +71,10 @@ std::optional<DeepLink> DeepLink::parse(std::string_view link)
     }
     const auto decoded = percentDecoded(name);
     if (!decoded || decoded->find_first_not_of(' ') == std::string::npos ||
-        hasControlCharacter(*decoded) || platform::wellFormed(*decoded) != *decoded) {
+        hasControlCharacter(*decoded) || text::wellFormed(*decoded) != *decoded) {
         return std::nullopt;
     }
-    return DeepLink{platform::composed(*decoded)};
+    return DeepLink{text::composed(*decoded)};
 }
 
 bool isDeepLink(std::string_view text)

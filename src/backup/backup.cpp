@@ -8,8 +8,8 @@
 #include "platform/atomic_file.h"
 #include "platform/clock.h"
 #include "platform/database_queue.h"
-#include "platform/text.h"
 #include "platform/transaction.h"
+#include "text/text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -88,7 +88,7 @@ public:
         return forEachRow(database, "SELECT _id, french FROM verb ORDER BY _id",
                           [&](const ResultSet& row) {
                               const auto id = row.longForColumn(0);
-                              auto french = platform::composed(row.stringForColumn(1));
+                              auto french = text::composed(row.stringForColumn(1));
                               // Of two homographs the first: one has to be it.
                               index.byFrench_.emplace(french, id);
                               index.frenchOf_.emplace(id, std::move(french));
@@ -98,7 +98,7 @@ public:
 
     std::optional<std::int64_t> find(const SavedVerb& verb) const
     {
-        const auto french = platform::composed(verb.french);
+        const auto french = text::composed(verb.french);
         if (verb.id) {
             const auto known = frenchOf_.find(*verb.id);
             if (known != frenchOf_.end() && known->second == french) {

@@ -7,7 +7,7 @@
 #include "platform/clock.h"
 #include "platform/notification_center.h"
 #include "platform/presenter.h"
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <ostream>
 #include <utility>
@@ -97,7 +97,7 @@ void BackupMenu::save(const std::filesystem::path& file)
         return;
     }
     tell("backup.save.done",
-         platform::formatted(text("backup.save.counts"), {saved->favourites, saved->history}));
+         text::formatted(text("backup.save.counts"), {saved->favourites, saved->history}));
 }
 
 void BackupMenu::restore(const std::filesystem::path& file)
@@ -111,10 +111,10 @@ void BackupMenu::restore(const std::filesystem::path& file)
     }
     announce(*restored);
     auto message =
-        platform::formatted(text("backup.restore.counts"),
-                            {static_cast<int>(restored->favourites.size()), restored->history});
+        text::formatted(text("backup.restore.counts"),
+                        {static_cast<int>(restored->favourites.size()), restored->history});
     if (restored->unknown > 0) {
-        message += "\n" + platform::formatted(text("backup.restore.unknown"), {restored->unknown});
+        message += "\n" + text::formatted(text("backup.restore.unknown"), {restored->unknown});
     }
     tell("backup.restore.done", std::move(message));
 }

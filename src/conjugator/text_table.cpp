@@ -3,33 +3,14 @@
 
 #include "conjugator/text_table.h"
 
-#include <unicode/bytestream.h>
-#include <unicode/normalizer2.h>
-#include <unicode/stringpiece.h>
-#include <unicode/ustring.h>
+#include "text/text.h"
 
-#include <cstdint>
 #include <fstream>
 #include <iterator>
 
 namespace lumora::conjugator {
 
 namespace {
-
-bool isUtf8(std::string_view text)
-{
-    UErrorCode error = U_ZERO_ERROR;
-    u_strFromUTF8(nullptr, 0, nullptr, text.data(), static_cast<int32_t>(text.size()), &error);
-    return error != U_INVALID_CHAR_FOUND;
-}
-
-bool isComposed(std::string_view text)
-{
-    UErrorCode error = U_ZERO_ERROR;
-    const auto* nfc = icu::Normalizer2::getNFCInstance(error);
-    return U_SUCCESS(error) != 0 &&
-           nfc->isNormalizedUTF8({text.data(), static_cast<int32_t>(text.size())}, error) != 0;
-}
 
 std::string listed(const std::vector<std::string>& names)
 {
@@ -72,10 +53,10 @@ TextTable TextTable::parse(std::string_view text, const std::string& file,
     std::size_t number = 0;
     for (const auto& line : split(text, "\n")) {
         ++number;
-        if (!isUtf8(line)) {
+        if (!text::isWellFormed(line)) {
             throw TableError(file, number, "not valid UTF-8");
         }
-        if (!isComposed(line)) {
+        if (!text::isComposed(line)) {
             throw TableError(file, number, "not composed Unicode (NFC)");
         }
         if (line.find("\u2019") != std::string::npos) {

@@ -3,17 +3,14 @@
 
 #include "data/verb_finder.h"
 
-#include <unicode/locid.h>
-#include <unicode/normalizer2.h>
-#include <unicode/uchar.h>
-#include <unicode/unistr.h>
+#include "text/text.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdint>
-#include <cstdlib>
+#include <iterator>
 #include <numeric>
+#include <string>
 #include <utility>
 
 namespace lumora::data {
@@ -22,61 +19,36 @@ namespace {
 
 /// "s'évanouir" and "évanouir (s')" are the same name.
 struct Name {
-    icu::UnicodeString verb;
+    std::string verb;
     bool pronominal = false;
 
     bool operator==(const Name&) const = default;
 };
 
-icu::UnicodeString normalized(const icu::UnicodeString& text, bool decomposed)
+Name nameOf(std::string_view typed)
 {
-    UErrorCode status = U_ZERO_ERROR;
-    const auto* const normalizer = decomposed ? icu::Normalizer2::getNFDInstance(status)
-                                              : icu::Normalizer2::getNFCInstance(status);
-    auto result = normalizer->normalize(text, status);
-    return U_FAILURE(status) ? text : result;
-}
+    static constexpr std::array<std::string_view, 2> kBefore{"se ", "s'"};
+    static constexpr std::array<std::string_view, 2> kAfter{" (se)", " (s')"};
 
-Name nameOf(std::string_view utf8)
-{
-    static constexpr std::array kBefore{u"se ", u"s'"};
-    static constexpr std::array kAfter{u" (se)", u" (s')"};
-
-    auto text =
-        normalized(icu::UnicodeString::fromUTF8({utf8.data(), static_cast<int>(utf8.size())}),
-                   false)
-            .toLower(icu::Locale::getRoot());
-    text.findAndReplace(u"\u2019", u"'").trim();
-    for (const auto* before : kBefore) {
-        const icu::UnicodeString prefix{before};
-        if (text.startsWith(prefix)) {
-            return {text.tempSubString(prefix.length()).trim(), true};
+    const auto whole =
+        text::trimmed(text::replaced(text::lowerCased(text::composed(typed)), "\u2019", "'"));
+    const std::string_view name = whole;
+    for (const auto before : kBefore) {
+        if (name.starts_with(before)) {
+            return {text::trimmed(name.substr(before.size())), true};
         }
     }
-    for (const auto* after : kAfter) {
-        const icu::UnicodeString suffix{after};
-        if (text.endsWith(suffix)) {
-            return {text.tempSubString(0, text.length() - suffix.length()).trim(), true};
+    for (const auto after : kAfter) {
+        if (name.ends_with(after)) {
+            return {text::trimmed(name.substr(0, name.size() - after.size())), true};
         }
     }
-    return {text, false};
+    return {whole, false};
 }
 
-icu::UnicodeString withoutAccents(const icu::UnicodeString& text)
+Name folded(const Name& name)
 {
-    icu::UnicodeString plain;
-    const auto decomposed = normalized(text, true);
-    for (std::int32_t at = 0; at < decomposed.length(); at = decomposed.moveIndex32(at, 1)) {
-        if (u_charType(decomposed.char32At(at)) != U_NON_SPACING_MARK) {
-            plain.append(decomposed.char32At(at));
-        }
-    }
-    return plain.findAndReplace(u"\u0153", u"oe").findAndReplace(u"\u00e6", u"ae");
-}
-
-Name withoutAccents(const Name& name)
-{
-    return {withoutAccents(name.verb), name.pronominal};
+    return {text::folded(name.verb), name.pronominal};
 }
 
 template <typename Condition>
@@ -90,21 +62,20 @@ std::vector<VerbPtr> selected(const std::vector<VerbPtr>& verbs, const Condition
 
 /// How many letters must be put in, taken out or changed, or neighbours swapped,
 /// to make one text the other.
-int distance(const icu::UnicodeString& left, const icu::UnicodeString& right)
+std::size_t distance(std::u32string_view left, std::u32string_view right)
 {
-    const auto width = static_cast<std::size_t>(right.length()) + 1;
-    std::vector<int> beforeLast(width);
-    std::vector<int> last(width);
-    std::vector<int> row(width);
-    std::iota(last.begin(), last.end(), 0);
-    for (std::int32_t i = 0; i < left.length(); ++i) {
+    const auto width = right.size() + 1;
+    std::vector<std::size_t> beforeLast(width);
+    std::vector<std::size_t> last(width);
+    std::vector<std::size_t> row(width);
+    std::iota(last.begin(), last.end(), std::size_t{0});
+    for (std::size_t i = 0; i < left.size(); ++i) {
         row[0] = i + 1;
-        for (std::int32_t j = 0; j < right.length(); ++j) {
-            const auto at = static_cast<std::size_t>(j);
-            row[at + 1] =
-                std::min({last[at] + (left[i] == right[j] ? 0 : 1), last[at + 1] + 1, row[at] + 1});
+        for (std::size_t j = 0; j < right.size(); ++j) {
+            row[j + 1] =
+                std::min({last[j] + (left[i] == right[j] ? 0U : 1U), last[j + 1] + 1, row[j] + 1});
             if (i > 0 && j > 0 && left[i] == right[j - 1] && left[i - 1] == right[j]) {
-                row[at + 1] = std::min(row[at + 1], beforeLast[at - 1] + 1);
+                row[j + 1] = std::min(row[j + 1], beforeLast[j - 1] + 1);
             }
         }
         std::swap(beforeLast, last);
@@ -118,7 +89,7 @@ int distance(const icu::UnicodeString& left, const icu::UnicodeString& right)
 std::vector<VerbPtr> verbsNamed(std::string_view typed, const std::vector<VerbPtr>& verbs)
 {
     const auto name = nameOf(typed);
-    const auto plain = withoutAccents(name);
+    const auto plain = folded(name);
 
     auto found = selected(verbs, [&](const Name& verb) { return verb == name; });
     // Who asks for the pronominal verb is not served with another.
@@ -126,11 +97,11 @@ std::vector<VerbPtr> verbsNamed(std::string_view typed, const std::vector<VerbPt
         found = selected(verbs, [&](const Name& verb) { return verb.verb == name.verb; });
     }
     if (found.empty()) {
-        found = selected(verbs, [&](const Name& verb) { return withoutAccents(verb) == plain; });
+        found = selected(verbs, [&](const Name& verb) { return folded(verb) == plain; });
     }
     if (found.empty() && !name.pronominal) {
         found = selected(verbs,
-                         [&](const Name& verb) { return withoutAccents(verb.verb) == plain.verb; });
+                         [&](const Name& verb) { return text::folded(verb.verb) == plain.verb; });
     }
     return found;
 }
@@ -138,17 +109,18 @@ std::vector<VerbPtr> verbsNamed(std::string_view typed, const std::vector<VerbPt
 std::vector<std::string> namesNear(std::string_view typed, const std::vector<VerbPtr>& verbs)
 {
     constexpr std::size_t kMostNames = 3;
-    constexpr std::int32_t kShort = 5;
+    constexpr std::size_t kShort = 5;
 
-    const auto plain = withoutAccents(nameOf(typed)).verb;
-    const int limit = plain.length() <= kShort ? 1 : 2;
-    std::vector<std::pair<int, std::string>> near;
+    const auto plain = text::characters(text::folded(nameOf(typed).verb));
+    const std::size_t limit = plain.size() <= kShort ? 1 : 2;
+    std::vector<std::pair<std::size_t, std::string>> near;
     for (const auto& verb : verbs) {
-        const auto candidate = withoutAccents(nameOf(verb->french)).verb;
-        if (std::abs(candidate.length() - plain.length()) > limit) {
+        const auto candidate = text::characters(text::folded(nameOf(verb->french).verb));
+        const auto [shorter, longer] = std::minmax(candidate.size(), plain.size());
+        if (longer - shorter > limit) {
             continue;
         }
-        if (const int slips = distance(plain, candidate); slips <= limit) {
+        if (const auto slips = distance(plain, candidate); slips <= limit) {
             near.emplace_back(slips, verb->french);
         }
     }

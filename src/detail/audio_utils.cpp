@@ -5,8 +5,8 @@
 
 #include "data/conjugation.h"
 #include "platform/settings_store.h"
-#include "platform/text.h"
 #include "settings/setting_keys.h"
+#include "text/text.h"
 
 #include <algorithm>
 #include <string>
@@ -28,7 +28,7 @@ constexpr float kHaste = 1.1F;
 
 std::string spokenText(const data::Conjugation& form)
 {
-    auto text = platform::replaced(form.pronoun, "/", " ou ");
+    auto text = text::replaced(form.pronoun, "/", " ou ");
     if (!text.ends_with('\'')) {
         text += ' ';
     }
@@ -61,7 +61,7 @@ platform::Utterance AudioUtils::utteranceFor(const data::Conjugation& form,
 
 float AudioUtils::progressAt(std::size_t location, const platform::Utterance& utterance)
 {
-    const auto count = std::max<std::size_t>(platform::characterCount(utterance.text), 1);
+    const auto count = std::max<std::size_t>(text::characterCount(utterance.text), 1);
     return std::max(kLeastProgress,
                     static_cast<float>(location) / static_cast<float>(count) * kHaste);
 }

@@ -7,7 +7,7 @@
 #include "data/verb.h"
 #include "platform/bundle.h"
 #include "platform/services.h"
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <nlohmann/json.hpp>
 
@@ -75,9 +75,9 @@ void forEachBlock(const Action& action)
 /// The line and paragraph separators end a line in a script, though not in JSON.
 std::string escapedForScript(std::string json)
 {
-    json = platform::replaced(std::move(json), "/", "\\/");
-    json = platform::replaced(std::move(json), "\u2028", "\\u2028");
-    return platform::replaced(std::move(json), "\u2029", "\\u2029");
+    json = text::replaced(std::move(json), "/", "\\/");
+    json = text::replaced(std::move(json), "\u2028", "\\u2028");
+    return text::replaced(std::move(json), "\u2029", "\\u2029");
 }
 
 } // namespace

@@ -8,7 +8,7 @@
 #include "platform/bundle.h"
 #include "platform/java_script_context.h"
 #include "platform/services.h"
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -21,7 +21,7 @@ namespace {
 platform::Result<std::string> readText(const std::filesystem::path& file)
 {
     auto text = platform::readFile(file);
-    if (text && platform::wellFormed(*text) != *text) {
+    if (text && text::wellFormed(*text) != *text) {
         return tl::unexpected(platform::Error{file.string() + " is not UTF-8 text", EILSEQ});
     }
     return text;

@@ -5,10 +5,10 @@
 
 #include "lists/sort_column.h"
 #include "platform/settings_store.h"
-#include "platform/text.h"
 #include "settings/search_from.h"
 #include "settings/setting_keys.h"
 #include "settings/translation_language.h"
+#include "text/text.h"
 
 #include <utility>
 
@@ -45,7 +45,7 @@ SearchQuery makeSearchQuery(std::string_view text, const platform::SettingsStore
                             const platform::Device& device)
 {
     SearchQuery query;
-    query.text = platform::replaced(std::string{text}, "\u2019", "'");
+    query.text = text::replaced(std::string{text}, "\u2019", "'");
 
     const auto [translation, simplified] = columnsFor(
         settings::columnForLanguage(settings::effectiveTranslationLanguage(settings, device)));

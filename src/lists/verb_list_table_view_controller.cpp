@@ -11,7 +11,7 @@
 #include "platform/bundle.h"
 #include "platform/crash_reporter.h"
 #include "platform/database_queue.h"
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -97,7 +97,7 @@ void VerbListTableViewController::readVerbs(platform::DatabaseQueue& database,
             while (rows->next()) {
                 auto letter = rows->stringForColumn(indexLetter);
                 if (section == nullptr || letter != lastLetter) {
-                    section = &verbs[platform::upperCased(letter)];
+                    section = &verbs[text::upperCased(letter)];
                     lastLetter = std::move(letter);
                 }
                 section->push_back(reader.readVerb(*rows));
@@ -114,7 +114,7 @@ void VerbListTableViewController::readVerbs(platform::DatabaseQueue& database,
             for (const auto& [letter, section_] : verbs) {
                 keys.push_back(letter);
             }
-            std::sort(keys.begin(), keys.end(), platform::scalarLess);
+            std::sort(keys.begin(), keys.end(), text::scalarLess);
         }
         tableView().reloadData();
         connection.close();

@@ -13,10 +13,10 @@
 #include "platform/notification_center.h"
 #include "platform/presenter.h"
 #include "platform/settings_store.h"
-#include "platform/text.h"
 #include "platform/url_opener.h"
 #include "settings/search_from.h"
 #include "settings/setting_keys.h"
+#include "text/text.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -193,7 +193,7 @@ std::optional<std::string> OptionsTableViewController::titleForFooterInSection(i
     case 0:
         return text("settings.conjugations.info");
     case 2:
-        return platform::formatted(text("settings.history_info"), {kHistoryLimit});
+        return text::formatted(text("settings.history_info"), {kHistoryLimit});
     case 3:
         return text("settings.analytics.info");
     default:
@@ -246,8 +246,8 @@ platform::TableCell OptionsTableViewController::cellForRow(platform::IndexPath p
     case Row::IncludeTranslation:
         // The stored choice, not the device's language.
         return switchCell(
-            platform::formatted(text("settings.includeenglish"),
-                                {translationLanguageName("settings.translations.english")}),
+            text::formatted(text("settings.includeenglish"),
+                            {translationLanguageName("settings.translations.english")}),
             settings.boolForKey(settings::kIncludeEnglish));
     case Row::SearchType:
         return segmentCell("settings.search", "settings.searchtype.start",

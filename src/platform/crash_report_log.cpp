@@ -5,7 +5,7 @@
 
 #include "platform/atomic_file.h"
 #include "platform/crash_handler.h"
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <fmt/format.h>
 
@@ -21,7 +21,7 @@ constexpr unsigned char kDelete = 0x7F;
 std::string entry(std::string_view text)
 {
     std::string line;
-    for (const char byte : wellFormed(text)) {
+    for (const char byte : text::wellFormed(text)) {
         const auto value = static_cast<unsigned char>(byte);
         const bool startsCharacter = (value & 0xC0U) != 0x80;
         if (startsCharacter && line.size() + 4 > CrashReportLog::kMaximumEntryBytes) {
@@ -58,8 +58,8 @@ CrashReportLog::~CrashReportLog() = default;
 void CrashReportLog::logWithFormat(std::string_view format,
                                    const std::vector<LogArgument>& arguments)
 {
-    static_cast<void>(
-        appendLine(folder_ / "log.txt", entry(formatted(format, arguments)), kMaximumLogBytes));
+    static_cast<void>(appendLine(folder_ / "log.txt", entry(text::formatted(format, arguments)),
+                                 kMaximumLogBytes));
 }
 
 void CrashReportLog::setCustomValue(const CustomValue& value, std::string_view key)

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <string>
 #include <string_view>
@@ -12,14 +12,14 @@
 
 namespace lumora::platform {
 
-using LogArgument = FormatArgument;
+using LogArgument = text::FormatArgument;
 using CustomValue = std::variant<bool, std::string>;
 
 /// A log that stays on the machine and goes into a crash report.
 class CrashReporter {
 public:
     virtual ~CrashReporter() = default;
-    /// One line: `formatted(format, arguments)`.
+    /// One line: `text::formatted(format, arguments)`.
     virtual void logWithFormat(std::string_view format,
                                const std::vector<LogArgument>& arguments) = 0;
     virtual void setCustomValue(const CustomValue& value, std::string_view key) = 0;

@@ -4,9 +4,9 @@
 #include "qt/qt_device.h"
 
 #include "platform/split_view_controller.h"
-#include "platform/text.h"
 #include "qt/machine_model.h"
 #include "qt/text_conversion.h"
+#include "text/text.h"
 
 #include <QLocale>
 #include <QSysInfo>
@@ -47,7 +47,7 @@ std::optional<std::string> QtDevice::machineIdentifier() const
     if (::uname(&names) != 0) {
         return std::nullopt;
     }
-    return platform::wellFormed(static_cast<const char*>(names.machine));
+    return text::wellFormed(static_cast<const char*>(names.machine));
 }
 
 std::string QtDevice::systemVersion() const

@@ -3,7 +3,7 @@
 
 #include "qt/spoken_text.h"
 
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <algorithm>
 
@@ -31,7 +31,7 @@ SpokenText::SpokenText(std::string_view written)
         // What is left out keeps the letter before it: "(e)(s)".
         const bool leftOut = close != std::string_view::npos;
         const auto part = written.substr(0, leftOut ? close + 1 : 1);
-        const auto count = platform::characterCount(part);
+        const auto count = text::characterCount(part);
         if (!leftOut) {
             text_ += part;
             places_.insert(places_.end(), count, place);

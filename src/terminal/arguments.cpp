@@ -3,7 +3,7 @@
 
 #include "terminal/arguments.h"
 
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -146,7 +146,7 @@ platform::Result<void> addText(Arguments& arguments, std::string_view word)
     }
     // "se méfier" need not be quoted.
     arguments.text += arguments.text.empty() ? "" : " ";
-    arguments.text += platform::wellFormed(word);
+    arguments.text += text::wellFormed(word);
     return {};
 }
 

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "terminal/complaints.h"
+#include "text/text.h"
 
 namespace lumora::terminal {
 
 void Complaints::logWithFormat(std::string_view format,
                                const std::vector<platform::LogArgument>& arguments)
 {
-    text_ << platform::formatted(format, arguments) << '\n';
+    text_ << text::formatted(format, arguments) << '\n';
 }
 
 std::optional<std::string> Complaints::line() const

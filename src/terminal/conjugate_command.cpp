@@ -6,6 +6,7 @@
 #include "terminal/loaded_verbs.h"
 #include "terminal/output.h"
 #include "terminal/session.h"
+#include "text/text.h"
 
 #include <algorithm>
 
@@ -23,12 +24,13 @@ TextBlock tenseBlock(const std::string& title, const std::vector<TextRow>& rows)
 {
     std::size_t leadWidth = 0;
     for (const auto& row : rows) {
-        leadWidth = std::max(leadWidth, columnsOf(lead(row.text)));
+        leadWidth = std::max(leadWidth, text::columns(lead(row.text)));
     }
     TextBlock block{title};
     for (const auto& row : rows) {
         const auto before = lead(row.text);
-        block.push_back(std::string(leadWidth - columnsOf(before), ' ') + before + row.detailText);
+        block.push_back(std::string(leadWidth - text::columns(before), ' ') + before +
+                        row.detailText);
     }
     return block;
 }

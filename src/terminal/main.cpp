@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/text.h"
 #include "qt/text_conversion.h"
 #include "qt/translations.h"
 #include "terminal/arguments.h"
 #include "terminal/commands.h"
 #include "terminal/output.h"
 #include "terminal/session.h"
+#include "text/text.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -38,7 +38,7 @@ void writeToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
 int complain(const std::string& message, int status)
 {
     std::string line;
-    for (const char byte : platform::wellFormed(message)) {
+    for (const char byte : text::wellFormed(message)) {
         const auto code = static_cast<unsigned char>(byte);
         line += code < 0x20 || code == 0x7f ? std::string{"\uFFFD"} : std::string{byte};
     }

@@ -3,12 +3,10 @@
 
 #include "terminal/output.h"
 
-#include <unicode/uchar.h>
-#include <unicode/unistr.h>
+#include "text/text.h"
 
 #include <algorithm>
 #include <charconv>
-#include <cstdint>
 #include <cstdlib>
 #include <iostream>
 
@@ -25,7 +23,7 @@ constexpr std::size_t kUsualWidth = 80;
 
 std::string padded(const std::string& text, std::size_t columns)
 {
-    return text + std::string(columns - std::min(columns, columnsOf(text)), ' ');
+    return text + std::string(columns - std::min(columns, text::columns(text)), ' ');
 }
 
 /// What the user says in COLUMNS, 0 for nothing.
@@ -37,17 +35,6 @@ std::size_t wantedWidth()
         std::from_chars(text.data(), text.data() + text.size(), width);
     }
     return width;
-}
-
-std::size_t columnsOfCharacter(UChar32 character)
-{
-    const auto category = u_charType(character);
-    if (category == U_NON_SPACING_MARK || category == U_ENCLOSING_MARK ||
-        category == U_FORMAT_CHAR) {
-        return 0;
-    }
-    const int width = u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH);
-    return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
 }
 
 } // namespace
@@ -65,23 +52,12 @@ Output standardOutput()
     return {std::cout, known ? size.ws_col : kUsualWidth};
 }
 
-std::size_t columnsOf(std::string_view utf8)
-{
-    const auto text =
-        icu::UnicodeString::fromUTF8({utf8.data(), static_cast<std::int32_t>(utf8.size())});
-    std::size_t columns = 0;
-    for (std::int32_t at = 0; at < text.length(); at = text.moveIndex32(at, 1)) {
-        columns += columnsOfCharacter(text.char32At(at));
-    }
-    return columns;
-}
-
 void printBlocks(const std::vector<TextBlock>& blocks, const Output& output)
 {
     std::size_t blockWidth = 1;
     for (const auto& block : blocks) {
         for (const auto& line : block) {
-            blockWidth = std::max(blockWidth, columnsOf(line));
+            blockWidth = std::max(blockWidth, text::columns(line));
         }
     }
     const auto room = std::max(output.width, kMargin + blockWidth) - kMargin + kBlockGap;

@@ -23,9 +23,6 @@ struct Output {
 /// Standard output as it is now.
 Output standardOutput();
 
-/// How many columns the text takes on a terminal.
-std::size_t columnsOf(std::string_view utf8);
-
 /// A few lines that stand together.
 using TextBlock = std::vector<std::string>;
 

@@ -6,6 +6,7 @@
 #include "terminal/commands.h"
 #include "terminal/output.h"
 #include "terminal/session.h"
+#include "text/text.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -20,11 +21,12 @@ void printRows(const std::vector<TextRow>& rows, const Output& output)
 
     std::size_t width = 0;
     for (const auto& row : rows) {
-        width = std::max(width, columnsOf(row.text));
+        width = std::max(width, text::columns(row.text));
     }
     for (const auto& row : rows) {
-        const auto gap = output.isTerminal() ? std::string(width - columnsOf(row.text) + kGap, ' ')
-                                             : std::string{'\t'};
+        const auto gap = output.isTerminal()
+                             ? std::string(width - text::columns(row.text) + kGap, ' ')
+                             : std::string{'\t'};
         output.stream << row.text << gap << row.detailText << '\n';
     }
 }

@@ -4,8 +4,8 @@
 #include "app/deep_link.h"
 #include "data/verb_finder.h"
 #include "fuzz/fuzz.h"
-#include "platform/text.h"
 #include "support/world.h"
+#include "text/text.h"
 
 #include <algorithm>
 
@@ -25,7 +25,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     }
     const auto& name = link->infinitive;
     fuzz::require(app::isDeepLink(text), "what was understood is a link");
-    fuzz::require(!name.empty() && platform::wellFormed(name) == name, "a name is a text");
+    fuzz::require(!name.empty() && text::wellFormed(name) == name, "a name is a text");
     fuzz::require(std::none_of(name.begin(), name.end(),
                                [](char c) { return static_cast<unsigned char>(c) < ' '; }),
                   "a name has no control characters");

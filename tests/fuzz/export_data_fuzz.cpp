@@ -5,8 +5,8 @@
 #include "data/verb.h"
 #include "export/export_data.h"
 #include "fuzz/fuzz.h"
-#include "platform/text.h"
 #include "support/world.h"
+#include "text/text.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
 #include <nlohmann/json.hpp>
@@ -29,11 +29,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
             data::Conjugation{source.ConsumeRandomLengthString(),
                               source.ConsumeRandomLengthString(), "participe", 0}));
     }
-    bool wellFormed = platform::wellFormed(verb.french) == verb.french &&
-                      platform::wellFormed(verb.english) == verb.english;
+    bool wellFormed = text::wellFormed(verb.french) == verb.french &&
+                      text::wellFormed(verb.english) == verb.english;
     for (const auto& form : verb.participe) {
-        wellFormed = wellFormed && platform::wellFormed(form->pronoun) == form->pronoun &&
-                     platform::wellFormed(form->verb) == form->verb;
+        wellFormed = wellFormed && text::wellFormed(form->pronoun) == form->pronoun &&
+                     text::wellFormed(form->verb) == form->verb;
     }
 
     const auto json = exporting::exportData(verb, world.services());

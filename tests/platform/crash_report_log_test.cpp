@@ -3,7 +3,7 @@
 
 #include "platform/crash_report_log.h"
 
-#include "platform/text.h"
+#include "text/text.h"
 
 #include "support/temporary_folder.h"
 
@@ -61,7 +61,7 @@ TEST(CrashReporter, FillsPlaceholdersInOrder)
         {"%d", {-2147483647 - 1}, "-2147483648"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(formatted(c.format, c.arguments), c.line);
+        EXPECT_EQ(text::formatted(c.format, c.arguments), c.line);
     }
 }
 
@@ -72,7 +72,7 @@ TEST(CrashReportLog, AnEntryStaysOneLineOfBoundedLength)
 
     log.logWithFormat("%@", {"a\nb\x01\x7f\xff"});
     log.logWithFormat("%@", {std::string(3000, 'x') + std::string(3000, '\n')});
-    log.logWithFormat("%@", {"x" + replaced(std::string(3000, '-'), "-", "é")});
+    log.logWithFormat("%@", {"x" + text::replaced(std::string(3000, '-'), "-", "é")});
 
     const std::string content = contentOf(folder / "state/log.txt");
     EXPECT_TRUE(content.starts_with("a\\nb\\x01\\x7f\uFFFD\n")) << content.substr(0, 80);

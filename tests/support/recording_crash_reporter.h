@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/crash_reporter.h"
+#include "text/text.h"
 
 #include <map>
 #include <string>
@@ -16,7 +17,7 @@ public:
     void logWithFormat(std::string_view format,
                        const std::vector<platform::LogArgument>& arguments) override
     {
-        lines.push_back(platform::formatted(format, arguments));
+        lines.push_back(text::formatted(format, arguments));
     }
     void setCustomValue(const platform::CustomValue& value, std::string_view key) override
     {

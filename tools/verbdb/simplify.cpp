@@ -4,12 +4,7 @@
 #include "verbdb/simplify.h"
 
 #include "conjugator/text_table.h"
-
-#include <unicode/normalizer2.h>
-#include <unicode/uchar.h>
-#include <unicode/unistr.h>
-
-#include <stdexcept>
+#include "text/text.h"
 
 namespace lumora::verbdb {
 
@@ -21,41 +16,13 @@ std::string_view withoutBrackets(std::string_view sense)
     return sense.ends_with(')') && open != std::string_view::npos ? sense.substr(0, open) : sense;
 }
 
-std::string folded(std::string_view text)
-{
-    UErrorCode error = U_ZERO_ERROR;
-    const auto* nfd = icu::Normalizer2::getNFDInstance(error);
-    const auto whole = icu::UnicodeString::fromUTF8(
-        icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
-    // Full case folding, not lower case: it opens ß to ss as well.
-    const auto decomposed = nfd->normalize(icu::UnicodeString(whole).foldCase(), error);
-    if (U_FAILURE(error)) {
-        throw std::runtime_error(u_errorName(error));
-    }
-
-    icu::UnicodeString plain;
-    for (int32_t at = 0; at < decomposed.length(); at = decomposed.moveIndex32(at, 1)) {
-        const auto c = decomposed.char32At(at);
-        if (c == U'œ') {
-            plain.append(u"oe", 2);
-        } else if (c == U'æ') {
-            plain.append(u"ae", 2);
-        } else if (u_charType(c) != U_NON_SPACING_MARK) {
-            plain.append(c);
-        }
-    }
-    std::string result;
-    plain.toUTF8String(result);
-    return result;
-}
-
 } // namespace
 
 std::string simplified(std::string_view text)
 {
     std::string result;
     for (const auto& sense : conjugator::split(text, ", ")) {
-        result += (result.empty() ? "" : ", ") + folded(withoutBrackets(sense));
+        result += (result.empty() ? "" : ", ") + text::folded(withoutBrackets(sense));
     }
     return result;
 }

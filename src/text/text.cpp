@@ -1,18 +1,20 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <fmt/format.h>
 #include <unicode/locid.h>
 #include <unicode/normalizer2.h>
+#include <unicode/uchar.h>
 #include <unicode/unistr.h>
+#include <unicode/ustring.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
-namespace lumora::platform {
+namespace lumora::text {
 
 namespace {
 
@@ -52,6 +54,17 @@ std::string encoded(const icu::UnicodeString& text)
     return result;
 }
 
+std::size_t columnsOf(UChar32 character)
+{
+    const auto category = u_charType(character);
+    if (category == U_NON_SPACING_MARK || category == U_ENCLOSING_MARK ||
+        category == U_FORMAT_CHAR) {
+        return 0;
+    }
+    const int width = u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH);
+    return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
+}
+
 } // namespace
 
 std::string upperCased(std::string_view text)
@@ -66,6 +79,34 @@ std::string upperCased(std::string_view text)
         return result;
     }
     return encoded(decoded(text).toUpper(icu::Locale::getRoot()));
+}
+
+std::string lowerCased(std::string_view text)
+{
+    return encoded(decoded(text).toLower(icu::Locale::getRoot()));
+}
+
+std::string folded(std::string_view text)
+{
+    // Full case folding, not lower case: it opens ß to ss as well.
+    auto whole = decoded(text).foldCase();
+    UErrorCode status = U_ZERO_ERROR;
+    const auto* const normalizer = icu::Normalizer2::getNFDInstance(status);
+    if (U_SUCCESS(status) != 0) {
+        whole = normalizer->normalize(icu::UnicodeString(whole), status);
+    }
+    icu::UnicodeString plain;
+    for (std::int32_t at = 0; at < whole.length(); at = whole.moveIndex32(at, 1)) {
+        const auto character = whole.char32At(at);
+        if (character == U'œ') {
+            plain.append(u"oe", 2);
+        } else if (character == U'æ') {
+            plain.append(u"ae", 2);
+        } else if (u_charType(character) != U_NON_SPACING_MARK) {
+            plain.append(character);
+        }
+    }
+    return encoded(plain);
 }
 
 std::string composed(std::string_view text)
@@ -104,6 +145,47 @@ std::string wellFormed(std::string_view text)
     return isPlainLatin(text) ? std::string(text) : encoded(decoded(text));
 }
 
+bool isWellFormed(std::string_view text)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    u_strFromUTF8(nullptr, 0, nullptr, text.data(), static_cast<std::int32_t>(text.size()),
+                  &status);
+    return status != U_INVALID_CHAR_FOUND;
+}
+
+bool isComposed(std::string_view text)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const auto* const normalizer = icu::Normalizer2::getNFCInstance(status);
+    return U_SUCCESS(status) != 0 &&
+           normalizer->isNormalizedUTF8({text.data(), static_cast<std::int32_t>(text.size())},
+                                        status) != 0;
+}
+
+std::u32string characters(std::string_view text)
+{
+    const auto whole = decoded(text);
+    std::u32string result;
+    for (std::int32_t at = 0; at < whole.length(); at = whole.moveIndex32(at, 1)) {
+        result += static_cast<char32_t>(whole.char32At(at));
+    }
+    return result;
+}
+
+std::size_t columns(std::string_view text)
+{
+    std::size_t sum = 0;
+    for (const auto character : characters(text)) {
+        sum += columnsOf(static_cast<UChar32>(character));
+    }
+    return sum;
+}
+
+std::string trimmed(std::string_view text)
+{
+    return encoded(decoded(text).trim());
+}
+
 std::string replaced(std::string text, std::string_view what, std::string_view by)
 {
     for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size())) {
@@ -129,4 +211,4 @@ std::string formatted(std::string_view format, const std::vector<FormatArgument>
     return line;
 }
 
-} // namespace lumora::platform
+} // namespace lumora::text

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/text.h"
+#include "text/text.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace lumora::platform {
+namespace lumora::text {
 
 TEST(Text, UpperCaseIsTheFullMappingWithoutALanguage)
 {
@@ -62,4 +62,4 @@ TEST(Text, OrdersByTheScalarsOfTheComposedForms)
     EXPECT_TRUE(scalarLess("f", "e\u0301")) << "composed, é comes after f";
 }
 
-} // namespace lumora::platform
+} // namespace lumora::text

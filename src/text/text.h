@@ -10,13 +10,20 @@
 #include <vector>
 
 /// Unicode operations on UTF-8 texts. Malformed bytes become U+FFFD.
-namespace lumora::platform {
+namespace lumora::text {
 
 /// Upper case by the full mapping, independent of any language (ß becomes SS).
 std::string upperCased(std::string_view text);
 
 /// The canonically composed form (NFC).
 std::string composed(std::string_view text);
+
+/// Lower case by the full mapping, independent of any language.
+std::string lowerCased(std::string_view text);
+
+/// Without regard to case, accents and ligatures: "Œuvrer" and "oeuvrer" are the
+/// same, ß is ss.
+std::string folded(std::string_view text);
 
 /// Orders by the scalar values of the composed forms, no collation.
 bool scalarLess(std::string_view left, std::string_view right);
@@ -27,6 +34,21 @@ std::size_t characterCount(std::string_view text);
 /// Well-formed UTF-8 with each malformed sequence replaced.
 std::string wellFormed(std::string_view text);
 
+bool isWellFormed(std::string_view text);
+
+/// Whether the text is in canonically composed form.
+bool isComposed(std::string_view text);
+
+/// The scalar values.
+std::u32string characters(std::string_view text);
+
+/// How many columns of a terminal the text takes; marks take none, wide
+/// characters two.
+std::size_t columns(std::string_view text);
+
+/// `text` without the white space at its ends.
+std::string trimmed(std::string_view text);
+
 /// `text` with every `what`, which is not empty, replaced.
 std::string replaced(std::string text, std::string_view what, std::string_view by);
 
@@ -36,4 +58,4 @@ using FormatArgument = std::variant<std::string, int>;
 /// an argument stays as it is.
 std::string formatted(std::string_view format, const std::vector<FormatArgument>& arguments);
 
-} // namespace lumora::platform
+} // namespace lumora::text
