@@ -4,8 +4,8 @@
 #pragma once
 
 #include "app/main_storyboard.h"
+#include "platform/base/notification_center.h"
 #include "platform/database_queue.h"
-#include "platform/notification_center.h"
 #include "platform/settings_store.h"
 #include "support/world.h"
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "data/verb.h"
-#include "platform/color.h"
+#include "platform/base/color.h"
 #include "platform/database_queue.h"
 #include "platform/services.h"
 #include "platform/split_view_controller.h"

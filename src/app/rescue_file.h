@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/error.h"
+#include "platform/base/error.h"
 
 #include <cstdint>
 #include <filesystem>

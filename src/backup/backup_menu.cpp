@@ -3,9 +3,9 @@
 
 #include "backup/backup_menu.h"
 
+#include "platform/base/notification_center.h"
 #include "platform/bundle.h"
 #include "platform/clock.h"
-#include "platform/notification_center.h"
 #include "platform/presenter.h"
 #include "text/text.h"
 

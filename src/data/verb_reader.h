@@ -5,7 +5,7 @@
 
 #include "data/conjugation.h"
 #include "data/verb.h"
-#include "platform/error.h"
+#include "platform/base/error.h"
 
 namespace lumora::platform {
 class ResultSet;

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "lists/removable_verb_list_controller.h"
-#include "platform/notification_center.h"
+#include "platform/base/notification_center.h"
 
 namespace lumora::lists {
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "lists/interstitial_table_view_controller.h"
-#include "platform/notification_center.h"
+#include "platform/base/notification_center.h"
 
 #include <map>
 #include <string>

@@ -7,7 +7,7 @@
 #include "lists/search_results_table_view_controller.h"
 #include "navigation/navigation_drawer_table_table_view_controller.h"
 #include "navigation/options_table_view_controller.h"
-#include "platform/notification_center.h"
+#include "platform/base/notification_center.h"
 #include "platform/services.h"
 #include "platform/view_controller.h"
 

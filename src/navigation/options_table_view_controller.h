@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/color.h"
+#include "platform/base/color.h"
 #include "platform/table_view_controller.h"
 
 #include <memory>

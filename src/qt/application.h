@@ -5,10 +5,10 @@
 
 #include "app/app_delegate.h"
 #include "app/main_storyboard.h"
+#include "platform/base/notification_center.h"
 #include "platform/crash_report_log.h"
 #include "platform/file_settings_store.h"
 #include "platform/local_analytics.h"
-#include "platform/notification_center.h"
 #include "platform/services.h"
 #include "qt/appearance.h"
 #include "qt/desktop.h"

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/color.h"
+#include "platform/base/color.h"
 
 #include <QColor>
 

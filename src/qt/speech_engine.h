@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/error.h"
+#include "platform/base/error.h"
 #include "platform/speech_synthesizer.h"
 #include "qt/espeak_voice.h"
 #include "qt/speech.h"

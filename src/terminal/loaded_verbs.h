@@ -4,7 +4,7 @@
 #pragma once
 
 #include "detail/verb_detail_table_view_controller.h"
-#include "platform/error.h"
+#include "platform/base/error.h"
 
 #include <memory>
 #include <string_view>

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "app/main_storyboard.h"
+#include "platform/base/error.h"
+#include "platform/base/notification_center.h"
 #include "platform/database_queue.h"
-#include "platform/error.h"
-#include "platform/notification_center.h"
 #include "platform/services.h"
 #include "platform/settings_store.h"
 #include "qt/qt_bundle.h"

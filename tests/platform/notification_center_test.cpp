@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/notification_center.h"
+#include "platform/base/notification_center.h"
 
 #include <gtest/gtest.h>
 

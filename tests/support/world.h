@@ -5,7 +5,7 @@
 
 #include "app/main_storyboard.h"
 #include "data/verb.h"
-#include "platform/notification_center.h"
+#include "platform/base/notification_center.h"
 #include "platform/services.h"
 #include "platform/settings_store.h"
 #include "platform/table_view_controller.h"
