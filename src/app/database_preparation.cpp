@@ -4,10 +4,10 @@
 #include "app/database_preparation.h"
 
 #include "app/rescue_file.h"
-#include "platform/atomic_file.h"
 #include "platform/bundle.h"
 #include "platform/crash_reporter.h"
 #include "platform/database_queue.h"
+#include "platform/files/atomic_file.h"
 #include "platform/settings_store.h"
 #include "settings/setting_keys.h"
 

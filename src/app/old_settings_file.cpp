@@ -4,8 +4,8 @@
 #include "app/old_settings_file.h"
 
 #include "app/rescue_file.h"
-#include "platform/atomic_file.h"
 #include "platform/crash_reporter.h"
+#include "platform/files/atomic_file.h"
 #include "platform/property_list.h"
 #include "platform/settings_store.h"
 #include "settings/setting_keys.h"

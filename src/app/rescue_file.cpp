@@ -3,7 +3,7 @@
 
 #include "app/rescue_file.h"
 
-#include "platform/atomic_file.h"
+#include "platform/files/atomic_file.h"
 
 #include <algorithm>
 #include <string>

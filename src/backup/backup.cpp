@@ -5,9 +5,9 @@
 
 #include "backup/backup_document.h"
 #include "data/history_record.h"
-#include "platform/atomic_file.h"
 #include "platform/clock.h"
 #include "platform/database_queue.h"
+#include "platform/files/atomic_file.h"
 #include "platform/transaction.h"
 #include "text/text.h"
 

@@ -4,8 +4,8 @@
 #include "export/verb_export.h"
 
 #include "export/export_data.h"
-#include "platform/atomic_file.h"
 #include "platform/bundle.h"
+#include "platform/files/atomic_file.h"
 #include "platform/java_script_context.h"
 #include "platform/services.h"
 #include "text/text.h"

@@ -3,8 +3,8 @@
 
 #include "platform/crash_report_log.h"
 
-#include "platform/atomic_file.h"
 #include "platform/crash_handler.h"
+#include "platform/files/atomic_file.h"
 #include "text/text.h"
 
 #include <fmt/format.h>

@@ -3,7 +3,7 @@
 
 #include "platform/file_settings_store.h"
 
-#include "platform/atomic_file.h"
+#include "platform/files/atomic_file.h"
 
 #include <nlohmann/json.hpp>
 

@@ -3,7 +3,7 @@
 
 #include "platform/local_analytics.h"
 
-#include "platform/atomic_file.h"
+#include "platform/files/atomic_file.h"
 
 #include <nlohmann/json.hpp>
 

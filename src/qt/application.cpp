@@ -3,7 +3,7 @@
 
 #include "qt/application.h"
 
-#include "platform/atomic_file.h"
+#include "platform/files/atomic_file.h"
 #include "qt/color_conversion.h"
 #include "qt/icon_provider.h"
 #include "qt/text_conversion.h"

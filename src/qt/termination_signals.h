@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/file_descriptor.h"
+#include "platform/files/file_descriptor.h"
 
 #include <QObject>
 #include <QSocketNotifier>

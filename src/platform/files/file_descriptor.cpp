@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/file_descriptor.h"
+#include "platform/files/file_descriptor.h"
 
 #include <cerrno>
 #include <system_error>

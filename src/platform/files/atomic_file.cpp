@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/atomic_file.h"
+#include "platform/files/atomic_file.h"
 
-#include "platform/file_descriptor.h"
+#include "platform/files/file_descriptor.h"
 
 #include <array>
 #include <cerrno>
