@@ -5,8 +5,8 @@
 
 #include "app/main_storyboard.h"
 #include "platform/base/notification_center.h"
-#include "platform/database_queue.h"
-#include "platform/settings_store.h"
+#include "platform/storage/database_queue.h"
+#include "platform/storage/settings_store.h"
 #include "support/world.h"
 
 #include <cstdint>

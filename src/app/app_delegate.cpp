@@ -18,7 +18,7 @@
 #include "platform/device.h"
 #include "platform/navigation_controller.h"
 #include "platform/presenter.h"
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 #include "settings/default_settings.h"
 
 #include <array>

@@ -5,9 +5,9 @@
 
 #include "data/verb.h"
 #include "platform/base/color.h"
-#include "platform/database_queue.h"
 #include "platform/services.h"
 #include "platform/split_view_controller.h"
+#include "platform/storage/database_queue.h"
 
 #include <filesystem>
 #include <functional>

@@ -6,9 +6,9 @@
 #include "app/rescue_file.h"
 #include "platform/bundle.h"
 #include "platform/crash_reporter.h"
-#include "platform/database_queue.h"
 #include "platform/files/atomic_file.h"
-#include "platform/settings_store.h"
+#include "platform/storage/database_queue.h"
+#include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 
 #include <cerrno>

@@ -6,8 +6,8 @@
 #include "app/rescue_file.h"
 #include "platform/crash_reporter.h"
 #include "platform/files/atomic_file.h"
-#include "platform/property_list.h"
-#include "platform/settings_store.h"
+#include "platform/storage/property_list.h"
+#include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 
 #include <algorithm>

@@ -6,9 +6,9 @@
 #include "backup/backup_document.h"
 #include "data/history_record.h"
 #include "platform/clock.h"
-#include "platform/database_queue.h"
 #include "platform/files/atomic_file.h"
-#include "platform/transaction.h"
+#include "platform/storage/database_queue.h"
+#include "platform/storage/transaction.h"
 #include "text/text.h"
 
 #include <algorithm>

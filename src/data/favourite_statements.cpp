@@ -4,7 +4,7 @@
 #include "data/favourite_statements.h"
 
 #include "data/verb.h"
-#include "platform/database.h"
+#include "platform/storage/database.h"
 
 #include <ostream>
 

@@ -3,7 +3,7 @@
 
 #include "data/history_record.h"
 
-#include "platform/database.h"
+#include "platform/storage/database.h"
 
 namespace lumora::data {
 

@@ -4,7 +4,7 @@
 #include "data/tense_table.h"
 
 #include "platform/bundle.h"
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 
 namespace lumora::data {

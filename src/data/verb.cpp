@@ -4,7 +4,7 @@
 #include "data/verb.h"
 
 #include "platform/device.h"
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 
 #include <cstdlib>

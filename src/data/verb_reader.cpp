@@ -3,7 +3,7 @@
 
 #include "data/verb_reader.h"
 
-#include "platform/database.h"
+#include "platform/storage/database.h"
 
 #include <string_view>
 #include <utility>

@@ -4,7 +4,7 @@
 #include "detail/audio_utils.h"
 
 #include "data/conjugation.h"
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 #include "text/text.h"
 

@@ -7,7 +7,7 @@
 #include "lists/verb_cell.h"
 #include "platform/bundle.h"
 #include "platform/crash_reporter.h"
-#include "platform/database_queue.h"
+#include "platform/storage/database_queue.h"
 
 #include <cstdlib>
 

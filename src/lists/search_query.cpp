@@ -4,7 +4,7 @@
 #include "lists/search_query.h"
 
 #include "lists/sort_column.h"
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 #include "settings/search_from.h"
 #include "settings/setting_keys.h"
 #include "settings/translation_language.h"

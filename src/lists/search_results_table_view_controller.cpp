@@ -7,8 +7,8 @@
 #include "lists/search_query.h"
 #include "lists/verb_cell.h"
 #include "platform/crash_reporter.h"
-#include "platform/database_queue.h"
 #include "platform/packed_search.h"
+#include "platform/storage/database_queue.h"
 
 #include <cstdlib>
 #include <optional>

@@ -3,7 +3,7 @@
 
 #include "lists/sort_column.h"
 
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 #include "settings/translation_language.h"
 

@@ -10,7 +10,7 @@
 #include "platform/analytics.h"
 #include "platform/bundle.h"
 #include "platform/crash_reporter.h"
-#include "platform/database_queue.h"
+#include "platform/storage/database_queue.h"
 #include "text/text.h"
 
 #include <algorithm>

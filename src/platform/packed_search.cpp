@@ -3,8 +3,8 @@
 
 #include "platform/packed_search.h"
 
-#include "platform/database.h"
 #include "platform/resident_table.h"
+#include "platform/storage/database.h"
 
 #include <sqlite3.h>
 

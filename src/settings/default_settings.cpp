@@ -3,7 +3,7 @@
 
 #include "settings/default_settings.h"
 
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 
 namespace lumora::settings {

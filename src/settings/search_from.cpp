@@ -3,7 +3,7 @@
 
 #include "settings/search_from.h"
 
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 
 #include <string>

@@ -5,7 +5,7 @@
 #include "fault/fault_harness.h"
 #include "lists/favourites_table_view_controller.h"
 #include "lists/history_table_view_controller.h"
-#include "platform/file_settings_store.h"
+#include "platform/storage/file_settings_store.h"
 #include "support/fake_bundle.h"
 #include "support/recording_crash_reporter.h"
 #include "support/temporary_folder.h"

@@ -3,7 +3,7 @@
 
 #include "app/old_settings_file.h"
 #include "fuzz/fuzz.h"
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 #include "support/recording_crash_reporter.h"
 #include "support/temporary_folder.h"
 

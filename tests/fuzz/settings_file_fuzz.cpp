@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "fuzz/fuzz.h"
-#include "platform/file_settings_store.h"
+#include "platform/storage/file_settings_store.h"
 #include "settings/translation_language.h"
 #include "support/fake_device.h"
 #include "support/temporary_folder.h"

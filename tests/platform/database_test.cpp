@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/database_queue.h"
+#include "platform/storage/database_queue.h"
 
 #include "support/statements.h"
 #include "support/temporary_folder.h"

@@ -3,8 +3,8 @@
 
 #include "platform/packed_search.h"
 
-#include "platform/database_queue.h"
 #include "platform/packed_pattern.h"
+#include "platform/storage/database_queue.h"
 #include "support/statements.h"
 #include "support/stock_sqlite.h"
 #include "support/temporary_folder.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/file_settings_store.h"
+#include "platform/storage/file_settings_store.h"
 
 #include "support/temporary_folder.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/database_queue.h"
+#include "platform/storage/database_queue.h"
 
 #include <gtest/gtest.h>
 

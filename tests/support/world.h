@@ -7,7 +7,7 @@
 #include "data/verb.h"
 #include "platform/base/notification_center.h"
 #include "platform/services.h"
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 #include "platform/table_view_controller.h"
 #include "support/fake_bundle.h"
 #include "support/fake_clock.h"

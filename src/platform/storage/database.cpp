@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/database.h"
+#include "platform/storage/database.h"
 
 #include "platform/quick_like.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/database.h"
+#include "platform/storage/database.h"
 
 #include <atomic>
 #include <filesystem>

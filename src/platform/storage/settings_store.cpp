@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 
 #include <fmt/format.h>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/transaction.h"
+#include "platform/storage/transaction.h"
 
-#include "platform/database.h"
+#include "platform/storage/database.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/property_list.h"
+#include "platform/storage/property_list.h"
 
 #include <plist/plist.h>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/settings_store.h"
+#include "platform/storage/settings_store.h"
 
 #include <filesystem>
 #include <optional>
