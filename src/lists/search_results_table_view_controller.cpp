@@ -7,7 +7,7 @@
 #include "lists/search_query.h"
 #include "lists/verb_cell.h"
 #include "platform/crash_reporter.h"
-#include "platform/packed_search.h"
+#include "platform/form_search/packed_search.h"
 #include "platform/storage/database_queue.h"
 
 #include <cstdlib>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/packed_search.h"
+#include "platform/form_search/packed_search.h"
 
-#include "platform/packed_pattern.h"
+#include "platform/form_search/packed_pattern.h"
 #include "platform/storage/database_queue.h"
 #include "support/statements.h"
 #include "support/stock_sqlite.h"

@@ -3,7 +3,7 @@
 
 #include "platform/storage/database.h"
 
-#include "platform/quick_like.h"
+#include "platform/form_search/quick_like.h"
 
 #include <sqlite3.h>
 

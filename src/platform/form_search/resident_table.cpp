@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/resident_table.h"
+#include "platform/form_search/resident_table.h"
 
 #include <sqlite3.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/packed_pattern.h"
+#include "platform/form_search/packed_pattern.h"
 
 #include <sqlite3.h>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/packed_search.h"
+#include "platform/form_search/packed_search.h"
 
-#include "platform/resident_table.h"
+#include "platform/form_search/resident_table.h"
 #include "platform/storage/database.h"
 
 #include <sqlite3.h>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/quick_like.h"
+#include "platform/form_search/quick_like.h"
 
-#include "platform/packed_pattern.h"
-#include "platform/resident_table.h"
+#include "platform/form_search/packed_pattern.h"
+#include "platform/form_search/resident_table.h"
 
 #include <sqlite3.h>
 
