@@ -4,9 +4,9 @@
 #include "app/database_preparation.h"
 
 #include "app/rescue_file.h"
-#include "platform/bundle.h"
-#include "platform/crash_reporter.h"
 #include "platform/files/atomic_file.h"
+#include "platform/machine/bundle.h"
+#include "platform/machine/crash_reporter.h"
 #include "platform/storage/database_queue.h"
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"

@@ -4,8 +4,8 @@
 #include "app/old_settings_file.h"
 
 #include "app/rescue_file.h"
-#include "platform/crash_reporter.h"
 #include "platform/files/atomic_file.h"
+#include "platform/machine/crash_reporter.h"
 #include "platform/storage/property_list.h"
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"

@@ -5,8 +5,8 @@
 
 #include "backup/backup_document.h"
 #include "data/history_record.h"
-#include "platform/clock.h"
 #include "platform/files/atomic_file.h"
+#include "platform/machine/clock.h"
 #include "platform/storage/database_queue.h"
 #include "platform/storage/transaction.h"
 #include "text/text.h"

@@ -4,8 +4,8 @@
 #include "backup/backup_menu.h"
 
 #include "platform/base/notification_center.h"
-#include "platform/bundle.h"
-#include "platform/clock.h"
+#include "platform/machine/bundle.h"
+#include "platform/machine/clock.h"
 #include "platform/presenter.h"
 #include "text/text.h"
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "backup/backup.h"
-#include "platform/file_chooser.h"
+#include "platform/machine/file_chooser.h"
 #include "platform/services.h"
 
 #include <filesystem>

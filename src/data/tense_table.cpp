@@ -3,7 +3,7 @@
 
 #include "data/tense_table.h"
 
-#include "platform/bundle.h"
+#include "platform/machine/bundle.h"
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 

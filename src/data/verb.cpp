@@ -3,7 +3,7 @@
 
 #include "data/verb.h"
 
-#include "platform/device.h"
+#include "platform/machine/device.h"
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 

@@ -8,8 +8,8 @@
 #include "detail/verb_collection_view_cell.h"
 #include "platform/base/notification_center.h"
 #include "platform/collection_view.h"
+#include "platform/machine/speech_synthesizer.h"
 #include "platform/services.h"
-#include "platform/speech_synthesizer.h"
 #include "platform/table_view.h"
 #include "platform/view_controller.h"
 

@@ -5,7 +5,7 @@
 
 #include "data/tense_table.h"
 #include "data/verb.h"
-#include "platform/bundle.h"
+#include "platform/machine/bundle.h"
 #include "platform/services.h"
 #include "text/text.h"
 

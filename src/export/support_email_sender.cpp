@@ -4,10 +4,10 @@
 #include "export/support_email_sender.h"
 
 #include "build_settings.h"
-#include "platform/bundle.h"
-#include "platform/device.h"
+#include "platform/machine/bundle.h"
+#include "platform/machine/device.h"
+#include "platform/machine/url_opener.h"
 #include "platform/presenter.h"
-#include "platform/url_opener.h"
 
 #include <cstdio>
 #include <cstdlib>

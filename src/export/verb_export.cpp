@@ -4,9 +4,9 @@
 #include "export/verb_export.h"
 
 #include "export/export_data.h"
-#include "platform/bundle.h"
 #include "platform/files/atomic_file.h"
-#include "platform/java_script_context.h"
+#include "platform/machine/bundle.h"
+#include "platform/machine/java_script_context.h"
 #include "platform/services.h"
 #include "text/text.h"
 

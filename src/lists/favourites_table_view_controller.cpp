@@ -4,7 +4,7 @@
 #include "lists/favourites_table_view_controller.h"
 
 #include "lists/sort_column.h"
-#include "platform/analytics.h"
+#include "platform/machine/analytics.h"
 
 #include <string>
 

@@ -5,8 +5,8 @@
 
 #include "data/verb_reader.h"
 #include "lists/verb_cell.h"
-#include "platform/bundle.h"
-#include "platform/crash_reporter.h"
+#include "platform/machine/bundle.h"
+#include "platform/machine/crash_reporter.h"
 #include "platform/storage/database_queue.h"
 
 #include <cstdlib>

@@ -6,8 +6,8 @@
 #include "data/verb_reader.h"
 #include "lists/search_query.h"
 #include "lists/verb_cell.h"
-#include "platform/crash_reporter.h"
 #include "platform/form_search/packed_search.h"
+#include "platform/machine/crash_reporter.h"
 #include "platform/storage/database_queue.h"
 
 #include <cstdlib>

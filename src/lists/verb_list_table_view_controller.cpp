@@ -7,9 +7,9 @@
 #include "data/verb_reader.h"
 #include "lists/sort_column.h"
 #include "lists/verb_cell.h"
-#include "platform/analytics.h"
-#include "platform/bundle.h"
-#include "platform/crash_reporter.h"
+#include "platform/machine/analytics.h"
+#include "platform/machine/bundle.h"
+#include "platform/machine/crash_reporter.h"
 #include "platform/storage/database_queue.h"
 #include "text/text.h"
 

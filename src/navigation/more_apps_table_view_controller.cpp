@@ -4,12 +4,12 @@
 #include "navigation/more_apps_table_view_controller.h"
 
 #include "build_settings.h"
-#include "platform/analytics.h"
-#include "platform/bundle.h"
-#include "platform/device.h"
+#include "platform/machine/analytics.h"
+#include "platform/machine/bundle.h"
+#include "platform/machine/device.h"
+#include "platform/machine/url_opener.h"
 #include "platform/navigation_controller.h"
 #include "platform/presenter.h"
-#include "platform/url_opener.h"
 
 #include <algorithm>
 #include <iterator>

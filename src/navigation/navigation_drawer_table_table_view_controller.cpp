@@ -3,10 +3,10 @@
 
 #include "navigation/navigation_drawer_table_table_view_controller.h"
 
-#include "platform/bundle.h"
+#include "platform/machine/bundle.h"
+#include "platform/machine/url_opener.h"
 #include "platform/navigation_controller.h"
 #include "platform/presenter.h"
-#include "platform/url_opener.h"
 
 #include <iterator>
 #include <ostream>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/crash_reporter.h"
+#include "platform/machine/crash_reporter.h"
 
 #include <cstddef>
 #include <filesystem>

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/analytics.h"
-#include "platform/clock.h"
+#include "platform/machine/analytics.h"
+#include "platform/machine/clock.h"
 
 #include <cstddef>
 #include <filesystem>

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/review_prompter.h"
-#include "platform/url_opener.h"
+#include "platform/machine/review_prompter.h"
+#include "platform/machine/url_opener.h"
 
 namespace lumora::qt {
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/url_opener.h"
+#include "platform/machine/url_opener.h"
 #include "qt/desktop.h"
 #include "qt/portal.h"
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/base/error.h"
-#include "platform/speech_synthesizer.h"
+#include "platform/machine/speech_synthesizer.h"
 #include "qt/speech.h"
 
 #include <atomic>

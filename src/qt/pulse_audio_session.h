@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/audio_session.h"
+#include "platform/machine/audio_session.h"
 
 #include <atomic>
 #include <cstdint>

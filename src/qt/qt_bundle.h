@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/bundle.h"
+#include "platform/machine/bundle.h"
 
 #include <map>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/file_chooser.h"
+#include "platform/machine/file_chooser.h"
 #include "platform/presenter.h"
 #include "qt/desktop_documents.h"
 #include "qt/file_location.h"

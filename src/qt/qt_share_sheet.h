@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/file_chooser.h"
+#include "platform/machine/file_chooser.h"
 #include "platform/mail_composer.h"
 #include "platform/presenter.h"
 #include "platform/share_sheet.h"

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/speech_synthesizer.h"
+#include "platform/machine/speech_synthesizer.h"
 #include "qt/speech.h"
 #include "qt/speech_engine.h"
 #include "qt/speech_sink.h"

@@ -3,7 +3,7 @@
 
 #include "settings/translation_language.h"
 
-#include "platform/device.h"
+#include "platform/machine/device.h"
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 

@@ -3,7 +3,7 @@
 
 #include "app/database_preparation.h"
 #include "backup/backup.h"
-#include "platform/clock.h"
+#include "platform/machine/clock.h"
 #include "platform/storage/database_queue.h"
 #include "qt/standard_folders.h"
 #include "terminal/arguments.h"

@@ -3,15 +3,15 @@
 
 #pragma once
 
-#include "platform/analytics.h"
-#include "platform/audio_session.h"
-#include "platform/file_chooser.h"
+#include "platform/machine/analytics.h"
+#include "platform/machine/audio_session.h"
+#include "platform/machine/file_chooser.h"
+#include "platform/machine/review_prompter.h"
+#include "platform/machine/speech_synthesizer.h"
+#include "platform/machine/url_opener.h"
 #include "platform/mail_composer.h"
 #include "platform/presenter.h"
-#include "platform/review_prompter.h"
 #include "platform/share_sheet.h"
-#include "platform/speech_synthesizer.h"
-#include "platform/url_opener.h"
 
 #include <functional>
 #include <memory>

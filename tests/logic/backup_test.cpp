@@ -6,7 +6,7 @@
 #include "detail/verb_detail_table_view_controller.h"
 #include "lists/history_table_view_controller.h"
 #include "navigation/options_table_view_controller.h"
-#include "platform/clock.h"
+#include "platform/machine/clock.h"
 #include "support/world.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/speech_synthesizer.h"
+#include "platform/machine/speech_synthesizer.h"
 
 #include <QElapsedTimer>
 #include <QtTest/QTest>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/clock.h"
+#include "platform/machine/clock.h"
 
 #include <chrono>
 #include <functional>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/device.h"
+#include "platform/machine/device.h"
 
 #include <optional>
 #include <string>

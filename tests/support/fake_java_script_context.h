@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/java_script_context.h"
+#include "platform/machine/java_script_context.h"
 
 #include <cstddef>
 #include <memory>

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/audio_session.h"
-#include "platform/speech_synthesizer.h"
+#include "platform/machine/audio_session.h"
+#include "platform/machine/speech_synthesizer.h"
 
 #include <cstddef>
 #include <memory>

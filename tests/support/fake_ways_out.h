@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include "platform/file_chooser.h"
+#include "platform/machine/file_chooser.h"
+#include "platform/machine/review_prompter.h"
+#include "platform/machine/url_opener.h"
 #include "platform/mail_composer.h"
-#include "platform/review_prompter.h"
 #include "platform/share_sheet.h"
-#include "platform/url_opener.h"
 
 #include <memory>
 #include <optional>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/analytics.h"
+#include "platform/machine/analytics.h"
 
 #include <map>
 #include <optional>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/bundle.h"
+#include "platform/machine/bundle.h"
 
 namespace lumora::platform {
 
