@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/crash_report_log.h"
+#include "platform/records/crash_report_log.h"
 
 #include "text/text.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/local_analytics.h"
+#include "platform/records/local_analytics.h"
 
 #include "support/fake_clock.h"
 #include "support/temporary_folder.h"

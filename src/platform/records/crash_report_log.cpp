@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/crash_report_log.h"
+#include "platform/records/crash_report_log.h"
 
-#include "platform/crash_handler.h"
 #include "platform/files/atomic_file.h"
+#include "platform/records/crash_handler.h"
 #include "text/text.h"
 
 #include <fmt/format.h>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/crash_handler.h"
+#include "platform/records/crash_handler.h"
 
 #include <algorithm>
 #include <array>
