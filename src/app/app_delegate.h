@@ -5,8 +5,8 @@
 
 #include "data/verb.h"
 #include "platform/base/color.h"
-#include "platform/services.h"
-#include "platform/split_view_controller.h"
+#include "platform/screens/services.h"
+#include "platform/screens/split_view_controller.h"
 #include "platform/storage/database_queue.h"
 
 #include <filesystem>

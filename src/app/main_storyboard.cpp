@@ -12,8 +12,8 @@
 #include "navigation/more_apps_table_view_controller.h"
 #include "navigation/navigation_drawer_table_table_view_controller.h"
 #include "navigation/options_table_view_controller.h"
-#include "platform/navigation_controller.h"
-#include "platform/split_view_controller.h"
+#include "platform/screens/navigation_controller.h"
+#include "platform/screens/split_view_controller.h"
 
 #include <cstdio>
 #include <cstdlib>

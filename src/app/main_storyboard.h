@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/services.h"
-#include "platform/storyboard.h"
+#include "platform/screens/services.h"
+#include "platform/screens/storyboard.h"
 
 #include <memory>
 

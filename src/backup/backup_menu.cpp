@@ -6,7 +6,7 @@
 #include "platform/base/notification_center.h"
 #include "platform/machine/bundle.h"
 #include "platform/machine/clock.h"
-#include "platform/presenter.h"
+#include "platform/screens/presenter.h"
 #include "text/text.h"
 
 #include <ostream>

@@ -5,7 +5,7 @@
 
 #include "backup/backup.h"
 #include "platform/machine/file_chooser.h"
-#include "platform/services.h"
+#include "platform/screens/services.h"
 
 #include <filesystem>
 #include <memory>

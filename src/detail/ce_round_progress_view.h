@@ -4,7 +4,7 @@
 #pragma once
 
 #include "detail/ce_round_progress_layer.h"
-#include "platform/animated_layer.h"
+#include "platform/screens/animated_layer.h"
 
 namespace lumora::detail {
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "detail/ce_round_progress_view.h"
-#include "platform/collection_view.h"
+#include "platform/screens/collection_view.h"
 
 #include <array>
 #include <cstddef>

@@ -15,12 +15,12 @@
 #include "platform/machine/crash_reporter.h"
 #include "platform/machine/device.h"
 #include "platform/machine/review_prompter.h"
-#include "platform/presenter.h"
-#include "platform/share_sheet.h"
-#include "platform/split_view_controller.h"
+#include "platform/screens/presenter.h"
+#include "platform/screens/share_sheet.h"
+#include "platform/screens/split_view_controller.h"
+#include "platform/screens/view_factory.h"
 #include "platform/storage/database_queue.h"
 #include "platform/storage/settings_store.h"
-#include "platform/view_factory.h"
 #include "settings/setting_keys.h"
 
 #include <algorithm>

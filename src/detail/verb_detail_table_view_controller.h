@@ -7,11 +7,11 @@
 #include "data/verb.h"
 #include "detail/verb_collection_view_cell.h"
 #include "platform/base/notification_center.h"
-#include "platform/collection_view.h"
 #include "platform/machine/speech_synthesizer.h"
-#include "platform/services.h"
-#include "platform/table_view.h"
-#include "platform/view_controller.h"
+#include "platform/screens/collection_view.h"
+#include "platform/screens/services.h"
+#include "platform/screens/table_view.h"
+#include "platform/screens/view_controller.h"
 
 #include <array>
 #include <cstddef>

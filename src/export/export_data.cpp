@@ -6,7 +6,7 @@
 #include "data/tense_table.h"
 #include "data/verb.h"
 #include "platform/machine/bundle.h"
-#include "platform/services.h"
+#include "platform/screens/services.h"
 #include "text/text.h"
 
 #include <nlohmann/json.hpp>

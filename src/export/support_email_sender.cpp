@@ -7,7 +7,7 @@
 #include "platform/machine/bundle.h"
 #include "platform/machine/device.h"
 #include "platform/machine/url_opener.h"
-#include "platform/presenter.h"
+#include "platform/screens/presenter.h"
 
 #include <cstdio>
 #include <cstdlib>

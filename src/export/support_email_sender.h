@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/mail_composer.h"
-#include "platform/services.h"
+#include "platform/screens/mail_composer.h"
+#include "platform/screens/services.h"
 
 #include <memory>
 #include <string>

@@ -7,7 +7,7 @@
 #include "platform/files/atomic_file.h"
 #include "platform/machine/bundle.h"
 #include "platform/machine/java_script_context.h"
-#include "platform/services.h"
+#include "platform/screens/services.h"
 #include "text/text.h"
 
 #include <cerrno>

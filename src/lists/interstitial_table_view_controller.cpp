@@ -4,9 +4,9 @@
 #include "lists/interstitial_table_view_controller.h"
 
 #include "detail/verb_detail_table_view_controller.h"
-#include "platform/navigation_controller.h"
-#include "platform/presenter.h"
-#include "platform/split_view_controller.h"
+#include "platform/screens/navigation_controller.h"
+#include "platform/screens/presenter.h"
+#include "platform/screens/split_view_controller.h"
 
 namespace lumora::lists {
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "data/verb.h"
-#include "platform/table_view_controller.h"
+#include "platform/screens/table_view_controller.h"
 
 #include <cstdint>
 #include <optional>

@@ -4,7 +4,7 @@
 #include "lists/verb_cell.h"
 
 #include "data/verb.h"
-#include "platform/services.h"
+#include "platform/screens/services.h"
 
 namespace lumora::lists {
 

@@ -8,8 +8,8 @@
 #include "navigation/navigation_drawer_table_table_view_controller.h"
 #include "navigation/options_table_view_controller.h"
 #include "platform/base/notification_center.h"
-#include "platform/services.h"
-#include "platform/view_controller.h"
+#include "platform/screens/services.h"
+#include "platform/screens/view_controller.h"
 
 #include <functional>
 #include <memory>

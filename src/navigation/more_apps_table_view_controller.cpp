@@ -8,8 +8,8 @@
 #include "platform/machine/bundle.h"
 #include "platform/machine/device.h"
 #include "platform/machine/url_opener.h"
-#include "platform/navigation_controller.h"
-#include "platform/presenter.h"
+#include "platform/screens/navigation_controller.h"
+#include "platform/screens/presenter.h"
 
 #include <algorithm>
 #include <iterator>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "navigation/product_list.h"
-#include "platform/table_view_controller.h"
+#include "platform/screens/table_view_controller.h"
 
 #include <vector>
 

@@ -5,8 +5,8 @@
 
 #include "platform/machine/bundle.h"
 #include "platform/machine/url_opener.h"
-#include "platform/navigation_controller.h"
-#include "platform/presenter.h"
+#include "platform/screens/navigation_controller.h"
+#include "platform/screens/presenter.h"
 
 #include <iterator>
 #include <ostream>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/table_view_controller.h"
+#include "platform/screens/table_view_controller.h"
 
 namespace lumora::navigation {
 

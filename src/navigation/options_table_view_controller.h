@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/base/color.h"
-#include "platform/table_view_controller.h"
+#include "platform/screens/table_view_controller.h"
 
 #include <memory>
 #include <optional>

@@ -8,7 +8,7 @@
 #include "platform/base/notification_center.h"
 #include "platform/records/crash_report_log.h"
 #include "platform/records/local_analytics.h"
-#include "platform/services.h"
+#include "platform/screens/services.h"
 #include "platform/storage/file_settings_store.h"
 #include "qt/appearance.h"
 #include "qt/desktop.h"

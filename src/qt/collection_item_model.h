@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/collection_view.h"
+#include "platform/screens/collection_view.h"
 #include "qt/indicator_source.h"
 
 #include <QAbstractListModel>

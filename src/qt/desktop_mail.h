@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/mail_composer.h"
+#include "platform/screens/mail_composer.h"
 #include "qt/desktop.h"
 #include "qt/portal.h"
 

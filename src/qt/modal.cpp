@@ -3,7 +3,7 @@
 
 #include "qt/modal.h"
 
-#include "platform/navigation_controller.h"
+#include "platform/screens/navigation_controller.h"
 
 #include <QQmlEngine>
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/storyboard.h"
-#include "platform/view_controller.h"
+#include "platform/screens/storyboard.h"
+#include "platform/screens/view_controller.h"
 
 #include <QList>
 #include <QObject>

@@ -3,7 +3,7 @@
 
 #include "qt/qt_device.h"
 
-#include "platform/split_view_controller.h"
+#include "platform/screens/split_view_controller.h"
 #include "qt/machine_model.h"
 #include "qt/text_conversion.h"
 #include "text/text.h"

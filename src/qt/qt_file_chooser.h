@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/machine/file_chooser.h"
-#include "platform/presenter.h"
+#include "platform/screens/presenter.h"
 #include "qt/desktop_documents.h"
 #include "qt/file_location.h"
 

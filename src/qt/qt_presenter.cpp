@@ -3,10 +3,10 @@
 
 #include "qt/qt_presenter.h"
 
-#include "platform/mail_composer.h"
-#include "platform/split_view_controller.h"
-#include "platform/storyboard.h"
-#include "platform/table_view_controller.h"
+#include "platform/screens/mail_composer.h"
+#include "platform/screens/split_view_controller.h"
+#include "platform/screens/storyboard.h"
+#include "platform/screens/table_view_controller.h"
 #include "qt/text_conversion.h"
 
 #include <QQmlEngine>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/presenter.h"
+#include "platform/screens/presenter.h"
 #include "qt/modal_stack.h"
 #include "qt/qt_preview.h"
 #include "qt/qt_table_view.h"

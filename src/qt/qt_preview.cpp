@@ -5,8 +5,8 @@
 
 #include "detail/verb_detail_table_view_controller.h"
 #include "lists/interstitial_table_view_controller.h"
-#include "platform/navigation_controller.h"
-#include "platform/split_view_controller.h"
+#include "platform/screens/navigation_controller.h"
+#include "platform/screens/split_view_controller.h"
 
 #include <QQmlEngine>
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/index_path.h"
-#include "platform/view_controller.h"
+#include "platform/screens/index_path.h"
+#include "platform/screens/view_controller.h"
 #include "qt/qt_table_view.h"
 #include "qt/screen.h"
 

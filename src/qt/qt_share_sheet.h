@@ -4,9 +4,9 @@
 #pragma once
 
 #include "platform/machine/file_chooser.h"
-#include "platform/mail_composer.h"
-#include "platform/presenter.h"
-#include "platform/share_sheet.h"
+#include "platform/screens/mail_composer.h"
+#include "platform/screens/presenter.h"
+#include "platform/screens/share_sheet.h"
 #include "qt/desktop_documents.h"
 #include "qt/printers.h"
 

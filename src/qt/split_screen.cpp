@@ -3,7 +3,7 @@
 
 #include "qt/split_screen.h"
 
-#include "platform/navigation_controller.h"
+#include "platform/screens/navigation_controller.h"
 #include "qt/home_screen.h"
 #include "qt/modal_stack.h"
 #include "qt/qt_device.h"

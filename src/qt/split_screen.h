@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/appearance_tracker.h"
-#include "platform/split_view_controller.h"
+#include "platform/screens/appearance_tracker.h"
+#include "platform/screens/split_view_controller.h"
 #include "qt/screen_registry.h"
 
 #include <QList>

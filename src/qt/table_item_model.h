@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/table_view.h"
+#include "platform/screens/table_view.h"
 #include "qt/indicator_source.h"
 
 #include <QAbstractListModel>

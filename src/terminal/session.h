@@ -6,7 +6,7 @@
 #include "app/main_storyboard.h"
 #include "platform/base/error.h"
 #include "platform/base/notification_center.h"
-#include "platform/services.h"
+#include "platform/screens/services.h"
 #include "platform/storage/database_queue.h"
 #include "platform/storage/settings_store.h"
 #include "qt/qt_bundle.h"

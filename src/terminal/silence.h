@@ -9,9 +9,9 @@
 #include "platform/machine/review_prompter.h"
 #include "platform/machine/speech_synthesizer.h"
 #include "platform/machine/url_opener.h"
-#include "platform/mail_composer.h"
-#include "platform/presenter.h"
-#include "platform/share_sheet.h"
+#include "platform/screens/mail_composer.h"
+#include "platform/screens/presenter.h"
+#include "platform/screens/share_sheet.h"
 
 #include <functional>
 #include <memory>

@@ -7,7 +7,7 @@
 #include "lists/favourites_table_view_controller.h"
 #include "lists/history_table_view_controller.h"
 #include "lists/verb_list_table_view_controller.h"
-#include "platform/navigation_controller.h"
+#include "platform/screens/navigation_controller.h"
 #include "support/world.h"
 
 #include <gtest/gtest.h>

@@ -4,7 +4,7 @@
 #include "build_settings.h"
 #include "navigation/more_apps_table_view_controller.h"
 #include "navigation/navigation_drawer_table_table_view_controller.h"
-#include "platform/navigation_controller.h"
+#include "platform/screens/navigation_controller.h"
 #include "support/world.h"
 
 #include <gtest/gtest.h>

@@ -7,7 +7,7 @@
 #include "app/rescue_file.h"
 #include "detail/verb_detail_table_view_controller.h"
 #include "navigation/home_view_controller.h"
-#include "platform/navigation_controller.h"
+#include "platform/screens/navigation_controller.h"
 
 #include "support/world.h"
 

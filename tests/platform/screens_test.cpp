@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/appearance_tracker.h"
-#include "platform/navigation_controller.h"
-#include "platform/split_view_controller.h"
+#include "platform/screens/appearance_tracker.h"
+#include "platform/screens/navigation_controller.h"
+#include "platform/screens/split_view_controller.h"
 
 #include <gtest/gtest.h>
 

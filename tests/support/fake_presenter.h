@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/presenter.h"
-#include "platform/storyboard.h"
+#include "platform/screens/presenter.h"
+#include "platform/screens/storyboard.h"
 
 #include <functional>
 #include <memory>

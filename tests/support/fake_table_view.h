@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/view_factory.h"
+#include "platform/screens/view_factory.h"
 
 #include <memory>
 #include <optional>

@@ -6,8 +6,8 @@
 #include "platform/machine/file_chooser.h"
 #include "platform/machine/review_prompter.h"
 #include "platform/machine/url_opener.h"
-#include "platform/mail_composer.h"
-#include "platform/share_sheet.h"
+#include "platform/screens/mail_composer.h"
+#include "platform/screens/share_sheet.h"
 
 #include <memory>
 #include <optional>

@@ -5,7 +5,7 @@
 
 #include "data/verb_reader.h"
 #include "detail/verb_detail_table_view_controller.h"
-#include "platform/navigation_controller.h"
+#include "platform/screens/navigation_controller.h"
 
 #include <algorithm>
 

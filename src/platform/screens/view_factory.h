@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/collection_view.h"
-#include "platform/table_view.h"
+#include "platform/screens/collection_view.h"
+#include "platform/screens/table_view.h"
 
 #include <memory>
 

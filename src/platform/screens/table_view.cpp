@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/table_view.h"
+#include "platform/screens/table_view.h"
 
 namespace lumora::platform {
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/view_controller.h"
+#include "platform/screens/view_controller.h"
 
 #include <memory>
 #include <vector>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/split_view_controller.h"
+#include "platform/screens/split_view_controller.h"
 
 #include <cassert>
 #include <utility>

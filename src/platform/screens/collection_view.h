@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/table_cell.h"
+#include "platform/screens/table_cell.h"
 
 #include <memory>
 #include <string>

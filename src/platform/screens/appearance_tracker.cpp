@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/appearance_tracker.h"
+#include "platform/screens/appearance_tracker.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "platform/index_path.h"
-#include "platform/swipe_action.h"
-#include "platform/table_cell.h"
+#include "platform/screens/index_path.h"
+#include "platform/screens/swipe_action.h"
+#include "platform/screens/table_cell.h"
 
 #include <memory>
 #include <optional>

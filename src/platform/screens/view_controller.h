@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/index_path.h"
+#include "platform/screens/index_path.h"
 
 #include <functional>
 #include <memory>

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "platform/alert.h"
-#include "platform/index_path.h"
-#include "platform/view_controller.h"
+#include "platform/screens/alert.h"
+#include "platform/screens/index_path.h"
+#include "platform/screens/view_controller.h"
 
 #include <functional>
 #include <memory>

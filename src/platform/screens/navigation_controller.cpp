@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/navigation_controller.h"
+#include "platform/screens/navigation_controller.h"
 
 #include <algorithm>
 #include <cassert>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/table_view_controller.h"
+#include "platform/screens/table_view_controller.h"
 
 namespace lumora::platform {
 

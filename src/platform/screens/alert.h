@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/swipe_action.h"
+#include "platform/screens/swipe_action.h"
 
 #include <functional>
 #include <optional>

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/navigation_controller.h"
-#include "platform/view_controller.h"
+#include "platform/screens/navigation_controller.h"
+#include "platform/screens/view_controller.h"
 
 #include <functional>
 #include <memory>

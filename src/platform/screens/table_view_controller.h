@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "platform/services.h"
-#include "platform/table_view.h"
-#include "platform/view_controller.h"
-#include "platform/view_factory.h"
+#include "platform/screens/services.h"
+#include "platform/screens/table_view.h"
+#include "platform/screens/view_controller.h"
+#include "platform/screens/view_factory.h"
 
 #include <memory>
 

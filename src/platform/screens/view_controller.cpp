@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/view_controller.h"
+#include "platform/screens/view_controller.h"
 
 #include <utility>
 
