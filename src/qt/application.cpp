@@ -4,9 +4,9 @@
 #include "qt/application.h"
 
 #include "platform/files/atomic_file.h"
-#include "qt/color_conversion.h"
+#include "qt/base/color_conversion.h"
+#include "qt/base/text_conversion.h"
 #include "qt/icon_provider.h"
-#include "qt/text_conversion.h"
 
 #include <QGuiApplication>
 #include <QQmlContext>

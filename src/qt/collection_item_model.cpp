@@ -3,7 +3,7 @@
 
 #include "qt/collection_item_model.h"
 
-#include "qt/text_conversion.h"
+#include "qt/base/text_conversion.h"
 
 #include <algorithm>
 

@@ -3,9 +3,9 @@
 
 #include "qt/desktop_mail.h"
 
-#include "qt/library_files.h"
-#include "qt/plain_text.h"
-#include "qt/text_conversion.h"
+#include "qt/base/library_files.h"
+#include "qt/base/plain_text.h"
+#include "qt/base/text_conversion.h"
 
 #include <QProcess>
 #include <QStandardPaths>

@@ -3,8 +3,8 @@
 
 #include "qt/desktop_url_opener.h"
 
-#include "qt/library_files.h"
-#include "qt/text_conversion.h"
+#include "qt/base/library_files.h"
+#include "qt/base/text_conversion.h"
 
 #include <QProcess>
 #include <QUrl>

@@ -4,8 +4,8 @@
 #include "qt/home_screen.h"
 
 #include "lists/search_results_table_view_controller.h"
+#include "qt/base/text_conversion.h"
 #include "qt/screen_registry.h"
-#include "qt/text_conversion.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,12 +3,12 @@
 
 #include "platform/files/atomic_file.h"
 #include "qt/application.h"
-#include "qt/command_line.h"
-#include "qt/library_files.h"
+#include "qt/base/command_line.h"
+#include "qt/base/library_files.h"
+#include "qt/base/text_conversion.h"
+#include "qt/base/translations.h"
 #include "qt/termination_signals.h"
-#include "qt/text_conversion.h"
 #include "qt/tour.h"
-#include "qt/translations.h"
 #include "qt/url_handlers.h"
 
 #include <QGuiApplication>

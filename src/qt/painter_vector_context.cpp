@@ -3,7 +3,7 @@
 
 #include "qt/painter_vector_context.h"
 
-#include "qt/color_conversion.h"
+#include "qt/base/color_conversion.h"
 
 #include <QPainter>
 #include <QtMath>

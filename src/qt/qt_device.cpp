@@ -4,8 +4,8 @@
 #include "qt/qt_device.h"
 
 #include "platform/screens/split_view_controller.h"
+#include "qt/base/text_conversion.h"
 #include "qt/machine_model.h"
-#include "qt/text_conversion.h"
 #include "text/text.h"
 
 #include <QLocale>

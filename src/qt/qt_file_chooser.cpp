@@ -3,8 +3,8 @@
 
 #include "qt/qt_file_chooser.h"
 
+#include "qt/base/text_conversion.h"
 #include "qt/saved_file.h"
-#include "qt/text_conversion.h"
 
 #include <QFile>
 #include <QFileInfo>

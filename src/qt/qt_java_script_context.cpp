@@ -3,7 +3,7 @@
 
 #include "qt/qt_java_script_context.h"
 
-#include "qt/text_conversion.h"
+#include "qt/base/text_conversion.h"
 
 #include <QJSEngine>
 

@@ -7,7 +7,7 @@
 #include "platform/screens/split_view_controller.h"
 #include "platform/screens/storyboard.h"
 #include "platform/screens/table_view_controller.h"
-#include "qt/text_conversion.h"
+#include "qt/base/text_conversion.h"
 
 #include <QQmlEngine>
 

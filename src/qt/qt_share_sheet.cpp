@@ -3,10 +3,10 @@
 
 #include "qt/qt_share_sheet.h"
 
+#include "qt/base/text_conversion.h"
 #include "qt/document_printing.h"
 #include "qt/saved_file.h"
 #include "qt/screen.h"
-#include "qt/text_conversion.h"
 
 #include <QClipboard>
 #include <QFile>

@@ -3,7 +3,7 @@
 
 #include "qt/screen.h"
 
-#include "qt/text_conversion.h"
+#include "qt/base/text_conversion.h"
 
 #include <QQmlEngine>
 

@@ -3,8 +3,8 @@
 
 #include "qt/table_item_model.h"
 
-#include "qt/color_conversion.h"
-#include "qt/text_conversion.h"
+#include "qt/base/color_conversion.h"
+#include "qt/base/text_conversion.h"
 
 #include <QPointer>
 

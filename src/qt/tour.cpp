@@ -4,7 +4,7 @@
 #include "qt/tour.h"
 
 #include "qt/application.h"
-#include "qt/text_conversion.h"
+#include "qt/base/text_conversion.h"
 
 #include <QDateTime>
 #include <QEventLoop>

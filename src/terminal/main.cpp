@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/text_conversion.h"
-#include "qt/translations.h"
+#include "qt/base/text_conversion.h"
+#include "qt/base/translations.h"
 #include "terminal/arguments.h"
 #include "terminal/commands.h"
 #include "terminal/output.h"

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "access/accessible_tree.h"
-#include "qt/text_conversion.h"
-#include "qt/translations.h"
+#include "qt/base/text_conversion.h"
+#include "qt/base/translations.h"
 #include "qt/window_fixture.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 
 #include "desktop/message_bus.h"
 
-#include "qt/text_conversion.h"
+#include "qt/base/text_conversion.h"
 
 #include <QUuid>
 

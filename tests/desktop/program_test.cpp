@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "qt/base/text_conversion.h"
 #include "qt/home_screen.h"
-#include "qt/text_conversion.h"
 
 #include "desktop/stand_in_portal.h"
 #include "qt/window_fixture.h"

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "qt/base/library_files.h"
+#include "qt/base/text_conversion.h"
 #include "qt/desktop_documents.h"
 #include "qt/desktop_mail.h"
 #include "qt/desktop_review_prompter.h"
 #include "qt/desktop_url_opener.h"
-#include "qt/library_files.h"
 #include "qt/standard_folders.h"
-#include "qt/text_conversion.h"
 #include "qt/url_handlers.h"
 
 #include "desktop/stand_in_portal.h"

@@ -4,8 +4,8 @@
 #include "qt/qt_bundle.h"
 
 #include "data/tense_table.h"
-#include "qt/text_conversion.h"
-#include "qt/translations.h"
+#include "qt/base/text_conversion.h"
+#include "qt/base/translations.h"
 #include "support/temporary_folder.h"
 
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "qt/base/text_conversion.h"
 #include "qt/table_item_model.h"
-#include "qt/text_conversion.h"
 
 #include <QAbstractItemModelTester>
 #include <QCoreApplication>

@@ -3,13 +3,13 @@
 
 #include "qt/qt_share_sheet.h"
 
+#include "qt/base/text_conversion.h"
+#include "qt/base/translations.h"
 #include "qt/document_printing.h"
 #include "qt/home_screen.h"
 #include "qt/qt_file_chooser.h"
 #include "qt/saved_file.h"
 #include "qt/table_screen.h"
-#include "qt/text_conversion.h"
-#include "qt/translations.h"
 #include "qt/verb_detail_screen.h"
 #include "support/environment_variable.h"
 #include "support/fake_presenter.h"

@@ -4,8 +4,8 @@
 #include "session/random_session.h"
 
 #include "app/app_delegate.h"
+#include "qt/base/text_conversion.h"
 #include "qt/file_location.h"
-#include "qt/text_conversion.h"
 #include "support/window_driver.h"
 
 #include <QDir>

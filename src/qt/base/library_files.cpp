@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/library_files.h"
+#include "qt/base/library_files.h"
 
+#include "qt/base/text_conversion.h"
 #include "qt/standard_folders.h"
-#include "qt/text_conversion.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/command_line.h"
+#include "qt/base/command_line.h"
 
 #include "app/deep_link.h"
-#include "qt/text_conversion.h"
+#include "qt/base/text_conversion.h"
 
 #include <QCommandLineParser>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/translations.h"
+#include "qt/base/translations.h"
 
 #include <QCoreApplication>
 #include <QLocale>

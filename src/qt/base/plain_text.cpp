@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/plain_text.h"
+#include "qt/base/plain_text.h"
 
 #include <QTextBlock>
 #include <QTextDocument>
