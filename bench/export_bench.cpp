@@ -6,7 +6,7 @@
 #include "detail/verb_detail_table_view_controller.h"
 #include "export/export_data.h"
 #include "export/verb_export.h"
-#include "qt/qt_java_script_context.h"
+#include "qt/machine/qt_java_script_context.h"
 
 #include <stdexcept>
 #include <string>

@@ -15,12 +15,13 @@
 #include "qt/desktop_mail.h"
 #include "qt/desktop_review_prompter.h"
 #include "qt/desktop_url_opener.h"
-#include "qt/pulse_audio_session.h"
-#include "qt/qt_bundle.h"
-#include "qt/qt_clock.h"
-#include "qt/qt_device.h"
+#include "qt/machine/pulse_audio_session.h"
+#include "qt/machine/qt_bundle.h"
+#include "qt/machine/qt_clock.h"
+#include "qt/machine/qt_device.h"
+#include "qt/machine/qt_java_script_context.h"
+#include "qt/machine/standard_folders.h"
 #include "qt/qt_file_chooser.h"
-#include "qt/qt_java_script_context.h"
 #include "qt/qt_presenter.h"
 #include "qt/qt_share_sheet.h"
 #include "qt/qt_speech.h"
@@ -28,7 +29,6 @@
 #include "qt/running_instance.h"
 #include "qt/settings_portal.h"
 #include "qt/split_screen.h"
-#include "qt/standard_folders.h"
 
 #include <QQmlApplicationEngine>
 #include <QSize>

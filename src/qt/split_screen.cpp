@@ -5,8 +5,8 @@
 
 #include "platform/screens/navigation_controller.h"
 #include "qt/home_screen.h"
+#include "qt/machine/qt_device.h"
 #include "qt/modal_stack.h"
-#include "qt/qt_device.h"
 #include "qt/qt_preview.h"
 
 #include <algorithm>

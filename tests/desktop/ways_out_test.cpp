@@ -7,7 +7,7 @@
 #include "qt/desktop_mail.h"
 #include "qt/desktop_review_prompter.h"
 #include "qt/desktop_url_opener.h"
-#include "qt/standard_folders.h"
+#include "qt/machine/standard_folders.h"
 #include "qt/url_handlers.h"
 
 #include "desktop/stand_in_portal.h"

@@ -5,7 +5,7 @@
 
 #include "export/verb_export.h"
 
-#include "qt/qt_java_script_context.h"
+#include "qt/machine/qt_java_script_context.h"
 #include "support/shipped_templates.h"
 #include "support/world.h"
 

@@ -4,7 +4,7 @@
 #include "qt/base/library_files.h"
 
 #include "qt/base/text_conversion.h"
-#include "qt/standard_folders.h"
+#include "qt/machine/standard_folders.h"
 
 #include <QDir>
 #include <QFile>

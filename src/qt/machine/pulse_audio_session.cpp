@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/pulse_audio_session.h"
+#include "qt/machine/pulse_audio_session.h"
 
 #include <pulse/context.h>
 #include <pulse/error.h>

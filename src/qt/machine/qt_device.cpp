@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_device.h"
+#include "qt/machine/qt_device.h"
 
 #include "platform/screens/split_view_controller.h"
 #include "qt/base/text_conversion.h"
-#include "qt/machine_model.h"
+#include "qt/machine/machine_model.h"
 #include "text/text.h"
 
 #include <QLocale>

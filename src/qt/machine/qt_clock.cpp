@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_clock.h"
+#include "qt/machine/qt_clock.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

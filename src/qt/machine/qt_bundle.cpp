@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_bundle.h"
+#include "qt/machine/qt_bundle.h"
 
 #include "qt/base/text_conversion.h"
 

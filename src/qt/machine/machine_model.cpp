@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/machine_model.h"
+#include "qt/machine/machine_model.h"
 
 #include <algorithm>
 #include <array>

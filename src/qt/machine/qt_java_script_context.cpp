@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_java_script_context.h"
+#include "qt/machine/qt_java_script_context.h"
 
 #include "qt/base/text_conversion.h"
 
