@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "benches.h"
-#include "qt/espeak_voice.h"
-#include "qt/qt_speech_synthesizer.h"
+#include "qt/speech/espeak_voice.h"
+#include "qt/speech/qt_speech_synthesizer.h"
 
 #include <QCoreApplication>
 

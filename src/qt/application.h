@@ -24,10 +24,10 @@
 #include "qt/qt_file_chooser.h"
 #include "qt/qt_presenter.h"
 #include "qt/qt_share_sheet.h"
-#include "qt/qt_speech.h"
 #include "qt/qt_view_factory.h"
 #include "qt/running_instance.h"
 #include "qt/settings_portal.h"
+#include "qt/speech/qt_speech.h"
 #include "qt/split_screen.h"
 
 #include <QQmlApplicationEngine>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/espeak_voice.h"
+#include "qt/speech/espeak_voice.h"
 
-#include "qt/spoken_text.h"
-#include "qt/time_stretch.h"
+#include "qt/speech/spoken_text.h"
+#include "qt/speech/time_stretch.h"
 
 #include <algorithm>
 #include <cmath>

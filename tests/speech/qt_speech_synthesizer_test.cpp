@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_speech_synthesizer.h"
+#include "qt/speech/qt_speech_synthesizer.h"
 
-#include "qt/qt_speech.h"
+#include "qt/speech/qt_speech.h"
 #include "speech_listener.h"
 
 #include <QTimer>

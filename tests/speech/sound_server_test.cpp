@@ -3,8 +3,8 @@
 
 #include "qt/machine/pulse_audio_session.h"
 
-#include "qt/espeak_voice.h"
-#include "qt/qt_speech.h"
+#include "qt/speech/espeak_voice.h"
+#include "qt/speech/qt_speech.h"
 #include "speech_listener.h"
 #include "support/temporary_folder.h"
 

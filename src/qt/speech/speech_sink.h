@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "qt/speech.h"
+#include "qt/speech/speech.h"
 
 #include <QAudioSink>
 #include <QByteArray>

@@ -5,7 +5,7 @@
 
 #include "platform/base/error.h"
 #include "platform/machine/speech_synthesizer.h"
-#include "qt/speech.h"
+#include "qt/speech/speech.h"
 
 #include <atomic>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/speech_sink.h"
+#include "qt/speech/speech_sink.h"
 
 #include <QAudioDevice>
 #include <QAudioFormat>

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "platform/machine/speech_synthesizer.h"
-#include "qt/speech.h"
-#include "qt/speech_engine.h"
-#include "qt/speech_sink.h"
+#include "qt/speech/speech.h"
+#include "qt/speech/speech_engine.h"
+#include "qt/speech/speech_sink.h"
 
 #include <QElapsedTimer>
 #include <QObject>

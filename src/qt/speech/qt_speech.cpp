@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_speech.h"
+#include "qt/speech/qt_speech.h"
 
-#include "qt/qt_speech_synthesizer.h"
-#include "qt/speech_engine.h"
+#include "qt/speech/qt_speech_synthesizer.h"
+#include "qt/speech/speech_engine.h"
 
 namespace lumora::qt {
 

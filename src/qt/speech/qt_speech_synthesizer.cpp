@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_speech_synthesizer.h"
+#include "qt/speech/qt_speech_synthesizer.h"
 
 #include <algorithm>
 #include <iostream>

@@ -5,8 +5,8 @@
 
 #include "platform/base/error.h"
 #include "platform/machine/speech_synthesizer.h"
-#include "qt/espeak_voice.h"
-#include "qt/speech.h"
+#include "qt/speech/espeak_voice.h"
+#include "qt/speech/speech.h"
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/spoken_text.h"
+#include "qt/speech/spoken_text.h"
 
 #include "text/text.h"
 

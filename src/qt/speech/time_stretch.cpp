@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/time_stretch.h"
+#include "qt/speech/time_stretch.h"
 
 #include <sonic.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/speech_engine.h"
+#include "qt/speech/speech_engine.h"
 
 #include <atomic>
 #include <utility>
