@@ -7,9 +7,9 @@
 #include "qt/base/library_files.h"
 #include "qt/base/text_conversion.h"
 #include "qt/base/translations.h"
-#include "qt/termination_signals.h"
+#include "qt/desktop/termination_signals.h"
+#include "qt/desktop/url_handlers.h"
 #include "qt/tour.h"
-#include "qt/url_handlers.h"
 
 #include <QGuiApplication>
 #include <QLocale>

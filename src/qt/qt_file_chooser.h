@@ -5,7 +5,7 @@
 
 #include "platform/machine/file_chooser.h"
 #include "platform/screens/presenter.h"
-#include "qt/desktop_documents.h"
+#include "qt/desktop/desktop_documents.h"
 #include "qt/file_location.h"
 
 #include <QObject>

@@ -7,7 +7,7 @@
 #include "platform/screens/mail_composer.h"
 #include "platform/screens/presenter.h"
 #include "platform/screens/share_sheet.h"
-#include "qt/desktop_documents.h"
+#include "qt/desktop/desktop_documents.h"
 #include "qt/printers.h"
 
 #include <QByteArray>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/desktop_documents.h"
+#include "qt/desktop/desktop_documents.h"
 
 #include <QDBusArgument>
 #include <QDBusMetaType>

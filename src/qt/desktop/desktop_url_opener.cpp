@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/desktop_url_opener.h"
+#include "qt/desktop/desktop_url_opener.h"
 
 #include "qt/base/library_files.h"
 #include "qt/base/text_conversion.h"

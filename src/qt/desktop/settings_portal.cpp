@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/settings_portal.h"
+#include "qt/desktop/settings_portal.h"
 
-#include "qt/portal.h"
+#include "qt/desktop/portal.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>

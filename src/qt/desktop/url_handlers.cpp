@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/url_handlers.h"
+#include "qt/desktop/url_handlers.h"
 
 #include <gio/gio.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/portal.h"
+#include "qt/desktop/portal.h"
 
 #include <QDBusMessage>
 #include <QDBusObjectPath>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/running_instance.h"
+#include "qt/desktop/running_instance.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "platform/screens/mail_composer.h"
-#include "qt/desktop.h"
-#include "qt/portal.h"
+#include "qt/desktop/desktop.h"
+#include "qt/desktop/portal.h"
 
 #include <QObject>
 #include <QString>

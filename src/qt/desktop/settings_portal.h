@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "qt/appearance.h"
+#include "qt/desktop/appearance.h"
 
 #include <QDBusConnection>
 #include <QDBusPendingCallWatcher>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/termination_signals.h"
+#include "qt/desktop/termination_signals.h"
 
 #include <array>
 #include <atomic>

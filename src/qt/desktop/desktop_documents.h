@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "qt/desktop.h"
-#include "qt/portal.h"
+#include "qt/desktop/desktop.h"
+#include "qt/desktop/portal.h"
 
 #include <QByteArray>
 #include <QObject>
