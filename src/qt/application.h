@@ -23,10 +23,10 @@
 #include "qt/machine/qt_device.h"
 #include "qt/machine/qt_java_script_context.h"
 #include "qt/machine/standard_folders.h"
+#include "qt/models/qt_view_factory.h"
 #include "qt/qt_file_chooser.h"
 #include "qt/qt_presenter.h"
 #include "qt/qt_share_sheet.h"
-#include "qt/qt_view_factory.h"
 #include "qt/speech/qt_speech.h"
 #include "qt/split_screen.h"
 

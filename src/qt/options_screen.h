@@ -4,7 +4,7 @@
 #pragma once
 
 #include "navigation/options_table_view_controller.h"
-#include "qt/qt_table_view.h"
+#include "qt/models/qt_table_view.h"
 #include "qt/screen.h"
 
 #include <QColor>

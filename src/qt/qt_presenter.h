@@ -5,8 +5,8 @@
 
 #include "platform/screens/presenter.h"
 #include "qt/modal_stack.h"
+#include "qt/models/qt_table_view.h"
 #include "qt/qt_preview.h"
-#include "qt/qt_table_view.h"
 
 #include <QObject>
 #include <QPointer>

@@ -5,7 +5,7 @@
 
 #include "platform/screens/index_path.h"
 #include "platform/screens/view_controller.h"
-#include "qt/qt_table_view.h"
+#include "qt/models/qt_table_view.h"
 #include "qt/screen.h"
 
 #include <QObject>

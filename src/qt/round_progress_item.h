@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "qt/indicator_source.h"
+#include "qt/models/indicator_source.h"
 
 #include <QPointer>
 #include <QQuickPaintedItem>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/screens/table_view_controller.h"
-#include "qt/qt_table_view.h"
+#include "qt/models/qt_table_view.h"
 #include "qt/screen.h"
 
 namespace lumora::qt {

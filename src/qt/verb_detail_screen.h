@@ -4,8 +4,8 @@
 #pragma once
 
 #include "detail/verb_detail_table_view_controller.h"
-#include "qt/qt_collection_view.h"
-#include "qt/qt_table_view.h"
+#include "qt/models/qt_collection_view.h"
+#include "qt/models/qt_table_view.h"
 #include "qt/screen.h"
 
 #include <QColor>

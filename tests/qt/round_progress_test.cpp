@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "detail/ce_round_progress_view.h"
-#include "qt/indicator_source.h"
+#include "qt/models/indicator_source.h"
 #include "qt/painter_vector_context.h"
 #include "qt/round_progress_item.h"
 

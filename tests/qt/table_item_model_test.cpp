@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "qt/base/text_conversion.h"
-#include "qt/table_item_model.h"
+#include "qt/models/table_item_model.h"
 
 #include <QAbstractItemModelTester>
 #include <QCoreApplication>

@@ -4,7 +4,7 @@
 #include "window_fixture.h"
 
 #include "detail/ce_round_progress_layer.h"
-#include "qt/indicator_source.h"
+#include "qt/models/indicator_source.h"
 #include "qt/round_progress_item.h"
 #include "qt/table_screen.h"
 #include "qt/verb_detail_screen.h"

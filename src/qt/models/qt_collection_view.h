@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "qt/collection_item_model.h"
+#include "qt/models/collection_item_model.h"
 
 #include <QQmlEngine>
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/screens/table_view.h"
-#include "qt/indicator_source.h"
+#include "qt/models/indicator_source.h"
 
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>

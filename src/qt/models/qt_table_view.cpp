@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_table_view.h"
+#include "qt/models/qt_table_view.h"
 
 #include "qt/base/text_conversion.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/indicator_source.h"
+#include "qt/models/indicator_source.h"
 
 #include <QQmlEngine>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/collection_item_model.h"
+#include "qt/models/collection_item_model.h"
 
 #include "qt/base/text_conversion.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "qt/table_item_model.h"
+#include "qt/models/table_item_model.h"
 
 #include <QObject>
 #include <QPointer>

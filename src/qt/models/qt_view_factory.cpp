@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_view_factory.h"
+#include "qt/models/qt_view_factory.h"
 
-#include "qt/qt_collection_view.h"
-#include "qt/qt_table_view.h"
+#include "qt/models/qt_collection_view.h"
+#include "qt/models/qt_table_view.h"
 
 namespace lumora::qt {
 
