@@ -6,7 +6,7 @@
 #include "platform/files/atomic_file.h"
 #include "qt/base/color_conversion.h"
 #include "qt/base/text_conversion.h"
-#include "qt/icon_provider.h"
+#include "qt/screens/icon_provider.h"
 
 #include <QGuiApplication>
 #include <QQmlContext>

@@ -25,10 +25,10 @@
 #include "qt/machine/standard_folders.h"
 #include "qt/models/qt_view_factory.h"
 #include "qt/qt_file_chooser.h"
-#include "qt/qt_presenter.h"
 #include "qt/qt_share_sheet.h"
+#include "qt/screens/qt_presenter.h"
+#include "qt/screens/split_screen.h"
 #include "qt/speech/qt_speech.h"
-#include "qt/split_screen.h"
 
 #include <QQmlApplicationEngine>
 #include <QSize>

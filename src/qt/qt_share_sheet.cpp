@@ -6,7 +6,7 @@
 #include "qt/base/text_conversion.h"
 #include "qt/document_printing.h"
 #include "qt/saved_file.h"
-#include "qt/screen.h"
+#include "qt/screens/screen.h"
 
 #include <QClipboard>
 #include <QFile>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "qt/base/text_conversion.h"
-#include "qt/home_screen.h"
+#include "qt/screens/home_screen.h"
 
 #include "desktop/stand_in_portal.h"
 #include "qt/window_fixture.h"

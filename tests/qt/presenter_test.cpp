@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_presenter.h"
+#include "qt/screens/qt_presenter.h"
 
 #include "app/main_storyboard.h"
 #include "support/fake_ways_out.h"

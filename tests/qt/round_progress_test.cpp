@@ -3,8 +3,8 @@
 
 #include "detail/ce_round_progress_view.h"
 #include "qt/models/indicator_source.h"
-#include "qt/painter_vector_context.h"
-#include "qt/round_progress_item.h"
+#include "qt/screens/painter_vector_context.h"
+#include "qt/screens/round_progress_item.h"
 
 #include <QPainter>
 #include <QSignalSpy>

@@ -5,9 +5,9 @@
 
 #include "detail/ce_round_progress_layer.h"
 #include "qt/models/indicator_source.h"
-#include "qt/round_progress_item.h"
-#include "qt/table_screen.h"
-#include "qt/verb_detail_screen.h"
+#include "qt/screens/round_progress_item.h"
+#include "qt/screens/table_screen.h"
+#include "qt/screens/verb_detail_screen.h"
 #include "support/environment_variable.h"
 
 #include <QClipboard>

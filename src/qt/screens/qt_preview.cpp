@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_preview.h"
+#include "qt/screens/qt_preview.h"
 
 #include "detail/verb_detail_table_view_controller.h"
 #include "lists/interstitial_table_view_controller.h"

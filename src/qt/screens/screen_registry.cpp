@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/screen_registry.h"
+#include "qt/screens/screen_registry.h"
 
 #include "navigation/more_apps_table_view_controller.h"
-#include "qt/home_screen.h"
-#include "qt/options_screen.h"
-#include "qt/table_screen.h"
-#include "qt/verb_detail_screen.h"
+#include "qt/screens/home_screen.h"
+#include "qt/screens/options_screen.h"
+#include "qt/screens/table_screen.h"
+#include "qt/screens/verb_detail_screen.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/screen.h"
+#include "qt/screens/screen.h"
 
 #include "qt/base/text_conversion.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/verb_detail_screen.h"
+#include "qt/screens/verb_detail_screen.h"
 
 #include "qt/base/color_conversion.h"
 #include "qt/base/text_conversion.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/icon_provider.h"
+#include "qt/screens/icon_provider.h"
 
 #include <QFile>
 #include <QPainter>

@@ -6,7 +6,7 @@
 #include "detail/verb_detail_table_view_controller.h"
 #include "qt/models/qt_collection_view.h"
 #include "qt/models/qt_table_view.h"
-#include "qt/screen.h"
+#include "qt/screens/screen.h"
 
 #include <QColor>
 

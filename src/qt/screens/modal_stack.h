@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "qt/modal.h"
+#include "qt/screens/modal.h"
 
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>

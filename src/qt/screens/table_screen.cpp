@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/table_screen.h"
+#include "qt/screens/table_screen.h"
 
 namespace lumora::qt {
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "qt/screen.h"
+#include "qt/screens/screen.h"
 
 #include <memory>
 #include <vector>

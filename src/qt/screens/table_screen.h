@@ -5,7 +5,7 @@
 
 #include "platform/screens/table_view_controller.h"
 #include "qt/models/qt_table_view.h"
-#include "qt/screen.h"
+#include "qt/screens/screen.h"
 
 namespace lumora::qt {
 

@@ -5,7 +5,7 @@
 
 #include "navigation/options_table_view_controller.h"
 #include "qt/models/qt_table_view.h"
-#include "qt/screen.h"
+#include "qt/screens/screen.h"
 
 #include <QColor>
 

@@ -5,7 +5,7 @@
 
 #include "platform/screens/appearance_tracker.h"
 #include "platform/screens/split_view_controller.h"
-#include "qt/screen_registry.h"
+#include "qt/screens/screen_registry.h"
 
 #include <QList>
 #include <QObject>

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/split_screen.h"
+#include "qt/screens/split_screen.h"
 
 #include "platform/screens/navigation_controller.h"
-#include "qt/home_screen.h"
 #include "qt/machine/qt_device.h"
-#include "qt/modal_stack.h"
-#include "qt/qt_preview.h"
+#include "qt/screens/home_screen.h"
+#include "qt/screens/modal_stack.h"
+#include "qt/screens/qt_preview.h"
 
 #include <algorithm>
 #include <ranges>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/home_screen.h"
+#include "qt/screens/home_screen.h"
 
 #include "lists/search_results_table_view_controller.h"
 #include "qt/base/text_conversion.h"
-#include "qt/screen_registry.h"
+#include "qt/screens/screen_registry.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/painter_vector_context.h"
+#include "qt/screens/painter_vector_context.h"
 
 #include "qt/base/color_conversion.h"
 

@@ -6,7 +6,7 @@
 #include "platform/screens/index_path.h"
 #include "platform/screens/view_controller.h"
 #include "qt/models/qt_table_view.h"
-#include "qt/screen.h"
+#include "qt/screens/screen.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/modal.h"
+#include "qt/screens/modal.h"
 
 #include "platform/screens/navigation_controller.h"
 

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "navigation/home_view_controller.h"
-#include "qt/screen.h"
-#include "qt/table_screen.h"
+#include "qt/screens/screen.h"
+#include "qt/screens/table_screen.h"
 
 namespace lumora::qt {
 

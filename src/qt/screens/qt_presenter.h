@@ -4,9 +4,9 @@
 #pragma once
 
 #include "platform/screens/presenter.h"
-#include "qt/modal_stack.h"
 #include "qt/models/qt_table_view.h"
-#include "qt/qt_preview.h"
+#include "qt/screens/modal_stack.h"
+#include "qt/screens/qt_preview.h"
 
 #include <QObject>
 #include <QPointer>

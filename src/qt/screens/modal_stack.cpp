@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/modal_stack.h"
+#include "qt/screens/modal_stack.h"
 
 #include <QQmlEngine>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/round_progress_item.h"
+#include "qt/screens/round_progress_item.h"
 
-#include "qt/painter_vector_context.h"
+#include "qt/screens/painter_vector_context.h"
 
 #include <QPainter>
 

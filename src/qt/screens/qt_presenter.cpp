@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_presenter.h"
+#include "qt/screens/qt_presenter.h"
 
 #include "platform/screens/mail_composer.h"
 #include "platform/screens/split_view_controller.h"
