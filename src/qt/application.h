@@ -24,10 +24,10 @@
 #include "qt/machine/qt_java_script_context.h"
 #include "qt/machine/standard_folders.h"
 #include "qt/models/qt_view_factory.h"
-#include "qt/qt_file_chooser.h"
-#include "qt/qt_share_sheet.h"
 #include "qt/screens/qt_presenter.h"
 #include "qt/screens/split_screen.h"
+#include "qt/share/qt_file_chooser.h"
+#include "qt/share/qt_share_sheet.h"
 #include "qt/speech/qt_speech.h"
 
 #include <QQmlApplicationEngine>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_file_chooser.h"
+#include "qt/share/qt_file_chooser.h"
 
 #include "desktop/stand_in_portal.h"
 #include "support/environment_variable.h"

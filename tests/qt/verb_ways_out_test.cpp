@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_share_sheet.h"
+#include "qt/share/qt_share_sheet.h"
 
 #include "qt/base/text_conversion.h"
 #include "qt/base/translations.h"
-#include "qt/document_printing.h"
-#include "qt/qt_file_chooser.h"
-#include "qt/saved_file.h"
 #include "qt/screens/home_screen.h"
 #include "qt/screens/table_screen.h"
 #include "qt/screens/verb_detail_screen.h"
+#include "qt/share/document_printing.h"
+#include "qt/share/qt_file_chooser.h"
+#include "qt/share/saved_file.h"
 #include "support/environment_variable.h"
 #include "support/fake_presenter.h"
 #include "support/fake_ways_out.h"

@@ -5,7 +5,7 @@
 
 #include "app/app_delegate.h"
 #include "qt/base/text_conversion.h"
-#include "qt/file_location.h"
+#include "qt/share/file_location.h"
 #include "support/window_driver.h"
 
 #include <QDir>

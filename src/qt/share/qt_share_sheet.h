@@ -8,7 +8,7 @@
 #include "platform/screens/presenter.h"
 #include "platform/screens/share_sheet.h"
 #include "qt/desktop/desktop_documents.h"
-#include "qt/printers.h"
+#include "qt/share/printers.h"
 
 #include <QByteArray>
 #include <QObject>

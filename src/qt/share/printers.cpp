@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/printers.h"
+#include "qt/share/printers.h"
 
-#include "qt/document_printing.h"
+#include "qt/share/document_printing.h"
 
 #include <QCoreApplication>
 #include <QPrinter>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/file_location.h"
+#include "qt/share/file_location.h"
 
 #include <QFileInfo>
 #include <QQmlEngine>

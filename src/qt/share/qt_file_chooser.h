@@ -6,7 +6,7 @@
 #include "platform/machine/file_chooser.h"
 #include "platform/screens/presenter.h"
 #include "qt/desktop/desktop_documents.h"
-#include "qt/file_location.h"
+#include "qt/share/file_location.h"
 
 #include <QObject>
 #include <QString>

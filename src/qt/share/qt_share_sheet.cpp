@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_share_sheet.h"
+#include "qt/share/qt_share_sheet.h"
 
 #include "qt/base/text_conversion.h"
-#include "qt/document_printing.h"
-#include "qt/saved_file.h"
 #include "qt/screens/screen.h"
+#include "qt/share/document_printing.h"
+#include "qt/share/saved_file.h"
 
 #include <QClipboard>
 #include <QFile>

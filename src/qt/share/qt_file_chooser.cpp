@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/qt_file_chooser.h"
+#include "qt/share/qt_file_chooser.h"
 
 #include "qt/base/text_conversion.h"
-#include "qt/saved_file.h"
+#include "qt/share/saved_file.h"
 
 #include <QFile>
 #include <QFileInfo>

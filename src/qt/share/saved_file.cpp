@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/saved_file.h"
+#include "qt/share/saved_file.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/document_printing.h"
+#include "qt/share/document_printing.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
