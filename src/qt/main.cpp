@@ -9,7 +9,7 @@
 #include "qt/base/translations.h"
 #include "qt/desktop/termination_signals.h"
 #include "qt/desktop/url_handlers.h"
-#include "qt/tour.h"
+#include "qt/tour/tour.h"
 
 #include <QGuiApplication>
 #include <QLocale>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/tour.h"
+#include "qt/tour/tour.h"
 
 #include "qt/application.h"
 #include "qt/base/text_conversion.h"
