@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "desktop/message_bus.h"
-#include "qt/application.h"
+#include "qt/app/application.h"
 #include "support/temporary_folder.h"
 
 #include <QGuiApplication>

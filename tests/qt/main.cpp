@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/application.h"
+#include "qt/app/application.h"
 #include "support/temporary_folder.h"
 
 #include <QGuiApplication>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "qt/application.h"
+#include "qt/app/application.h"
 
 #include <QPointF>
 

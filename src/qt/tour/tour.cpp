@@ -3,7 +3,7 @@
 
 #include "qt/tour/tour.h"
 
-#include "qt/application.h"
+#include "qt/app/application.h"
 #include "qt/base/text_conversion.h"
 
 #include <QDateTime>

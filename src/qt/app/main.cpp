@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "platform/files/atomic_file.h"
-#include "qt/application.h"
+#include "qt/app/application.h"
 #include "qt/base/command_line.h"
 #include "qt/base/library_files.h"
 #include "qt/base/text_conversion.h"
