@@ -5,7 +5,7 @@
 #include "backup/backup.h"
 #include "platform/machine/clock.h"
 #include "platform/storage/database_queue.h"
-#include "qt/machine/standard_folders.h"
+#include "qt/base/standard_folders.h"
 #include "terminal/arguments.h"
 #include "terminal/commands.h"
 #include "terminal/output.h"

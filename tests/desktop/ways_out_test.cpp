@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "qt/base/library_files.h"
+#include "qt/base/standard_folders.h"
 #include "qt/base/text_conversion.h"
 #include "qt/desktop/desktop_documents.h"
 #include "qt/desktop/desktop_mail.h"
 #include "qt/desktop/desktop_review_prompter.h"
 #include "qt/desktop/desktop_url_opener.h"
 #include "qt/desktop/url_handlers.h"
-#include "qt/machine/standard_folders.h"
 
 #include "desktop/stand_in_portal.h"
 #include "support/environment_variable.h"

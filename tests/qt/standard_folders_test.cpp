@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/machine/standard_folders.h"
+#include "qt/base/standard_folders.h"
 
 #include <map>
 

@@ -3,7 +3,7 @@
 
 #include "platform/files/atomic_file.h"
 #include "qt/app/application.h"
-#include "qt/base/command_line.h"
+#include "qt/app/command_line.h"
 #include "qt/base/library_files.h"
 #include "qt/base/text_conversion.h"
 #include "qt/base/translations.h"

@@ -3,8 +3,8 @@
 
 #include "qt/base/library_files.h"
 
+#include "qt/base/standard_folders.h"
 #include "qt/base/text_conversion.h"
-#include "qt/machine/standard_folders.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/base/command_line.h"
+#include "qt/app/command_line.h"
 
 #include "app/deep_link.h"
 #include "qt/base/text_conversion.h"
