@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "desktop/message_bus.h"
 #include "qt/app/application.h"
+#include "support/message_bus.h"
 #include "support/temporary_folder.h"
 
 #include <QGuiApplication>

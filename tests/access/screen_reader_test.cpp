@@ -4,7 +4,7 @@
 #include "access/accessible_tree.h"
 #include "qt/base/text_conversion.h"
 #include "qt/base/translations.h"
-#include "qt/window_fixture.h"
+#include "support/window_fixture.h"
 
 #include <algorithm>
 #include <set>

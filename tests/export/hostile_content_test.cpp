@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "export_fixture.h"
+#include "export/export_fixture.h"
 
 #include <libxml/HTMLparser.h>
 

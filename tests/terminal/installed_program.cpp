@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "installed_program.h"
+#include "terminal/installed_program.h"
 
 #include "support/shell.h"
 #include "support/shipped_templates.h"

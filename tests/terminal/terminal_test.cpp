@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "installed_program.h"
 #include "support/world.h"
+#include "terminal/installed_program.h"
 
 #include <algorithm>
 #include <regex>

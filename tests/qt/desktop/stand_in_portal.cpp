@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "desktop/stand_in_portal.h"
+#include "qt/desktop/stand_in_portal.h"
 
 #include <QDBusArgument>
 #include <QDBusMetaType>

@@ -3,7 +3,7 @@
 
 #include "qt/base/text_conversion.h"
 #include "qt/base/translations.h"
-#include "window_fixture.h"
+#include "support/window_fixture.h"
 
 #include <QColor>
 #include <QJSValue>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "desktop/message_bus.h"
+#include "support/message_bus.h"
 
 #include <QDBusMessage>
 #include <QDBusVirtualObject>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "window_fixture.h"
+#include "support/window_fixture.h"
 
 namespace lumora::qt {
 namespace {

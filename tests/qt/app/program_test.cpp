@@ -4,8 +4,8 @@
 #include "qt/base/text_conversion.h"
 #include "qt/screens/home_screen.h"
 
-#include "desktop/stand_in_portal.h"
-#include "qt/window_fixture.h"
+#include "qt/desktop/stand_in_portal.h"
+#include "support/window_fixture.h"
 
 #include <QDBusConnectionInterface>
 #include <QProcess>

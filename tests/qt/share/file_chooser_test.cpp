@@ -3,7 +3,7 @@
 
 #include "qt/share/qt_file_chooser.h"
 
-#include "desktop/stand_in_portal.h"
+#include "qt/desktop/stand_in_portal.h"
 #include "support/environment_variable.h"
 #include "support/fake_presenter.h"
 #include "support/temporary_folder.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "window_fixture.h"
+#include "support/window_fixture.h"
 
 #include "detail/ce_round_progress_layer.h"
 #include "qt/models/indicator_source.h"

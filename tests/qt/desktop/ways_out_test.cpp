@@ -10,7 +10,7 @@
 #include "qt/desktop/desktop_url_opener.h"
 #include "qt/desktop/url_handlers.h"
 
-#include "desktop/stand_in_portal.h"
+#include "qt/desktop/stand_in_portal.h"
 #include "support/environment_variable.h"
 
 #include <QDBusUnixFileDescriptor>

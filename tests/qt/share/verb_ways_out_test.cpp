@@ -14,7 +14,7 @@
 #include "support/environment_variable.h"
 #include "support/fake_presenter.h"
 #include "support/fake_ways_out.h"
-#include "window_fixture.h"
+#include "support/window_fixture.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QClipboard>
