@@ -47,6 +47,9 @@ std::string Conjugator::headword(const VerbEntry& entry) const
     if (!entry.pronominal) {
         return entry.infinitive;
     }
+    if (entry.en) {
+        return entry.infinitive + " (s'en)";
+    }
     return entry.infinitive + (elides(entry.infinitive, entry.aspirated) ? " (s')" : " (se)");
 }
 

@@ -22,7 +22,7 @@ public:
 
     const ModelTable& models() const { return models_; }
 
-    /// As dictionaries file it: "aimer", "évanouir (s')", "méfier (se)".
+    /// As dictionaries file it: "aimer", "évanouir (s')", "méfier (se)", "aller (s'en)".
     std::string headword(const VerbEntry& entry) const;
 
     /// The shown rows in the order of the blocks and persons, then the others.

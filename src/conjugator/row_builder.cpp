@@ -15,6 +15,7 @@ namespace lumora::conjugator {
 namespace {
 
 constexpr std::size_t kThirdSingular = 2;
+constexpr std::size_t kThirdPlural = 5;
 /// tu, nous, vous.
 constexpr std::array<std::size_t, 3> kCommanded{1, 3, 4};
 
@@ -22,7 +23,10 @@ constexpr std::array<std::string_view, kPersons> kSubjects{"je",   "tu",   "il/e
                                                            "nous", "vous", "ils/elles"};
 constexpr std::array<std::string_view, kPersons> kReflexives{"me",   "te",   "se",
                                                              "nous", "vous", "se"};
+constexpr std::array<std::string_view, kPersons> kReflexivesWithEn{"m'en",    "t'en",    "s'en",
+                                                                   "nous en", "vous en", "s'en"};
 constexpr std::array<std::string_view, 3> kReflexiveCommands{"-toi", "-nous", "-vous"};
+constexpr std::array<std::string_view, 3> kReflexiveCommandsWithEn{"-t'en", "-nous-en", "-vous-en"};
 
 std::string joined(const Forms& forms)
 {
@@ -70,7 +74,7 @@ void RowBuilder::imperative()
         auto forms = verb_.imperative[i];
         if (entry_.pronominal) {
             for (auto& form : forms) {
-                form += kReflexiveCommands[i];
+                form += entry_.en ? kReflexiveCommandsWithEn[i] : kReflexiveCommands[i];
             }
         }
         add(Tense::Imperatif, "", forms);
@@ -139,6 +143,9 @@ void RowBuilder::searchRow(Tense tense, std::string pronoun, std::string verb)
 
 std::string RowBuilder::reflexive(std::string_view word) const
 {
+    if (entry_.en) {
+        return "s'en ";
+    }
     return entry_.pronominal ? elided("se", word, entry_.aspirated) : std::string();
 }
 
@@ -153,7 +160,8 @@ std::vector<Row> RowBuilder::take()
 
 bool RowBuilder::isUsed(std::size_t person) const
 {
-    return verb_.persons[person] && (!entry_.impersonal || person == kThirdSingular);
+    return verb_.persons[person] && (!entry_.impersonal || person == kThirdSingular ||
+                                     (entry_.plural && person == kThirdPlural));
 }
 
 bool RowBuilder::hasImperative() const
@@ -169,12 +177,16 @@ std::string RowBuilder::pronoun(Tense tense, std::size_t person, std::string_vie
         return {};
     }
     std::string subject(kSubjects[person]);
-    if (entry_.impersonal && person == kThirdSingular) {
+    if (person == kThirdSingular && entry_.impersonal) {
         subject = "il";
+    } else if (person == kThirdSingular && !verb_.persons[0]) {
+        // Of things alone, for which "on" cannot stand.
+        subject = "il/elle";
     }
-    std::string reflexive;
-    if (entry_.pronominal) {
-        reflexive = kReflexives[person];
+    if (entry_.en) {
+        subject.append(" ").append(kReflexivesWithEn[person]);
+    } else if (entry_.pronominal) {
+        std::string reflexive(kReflexives[person]);
         if (reflexive.ends_with('e')) {
             reflexive = elided(reflexive, word, aspirated);
         }
@@ -224,8 +236,8 @@ void RowBuilder::addCompound(Tense tense, std::size_t person, const Forms& auxil
         return;
     }
     // With the impersonal il the participle never agrees.
-    const Agreement agreement(verb_,
-                              use.agrees && !entry_.impersonal && !entry_.invariableParticiple);
+    const Agreement agreement(verb_, use.agrees && !entry_.impersonal &&
+                                         !entry_.indirectPronoun && !entry_.invariableParticiple);
     // An auxiliary is never aspirated, whatever the verb.
     const auto subject = pronoun(tense, person, auxiliary.front(), false);
     const auto texts = compounds(auxiliary, agreement.bracketed(number));

@@ -36,7 +36,10 @@ VerbEntry verb(std::string infinitive, std::string model, std::string_view trait
         entry.aspirated |= trait == "aspirated";
         entry.impersonal |= trait == "impersonal";
         entry.pronominal |= trait == "pronominal";
+        entry.plural |= trait == "plural";
+        entry.en |= trait == "en";
         entry.invariableParticiple |= trait == "invariable";
+        entry.indirectPronoun |= trait == "indirect";
     }
     return entry;
 }
@@ -86,6 +89,7 @@ TEST(Conjugator, FilesPronominalVerbsUnderTheirInfinitives)
 {
     EXPECT_EQ(conjugator().headword(verb("évanouir", "finir", "pronominal")), "évanouir (s')");
     EXPECT_EQ(conjugator().headword(verb("méfier", "aimer", "pronominal")), "méfier (se)");
+    EXPECT_EQ(conjugator().headword(verb("aller", "aller", "pronominal en")), "aller (s'en)");
 }
 
 /// Agreements, the other auxiliary, single variants and the spelling of 1990.

@@ -124,7 +124,7 @@ TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
     const auto sound = contentOf(folder_ / "verbs.tsv");
     const auto begin = sound.find("id\t");
     const auto head = sound.substr(begin, sound.find('\n', begin) + 1 - begin);
-    const std::string line = "1|aimer|aimer|avoir|-|-|love|lieben|houden van|amar|amare|amar\n";
+    const std::string line = "1|aimer|aimer|avoir|-|-|1|love|lieben|houden van|amar|amare|amar\n";
     const auto verbs = [&](std::string text) {
         std::replace(text.begin(), text.end(), '|', '\t');
         return head + text;
@@ -137,9 +137,9 @@ TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
         {"", "verbs.tsv:1: the file is empty"},
         {head, "verbs.tsv:1: there are no verbs"},
         {line, "verbs.tsv:1: the header must be id, infinitive, model, auxiliary, traits, "
-               "participle, english, german, dutch, spanish, italian, portuguese"},
-        {with("|amar\n", "\n"), "verbs.tsv:2: expected 12 columns, found 11"},
-        {verbs("\n"), "verbs.tsv:2: expected 12 columns, found 1"},
+               "participle, use, english, german, dutch, spanish, italian, portuguese"},
+        {with("|amar\n", "\n"), "verbs.tsv:2: expected 13 columns, found 11"},
+        {verbs("\n"), "verbs.tsv:2: expected 13 columns, found 1"},
         {with("1|", "0|"), R"(verbs.tsv:2: the id "0" is not a positive whole number)"},
         {with("1|", "1a|"), R"(verbs.tsv:2: the id "1a" is not a positive whole number)"},
         {with("1|", "30|"), R"(verbs.tsv:2: the id 30 is retired; it was "parlir")"},
@@ -153,6 +153,18 @@ TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
         {with("|-|-|", "|silent|-|"), R"(verbs.tsv:2: unknown trait "silent")"},
         {with("|-|-|", "|pronominal|-|"), R"(verbs.tsv:2: a pronominal verb takes "être")"},
         {with("|-|-|", "|-|variable|"), R"(verbs.tsv:2: unknown participle "variable")"},
+        {with("|-|-|", "|defective,defective|-|"),
+         R"(verbs.tsv:2: the trait "defective" stands twice)"},
+        {with("|-|-|", "|-|invariable,indirect|"),
+         R"(verbs.tsv:2: only a pronominal verb can be "indirect")"},
+        {with("|-|-|", "|en|-|"), R"(verbs.tsv:2: only a pronominal verb can be "en")"},
+        {with("|-|-|", "|plural|-|"), R"(verbs.tsv:2: only an impersonal verb can be "plural")"},
+        {with("|1|love", "|6|love"), R"(verbs.tsv:2: the use "6" is not a class from 1 to 5)"},
+        {with("|1|love", "|-|love"), R"(verbs.tsv:2: the use "-" is not a class from 1 to 5)"},
+        {with("|love|", "|love (à, de), like (en), cherish (à), adore|"),
+         "verbs.tsv:2: more than three senses in english"},
+        {with("|love|", "|love (à|"), "verbs.tsv:2: the brackets in english are not in pairs"},
+        {with("|love|", "|love) (à|"), "verbs.tsv:2: the brackets in english are not in pairs"},
         {with("|lieben|", "||"), "verbs.tsv:2: the german translation is missing"},
         {with("|amare|", "|-|"), "verbs.tsv:2: the italian translation is missing"},
         {with("|love|", "|love, like, cherish, adore|"),

@@ -23,6 +23,8 @@ inline constexpr std::array<std::string_view, 6> kLanguages{"english", "german",
 struct Verb {
     std::int64_t id = 0;
     conjugator::VerbEntry entry;
+    /// From 1, the commonest verbs, to 5, the rarest.
+    int use = 0;
     /// By kLanguages.
     std::array<std::string, kLanguages.size()> translations;
 };

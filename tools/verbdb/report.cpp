@@ -3,6 +3,8 @@
 
 #include "verbdb/report.h"
 
+#include "verbdb/senses.h"
+
 #include <algorithm>
 #include <map>
 #include <ostream>
@@ -33,8 +35,7 @@ void printReport(const Content& content, std::ostream& output)
         entriesOfHeadword[content.conjugator.headword(verb.entry)] += 1;
         for (std::size_t language = 0; language < kLanguages.size(); ++language) {
             const auto& text = verb.translations[language];
-            senses[language] +=
-                1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), ','));
+            senses[language] += sensesOf(text).size();
             texts[language].insert(text);
         }
         if (content.conjugator.models()

@@ -3,7 +3,7 @@
 
 #include "verbdb/simplify.h"
 
-#include "conjugator/text_table.h"
+#include "verbdb/senses.h"
 
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
@@ -14,12 +14,6 @@
 namespace lumora::verbdb {
 
 namespace {
-
-std::string_view withoutBrackets(std::string_view sense)
-{
-    const auto open = sense.rfind(" (");
-    return sense.ends_with(')') && open != std::string_view::npos ? sense.substr(0, open) : sense;
-}
 
 std::string folded(std::string_view text)
 {
@@ -54,7 +48,7 @@ std::string folded(std::string_view text)
 std::string simplified(std::string_view text)
 {
     std::string result;
-    for (const auto& sense : conjugator::split(text, ", ")) {
+    for (const auto& sense : sensesOf(text)) {
         result += (result.empty() ? "" : ", ") + folded(withoutBrackets(sense));
     }
     return result;
