@@ -6,6 +6,7 @@
 #include "conjugator/elision.h"
 #include "conjugator/row_builder.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -53,39 +54,64 @@ std::string Conjugator::headword(const VerbEntry& entry) const
     return entry.infinitive + (elides(entry.infinitive, entry.aspirated) ? " (s')" : " (se)");
 }
 
+int Conjugator::group(const VerbEntry& entry) const
+{
+    if (entry.infinitive.ends_with("er")) {
+        return entry.model == "aller" ? 3 : 1;
+    }
+    const auto gerund = models_.conjugate(entry.model, entry.infinitive).gerund;
+    const bool issant = std::any_of(gerund.begin(), gerund.end(), [](const Form& form) {
+        return form.text.ends_with("issant") || form.text.ends_with("ïssant");
+    });
+    const bool ir = entry.infinitive.ends_with("ir") || entry.infinitive.ends_with("ïr");
+    return ir && issant ? 2 : 3;
+}
+
+std::vector<AuxiliaryUse> Conjugator::auxiliariesOf(Auxiliary auxiliary) const
+{
+    const AuxiliaryUse avoir{avoir_, false};
+    const AuxiliaryUse etre{etre_, true};
+    switch (auxiliary) {
+    case Auxiliary::Etre:
+        return {etre};
+    case Auxiliary::AvoirThenEtre:
+        return {avoir, etre};
+    case Auxiliary::EtreThenAvoir:
+        return {etre, avoir};
+    case Auxiliary::Avoir:
+        break;
+    }
+    return {avoir};
+}
+
 std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
 {
     const auto verb = models_.conjugate(entry.model, entry.infinitive);
-    RowBuilder builder(entry, verb);
+    RowBuilder builder(entry, verb, auxiliariesOf(entry.auxiliary));
 
-    const auto compound = [&](Tense tense, bool etre, bool shown) {
-        const auto& auxiliary = etre ? etre_ : avoir_;
-        const AuxiliaryUse use{auxiliary, etre, shown};
-        const auto persons = [&](const PersonForms& forms) {
-            builder.compoundTense(tense, forms, use);
-        };
+    const auto compound = [&](Tense tense) {
         switch (tense) {
         case Tense::ConditionnelPasse1reForme:
-            return persons(auxiliary.conditional);
+            return builder.compoundTense(tense, &Paradigm::conditional);
         case Tense::ConditionnelPasse2eForme:
         case Tense::SubjonctifPlusqueParfait:
-            return persons(auxiliary.pastSubjunctive);
+            return builder.compoundTense(tense, &Paradigm::pastSubjunctive);
         case Tense::Imperatif:
-            return builder.pastImperative(use);
+            return builder.pastImperative();
         case Tense::IndicatifFuturAnterieur:
-            return persons(auxiliary.future);
+            return builder.compoundTense(tense, &Paradigm::future);
         case Tense::IndicatifPasseAnterieur:
-            return persons(auxiliary.past);
+            return builder.compoundTense(tense, &Paradigm::past);
         case Tense::IndicatifPasseCompose:
-            return persons(auxiliary.present);
+            return builder.compoundTense(tense, &Paradigm::present);
         case Tense::IndicatifPlusQueParfait:
-            return persons(auxiliary.imperfect);
+            return builder.compoundTense(tense, &Paradigm::imperfect);
         case Tense::Infinitif:
-            return builder.pastOf(tense, auxiliary.infinitive, use);
+            return builder.pastOf(tense, &Paradigm::infinitive);
         case Tense::Participe:
-            return builder.pastOf(tense, auxiliary.gerund, use);
+            return builder.pastOf(tense, &Paradigm::gerund);
         case Tense::SubjonctifPasse:
-            return persons(auxiliary.subjunctive);
+            return builder.compoundTense(tense, &Paradigm::subjunctive);
         default:
             return;
         }
@@ -117,22 +143,14 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
         }
     };
 
-    const bool etreShown =
-        entry.auxiliary == Auxiliary::Etre || entry.auxiliary == Auxiliary::EtreThenAvoir;
     for (std::size_t block = 0; block < kTenseNames.size(); ++block) {
         const auto tense = static_cast<Tense>(block);
         simple(tense);
-        compound(tense, etreShown, true);
+        compound(tense);
     }
     if (entry.pronominal) {
         builder.searchRow(Tense::Infinitif, "",
                           builder.reflexive(entry.infinitive) + entry.infinitive);
-    }
-    if (entry.auxiliary == Auxiliary::AvoirThenEtre ||
-        entry.auxiliary == Auxiliary::EtreThenAvoir) {
-        for (std::size_t block = 0; block < kTenseNames.size(); ++block) {
-            compound(static_cast<Tense>(block), !etreShown, false);
-        }
     }
     auto rows = builder.take();
 
@@ -146,6 +164,7 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
         for (auto& row : this->rows(modern)) {
             if (isOneForm(row)) {
                 row.shown = false;
+                row.divisions.clear();
                 rows.push_back(std::move(row));
             }
         }

@@ -32,6 +32,7 @@ VerbEntry verb(std::string infinitive, std::string model, std::string_view trait
     for (const auto& trait : split(traits, " ")) {
         entry.auxiliary = trait == "être"         ? Auxiliary::Etre
                           : trait == "être+avoir" ? Auxiliary::EtreThenAvoir
+                          : trait == "avoir+être" ? Auxiliary::AvoirThenEtre
                                                   : entry.auxiliary;
         entry.aspirated |= trait == "aspirated";
         entry.impersonal |= trait == "impersonal";

@@ -69,7 +69,7 @@ TEST_F(Verbdb, WritesVerbsAndTheirForms)
                     "je|paye|0", "tu|paies|0", "tu|payes|0", "il/elle/on|paie|0",
                     "il/elle/on|paye|0", "ils/elles|paient|0", "ils/elles|payent|0"}));
     EXPECT_EQ(query("SELECT verbid, verb FROM conjugation WHERE verbid >= 40 AND type = "
-                    "'indicatifFuturSimple' AND pronoun = 'il/elle/on'"),
+                    "'indicatifFuturSimple' AND pronoun LIKE 'il/elle%'"),
               (Rows{"40|saillera", "41|saillira"}));
     EXPECT_EQ(query("SELECT pronoun, verb FROM conjugation WHERE verbid = 23 AND conj_order = 1"),
               Rows{"j'|aurais haï"});
@@ -138,7 +138,7 @@ TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
         {head, "verbs.tsv:1: there are no verbs"},
         {line, "verbs.tsv:1: the header must be id, infinitive, model, auxiliary, traits, "
                "participle, use, english, german, dutch, spanish, italian, portuguese"},
-        {with("|amar\n", "\n"), "verbs.tsv:2: expected 13 columns, found 11"},
+        {with("|amar\n", "\n"), "verbs.tsv:2: expected 13 columns, found 12"},
         {verbs("\n"), "verbs.tsv:2: expected 13 columns, found 1"},
         {with("1|", "0|"), R"(verbs.tsv:2: the id "0" is not a positive whole number)"},
         {with("1|", "1a|"), R"(verbs.tsv:2: the id "1a" is not a positive whole number)"},
@@ -153,8 +153,7 @@ TEST_F(Verbdb, RefusesABadTableAndLeavesNothingBehind)
         {with("|-|-|", "|silent|-|"), R"(verbs.tsv:2: unknown trait "silent")"},
         {with("|-|-|", "|pronominal|-|"), R"(verbs.tsv:2: a pronominal verb takes "être")"},
         {with("|-|-|", "|-|variable|"), R"(verbs.tsv:2: unknown participle "variable")"},
-        {with("|-|-|", "|defective,defective|-|"),
-         R"(verbs.tsv:2: the trait "defective" stands twice)"},
+        {with("|-|-|", "|defective,defective|-|"), R"(verbs.tsv:2: "defective" stands twice)"},
         {with("|-|-|", "|-|invariable,indirect|"),
          R"(verbs.tsv:2: only a pronominal verb can be "indirect")"},
         {with("|-|-|", "|en|-|"), R"(verbs.tsv:2: only a pronominal verb can be "en")"},
