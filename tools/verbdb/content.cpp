@@ -21,7 +21,16 @@ using conjugator::Auxiliary;
 using conjugator::ModelTable;
 using conjugator::TextTable;
 
-enum Column : std::size_t { Id, Infinitive, Model, AuxiliaryVerb, Traits, Participle, Use, English };
+enum Column : std::size_t {
+    Id,
+    Infinitive,
+    Model,
+    AuxiliaryVerb,
+    Traits,
+    Participle,
+    Use,
+    English
+};
 
 constexpr std::size_t kMaximalSenses = 3;
 constexpr int kUseClasses = 5;
@@ -56,61 +65,49 @@ std::int64_t readId(const TextTable& table, const TextTable::Record& record)
 
 Auxiliary readAuxiliary(const TextTable& table, const TextTable::Record& record)
 {
-    static const std::map<std::string, Auxiliary> names{
-        {"avoir", Auxiliary::Avoir},
-        {"être", Auxiliary::Etre},
-        {"avoir+être", Auxiliary::AvoirThenEtre},
-        {"être+avoir", Auxiliary::EtreThenAvoir},
-    };
-    const auto found = names.find(record.fields[AuxiliaryVerb]);
-    if (found == names.end()) {
-        table.refuse(record, "unknown auxiliary " + inQuotes(record.fields[AuxiliaryVerb]));
+    const auto& text = record.fields[AuxiliaryVerb];
+    const auto* const found = std::find(kAuxiliaries.begin(), kAuxiliaries.end(), text);
+    if (found == kAuxiliaries.end()) {
+        table.refuse(record, "unknown auxiliary " + inQuotes(text));
     }
-    return found->second;
+    return static_cast<Auxiliary>(found - kAuxiliaries.begin());
 }
 
 /// Sets what the words of a column name; "-" is none.
-void readWords(const TextTable& table, const TextTable::Record& record, Column column,
-               const std::string& kind, const std::map<std::string, bool*>& names)
+template <std::size_t kCount>
+void readFlags(const TextTable& table, const TextTable::Record& record, Column column,
+               const std::array<FlagName, kCount>& names, conjugator::VerbEntry& entry)
 {
-    if (record.fields[column] == "-") {
+    const std::string kind = column == Traits ? "trait" : "participle";
+    const auto words = conjugator::split(record.fields[column], ",");
+    if (words.size() == 1 && words[0] == "-") {
         return;
     }
-    for (const auto& word : conjugator::split(record.fields[column], ",")) {
-        const auto found = names.find(word);
+    for (const auto& word : words) {
+        const auto* const found = std::find_if(
+            names.begin(), names.end(), [&](const FlagName& flag) { return flag.name == word; });
         if (found == names.end()) {
             table.refuse(record, "unknown " + kind + " " + inQuotes(word));
         }
-        if (*found->second) {
-            table.refuse(record, "the " + kind + " " + inQuotes(word) + " stands twice");
+        auto& flag = entry.*found->flag;
+        if (flag) {
+            table.refuse(record, inQuotes(word) + " stands twice");
         }
-        *found->second = true;
+        flag = true;
     }
 }
 
 void readTraits(const TextTable& table, const TextTable::Record& record,
                 conjugator::VerbEntry& entry)
 {
-    readWords(table, record, Traits, "trait",
-              {
-                  {"aspirated", &entry.aspirated},
-                  {"impersonal", &entry.impersonal},
-                  {"plural", &entry.plural},
-                  {"pronominal", &entry.pronominal},
-                  {"en", &entry.en},
-                  {"defective", &entry.defective},
-              });
-    readWords(table, record, Participle, "participle",
-              {
-                  {"invariable", &entry.invariableParticiple},
-                  {"indirect", &entry.indirectPronoun},
-              });
+    readFlags(table, record, Traits, kTraits, entry);
+    readFlags(table, record, Participle, kParticipleKinds, entry);
     if (entry.pronominal && entry.auxiliary != Auxiliary::Etre) {
         table.refuse(record, "a pronominal verb takes \"être\"");
     }
     if ((entry.en || entry.indirectPronoun) && !entry.pronominal) {
-        table.refuse(record, "only a pronominal verb can be " +
-                                 inQuotes(entry.en ? "en" : "indirect"));
+        table.refuse(record,
+                     "only a pronominal verb can be " + inQuotes(entry.en ? "en" : "indirect"));
     }
     if (entry.plural && !entry.impersonal) {
         table.refuse(record, "only an impersonal verb can be \"plural\"");
