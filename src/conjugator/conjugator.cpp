@@ -7,6 +7,7 @@
 #include "conjugator/row_builder.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -27,6 +28,16 @@ std::string respelled(std::string infinitive)
         }
     }
     return infinitive;
+}
+
+/// The text with its ligatures opened, as a keyboard without them writes it.
+std::string withoutLigature(std::string text)
+{
+    constexpr std::string_view kLigature = "œ";
+    for (auto at = text.find(kLigature); at != std::string::npos; at = text.find(kLigature)) {
+        text.replace(at, kLigature.size(), "oe");
+    }
+    return text;
 }
 
 /// Whether a row is one form as it is written, neither double nor bracketed.
@@ -166,6 +177,15 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
                 row.shown = false;
                 row.divisions.clear();
                 rows.push_back(std::move(row));
+            }
+        }
+    }
+    if (withoutLigature(entry.infinitive) != entry.infinitive) {
+        const auto count = rows.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            if (isOneForm(rows[i])) {
+                rows.push_back(
+                    {rows[i].tense, rows[i].pronoun, withoutLigature(rows[i].verb), false, {}});
             }
         }
     }

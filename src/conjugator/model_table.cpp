@@ -47,7 +47,7 @@ std::string joined(const std::vector<std::string>& names, const std::string& bet
 /// Stands in a cell before the ending of a form.
 constexpr char kEndingMark = '|';
 
-/// Every infinitive ends in one of these.
+/// Every infinitive ends in one of these unless its model says otherwise.
 std::string_view infinitiveEnding(std::string_view infinitive)
 {
     for (const std::string_view ending : {"er", "eoir", "oir", "ir", "ïr", "re"}) {
@@ -317,7 +317,9 @@ Paradigm ModelTable::conjugate(std::string_view model, std::string_view infiniti
     std::array<Forms, 1> single;
     fill(single, "infinitive", noStem, [&] { single[0] = {{std::string(infinitive)}}; });
     for (auto& form : single[0]) {
-        form.ending = form.text.size() - infinitiveEnding(form.text).size();
+        if (form.ending == Form::kNoEnding) {
+            form.ending = form.text.size() - infinitiveEnding(form.text).size();
+        }
     }
     verb.infinitive = single[0];
 

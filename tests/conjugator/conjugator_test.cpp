@@ -118,6 +118,15 @@ TEST(Conjugator, KeepsWhatIsNotShownForTheSearch)
         {verb("jeûner", "aimer"), {}, {"jeune"}},
         {verb("connaître", "connaître"), {"connaitrons"}, {}},
         {verb("croître", "croître"), {}, {"croit"}},
+        {verb("œuvrer", "aimer", "invariable"),
+         {"oeuvrer", "oeuvrions", "ai oeuvré", "ayant oeuvré"},
+         {"œuvrions"}},
+        {verb("désœuvrer", "aimer", "être pronominal"),
+         {"se désoeuvrer", "étions désoeuvrées", "s'être désoeuvrés"},
+         {"étions désœuvré"}},
+        {verb("ficher", "ficher", "être pronominal"),
+         {"se ficher", "se fiche", "sont fichues"},
+         {}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.entry.infinitive);
