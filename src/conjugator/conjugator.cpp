@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 
 namespace lumora::conjugator {
@@ -44,6 +45,16 @@ std::string withoutLigature(std::string text)
 bool isOneForm(const Row& row)
 {
     return row.verb.find_first_of(",(") == std::string::npos;
+}
+
+/// A search needs each form once, whatever the tenses and persons that have it.
+void dropRepeated(std::vector<Row>& rows)
+{
+    std::unordered_set<std::string> seen;
+    rows.erase(
+        std::remove_if(rows.begin(), rows.end(),
+                       [&](const Row& row) { return !seen.insert(row.verb).second && !row.shown; }),
+        rows.end());
 }
 
 } // namespace
@@ -159,10 +170,6 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
         simple(tense);
         compound(tense);
     }
-    if (entry.pronominal) {
-        builder.searchRow(Tense::Infinitif, "",
-                          builder.reflexive(entry.infinitive) + entry.infinitive);
-    }
     auto rows = builder.take();
 
     // Where the circumflex stands before the ending, the whole verb has a second
@@ -188,6 +195,14 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
                     {rows[i].tense, rows[i].pronoun, withoutLigature(rows[i].verb), false, {}});
             }
         }
+    }
+    dropRepeated(rows);
+    if (entry.pronominal) {
+        rows.push_back({Tense::Infinitif,
+                        "",
+                        builder.reflexive(entry.infinitive) + entry.infinitive,
+                        false,
+                        {}});
     }
     return rows;
 }

@@ -157,11 +157,6 @@ void RowBuilder::pastOf(Tense tense, Forms Paradigm::*helping)
     });
 }
 
-void RowBuilder::searchRow(Tense tense, std::string pronoun, std::string verb)
-{
-    hidden_.push_back({tense, std::move(pronoun), std::move(verb), false, {}});
-}
-
 std::string RowBuilder::reflexive(std::string_view word) const
 {
     if (entry_.en) {

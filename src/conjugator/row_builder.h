@@ -47,8 +47,6 @@ public:
 
     void pastOf(Tense tense, Forms Paradigm::*helping);
 
-    void searchRow(Tense tense, std::string pronoun, std::string verb);
-
     std::string reflexive(std::string_view word) const;
 
     std::vector<Row> take();

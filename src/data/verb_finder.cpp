@@ -9,7 +9,6 @@
 #include <unicode/unistr.h>
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -24,6 +23,8 @@ namespace {
 struct Name {
     icu::UnicodeString verb;
     bool pronominal = false;
+    /// As in s'en aller.
+    bool en = false;
 
     bool operator==(const Name&) const = default;
 };
@@ -39,27 +40,31 @@ icu::UnicodeString normalized(const icu::UnicodeString& text, bool decomposed)
 
 Name nameOf(std::string_view utf8)
 {
-    static constexpr std::array kBefore{u"se ", u"s'"};
-    static constexpr std::array kAfter{u" (se)", u" (s')"};
+    struct Particle {
+        const char16_t* text;
+        bool en;
+    };
+    static constexpr Particle kBefore[] = {{u"s'en ", true}, {u"se ", false}, {u"s'", false}};
+    static constexpr Particle kAfter[] = {{u" (s'en)", true}, {u" (se)", false}, {u" (s')", false}};
 
     auto text =
         normalized(icu::UnicodeString::fromUTF8({utf8.data(), static_cast<int>(utf8.size())}),
                    false)
             .toLower(icu::Locale::getRoot());
     text.findAndReplace(u"\u2019", u"'").trim();
-    for (const auto* before : kBefore) {
-        const icu::UnicodeString prefix{before};
+    for (const auto& before : kBefore) {
+        const icu::UnicodeString prefix{before.text};
         if (text.startsWith(prefix)) {
-            return {text.tempSubString(prefix.length()).trim(), true};
+            return {text.tempSubString(prefix.length()).trim(), true, before.en};
         }
     }
-    for (const auto* after : kAfter) {
-        const icu::UnicodeString suffix{after};
+    for (const auto& after : kAfter) {
+        const icu::UnicodeString suffix{after.text};
         if (text.endsWith(suffix)) {
-            return {text.tempSubString(0, text.length() - suffix.length()).trim(), true};
+            return {text.tempSubString(0, text.length() - suffix.length()).trim(), true, after.en};
         }
     }
-    return {text, false};
+    return {text};
 }
 
 icu::UnicodeString withoutAccents(const icu::UnicodeString& text)
@@ -76,7 +81,7 @@ icu::UnicodeString withoutAccents(const icu::UnicodeString& text)
 
 Name withoutAccents(const Name& name)
 {
-    return {withoutAccents(name.verb), name.pronominal};
+    return {withoutAccents(name.verb), name.pronominal, name.en};
 }
 
 template <typename Condition>

@@ -23,10 +23,11 @@ namespace {
 
 // Fixed pages and rows written in the order of their keys make the file a
 // function of the tables. Without a rowid a verb's forms lie together and the
-// text is not kept a second time in an index. What a search looks at lies at the
+// text is not kept a second time in an index; a number of a row's own would be
+// 3 MB that nothing else follows from, so it is computed. What a search looks at lies at the
 // head of a verb's row, for SQLite counts its way through to a column.
 constexpr auto kSchema = R"(
-PRAGMA page_size = 4096;
+PRAGMA page_size = 8192;
 PRAGMA encoding = 'UTF-8';
 PRAGMA auto_vacuum = NONE;
 PRAGMA journal_mode = OFF;
@@ -49,7 +50,7 @@ CREATE TABLE verb (
     simplified_portuguese TEXT NOT NULL
 );
 CREATE TABLE conjugation (
-    _id INTEGER NOT NULL,
+    _id INTEGER NOT NULL GENERATED ALWAYS AS (verbid * 1000 + conj_order) VIRTUAL,
     verbid INTEGER NOT NULL REFERENCES verb (_id),
     pronoun TEXT NOT NULL,
     verb TEXT NOT NULL,
@@ -77,9 +78,12 @@ CREATE INDEX favourite_verbid ON favourite (verbid);
 CREATE INDEX history_verbid ON history (verbid);
 )";
 
+/// Of a verb, so that the numbers of its rows are its own.
+constexpr std::int64_t kMostRows = 999;
+
 constexpr auto kInsertVerb =
     "INSERT INTO verb VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14)";
-constexpr auto kInsertForm = "INSERT INTO conjugation VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7)";
+constexpr auto kInsertForm = "INSERT INTO conjugation VALUES (?1, ?2, ?3, ?4, ?5, ?6)";
 // Bound as text, whose NULs SQLite keeps.
 constexpr auto kInsertPacked = "INSERT INTO packed_forms VALUES (?1, CAST(?2 AS BLOB))";
 constexpr auto kInsertFacts = "INSERT INTO verb_facts VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)";
@@ -233,7 +237,6 @@ void writeRows(const Content& content, Output& output)
     Insertion insertForm(output, kInsertForm);
     Insertion insertPacked(output, kInsertPacked);
     FactsWriter facts(content, output);
-    std::int64_t formId = 0;
     for (const auto& verb : content.verbs) {
         const auto headword = content.conjugator.headword(verb.entry);
         const auto simplifiedHeadword = simplified(headword);
@@ -253,11 +256,13 @@ void writeRows(const Content& content, Output& output)
         PackedForms packed;
         const auto rows = content.conjugator.rows(verb.entry);
         for (const auto& row : rows) {
-            insertForm << ++formId << verb.id << std::string_view(row.pronoun)
-                       << std::string_view(row.verb) << conjugator::name(row.tense) << ++order
-                       << std::int64_t{row.shown};
+            insertForm << verb.id << std::string_view(row.pronoun) << std::string_view(row.verb)
+                       << conjugator::name(row.tense) << ++order << std::int64_t{row.shown};
             insertForm.run();
             packed.add(row.verb);
+            if (order >= kMostRows) {
+                throw std::runtime_error(headword + " has too many forms");
+            }
         }
         insertPacked << verb.id << packed.text();
         insertPacked.run();
