@@ -211,7 +211,10 @@ TEST_F(Verbdb, AnswersItsArguments)
     output.str("");
     EXPECT_EQ(run({"--report", folder_.path().string()}, output, errors), 0);
     EXPECT_TRUE(output.str().starts_with("verbs              20\n")) << output.str();
-    EXPECT_NE(output.str().find("  saillir\t2\n"), std::string::npos) << "stands twice";
+    for (const char* line : {"  saillir\t2\n", "  être+avoir\t1\n", "  pronominal\t2\n",
+                             "  invariable\t5\n", "  en\t0\n"}) {
+        EXPECT_NE(output.str().find(line), std::string::npos) << line;
+    }
 }
 
 } // namespace
