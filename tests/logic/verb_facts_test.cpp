@@ -4,6 +4,7 @@
 #include "data/verb_facts.h"
 
 #include "data/form_parts.h"
+#include "data/homographs.h"
 #include "platform/database_queue.h"
 #include "support/stock_sqlite.h"
 #include "support/world.h"
@@ -198,12 +199,56 @@ TEST(VerbFacts, TellOfEveryVerbWhatTheTablesSay)
                 testing::IsEmpty());
 }
 
+TEST(VerbFacts, TellHomographsApartAndTheCommonerFirst)
+{
+    const support::World world;
+    for (const char* sql : {
+             "INSERT INTO verb(_id, french) VALUES (7, 'ressortir'), (8, 'ressortir'),"
+             " (9, 'ressortir'), (10, 'monter')",
+             "INSERT INTO verb_facts(verbid, model, auxiliary, use_class) VALUES"
+             " (7, 'finir', 'avoir', 5), (8, 'sentir', 'être+avoir', 4), (9, 'sentir', 'avoir', 3),"
+             " (10, 'aimer', 'être', 1), (3, 'aller', 'être', 1)",
+         }) {
+        support::executeOn(*world.queue, sql);
+    }
+    std::vector<VerbPtr> verbs;
+    for (const auto& [id, french] : {std::pair{7, "ressortir"},
+                                     {8, "ressortir"},
+                                     {9, "ressortir"},
+                                     {10, "monter"},
+                                     {3, "aller"},
+                                     {1, "avoir"}}) {
+        verbs.push_back(std::make_shared<Verb>());
+        verbs.back()->id = id;
+        verbs.back()->french = french;
+    }
+    std::vector<std::string> texts;
+    world.queue->inDatabase([&](platform::Database& database) {
+        EXPECT_TRUE(distinguishHomographs(database, verbs));
+        for (const auto& verb : verbs) {
+            texts.push_back(verb->distinction);
+        }
+        EXPECT_TRUE(putCommonestFirst(database, verbs));
+    });
+    EXPECT_THAT(texts, ElementsAre("avoir, finir", "être, avoir", "avoir, sentir", "", "", ""));
+    std::vector<std::int64_t> ids;
+    for (const auto& verb : verbs) {
+        ids.push_back(verb->id);
+    }
+    EXPECT_THAT(ids, ElementsAre(10, 3, 9, 8, 7, 1));
+}
+
 TEST(VerbFacts, AreAnErrorWithoutTheTable)
 {
     const support::World world;
+    support::executeOn(*world.queue, "DROP TABLE verb_facts");
     world.queue->inDatabase([](platform::Database& database) {
+        std::vector<VerbPtr> verbs{std::make_shared<Verb>()};
         EXPECT_FALSE(readVerbFacts(database, 3));
         EXPECT_FALSE(readFormDivisions(database, 3));
+        EXPECT_FALSE(distinguishHomographs(database, verbs));
+        EXPECT_FALSE(putCommonestFirst(database, verbs));
+        EXPECT_TRUE(verbs[0]);
     });
 }
 
