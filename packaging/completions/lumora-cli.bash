@@ -16,16 +16,17 @@ _lumora_cli() {
     local current=${COMP_WORDS[COMP_CWORD]} words=
     COMPREPLY=()
     case "$COMP_CWORD ${COMP_WORDS[1]} ${COMP_WORDS[COMP_CWORD - 1]}" in
-        1\ *) words="conjugate search export backup restore help version --help --version" ;;
-        2\ help\ *) words="conjugate search export backup restore help version" ;;
+        1\ *) words="conjugate about search export backup restore help version --help --version" ;;
+        2\ help\ *) words="conjugate about search export backup restore help version" ;;
         *\ --language) words="en fr de es pt it nl" ;;
-        *\ conjugate\ *) words="--language --help" ;;
+        *\ conjugate\ *) words="--stems --language --help" ;;
+        *\ about\ *) words="--language --help" ;;
         *\ search\ *) words="--anywhere --conjugations --translations --language --help" ;;
         *\ export\ *) words="--html --text --language --help" ;;
         *\ backup\ * | *\ restore\ *) words="--help" ;;
     esac
     case "${COMP_WORDS[1]} $current" in
-        conjugate\ [!-]* | export\ [!-]*) _lumora_cli_verbs "$current" ;;
+        conjugate\ [!-]* | about\ [!-]* | export\ [!-]*) _lumora_cli_verbs "$current" ;;
         backup\ [!-]* | restore\ [!-]* | backup\  | restore\ )
             compopt -o filenames
             mapfile -t COMPREPLY < <(compgen -f -- "$current")

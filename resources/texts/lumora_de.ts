@@ -153,6 +153,10 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Sie haben noch keine Verben angesehen. Die Verben, die Sie öffnen, erscheinen hier.</translation>
     </message>
+    <message id="link.homographs">
+        <source></source>
+        <translation>Lumora kennt noch ein Verb dieses Namens:</translation>
+    </message>
     <message id="link.malformed">
         <source></source>
         <translation>Der Link führt zu keinem Verb.</translation>

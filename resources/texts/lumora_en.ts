@@ -153,6 +153,10 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>You have not looked at any verbs yet. The verbs you open will be listed here.</translation>
     </message>
+    <message id="link.homographs">
+        <source></source>
+        <translation>Lumora has another verb of this name:</translation>
+    </message>
     <message id="link.malformed">
         <source></source>
         <translation>The link does not lead to a verb.</translation>

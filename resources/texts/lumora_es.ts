@@ -153,6 +153,10 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Aún no has consultado ningún verbo. Los verbos que abras aparecerán aquí.</translation>
     </message>
+    <message id="link.homographs">
+        <source></source>
+        <translation>Lumora tiene otro verbo con este nombre:</translation>
+    </message>
     <message id="link.malformed">
         <source></source>
         <translation>El enlace no lleva a ningún verbo.</translation>

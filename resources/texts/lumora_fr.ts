@@ -153,6 +153,10 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Vous n’avez encore consulté aucun verbe. Les verbes que vous ouvrez apparaîtront ici.</translation>
     </message>
+    <message id="link.homographs">
+        <source></source>
+        <translation>Lumora connaît un autre verbe de ce nom :</translation>
+    </message>
     <message id="link.malformed">
         <source></source>
         <translation>Le lien ne mène à aucun verbe.</translation>

@@ -153,6 +153,10 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Non hai ancora consultato nessun verbo. I verbi che apri compariranno qui.</translation>
     </message>
+    <message id="link.homographs">
+        <source></source>
+        <translation>Lumora ha un altro verbo con questo nome:</translation>
+    </message>
     <message id="link.malformed">
         <source></source>
         <translation>Il collegamento non porta a nessun verbo.</translation>

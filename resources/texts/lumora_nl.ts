@@ -153,6 +153,10 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Je hebt nog geen werkwoorden bekeken. De werkwoorden die je opent, verschijnen hier.</translation>
     </message>
+    <message id="link.homographs">
+        <source></source>
+        <translation>Lumora heeft nog een werkwoord met deze naam:</translation>
+    </message>
     <message id="link.malformed">
         <source></source>
         <translation>De link leidt niet naar een werkwoord.</translation>

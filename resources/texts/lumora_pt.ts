@@ -153,6 +153,10 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Ainda não consultou nenhum verbo. Os verbos que abrir aparecem aqui.</translation>
     </message>
+    <message id="link.homographs">
+        <source></source>
+        <translation>O Lumora tem outro verbo com este nome:</translation>
+    </message>
     <message id="link.malformed">
         <source></source>
         <translation>A ligação não conduz a nenhum verbo.</translation>

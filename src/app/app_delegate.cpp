@@ -6,6 +6,7 @@
 #include "app/database_preparation.h"
 #include "app/deep_link.h"
 #include "app/old_settings_file.h"
+#include "data/homographs.h"
 #include "data/verb_finder.h"
 #include "data/verb_reader.h"
 #include "detail/verb_detail_table_view_controller.h"
@@ -190,8 +191,8 @@ void AppDelegate::openLink(std::string_view link)
     auto& home = homeScreen();
     home.loadViewIfNeeded();
     const auto target = DeepLink::parse(link);
-    const auto verb = target ? verbNamed(target->infinitive) : nullptr;
-    if (!verb) {
+    const auto verbs = target ? verbsNamed(target->infinitive) : std::vector<data::VerbPtr>{};
+    if (verbs.empty()) {
         // Without the name: a stranger wrote it.
         const auto text = [this](std::string_view key) {
             return platform::localizedString(services_.bundle, key);
@@ -201,26 +202,57 @@ void AppDelegate::openLink(std::string_view link)
                                    text("common.ok")));
         return;
     }
-    // However many links are followed, the way back is the list.
-    listStack().popToRootViewController();
-    home.didSelectSearchResult(verb);
+    openFromLink(verbs.front());
+    if (verbs.size() > 1) {
+        offerHomographs({verbs.begin() + 1, verbs.end()});
+    }
 }
 
-data::VerbPtr AppDelegate::verbNamed(std::string_view infinitive)
+void AppDelegate::openFromLink(const data::VerbPtr& verb)
 {
-    std::vector<data::VerbPtr> verbs;
-    if (queue != nullptr) {
-        queue->inDatabase([&](platform::Database& database) {
-            auto rows = database.executeQuery(kEveryVerb, {});
-            if (!data::readVerbs(rows, data::VerbReader::Spellings::Plain, verbs)) {
-                services_.crashReporter.logWithFormat(
-                    "An error occurred when looking up a link: %@ (%d)",
-                    {database.lastErrorMessage(), database.lastErrorCode()});
-            }
-        });
+    // However many links are followed, the way back is the list.
+    listStack().popToRootViewController();
+    homeScreen().didSelectSearchResult(verb);
+}
+
+void AppDelegate::offerHomographs(const std::vector<data::VerbPtr>& verbs)
+{
+    platform::Alert alert{
+        verbs.front()->french, platform::localizedString(services_.bundle, "link.homographs"), {}};
+    for (const auto& verb : verbs) {
+        const auto& translation = verb->translation(services_.settings, services_.device);
+        const bool told = translation != verb->french || verb->distinction.empty();
+        alert.actions.push_back({told ? translation : verb->french + " (" + verb->distinction + ")",
+                                 platform::ActionStyle::Normal,
+                                 [this, verb] { openFromLink(verb); }});
     }
-    const auto found = data::verbsNamed(infinitive, verbs);
-    return found.empty() ? nullptr : found.front();
+    alert.actions.push_back({platform::localizedString(services_.bundle, "common.ok"),
+                             platform::ActionStyle::Cancel, nullptr});
+    services_.presenter.presentAlert(homeScreen(), alert);
+}
+
+std::vector<data::VerbPtr> AppDelegate::verbsNamed(std::string_view infinitive)
+{
+    std::vector<data::VerbPtr> found;
+    if (queue == nullptr) {
+        return found;
+    }
+    queue->inDatabase([&](platform::Database& database) {
+        std::vector<data::VerbPtr> verbs;
+        auto rows = database.executeQuery(kEveryVerb, {});
+        bool read = data::readVerbs(rows, data::VerbReader::Spellings::Plain, verbs);
+        found = data::verbsNamed(infinitive, verbs);
+        if (read && found.size() > 1) {
+            read = data::putCommonestFirst(database, found) &&
+                   data::distinguishHomographs(database, found);
+        }
+        if (!read) {
+            services_.crashReporter.logWithFormat(
+                "An error occurred when looking up a link: %@ (%d)",
+                {database.lastErrorMessage(), database.lastErrorCode()});
+        }
+    });
+    return found;
 }
 
 bool AppDelegate::collapseSecondaryViewControllerOntoPrimary(platform::ViewController& secondary,

@@ -84,7 +84,8 @@ public:
                                       const std::function<void(bool)>& completed);
 
     /// Opens the verb that the link names as if it had been found by searching,
-    /// or says that there is none.
+    /// or says that there is none. Of verbs with one name it opens the commonest
+    /// and offers the others.
     void openLink(std::string_view link);
 
     const BarAppearance& appearance() const { return appearance_; }
@@ -98,8 +99,10 @@ private:
     void wirePanes();
     void handleShortcutItem(const ShortcutItem& item);
     void openSearch();
-    /// Null when there is none; the first of homographs.
-    data::VerbPtr verbNamed(std::string_view infinitive);
+    /// The commonest first; empty when there is none.
+    std::vector<data::VerbPtr> verbsNamed(std::string_view infinitive);
+    void openFromLink(const data::VerbPtr& verb);
+    void offerHomographs(const std::vector<data::VerbPtr>& verbs);
     platform::SplitViewController& splitView();
     platform::NavigationController& listStack();
     navigation::HomeViewController& homeScreen();

@@ -45,15 +45,21 @@ std::string bracketedForm(Number number, const std::string& masculine, const std
 } // namespace
 
 Agreement::Agreement(const Paradigm& verb, bool agrees)
-    : forms_(verb.participle), agrees_(agrees && !verb.participle[1].empty())
-{}
+    : agrees_(agrees && !verb.participle[1].empty())
+{
+    for (std::size_t form = 0; form < forms_.size(); ++form) {
+        for (const auto& spelling : verb.participle[form]) {
+            forms_[form].push_back(spelling.text);
+        }
+    }
+}
 
-Forms Agreement::bracketed(Number number) const
+std::vector<std::string> Agreement::bracketed(Number number) const
 {
     if (!agrees_) {
         return forms_[0];
     }
-    Forms texts;
+    std::vector<std::string> texts;
     for (std::size_t i = 0; i < forms_[0].size(); ++i) {
         texts.push_back(
             bracketedForm(number, forms_[0][i], forms_[1][std::min(i, forms_[1].size() - 1)]));
@@ -61,12 +67,12 @@ Forms Agreement::bracketed(Number number) const
     return texts;
 }
 
-Forms Agreement::words(Number number) const
+std::vector<std::string> Agreement::words(Number number) const
 {
     if (!agrees_) {
         return forms_[0];
     }
-    Forms words;
+    std::vector<std::string> words;
     for (std::size_t form = 0; form < forms_.size(); ++form) {
         const bool plural = form >= 2;
         if (number != Number::Either && plural != (number == Number::Plural)) {

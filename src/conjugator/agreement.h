@@ -7,26 +7,28 @@
 #include "conjugator/paradigm.h"
 
 #include <array>
+#include <string>
+#include <vector>
 
 namespace lumora::conjugator {
 
 /// What the subject may be: vous is one or several.
 enum class Number { Singular, Plural, Either };
 
-/// The ways in which a participle agrees with the subject of être. The verb
-/// must outlive it.
+/// The ways in which a participle agrees with the subject of être.
 class Agreement {
 public:
     Agreement(const Paradigm& verb, bool agrees);
 
     /// "allé(e)s", "épris(es)": one text for every gender.
-    Forms bracketed(Number number) const;
+    std::vector<std::string> bracketed(Number number) const;
 
     /// "allés", "allées".
-    Forms words(Number number) const;
+    std::vector<std::string> words(Number number) const;
 
 private:
-    const std::array<Forms, 4>& forms_;
+    /// By the order of Paradigm::participle.
+    std::array<std::vector<std::string>, 4> forms_;
     bool agrees_;
 };
 

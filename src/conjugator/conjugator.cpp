@@ -6,7 +6,10 @@
 #include "conjugator/elision.h"
 #include "conjugator/row_builder.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 
 namespace lumora::conjugator {
@@ -28,10 +31,30 @@ std::string respelled(std::string infinitive)
     return infinitive;
 }
 
+/// The text with its ligatures opened, as a keyboard without them writes it.
+std::string withoutLigature(std::string text)
+{
+    constexpr std::string_view kLigature = "œ";
+    for (auto at = text.find(kLigature); at != std::string::npos; at = text.find(kLigature)) {
+        text.replace(at, kLigature.size(), "oe");
+    }
+    return text;
+}
+
 /// Whether a row is one form as it is written, neither double nor bracketed.
 bool isOneForm(const Row& row)
 {
     return row.verb.find_first_of(",(") == std::string::npos;
+}
+
+/// A search needs each form once, whatever the tenses and persons that have it.
+void dropRepeated(std::vector<Row>& rows)
+{
+    std::unordered_set<std::string> seen;
+    rows.erase(
+        std::remove_if(rows.begin(), rows.end(),
+                       [&](const Row& row) { return !seen.insert(row.verb).second && !row.shown; }),
+        rows.end());
 }
 
 } // namespace
@@ -47,42 +70,70 @@ std::string Conjugator::headword(const VerbEntry& entry) const
     if (!entry.pronominal) {
         return entry.infinitive;
     }
+    if (entry.en) {
+        return entry.infinitive + " (s'en)";
+    }
     return entry.infinitive + (elides(entry.infinitive, entry.aspirated) ? " (s')" : " (se)");
+}
+
+int Conjugator::group(const VerbEntry& entry) const
+{
+    if (entry.infinitive.ends_with("er")) {
+        return entry.model == "aller" ? 3 : 1;
+    }
+    const auto gerund = models_.conjugate(entry.model, entry.infinitive).gerund;
+    const bool issant = std::any_of(gerund.begin(), gerund.end(), [](const Form& form) {
+        return form.text.ends_with("issant") || form.text.ends_with("ïssant");
+    });
+    const bool ir = entry.infinitive.ends_with("ir") || entry.infinitive.ends_with("ïr");
+    return ir && issant ? 2 : 3;
+}
+
+std::vector<AuxiliaryUse> Conjugator::auxiliariesOf(Auxiliary auxiliary) const
+{
+    const AuxiliaryUse avoir{avoir_, false};
+    const AuxiliaryUse etre{etre_, true};
+    switch (auxiliary) {
+    case Auxiliary::Etre:
+        return {etre};
+    case Auxiliary::AvoirThenEtre:
+        return {avoir, etre};
+    case Auxiliary::EtreThenAvoir:
+        return {etre, avoir};
+    case Auxiliary::Avoir:
+        break;
+    }
+    return {avoir};
 }
 
 std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
 {
     const auto verb = models_.conjugate(entry.model, entry.infinitive);
-    RowBuilder builder(entry, verb);
+    RowBuilder builder(entry, verb, auxiliariesOf(entry.auxiliary));
 
-    const auto compound = [&](Tense tense, bool etre, bool shown) {
-        const auto& auxiliary = etre ? etre_ : avoir_;
-        const AuxiliaryUse use{auxiliary, etre, shown};
-        const auto persons = [&](const PersonForms& forms) {
-            builder.compoundTense(tense, forms, use);
-        };
+    const auto compound = [&](Tense tense) {
         switch (tense) {
         case Tense::ConditionnelPasse1reForme:
-            return persons(auxiliary.conditional);
+            return builder.compoundTense(tense, &Paradigm::conditional);
         case Tense::ConditionnelPasse2eForme:
         case Tense::SubjonctifPlusqueParfait:
-            return persons(auxiliary.pastSubjunctive);
+            return builder.compoundTense(tense, &Paradigm::pastSubjunctive);
         case Tense::Imperatif:
-            return builder.pastImperative(use);
+            return builder.pastImperative();
         case Tense::IndicatifFuturAnterieur:
-            return persons(auxiliary.future);
+            return builder.compoundTense(tense, &Paradigm::future);
         case Tense::IndicatifPasseAnterieur:
-            return persons(auxiliary.past);
+            return builder.compoundTense(tense, &Paradigm::past);
         case Tense::IndicatifPasseCompose:
-            return persons(auxiliary.present);
+            return builder.compoundTense(tense, &Paradigm::present);
         case Tense::IndicatifPlusQueParfait:
-            return persons(auxiliary.imperfect);
+            return builder.compoundTense(tense, &Paradigm::imperfect);
         case Tense::Infinitif:
-            return builder.pastOf(tense, auxiliary.infinitive, use);
+            return builder.pastOf(tense, &Paradigm::infinitive);
         case Tense::Participe:
-            return builder.pastOf(tense, auxiliary.gerund, use);
+            return builder.pastOf(tense, &Paradigm::gerund);
         case Tense::SubjonctifPasse:
-            return persons(auxiliary.subjunctive);
+            return builder.compoundTense(tense, &Paradigm::subjunctive);
         default:
             return;
         }
@@ -114,22 +165,10 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
         }
     };
 
-    const bool etreShown =
-        entry.auxiliary == Auxiliary::Etre || entry.auxiliary == Auxiliary::EtreThenAvoir;
     for (std::size_t block = 0; block < kTenseNames.size(); ++block) {
         const auto tense = static_cast<Tense>(block);
         simple(tense);
-        compound(tense, etreShown, true);
-    }
-    if (entry.pronominal) {
-        builder.searchRow(Tense::Infinitif, "",
-                          builder.reflexive(entry.infinitive) + entry.infinitive);
-    }
-    if (entry.auxiliary == Auxiliary::AvoirThenEtre ||
-        entry.auxiliary == Auxiliary::EtreThenAvoir) {
-        for (std::size_t block = 0; block < kTenseNames.size(); ++block) {
-            compound(static_cast<Tense>(block), !etreShown, false);
-        }
+        compound(tense);
     }
     auto rows = builder.take();
 
@@ -143,9 +182,27 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
         for (auto& row : this->rows(modern)) {
             if (isOneForm(row)) {
                 row.shown = false;
+                row.divisions.clear();
                 rows.push_back(std::move(row));
             }
         }
+    }
+    if (withoutLigature(entry.infinitive) != entry.infinitive) {
+        const auto count = rows.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            if (isOneForm(rows[i])) {
+                rows.push_back(
+                    {rows[i].tense, rows[i].pronoun, withoutLigature(rows[i].verb), false, {}});
+            }
+        }
+    }
+    dropRepeated(rows);
+    if (entry.pronominal) {
+        rows.push_back({Tense::Infinitif,
+                        "",
+                        builder.reflexive(entry.infinitive) + entry.infinitive,
+                        false,
+                        {}});
     }
     return rows;
 }

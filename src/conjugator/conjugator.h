@@ -13,6 +13,8 @@
 
 namespace lumora::conjugator {
 
+struct AuxiliaryUse;
+
 /// Turns a verb's entry into its rows: pronouns, elision, compound tenses,
 /// agreement.
 class Conjugator {
@@ -22,13 +24,18 @@ public:
 
     const ModelTable& models() const { return models_; }
 
-    /// As dictionaries file it: "aimer", "évanouir (s')", "méfier (se)".
+    /// As dictionaries file it: "aimer", "évanouir (s')", "méfier (se)", "aller (s'en)".
     std::string headword(const VerbEntry& entry) const;
+
+    /// The group of the school grammars: 1 (parler), 2 (finir, finissant) or 3.
+    int group(const VerbEntry& entry) const;
 
     /// The shown rows in the order of the blocks and persons, then the others.
     std::vector<Row> rows(const VerbEntry& entry) const;
 
 private:
+    std::vector<AuxiliaryUse> auxiliariesOf(Auxiliary auxiliary) const;
+
     ModelTable models_;
     Paradigm avoir_;
     Paradigm etre_;

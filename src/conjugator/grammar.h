@@ -63,9 +63,22 @@ constexpr std::string_view name(Tense tense)
 /// je, tu, il, nous, vous, ils.
 inline constexpr std::size_t kPersons = 6;
 
+/// One spelling of a form.
+struct Form {
+    static constexpr std::size_t kNoEnding = std::string::npos;
+
+    std::string text;
+    /// Where the ending begins, in bytes, as those cut the form who teach the
+    /// language; kNoEnding when nothing in it is regular.
+    std::size_t ending = kNoEnding;
+};
+
 /// The equally correct spellings of one form, the usual one first; none when
 /// the verb lacks the form.
-using Forms = std::vector<std::string>;
+using Forms = std::vector<Form>;
 using PersonForms = std::array<Forms, kPersons>;
+
+/// Puts the form behind the others unless one is spelled like it.
+void add(Forms& forms, Form form);
 
 } // namespace lumora::conjugator

@@ -3,6 +3,7 @@
 
 #include "conjugator/model_table.h"
 
+#include "conjugator/inflection.h"
 #include "conjugator/text_table.h"
 
 #include <algorithm>
@@ -10,42 +11,6 @@
 namespace lumora::conjugator {
 
 namespace {
-
-using Endings = std::array<std::string_view, kPersons>;
-
-struct PastEndings {
-    std::string_view theme;
-    Endings past;
-    Endings subjunctive;
-};
-
-/// By the theme in which a stem ends, longer themes before the vowels in them.
-constexpr std::array<PastEndings, 6> kPastEndings{{
-    {"in",
-     {"ins", "ins", "int", "înmes", "întes", "inrent"},
-     {"insse", "insses", "înt", "inssions", "inssiez", "inssent"}},
-    {"a",
-     {"ai", "as", "a", "âmes", "âtes", "èrent"},
-     {"asse", "asses", "ât", "assions", "assiez", "assent"}},
-    {"i",
-     {"is", "is", "it", "îmes", "îtes", "irent"},
-     {"isse", "isses", "ît", "issions", "issiez", "issent"}},
-    {"u",
-     {"us", "us", "ut", "ûmes", "ûtes", "urent"},
-     {"usse", "usses", "ût", "ussions", "ussiez", "ussent"}},
-    {"ï",
-     {"ïs", "ïs", "ït", "ïmes", "ïtes", "ïrent"},
-     {"ïsse", "ïsses", "ït", "ïssions", "ïssiez", "ïssent"}},
-    {"û",
-     {"ûs", "ûs", "ût", "ûmes", "ûtes", "ûrent"},
-     {"ûsse", "ûsses", "ût", "ûssions", "ûssiez", "ûssent"}},
-}};
-
-constexpr Endings kImperfectEndings{"ais", "ais", "ait", "ions", "iez", "aient"};
-constexpr Endings kFutureEndings{"ai", "as", "a", "ons", "ez", "ont"};
-constexpr Endings kConditionalEndings{"ais", "ais", "ait", "ions", "iez", "aient"};
-constexpr Endings kSubjunctiveEndings{"e", "es", "e", "ions", "iez", "ent"};
-constexpr std::array<std::string_view, 4> kAgreement{"", "e", "s", "es"};
 
 /// How many cells a line may have: all of them, or one stem where the endings
 /// are the same for every verb.
@@ -77,6 +42,20 @@ std::string joined(const std::vector<std::string>& names, const std::string& bet
         text += (text.empty() ? "" : between) + name;
     }
     return text;
+}
+
+/// Stands in a cell before the ending of a form.
+constexpr char kEndingMark = '|';
+
+/// Every infinitive ends in one of these unless its model says otherwise.
+std::string_view infinitiveEnding(std::string_view infinitive)
+{
+    for (const std::string_view ending : {"er", "eoir", "oir", "ir", "ïr", "re"}) {
+        if (infinitive.ends_with(ending)) {
+            return ending;
+        }
+    }
+    return {};
 }
 
 bool isConsonant(char c)
@@ -116,101 +95,6 @@ std::optional<Cut> cut(std::string_view infinitive, std::string_view ends)
         return std::nullopt;
     }
     return Cut{std::string(infinitive.substr(0, begin - head.size())), std::string(consonants)};
-}
-
-void add(Forms& forms, std::string form)
-{
-    if (std::find(forms.begin(), forms.end(), form) == forms.end()) {
-        forms.push_back(std::move(form));
-    }
-}
-
-/// The forms without a last ending, for another one to be put on.
-Forms without(const Forms& forms, std::string_view ending)
-{
-    Forms stems;
-    for (const auto& form : forms) {
-        if (form.ends_with(ending)) {
-            add(stems, form.substr(0, form.size() - ending.size()));
-        }
-    }
-    return stems;
-}
-
-/// Before e and i the signs that keep c and g soft fall away (plaça, placèrent;
-/// mangea, mangèrent).
-std::string joinedTo(std::string stem, std::string_view ending)
-{
-    const bool front = ending.starts_with('e') || ending.starts_with('i') ||
-                       ending.starts_with("è") || ending.starts_with("é");
-    if (front && stem.ends_with("ge")) {
-        stem.pop_back();
-    } else if (front && stem.ends_with("ç")) {
-        stem.replace(stem.size() - std::string_view("ç").size(), std::string::npos, "c");
-    }
-    return stem.append(ending);
-}
-
-Forms joinedTo(const Forms& stems, std::string_view ending)
-{
-    Forms forms;
-    for (const auto& stem : stems) {
-        add(forms, joinedTo(stem, ending));
-    }
-    return forms;
-}
-
-PersonForms joinedTo(const Forms& stems, const Endings& endings)
-{
-    PersonForms forms;
-    for (std::size_t person = 0; person < kPersons; ++person) {
-        forms[person] = joinedTo(stems, endings[person]);
-    }
-    return forms;
-}
-
-const PastEndings* pastEndingsOf(std::string_view stem)
-{
-    const auto found =
-        std::find_if(kPastEndings.begin(), kPastEndings.end(),
-                     [&](const PastEndings& endings) { return stem.ends_with(endings.theme); });
-    return found == kPastEndings.end() ? nullptr : &*found;
-}
-
-PersonForms pastForms(const Forms& stems, Endings PastEndings::*tense)
-{
-    PersonForms forms;
-    for (const auto& stem : stems) {
-        const auto* endings = pastEndingsOf(stem);
-        const auto bare = stem.substr(0, stem.size() - endings->theme.size());
-        for (std::size_t person = 0; person < kPersons; ++person) {
-            add(forms[person], joinedTo(bare, (endings->*tense)[person]));
-        }
-    }
-    return forms;
-}
-
-/// Imperfect and present subjunctive of nous and vous: stem of the present.
-PersonForms fromPresent(const PersonForms& present, const Endings& endings)
-{
-    const auto nous = without(present[3], "ons");
-    auto vous = without(present[4], "ez");
-    if (vous.empty()) {
-        vous = nous; // vous faites, vous dites
-    }
-    auto forms = joinedTo(nous, endings);
-    forms[3] = joinedTo(vous, endings[3]);
-    forms[4] = joinedTo(vous, endings[4]);
-    return forms;
-}
-
-Forms imperativeOfTu(const Forms& present)
-{
-    Forms forms;
-    for (const auto& form : present) {
-        add(forms, form.ends_with("es") ? form.substr(0, form.size() - 1) : form);
-    }
-    return forms;
 }
 
 std::string twice(std::string_view part, std::string_view model)
@@ -262,12 +146,17 @@ ModelTable::ModelTable(const TextTable& table)
         part.missing = value == "-";
         if (!part.missing) {
             for (const auto& cell : split(value, " ")) {
-                Forms forms;
+                std::vector<std::string> forms;
                 if (cell != "-") {
                     forms = split(cell, "/");
                 }
-                if (std::find(forms.begin(), forms.end(), "") != forms.end()) {
-                    table.refuse(record, "empty form");
+                for (const auto& form : forms) {
+                    if (form.empty()) {
+                        table.refuse(record, "empty form");
+                    }
+                    if (std::count(form.begin(), form.end(), kEndingMark) > 1) {
+                        table.refuse(record, "\"" + form + "\" has two endings");
+                    }
                 }
                 part.cells.push_back(std::move(forms));
             }
@@ -280,7 +169,7 @@ ModelTable::ModelTable(const TextTable& table)
         // A stem of the past names its endings by its last vowel.
         if (!part.missing && (key == "past" || key == "pastSubjunctive") &&
             part.cells.size() == 1 &&
-            !std::all_of(part.cells[0].begin(), part.cells[0].end(), pastEndingsOf)) {
+            !std::all_of(part.cells[0].begin(), part.cells[0].end(), isPastStem)) {
             table.refuse(record, "\"" + value + "\" does not end in a, i, in, u, ï or û");
         }
         if (!model.parts.emplace(key, std::move(part)).second) {
@@ -393,12 +282,14 @@ Paradigm ModelTable::conjugate(std::string_view model, std::string_view infiniti
         const auto where = cut(infinitive, part.ends).value();
         Forms forms;
         for (const auto& text : part.cells[cell]) {
-            auto form = where.radical;
+            Form form{where.radical};
             for (const char c : text) {
-                if (c == '*') {
-                    form += where.consonants;
+                if (c == kEndingMark) {
+                    form.ending = form.text.size();
+                } else if (c == '*') {
+                    form.text += where.consonants;
                 } else if (c != '.') {
-                    form += c;
+                    form.text += c;
                 }
             }
             add(forms, std::move(form));
@@ -424,27 +315,25 @@ Paradigm ModelTable::conjugate(std::string_view model, std::string_view infiniti
 
     Paradigm verb;
     std::array<Forms, 1> single;
-    fill(single, "infinitive", noStem, [&] { single[0] = {std::string(infinitive)}; });
+    fill(single, "infinitive", noStem, [&] { single[0] = {{std::string(infinitive)}}; });
+    for (auto& form : single[0]) {
+        if (form.ending == Form::kNoEnding) {
+            form.ending = form.text.size() - infinitiveEnding(form.text).size();
+        }
+    }
     verb.infinitive = single[0];
 
     fill(verb.present, "present", noStem, nothing);
     fill(
         verb.imperfect, "imperfect",
-        [&](const Forms& stems) { verb.imperfect = joinedTo(stems, kImperfectEndings); },
-        [&] { verb.imperfect = fromPresent(verb.present, kImperfectEndings); });
-    fill(verb.subjunctive, "subjunctive", noStem, [&] {
-        verb.subjunctive = fromPresent(verb.present, kSubjunctiveEndings);
-        for (const std::size_t person : {0U, 1U, 2U, 5U}) {
-            verb.subjunctive[person] =
-                joinedTo(without(verb.present[5], "ent"), kSubjunctiveEndings[person]);
-        }
-    });
-    fill(verb.imperative, "imperative", noStem, [&] {
-        verb.imperative = {imperativeOfTu(verb.present[1]), verb.present[3], verb.present[4]};
-    });
+        [&](const Forms& stems) { verb.imperfect = imperfectOf(stems); },
+        [&] { verb.imperfect = imperfectFromPresent(verb.present); });
+    fill(verb.subjunctive, "subjunctive", noStem,
+         [&] { verb.subjunctive = subjunctiveFromPresent(verb.present); });
+    fill(verb.imperative, "imperative", noStem,
+         [&] { verb.imperative = imperativeFromPresent(verb.present); });
     single[0].clear();
-    fill(single, "gerund", noStem,
-         [&] { single[0] = joinedTo(without(verb.present[3], "ons"), "ant"); });
+    fill(single, "gerund", noStem, [&] { single[0] = gerundFromPresent(verb.present); });
     verb.gerund = single[0];
 
     Forms pastStems;
@@ -452,45 +341,33 @@ Paradigm ModelTable::conjugate(std::string_view model, std::string_view infiniti
         verb.past, "past",
         [&](const Forms& stems) {
             pastStems = stems;
-            verb.past = pastForms(stems, &PastEndings::past);
+            verb.past = pastOf(stems);
         },
         nothing);
     fill(
         verb.pastSubjunctive, "pastSubjunctive",
-        [&](const Forms& stems) {
-            verb.pastSubjunctive = pastForms(stems, &PastEndings::subjunctive);
-        },
-        [&] { verb.pastSubjunctive = pastForms(pastStems, &PastEndings::subjunctive); });
+        [&](const Forms& stems) { verb.pastSubjunctive = pastSubjunctiveOf(stems); },
+        [&] { verb.pastSubjunctive = pastSubjunctiveOf(pastStems); });
 
     Forms futureStems;
     fill(
         verb.future, "future",
         [&](const Forms& stems) {
             futureStems = stems;
-            verb.future = joinedTo(stems, kFutureEndings);
+            verb.future = futureOf(stems);
         },
         [&] {
-            const std::string whole(infinitive);
-            futureStems = {whole.ends_with('e') ? whole.substr(0, whole.size() - 1) : whole};
-            verb.future = joinedTo(futureStems, kFutureEndings);
+            futureStems = {{std::string(withoutMuteE(infinitive))}};
+            verb.future = futureOf(futureStems);
         });
     fill(
         verb.conditional, "conditional",
-        [&](const Forms& stems) { verb.conditional = joinedTo(stems, kConditionalEndings); },
-        [&] { verb.conditional = joinedTo(futureStems, kConditionalEndings); });
+        [&](const Forms& stems) { verb.conditional = conditionalOf(stems); },
+        [&] { verb.conditional = conditionalOf(futureStems); });
 
     fill(
         verb.participle, "participle",
-        [&](const Forms& masculine) {
-            for (std::size_t form = 0; form < kAgreement.size(); ++form) {
-                for (const auto& text : masculine) {
-                    // A participle in -s keeps it in the plural: pris, prises.
-                    const bool keeps = text.ends_with('s') && form == 2;
-                    add(verb.participle[form], text + std::string(keeps ? "" : kAgreement[form]));
-                }
-            }
-        },
-        nothing);
+        [&](const Forms& masculine) { verb.participle = participlesOf(masculine); }, nothing);
     fill(verb.adjective, "adjective", noStem, nothing);
 
     if (const auto* persons = find("persons"); persons != nullptr && !persons->missing) {

@@ -41,7 +41,7 @@ private:
     /// The cells of one line and the ending which they replace.
     struct Part {
         std::string ends;
-        std::vector<Forms> cells;
+        std::vector<std::vector<std::string>> cells;
         bool missing = false;
     };
     struct Model {

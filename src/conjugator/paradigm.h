@@ -6,8 +6,15 @@
 #include "conjugator/grammar.h"
 
 #include <array>
+#include <string_view>
 
 namespace lumora::conjugator {
+
+/// What stands before the endings of the future where it is regular: "rendr".
+constexpr std::string_view withoutMuteE(std::string_view infinitive)
+{
+    return infinitive.ends_with('e') ? infinitive.substr(0, infinitive.size() - 1) : infinitive;
+}
 
 /// Every simple form of one verb.
 struct Paradigm {

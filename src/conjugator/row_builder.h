@@ -10,6 +10,7 @@
 #include "conjugator/verb_entry.h"
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,14 +22,15 @@ struct AuxiliaryUse {
     const Paradigm& verb;
     /// The participle agrees with the subject.
     bool agrees;
-    /// The rows of a second auxiliary serve the search alone.
-    bool shown;
 };
 
 /// Collects the rows of one verb, block by block; entry and verb must outlive it.
+///
+/// The forms of two auxiliaries share a row: "suis apparu(e), j'ai apparu". The
+/// second has its own pronoun where that is not the row's.
 class RowBuilder {
 public:
-    RowBuilder(const VerbEntry& entry, const Paradigm& verb) : entry_(entry), verb_(verb) {}
+    RowBuilder(const VerbEntry& entry, const Paradigm& verb, std::vector<AuxiliaryUse> auxiliaries);
 
     void simpleTense(Tense tense, const PersonForms& forms);
 
@@ -38,14 +40,12 @@ public:
 
     void participles();
 
-    /// The forms are those of the auxiliary in the tense that helps to make this one.
-    void compoundTense(Tense tense, const PersonForms& auxiliary, const AuxiliaryUse& use);
+    /// The tense of the auxiliary that helps to make this one.
+    void compoundTense(Tense tense, PersonForms Paradigm::*helping);
 
-    void pastImperative(const AuxiliaryUse& use);
+    void pastImperative();
 
-    void pastOf(Tense tense, const Forms& auxiliary, const AuxiliaryUse& use);
-
-    void searchRow(Tense tense, std::string pronoun, std::string verb);
+    void pastOf(Tense tense, Forms Paradigm::*helping);
 
     std::string reflexive(std::string_view word) const;
 
@@ -67,11 +67,17 @@ private:
     /// Double forms share a row; each of them alone is there for the search.
     void add(Tense tense, const std::string& pronoun, const Forms& forms);
 
-    void addCompound(Tense tense, std::size_t person, const Forms& auxiliary, Number number,
-                     const AuxiliaryUse& use);
+    /// "formsOf" tells the forms of an auxiliary.
+    void addCompound(Tense tense, std::size_t person, Number number,
+                     const std::function<Forms(const Paradigm&)>& formsOf);
+
+    Division division(const Form& form) const;
 
     const VerbEntry& entry_;
     const Paradigm& verb_;
+    std::vector<AuxiliaryUse> auxiliaries_;
+    /// With and without the reflexive pronoun of infinitive and participle.
+    std::vector<std::string> regularStems_;
     std::vector<Row> shown_;
     std::vector<Row> variants_;
     std::vector<Row> hidden_;

@@ -40,6 +40,10 @@ struct Verb {
     /// Never set: a verb's forms are read each time it is shown.
     bool loaded = false;
 
+    /// What tells it from the verbs of its name where no translation does:
+    /// "avoir". Empty for others, and unless distinguishHomographs() was asked.
+    std::string distinction;
+
     ConjugationList conditionnelPasse1reForme;
     ConjugationList conditionnelPasse2eForme;
     ConjugationList conditionnelPresent;

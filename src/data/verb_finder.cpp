@@ -6,7 +6,6 @@
 #include "text/text.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <iterator>
 #include <numeric>
@@ -21,34 +20,40 @@ namespace {
 struct Name {
     std::string verb;
     bool pronominal = false;
+    /// As in s'en aller.
+    bool en = false;
 
     bool operator==(const Name&) const = default;
 };
 
 Name nameOf(std::string_view typed)
 {
-    static constexpr std::array<std::string_view, 2> kBefore{"se ", "s'"};
-    static constexpr std::array<std::string_view, 2> kAfter{" (se)", " (s')"};
+    struct Particle {
+        std::string_view text;
+        bool en;
+    };
+    static constexpr Particle kBefore[] = {{"s'en ", true}, {"se ", false}, {"s'", false}};
+    static constexpr Particle kAfter[] = {{" (s'en)", true}, {" (se)", false}, {" (s')", false}};
 
     const auto whole =
         text::trimmed(text::replaced(text::lowerCased(text::composed(typed)), "\u2019", "'"));
     const std::string_view name = whole;
-    for (const auto before : kBefore) {
-        if (name.starts_with(before)) {
-            return {text::trimmed(name.substr(before.size())), true};
+    for (const auto& before : kBefore) {
+        if (name.starts_with(before.text)) {
+            return {text::trimmed(name.substr(before.text.size())), true, before.en};
         }
     }
-    for (const auto after : kAfter) {
-        if (name.ends_with(after)) {
-            return {text::trimmed(name.substr(0, name.size() - after.size())), true};
+    for (const auto& after : kAfter) {
+        if (name.ends_with(after.text)) {
+            return {text::trimmed(name.substr(0, name.size() - after.text.size())), true, after.en};
         }
     }
-    return {whole, false};
+    return {whole};
 }
 
 Name folded(const Name& name)
 {
-    return {text::folded(name.verb), name.pronominal};
+    return {text::folded(name.verb), name.pronominal, name.en};
 }
 
 template <typename Condition>

@@ -36,6 +36,7 @@ void RemovableVerbListController::reload(const std::string& statement)
                 "An error occurred when reading list of verbs: %@ (%d)",
                 {connection.lastErrorMessage(), connection.lastErrorCode()});
         }
+        distinguishHomographs(verbs, connection, services());
         connection.close();
         tableView().reloadData();
         isReloading = false;

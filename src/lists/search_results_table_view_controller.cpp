@@ -44,6 +44,7 @@ void SearchResultsTableViewController::search(std::string_view text)
                 "An error occurred when performing search: %@ (%d)",
                 {connection.lastErrorMessage(), connection.lastErrorCode()});
         }
+        distinguishHomographs(verbs, connection, services());
         tableView().reloadData();
     });
 }

@@ -3,10 +3,23 @@
 
 #include "lists/verb_cell.h"
 
-#include "data/verb.h"
+#include "data/homographs.h"
+#include "platform/machine/crash_reporter.h"
 #include "platform/screens/services.h"
+#include "platform/storage/database.h"
+#include "settings/translation_language.h"
 
 namespace lumora::lists {
+
+namespace {
+
+bool translatesIntoFrench(const platform::Services& services)
+{
+    return settings::columnForLanguage(settings::effectiveTranslationLanguage(
+               services.settings, services.device)) == settings::TranslationColumn::French;
+}
+
+} // namespace
 
 platform::TableCell verbCell(const data::Verb& verb, const platform::Services& services)
 {
@@ -14,11 +27,27 @@ platform::TableCell verbCell(const data::Verb& verb, const platform::Services& s
     cell.reuseIdentifier = "VerbCell";
     cell.text = verb.french;
     cell.detailText = verb.translation(services.settings, services.device);
+    if (!verb.distinction.empty() && translatesIntoFrench(services)) {
+        cell.text += " (" + verb.distinction + ")";
+    }
     cell.accessibilityIdentifier = verb.french;
     if (verb.isFavourite) {
         cell.image = "ic_favorite_list";
     }
     return cell;
+}
+
+void distinguishHomographs(const std::vector<data::VerbPtr>& verbs, platform::Database& database,
+                           const platform::Services& services)
+{
+    if (!translatesIntoFrench(services)) {
+        return;
+    }
+    if (!data::distinguishHomographs(database, verbs)) {
+        services.crashReporter.logWithFormat(
+            "An error occurred when telling verbs of one name apart: %@ (%d)",
+            {database.lastErrorMessage(), database.lastErrorCode()});
+    }
 }
 
 } // namespace lumora::lists

@@ -3,19 +3,26 @@
 
 #pragma once
 
+#include "data/verb.h"
 #include "platform/screens/table_cell.h"
 
-namespace lumora::data {
-struct Verb;
-}
+#include <vector>
+
 namespace lumora::platform {
+class Database;
 struct Services;
-}
+} // namespace lumora::platform
 
 namespace lumora::lists {
 
 /// The "VerbCell" of every list: the French verb over its translation, a star
-/// for a favourite.
+/// for a favourite. Beside a homograph's name stands what tells it from the others
+/// where the translation is French itself.
 platform::TableCell verbCell(const data::Verb& verb, const platform::Services& services);
+
+/// Asks what tells homographs apart if the translations will not, and logs
+/// a failure.
+void distinguishHomographs(const std::vector<data::VerbPtr>& verbs, platform::Database& database,
+                           const platform::Services& services);
 
 } // namespace lumora::lists

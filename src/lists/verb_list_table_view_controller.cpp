@@ -88,6 +88,7 @@ void VerbListTableViewController::readVerbs(platform::DatabaseQueue& database,
     database.inDatabase([&](platform::Database& connection) {
         auto rows = connection.executeQuery(listStatement(sortColumn), {});
         bool failed = !rows;
+        std::vector<data::VerbPtr> all;
         if (rows) {
             const data::VerbReader reader{*rows, data::VerbReader::Spellings::WithSimplified};
             const int indexLetter = rows->columnIndex("index_letter");
@@ -101,6 +102,7 @@ void VerbListTableViewController::readVerbs(platform::DatabaseQueue& database,
                     lastLetter = std::move(letter);
                 }
                 section->push_back(reader.readVerb(*rows));
+                all.push_back(section->back());
             }
             failed = rows->failed();
         }
@@ -116,6 +118,7 @@ void VerbListTableViewController::readVerbs(platform::DatabaseQueue& database,
             }
             std::sort(keys.begin(), keys.end(), text::scalarLess);
         }
+        distinguishHomographs(all, connection, services());
         tableView().reloadData();
         connection.close();
     });

@@ -21,6 +21,7 @@ French verbs and all their forms.
 
 Commands:
   conjugate VERB     print every mood and tense of a verb
+  about VERB         print a verb's group, model and auxiliary
   search TEXT        print the verbs that begin with TEXT
   export VERB        print a verb's conjugations as a document
   backup FILE        save favourites and history to a file
@@ -32,14 +33,28 @@ On a terminal the output is in columns, in a pipe it has tabs between fields.
 )help";
 
 constexpr const char* kConjugateHelp =
-    R"help(Usage: lumora-cli conjugate [--language CODE] VERB
+    R"help(Usage: lumora-cli conjugate [--stems] [--language CODE] VERB|-
 
 Print every mood and tense of a verb.
 
 VERB may be typed without its accents; a pronominal verb as "s'évanouir",
-"évanouir" or "évanouir (s')". Verbs that share a name are all printed.
+"évanouir" or "évanouir (s')". Verbs that share a name are all printed. For "-"
+the verbs are read from standard input, one a line.
+
+Options:
+  --stems            put "|" before the ending of each simple form
 
 In a pipe each line holds verb, mood, tense, pronoun and form.
+)help";
+
+constexpr const char* kAboutHelp =
+    R"help(Usage: lumora-cli about VERB
+
+Print what is known of a verb's grammar: its infinitive, its group, its model
+and the verb that it is conjugated like, its auxiliaries, its traits, and how
+common it is, from 1 (the 100 commonest verbs) to 5 (rare, old or of a trade).
+
+In a pipe each line holds a name and a value.
 )help";
 
 constexpr const char* kSearchHelp =
@@ -88,18 +103,29 @@ Common options:
 )help";
 
 constexpr std::pair<Command, const char*> kHelpTexts[] = {
-    {Command::Conjugate, kConjugateHelp}, {Command::Search, kSearchHelp},
-    {Command::Export, kExportHelp},       {Command::Backup, kBackupHelp},
-    {Command::Restore, kRestoreHelp},
+    {Command::Conjugate, kConjugateHelp}, {Command::About, kAboutHelp},
+    {Command::Search, kSearchHelp},       {Command::Export, kExportHelp},
+    {Command::Backup, kBackupHelp},       {Command::Restore, kRestoreHelp},
 };
+
+/// In the place of a verb: the verbs are read from standard input.
+constexpr std::string_view kInput = "-";
 
 constexpr std::string_view kLanguages[] = {"en", "fr", "de", "es", "pt", "it", "nl"};
 
 constexpr std::pair<std::string_view, Command> kCommands[] = {
-    {"conjugate", Command::Conjugate}, {"search", Command::Search},   {"export", Command::Export},
-    {"backup", Command::Backup},       {"restore", Command::Restore}, {"help", Command::Help},
-    {"--help", Command::Help},         {"-h", Command::Help},         {"version", Command::Version},
-    {"--version", Command::Version},   {"-v", Command::Version},
+    {"conjugate", Command::Conjugate},
+    {"about", Command::About},
+    {"search", Command::Search},
+    {"export", Command::Export},
+    {"backup", Command::Backup},
+    {"restore", Command::Restore},
+    {"help", Command::Help},
+    {"--help", Command::Help},
+    {"-h", Command::Help},
+    {"version", Command::Version},
+    {"--version", Command::Version},
+    {"-v", Command::Version},
 };
 
 constexpr std::pair<std::string_view, bool Arguments::*> kSearchOptions[] = {
@@ -144,6 +170,10 @@ platform::Result<void> addText(Arguments& arguments, std::string_view word)
         arguments.text = word;
         return {};
     }
+    if (arguments.command == Command::Conjugate && word == kInput) {
+        arguments.verbsFromInput = true;
+        return {};
+    }
     // "se méfier" need not be quoted.
     arguments.text += arguments.text.empty() ? "" : " ";
     arguments.text += text::wellFormed(word);
@@ -156,6 +186,10 @@ platform::Result<void> setOption(Arguments& arguments, std::string_view word)
     const auto* const option = lookUp(kSearchOptions, word);
     if (option != std::end(kSearchOptions) && arguments.command == Command::Search) {
         arguments.*option->second = true;
+        return {};
+    }
+    if (word == "--stems" && arguments.command == Command::Conjugate) {
+        arguments.stems = true;
         return {};
     }
     const auto* const format = lookUp(kFormats, word);
@@ -181,7 +215,10 @@ platform::Result<void> setLanguage(Arguments& arguments, std::string_view code)
 
 platform::Result<void> checkComplete(const Arguments& arguments)
 {
-    if (arguments.text.empty()) {
+    if (arguments.verbsFromInput && !arguments.text.empty()) {
+        return refusal("either a verb or \"-\" for those of standard input");
+    }
+    if (arguments.text.empty() && !arguments.verbsFromInput) {
         return refusal(takesFile(arguments.command)           ? "which file?"
                        : arguments.command == Command::Search ? "which text?"
                                                               : "which verb?");
@@ -199,7 +236,8 @@ platform::Result<void> readWords(Arguments& arguments, const std::vector<std::st
     bool optionsEnded = false;
     for (auto word = words.begin() + 1; word != words.end(); ++word) {
         platform::Result<void> read;
-        if (optionsEnded || !word->starts_with('-')) {
+        const bool input = *word == kInput && arguments.command == Command::Conjugate;
+        if (optionsEnded || input || !word->starts_with('-')) {
             read = addText(arguments, *word);
         } else if (*word == "--") {
             optionsEnded = true;

@@ -11,10 +11,13 @@ struct Arguments;
 struct Output;
 class Session;
 
-// Each prints only when all is well; the error's message is for the user.
+// Each prints only when all is well, but for conjugate, which tells of a verb of
+// standard input that is unknown and goes on. The error's message is for the
+// user; an empty one says that all has been told.
 
 platform::Result<void> conjugate(Session& session, const Arguments& arguments,
                                  const Output& output);
+platform::Result<void> about(Session& session, const Arguments& arguments, const Output& output);
 platform::Result<void> search(Session& session, const Arguments& arguments, const Output& output);
 platform::Result<void> exportDocument(Session& session, const Arguments& arguments,
                                       const Output& output);

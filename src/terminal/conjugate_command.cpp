@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "data/form_parts.h"
+#include "data/tense_table.h"
 #include "terminal/arguments.h"
 #include "terminal/commands.h"
 #include "terminal/loaded_verbs.h"
@@ -9,6 +11,11 @@
 #include "text/text.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <iostream>
+#include <optional>
+#include <sstream>
+#include <utility>
 
 namespace lumora::terminal {
 
@@ -35,15 +42,51 @@ TextBlock tenseBlock(const std::string& title, const std::vector<TextRow>& rows)
     return block;
 }
 
-void printMood(const std::string& verb, const std::string& mood,
-               const std::vector<TextSection>& sections, const Output& output)
+/// The form with "|" before each ending, as the divisions tell; a compound form
+/// as it is.
+std::string marked(const data::Conjugation& row, const data::FormDivisions& divisions)
 {
+    using Kind = data::FormParts::Kind;
+
+    std::string text;
+    for (const auto& part : divisions.parts(row)) {
+        const bool cut = part.kind == Kind::Regular || part.kind == Kind::ChangedStem;
+        text += text.empty() ? "" : ", ";
+        text += cut ? part.stem + "|" + part.ending : part.text();
+    }
+    return text;
+}
+
+/// Puts the marks into the rows of a mood, whose tenses follow a section with the
+/// translation.
+void mark(std::vector<TextSection>& sections, const data::Verb& verb, int mood,
+          const data::FormDivisions& divisions)
+{
+    std::size_t section = 1;
+    for (const auto& block : data::blocksOfSegment(mood)) {
+        if (section >= sections.size()) {
+            return;
+        }
+        const auto& forms = verb.*block.tense.forms;
+        auto& rows = sections[section++].rows;
+        for (std::size_t row = 0; row < std::min(rows.size(), forms.size()); ++row) {
+            rows[row].detailText = marked(*forms[row], divisions);
+        }
+    }
+}
+
+/// How many forms were printed.
+std::size_t printMood(const std::string& verb, const std::string& mood,
+                      const std::vector<TextSection>& sections, const Output& output)
+{
+    std::size_t printed = 0;
     std::vector<TextBlock> blocks;
     for (const auto& tense : sections) {
         // The translation, and the empty section after the other forms.
         if (!tense.title) {
             continue;
         }
+        printed += tense.rows.size();
         blocks.push_back(tenseBlock(*tense.title, tense.rows));
         for (const auto& row : tense.rows) {
             if (!output.isTerminal()) {
@@ -56,39 +99,122 @@ void printMood(const std::string& verb, const std::string& mood,
         output.stream << mood << "\n\n";
         printBlocks(blocks, output);
     }
+    return printed;
 }
 
-void printVerb(detail::VerbDetailTableViewController& screen, const Output& output)
+void printVerb(Screen& screen, const std::optional<data::FormDivisions>& divisions,
+               const Output& output)
 {
     if (output.isTerminal()) {
         output.stream << screen.headerText() << "\n\n";
     }
+    const auto& verb = *screen.selectedVerb;
+    std::size_t printed = 0;
     const auto moods = screen.verbTypeSegmentedControl.titles;
     for (std::size_t mood = 0; mood < moods.size(); ++mood) {
-        screen.selectVerbTypes(static_cast<int>(mood));
-        printMood(screen.selectedVerb->french, moods[mood],
-                  TerminalTableView::of(*screen.tableView).sections(), output);
+        const int segment = static_cast<int>(mood);
+        screen.selectVerbTypes(segment);
+        auto sections = TerminalTableView::of(*screen.tableView).sections();
+        if (divisions) {
+            mark(sections, verb, segment, *divisions);
+        }
+        printed += printMood(verb.french, moods[mood], sections, output);
     }
+    if (printed == 0) {
+        tell("\"" + verb.french + "\" is used in the infinitive only", output.errors);
+    }
+}
+
+/// Prints verbs one after another.
+class Printer {
+public:
+    Printer(Session& session, const Arguments& arguments, const Output& output)
+        : session_(session), stems_(arguments.stems), output_(output)
+    {}
+
+    platform::Result<void> print(const std::vector<data::VerbPtr>& verbs)
+    {
+        for (const auto& verb : verbs) {
+            const auto screen = loadedScreen(session_, verb);
+            if (!screen) {
+                return tl::unexpected(screen.error());
+            }
+            const auto divisions = divisionsOf(*verb);
+            if (!divisions) {
+                return tl::unexpected(divisions.error());
+            }
+            std::ostringstream text;
+            printVerb(**screen, *divisions, {text, output_.errors, output_.width});
+            // An empty line parts verbs in a pipe: homographs have the same name.
+            if (!text.str().empty()) {
+                const bool first = std::exchange(first_, false);
+                output_.stream << (first || output_.isTerminal() ? "" : "\n") << text.str();
+            }
+        }
+        return {};
+    }
+
+private:
+    platform::Result<std::optional<data::FormDivisions>> divisionsOf(const data::Verb& verb)
+    {
+        if (!stems_) {
+            return std::nullopt;
+        }
+        platform::Result<data::FormDivisions> read;
+        session_.queue().inDatabase([&](platform::Database& database) {
+            read = data::readFormDivisions(database, verb.id);
+        });
+        return read.map(
+            [](const data::FormDivisions& divisions) { return std::optional{divisions}; });
+    }
+
+    Session& session_;
+    bool stems_;
+    const Output& output_;
+    bool first_ = true;
+};
+
+/// Every verb of the stream, one a line; unknown ones are told.
+platform::Result<void> printLines(std::istream& input, const VerbDirectory& directory,
+                                  Printer& printer, const Output& output)
+{
+    constexpr auto kBlanks = " \t\r";
+
+    bool allKnown = true;
+    for (std::string line; std::getline(input, line);) {
+        if (line.find_first_not_of(kBlanks) == std::string::npos) {
+            continue;
+        }
+        line.erase(line.find_last_not_of(kBlanks) + 1);
+        const auto verbs = directory.named(text::wellFormed(line));
+        if (!verbs) {
+            tell(verbs.error().message, output.errors);
+            allKnown = false;
+        } else if (auto printed = printer.print(*verbs); !printed) {
+            return printed;
+        }
+    }
+    if (input.bad()) {
+        return tl::unexpected(platform::Error{"standard input cannot be read", EIO});
+    }
+    return allKnown ? platform::Result<void>{} : tl::unexpected(platform::Error{{}, ENOENT});
 }
 
 } // namespace
 
 platform::Result<void> conjugate(Session& session, const Arguments& arguments, const Output& output)
 {
-    const auto screens = loadedVerbs(session, arguments.text);
-    if (!screens) {
-        return tl::unexpected(screens.error());
+    const auto directory = VerbDirectory::read(session);
+    if (!directory) {
+        return tl::unexpected(directory.error());
     }
-    bool first = true;
-    for (const auto& screen : *screens) {
-        // An empty line parts verbs in a pipe: homographs have the same name.
-        if (!first && !output.isTerminal()) {
-            output.stream << '\n';
-        }
-        first = false;
-        printVerb(*screen, output);
+    Printer printer{session, arguments, output};
+    if (arguments.verbsFromInput) {
+        return printLines(std::cin, *directory, printer, output);
     }
-    return {};
+    return directory->named(arguments.text).and_then([&](const auto& verbs) {
+        return printer.print(verbs);
+    });
 }
 
 } // namespace lumora::terminal

@@ -16,14 +16,17 @@ namespace lumora::terminal {
 platform::Result<void> exportDocument(Session& session, const Arguments& arguments,
                                       const Output& output)
 {
-    const auto screens = loadedVerbs(session, arguments.text);
-    if (!screens) {
-        return tl::unexpected(screens.error());
+    const auto verbs = VerbDirectory::read(session).and_then(
+        [&](const VerbDirectory& directory) { return directory.named(arguments.text); });
+    if (!verbs) {
+        return tl::unexpected(verbs.error());
     }
     std::string documents;
-    for (const auto& screen : *screens) {
-        const auto renderings =
-            exporting::VerbExport{}.exportVerb(*screen->selectedVerb, session.services());
+    for (const auto& verb : *verbs) {
+        if (const auto loaded = loadedScreen(session, verb); !loaded) {
+            return tl::unexpected(loaded.error());
+        }
+        const auto renderings = exporting::VerbExport{}.exportVerb(*verb, session.services());
         if (!renderings) {
             return tl::unexpected(renderings.error());
         }

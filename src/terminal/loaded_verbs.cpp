@@ -14,18 +14,6 @@ namespace lumora::terminal {
 
 namespace {
 
-std::vector<data::VerbPtr> allVerbs(Session& session)
-{
-    lists::VerbListTableViewController list{session.services()};
-    list.queue = &session.queue();
-    list.reloadVerbs();
-    std::vector<data::VerbPtr> verbs;
-    for (const auto& [letter, section] : list.verbs) {
-        verbs.insert(verbs.end(), section.begin(), section.end());
-    }
-    return verbs;
-}
-
 platform::Error unknownVerb(std::string_view name, const std::vector<std::string>& near)
 {
     std::string message = "no verb \"" + std::string{name} + "\"";
@@ -38,28 +26,40 @@ platform::Error unknownVerb(std::string_view name, const std::vector<std::string
 
 } // namespace
 
-platform::Result<std::vector<std::unique_ptr<detail::VerbDetailTableViewController>>>
-loadedVerbs(Session& session, std::string_view name)
+platform::Result<VerbDirectory> VerbDirectory::read(Session& session)
 {
-    const auto verbs = allVerbs(session);
+    lists::VerbListTableViewController list{session.services()};
+    list.queue = &session.queue();
+    list.reloadVerbs();
     if (auto checked = session.check(); !checked) {
         return tl::unexpected(checked.error());
     }
-    std::vector<std::unique_ptr<detail::VerbDetailTableViewController>> screens;
-    for (const auto& verb : data::verbsNamed(name, verbs)) {
-        auto screen = std::make_unique<detail::VerbDetailTableViewController>(session.services());
-        screen->queue = &session.queue();
-        screen->selectedVerb = verb;
-        screen->loadViewIfNeeded();
-        screens.push_back(std::move(screen));
+    VerbDirectory directory;
+    for (const auto& [letter, section] : list.verbs) {
+        directory.verbs_.insert(directory.verbs_.end(), section.begin(), section.end());
     }
+    return directory;
+}
+
+platform::Result<std::vector<data::VerbPtr>> VerbDirectory::named(std::string_view name) const
+{
+    auto found = data::verbsNamed(name, verbs_);
+    if (found.empty()) {
+        return tl::unexpected(unknownVerb(name, data::namesNear(name, verbs_)));
+    }
+    return found;
+}
+
+platform::Result<std::unique_ptr<Screen>> loadedScreen(Session& session, const data::VerbPtr& verb)
+{
+    auto screen = std::make_unique<Screen>(session.services());
+    screen->queue = &session.queue();
+    screen->selectedVerb = verb;
+    screen->loadViewIfNeeded();
     if (auto checked = session.check(); !checked) {
         return tl::unexpected(checked.error());
     }
-    if (screens.empty()) {
-        return tl::unexpected(unknownVerb(name, data::namesNear(name, verbs)));
-    }
-    return screens;
+    return screen;
 }
 
 } // namespace lumora::terminal

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "data/verb.h"
 #include "detail/verb_detail_table_view_controller.h"
 #include "platform/base/error.h"
 
@@ -14,9 +15,22 @@ namespace lumora::terminal {
 
 class Session;
 
-/// A detail screen, built, for each verb that the name means. A name that
-/// means none is an error that tells what it may have been meant for.
-platform::Result<std::vector<std::unique_ptr<detail::VerbDetailTableViewController>>>
-loadedVerbs(Session& session, std::string_view name);
+using Screen = detail::VerbDetailTableViewController;
+
+/// The verbs of the database, read once.
+class VerbDirectory {
+public:
+    static platform::Result<VerbDirectory> read(Session& session);
+
+    /// The verbs that the name means, one at least. A name that means none is an
+    /// error that tells what it may have been meant for.
+    platform::Result<std::vector<data::VerbPtr>> named(std::string_view name) const;
+
+private:
+    std::vector<data::VerbPtr> verbs_;
+};
+
+/// A detail screen, built.
+platform::Result<std::unique_ptr<Screen>> loadedScreen(Session& session, const data::VerbPtr& verb);
 
 } // namespace lumora::terminal

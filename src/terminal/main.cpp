@@ -34,15 +34,11 @@ void writeToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
     }
 }
 
-/// In one line, and without what a terminal would obey.
 int complain(const std::string& message, int status)
 {
-    std::string line;
-    for (const char byte : text::wellFormed(message)) {
-        const auto code = static_cast<unsigned char>(byte);
-        line += code < 0x20 || code == 0x7f ? std::string{"\uFFFD"} : std::string{byte};
+    if (!message.empty()) {
+        terminal::tell(message, std::cerr);
     }
-    std::cerr << "lumora-cli: " << line << '\n';
     return status;
 }
 
@@ -79,6 +75,8 @@ platform::Result<void> run(terminal::Session& session, const Arguments& argument
     switch (arguments.command) {
     case Command::Conjugate:
         return terminal::conjugate(session, arguments, output);
+    case Command::About:
+        return terminal::about(session, arguments, output);
     case Command::Search:
         return terminal::search(session, arguments, output);
     default:

@@ -39,17 +39,27 @@ std::size_t wantedWidth()
 
 } // namespace
 
+void tell(const std::string& message, std::ostream& errors)
+{
+    std::string line;
+    for (const char byte : text::wellFormed(message)) {
+        const auto code = static_cast<unsigned char>(byte);
+        line += code < 0x20 || code == 0x7f ? std::string{"\uFFFD"} : std::string{byte};
+    }
+    errors << "lumora-cli: " << line << '\n';
+}
+
 Output standardOutput()
 {
     if (isatty(STDOUT_FILENO) == 0) {
-        return {std::cout, 0};
+        return {std::cout, std::cerr, 0};
     }
     if (const auto wanted = wantedWidth(); wanted > 0) {
-        return {std::cout, wanted};
+        return {std::cout, std::cerr, wanted};
     }
     winsize size{};
     const bool known = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    return {std::cout, known ? size.ws_col : kUsualWidth};
+    return {std::cout, std::cerr, known ? size.ws_col : kUsualWidth};
 }
 
 void printBlocks(const std::vector<TextBlock>& blocks, const Output& output)

@@ -14,13 +14,17 @@ namespace lumora::terminal {
 /// Where a command prints to.
 struct Output {
     std::ostream& stream;
+    std::ostream& errors;
     /// Columns of a terminal; 0 for a pipe or a file.
     std::size_t width = 0;
 
     bool isTerminal() const { return width > 0; }
 };
 
-/// Standard output as it is now.
+/// Tells the user something, in one line and without what a terminal would obey.
+void tell(const std::string& message, std::ostream& errors);
+
+/// Standard output as it is now, and standard error.
 Output standardOutput();
 
 /// A few lines that stand together.

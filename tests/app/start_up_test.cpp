@@ -518,6 +518,37 @@ TEST_F(StartUp, ALinkOpensItsVerbOverTheListOrSaysThatThereIsNone)
     EXPECT_EQ(world.presenter.segues.size(), 1U);
 }
 
+TEST_F(StartUp, ALinkToVerbsOfOneNameOpensTheCommonerAndOffersTheOther)
+{
+    auto delegate = makeDelegate();
+    delegate.didFinishLaunching({});
+    for (const char* sql : {
+             "INSERT INTO verb(_id, french, english) VALUES (7, 'monter', 'take up'),"
+             " (8, 'monter', 'go up')",
+             "INSERT INTO verb_facts(verbid, auxiliary, use_class) VALUES (7, 'avoir', 2),"
+             " (8, 'être', 1)",
+         }) {
+        support::executeOn(*delegate.queue, sql);
+    }
+
+    delegate.openLink("lumora://verb/monter");
+
+    EXPECT_EQ(world.shownDetail()->selectedVerb->id, 8);
+    ASSERT_EQ(world.presenter.alerts.size(), 1U);
+    const auto& alert = world.presenter.alerts[0].alert;
+    EXPECT_EQ(alert.title, "monter");
+    EXPECT_EQ(alert.message, "link.homographs");
+    ASSERT_EQ(alert.actions.size(), 2U);
+    EXPECT_EQ(alert.actions[0].title, "take up");
+    alert.actions[0].handler();
+    EXPECT_EQ(world.shownDetail()->selectedVerb->id, 7);
+    EXPECT_EQ(world.presenter.alerts.size(), 1U);
+
+    world.settings.setValue(std::string{"fr"}, "translation_language");
+    delegate.openLink("lumora://verb/monter");
+    EXPECT_EQ(world.presenter.alerts.at(1).alert.actions[0].title, "monter (avoir)");
+}
+
 TEST_F(StartUp, ANarrowWindowDropsOnlyAnEmptyDetailScreen)
 {
     auto delegate = makeDelegate();

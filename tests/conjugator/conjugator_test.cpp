@@ -32,11 +32,15 @@ VerbEntry verb(std::string infinitive, std::string model, std::string_view trait
     for (const auto& trait : split(traits, " ")) {
         entry.auxiliary = trait == "être"         ? Auxiliary::Etre
                           : trait == "être+avoir" ? Auxiliary::EtreThenAvoir
+                          : trait == "avoir+être" ? Auxiliary::AvoirThenEtre
                                                   : entry.auxiliary;
         entry.aspirated |= trait == "aspirated";
         entry.impersonal |= trait == "impersonal";
         entry.pronominal |= trait == "pronominal";
+        entry.plural |= trait == "plural";
+        entry.en |= trait == "en";
         entry.invariableParticiple |= trait == "invariable";
+        entry.indirectPronoun |= trait == "indirect";
     }
     return entry;
 }
@@ -86,6 +90,7 @@ TEST(Conjugator, FilesPronominalVerbsUnderTheirInfinitives)
 {
     EXPECT_EQ(conjugator().headword(verb("évanouir", "finir", "pronominal")), "évanouir (s')");
     EXPECT_EQ(conjugator().headword(verb("méfier", "aimer", "pronominal")), "méfier (se)");
+    EXPECT_EQ(conjugator().headword(verb("aller", "aller", "pronominal en")), "aller (s'en)");
 }
 
 /// Agreements, the other auxiliary, single variants and the spelling of 1990.
@@ -113,6 +118,15 @@ TEST(Conjugator, KeepsWhatIsNotShownForTheSearch)
         {verb("jeûner", "aimer"), {}, {"jeune"}},
         {verb("connaître", "connaître"), {"connaitrons"}, {}},
         {verb("croître", "croître"), {}, {"croit"}},
+        {verb("œuvrer", "aimer", "invariable"),
+         {"oeuvrer", "oeuvrions", "ai oeuvré", "ayant oeuvré"},
+         {"œuvrions"}},
+        {verb("désœuvrer", "aimer", "être pronominal"),
+         {"se désoeuvrer", "étions désoeuvrées", "s'être désoeuvrés"},
+         {"étions désœuvré"}},
+        {verb("ficher", "ficher", "être pronominal"),
+         {"se ficher", "se fiche", "sont fichues"},
+         {}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.entry.infinitive);

@@ -18,10 +18,12 @@ constexpr auto kSound = "aimer|ends|er\n"
                         "aimer|past|a\n"
                         "aimer|participle|é\n";
 
+/// Columns are divided by "|" here, and "^" marks an ending.
 ModelTable tableOf(std::string text)
 {
     text = "model|part|forms\n" + text;
     std::replace(text.begin(), text.end(), '|', '\t');
+    std::replace(text.begin(), text.end(), '^', '|');
     return ModelTable(TextTable::parse(text, "models.tsv", ModelTable::header()));
 }
 
@@ -51,6 +53,7 @@ TEST(ModelTable, RefusesModelsThatCannotBeConjugated)
         {sound + "aimer|past|i\n", R"(models.tsv:6: "past" of model "aimer" stands twice)"},
         {sound + "aimer|imperative|e  ez\n", "models.tsv:6: empty form"},
         {sound + "aimer|future|er/\n", "models.tsv:6: empty form"},
+        {sound + "aimer|imperative|^e^s ^ons ^ez\n", R"(models.tsv:6: "|e|s" has two endings)"},
         {sound + "aimer|imperative|e ons\n", "models.tsv:6: expected 3 forms, found 2"},
         {"aimer|past|o\n", R"(models.tsv:2: "o" does not end in a, i, in, u, ï or û)"},
         {"aimer|ends|er\naimer|past|a\n", R"(models.tsv:2: model "aimer" lacks "present")"},

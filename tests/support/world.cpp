@@ -20,6 +20,10 @@ constexpr const char* kStatements[] = {
     "TEXT, simplified_portuguese TEXT)",
     "CREATE TABLE conjugation(_id INTEGER PRIMARY KEY, verbid INTEGER, pronoun TEXT, verb TEXT, "
     "type TEXT, conj_order INTEGER, display INTEGER)",
+    "CREATE TABLE verb_facts(verbid INTEGER PRIMARY KEY, verb_group INTEGER, model TEXT, "
+    "like_verbid INTEGER, auxiliary TEXT, traits TEXT, participle TEXT, use_class INTEGER, "
+    "divisionsid INTEGER)",
+    "CREATE TABLE form_divisions(_id INTEGER PRIMARY KEY, divisions BLOB)",
     "CREATE TABLE favourite(_id INTEGER PRIMARY KEY, verbid INTEGER)",
     "CREATE TABLE history(_id INTEGER PRIMARY KEY, verbid INTEGER, timestamp REAL)",
     "INSERT INTO verb(_id, french, simplified_french, english, german, simplified_german, "

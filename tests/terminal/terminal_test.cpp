@@ -60,6 +60,55 @@ TEST_F(TerminalTest, ConjugatesInTabSeparatedLinesForAPipeInTheUsersLanguage)
     EXPECT_TRUE(french.out.starts_with("aimer\tIndicatif\tPrésent\tj'\taime\n")) << french.out;
 }
 
+TEST_F(TerminalTest, TellsWhatTheTablesKnow)
+{
+    const auto queue = platform::DatabaseQueue::open(platform::fileUrl(database()));
+    for (const char* sql : {
+             "INSERT INTO verb_facts VALUES(9, 3, 'sentir', 13, 'être+avoir', '', '', 3, 1),"
+             "(10, 2, 'finir', NULL, 'avoir', 'defective,en', 'invariable', 5, 1),"
+             "(13, 1, 'aimer', NULL, 'avoir', '', '', 1, 1), (3, 3, 'aller', 13, '', '', '', 1, 9)",
+             "INSERT INTO form_divisions VALUES(1, x'0600080009000000')",
+             "UPDATE conjugation SET verb = 'aime, ayme' WHERE verb = 'aime'",
+         }) {
+        support::executeOn(*queue, sql);
+    }
+    EXPECT_EQ(program.run({"about", "ressortir"}).out,
+              "infinitive\tressortir\ngroup\t3\nmodel\tsentir\nlike\taimer\n"
+              "auxiliary\têtre, avoir\ntraits\t\nuse\t3\n\n"
+              "infinitive\tressortir\ngroup\t2\nmodel\tfinir\nlike\t\nauxiliary\tavoir\n"
+              "traits\tdefective, with en, invariable participle\nuse\t5\n");
+    EXPECT_EQ(program.run({"about", "être"}).err, "lumora-cli: nothing is known of \"être\"\n");
+
+    const auto stems = program.run({"conjugate", "--stems", "aimer"});
+    EXPECT_THAT(stems.out, HasSubstr("\tj'\taim|e, ayme\n")) << "without a cut: nothing regular";
+    EXPECT_THAT(stems.out, HasSubstr("\tnous\taimo|ns\n"));
+    EXPECT_THAT(stems.out, HasSubstr("\tnous\taimio|ns\n"));
+    EXPECT_THAT(stems.out, HasSubstr("\t\tform of aimer\n"));
+    EXPECT_THAT(program.run({"conjugate", "--stems", "aller"}).out, HasSubstr("\tje\tvais\n"));
+}
+
+TEST_F(TerminalTest, ConjugatesTheVerbsOfStandardInput)
+{
+    const auto list = program.home() / "list";
+    const auto queue = platform::DatabaseQueue::open(platform::fileUrl(database()));
+    support::executeOn(*queue, "DELETE FROM conjugation WHERE verbid = 8");
+    support::writeContent(list, "s'évanouir\r\n\n  \nqqqqqq\npécher\nallre\naimer");
+
+    const auto run = program.run({"conjugate", "-"}, {}, "<'" + list.string() + "'");
+
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "lumora-cli: no verb \"qqqqqq\"\n"
+                       "lumora-cli: \"pécher\" is used in the infinitive only\n"
+                       "lumora-cli: no verb \"allre\"; did you mean aller?\n");
+    EXPECT_THAT(run.out, testing::StartsWith("évanouir (s')\tOther"));
+    EXPECT_THAT(run.out, HasSubstr("form of évanouir (s')\n\naimer\tIndicative\tPresent"));
+
+    support::writeContent(list, "pécher\n");
+    const auto known = program.run({"conjugate", "-"}, {}, "<'" + list.string() + "'");
+    EXPECT_EQ(known.status, 0);
+    EXPECT_EQ(known.out, "");
+}
+
 TEST_F(TerminalTest, FindsAVerbAsItIsTyped)
 {
     struct {
@@ -105,6 +154,9 @@ TEST_F(TerminalTest, FindsAVerbAsItIsTyped)
 
 TEST_F(TerminalTest, SearchesAsTheOptionsSay)
 {
+    support::executeOn(*platform::DatabaseQueue::open(platform::fileUrl(database())),
+                       "INSERT INTO verb_facts VALUES(9, 3, 'sentir', 13, 'être+avoir', '', '', 3,"
+                       " 1), (10, 2, 'finir', NULL, 'avoir', '', '', 5, 1)");
     struct {
         std::vector<std::string> arguments;
         const char* out;
@@ -116,6 +168,8 @@ TEST_F(TerminalTest, SearchesAsTheOptionsSay)
         {{"geh", "--translations", "--language", "de"}, "aller\tgehen\n"},
         {{"al", "--language=de"}, "aller\tgehen\n"},
         {{"S\u2019", "--anywhere"}, "évanouir (s')\tso\n"},
+        {{"ress", "--language", "fr"},
+         "ressortir (être, avoir)\tressortir\nressortir (avoir)\tressortir\n"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.arguments.front());
@@ -160,6 +214,10 @@ TEST_F(TerminalTest, SaysWhatIsWrongInOneLine)
         {{"backup", "--language", "de", "file"}, 2, "this command has no option \"--language\""},
         {{"version", "two"}, 2, "one word too many: \"two\""},
         {{"help", "conjugate", "two"}, 2, "one word too many: \"two\""},
+        {{"about"}, 2, "which verb?"},
+        {{"about", "être", "--stems"}, 2, "this command has no option \"--stems\""},
+        {{"about", "-"}, 2, "this command has no option \"-\""},
+        {{"conjugate", "-", "être"}, 2, "either a verb or \"-\" for those of standard input"},
         {{"search", ""}, 2, "which text?"},
         {{"search", "a", "--html"}, 2, "this command has no option \"--html\""},
         {{"conjugate", "être", "--anywhere"}, 2, "this command has no option \"--anywhere\""},
@@ -346,7 +404,7 @@ TEST_F(TerminalTest, EveryOptionIsInTheManualAndInTheCompletions)
         {"completions/lumora-cli.fish", " -l "},
     };
     std::string help;
-    for (const char* command : {"conjugate", "search", "export"}) {
+    for (const char* command : {"conjugate", "about", "search", "export"}) {
         help += program.run({"help", command}).out;
     }
     const auto options = optionsIn(help);
@@ -367,8 +425,9 @@ TEST_F(TerminalTest, CompletesCommandsOptionsAndVerbsInTheShell)
         const char* line;
         const char* completions;
     } cases[] = {
-        {"con", "conjugate\n"},      {"export --t", "--text\n"},    {"search --language p", "pt\n"},
-        {"conjugate al", "aller\n"}, {"export evan", "évanouir\n"}, {"--v", "--version\n"},
+        {"con", "conjugate\n"},      {"export --t", "--text\n"},   {"search --language p", "pt\n"},
+        {"conjugate al", "aller\n"}, {"about evan", "évanouir\n"}, {"export evan", "évanouir\n"},
+        {"--v", "--version\n"},
     };
     // The program comes first among the shell's arguments.
     const std::string shell =

@@ -19,6 +19,8 @@ TEST(Simplified, FoldsTextAsPeopleTypeIt)
         {"größer machen, heißen", "grosser machen, heissen"},
         {"misstrauen, hüten (sich)", "misstrauen, huten"},
         {"enthalten (sich), verzichten", "enthalten, verzichten"},
+        {"denken (à, de), glauben", "denken, glauben"},
+        {"erinnern (sich) (de), merken", "erinnern, merken"},
         {"Rad fahren", "rad fahren"},
         {"enseñar, reírse", "ensenar, reirse"},
         {"coördineren", "coordineren"},

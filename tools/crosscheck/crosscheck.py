@@ -68,7 +68,7 @@ def read_ours(database):
     for headword, pronoun, text, tense in rows:
         infinitive = re.sub(r" \(.*\)$", "", headword)
         verb = verbs[infinitive]
-        variants = [re.sub(r"^s(e |')", "", form) for form in text.split(", ")]
+        variants = [re.sub(r"^s('en |e |')", "", form) for form in text.split(", ")]
         if tense in TENSES:
             verb.forms[tense, person_of(pronoun)].update(variants)
             verb.impersonal |= pronoun == "il"
@@ -76,7 +76,7 @@ def read_ours(database):
             continue  # compound
         elif tense == "imperatif":
             for form in variants:
-                form = re.sub(r"-(toi|nous|vous)$", "", form)
+                form = re.sub(r"-(t'en|nous-en|vous-en|toi|nous|vous)$", "", form)
                 verb.forms[tense, "*"].add(form)
         else:
             verb.forms[tense, "*"].update(variants)

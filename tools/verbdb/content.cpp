@@ -5,6 +5,7 @@
 
 #include "conjugator/model_table.h"
 #include "conjugator/text_table.h"
+#include "verbdb/senses.h"
 
 #include <algorithm>
 #include <charconv>
@@ -20,15 +21,25 @@ using conjugator::Auxiliary;
 using conjugator::ModelTable;
 using conjugator::TextTable;
 
-enum Column : std::size_t { Id, Infinitive, Model, AuxiliaryVerb, Traits, Participle, English };
+enum Column : std::size_t {
+    Id,
+    Infinitive,
+    Model,
+    AuxiliaryVerb,
+    Traits,
+    Participle,
+    Use,
+    English
+};
 
 constexpr std::size_t kMaximalSenses = 3;
+constexpr int kUseClasses = 5;
 
 const std::vector<std::string>& verbHeader()
 {
     static const std::vector<std::string> header = [] {
-        std::vector<std::string> names{"id",        "infinitive", "model",
-                                       "auxiliary", "traits",     "participle"};
+        std::vector<std::string> names{"id",     "infinitive", "model", "auxiliary",
+                                       "traits", "participle", "use"};
         names.insert(names.end(), kLanguages.begin(), kLanguages.end());
         return names;
     }();
@@ -54,46 +65,62 @@ std::int64_t readId(const TextTable& table, const TextTable::Record& record)
 
 Auxiliary readAuxiliary(const TextTable& table, const TextTable::Record& record)
 {
-    static const std::map<std::string, Auxiliary> names{
-        {"avoir", Auxiliary::Avoir},
-        {"être", Auxiliary::Etre},
-        {"avoir+être", Auxiliary::AvoirThenEtre},
-        {"être+avoir", Auxiliary::EtreThenAvoir},
-    };
-    const auto found = names.find(record.fields[AuxiliaryVerb]);
-    if (found == names.end()) {
-        table.refuse(record, "unknown auxiliary " + inQuotes(record.fields[AuxiliaryVerb]));
+    const auto& text = record.fields[AuxiliaryVerb];
+    const auto* const found = std::find(kAuxiliaries.begin(), kAuxiliaries.end(), text);
+    if (found == kAuxiliaries.end()) {
+        table.refuse(record, "unknown auxiliary " + inQuotes(text));
     }
-    return found->second;
+    return static_cast<Auxiliary>(found - kAuxiliaries.begin());
+}
+
+/// Sets what the words of a column name; "-" is none.
+template <std::size_t kCount>
+void readFlags(const TextTable& table, const TextTable::Record& record, Column column,
+               const std::array<FlagName, kCount>& names, conjugator::VerbEntry& entry)
+{
+    const std::string kind = column == Traits ? "trait" : "participle";
+    const auto words = conjugator::split(record.fields[column], ",");
+    if (words.size() == 1 && words[0] == "-") {
+        return;
+    }
+    for (const auto& word : words) {
+        const auto* const found = std::find_if(
+            names.begin(), names.end(), [&](const FlagName& flag) { return flag.name == word; });
+        if (found == names.end()) {
+            table.refuse(record, "unknown " + kind + " " + inQuotes(word));
+        }
+        auto& flag = entry.*found->flag;
+        if (flag) {
+            table.refuse(record, inQuotes(word) + " stands twice");
+        }
+        flag = true;
+    }
 }
 
 void readTraits(const TextTable& table, const TextTable::Record& record,
                 conjugator::VerbEntry& entry)
 {
-    const std::map<std::string, bool*> names{
-        {"aspirated", &entry.aspirated},
-        {"impersonal", &entry.impersonal},
-        {"pronominal", &entry.pronominal},
-        {"defective", &entry.defective},
-    };
-    if (record.fields[Traits] != "-") {
-        for (const auto& trait : conjugator::split(record.fields[Traits], ",")) {
-            const auto found = names.find(trait);
-            if (found == names.end()) {
-                table.refuse(record, "unknown trait " + inQuotes(trait));
-            }
-            *found->second = true;
-        }
-    }
+    readFlags(table, record, Traits, kTraits, entry);
+    readFlags(table, record, Participle, kParticipleKinds, entry);
     if (entry.pronominal && entry.auxiliary != Auxiliary::Etre) {
         table.refuse(record, "a pronominal verb takes \"être\"");
     }
-
-    const auto& participle = record.fields[Participle];
-    entry.invariableParticiple = participle == "invariable";
-    if (!entry.invariableParticiple && participle != "-") {
-        table.refuse(record, "unknown participle " + inQuotes(participle));
+    if ((entry.en || entry.indirectPronoun) && !entry.pronominal) {
+        table.refuse(record,
+                     "only a pronominal verb can be " + inQuotes(entry.en ? "en" : "indirect"));
     }
+    if (entry.plural && !entry.impersonal) {
+        table.refuse(record, "only an impersonal verb can be \"plural\"");
+    }
+}
+
+int readUse(const TextTable& table, const TextTable::Record& record)
+{
+    const auto& text = record.fields[Use];
+    if (text.size() != 1 || text[0] < '1' || text[0] > '0' + kUseClasses) {
+        table.refuse(record, "the use " + inQuotes(text) + " is not a class from 1 to 5");
+    }
+    return text[0] - '0';
 }
 
 std::string readTranslation(const TextTable& table, const TextTable::Record& record,
@@ -101,16 +128,20 @@ std::string readTranslation(const TextTable& table, const TextTable::Record& rec
 {
     const auto& text = record.fields[English + language];
     const std::string name(kLanguages[language]);
-    const auto senses = conjugator::split(text, ", ");
+    const auto senses = sensesOf(text);
     if (text.empty() || text == "-") {
         table.refuse(record, "the " + name + " translation is missing");
+    }
+    if (!hasClosedBrackets(text)) {
+        table.refuse(record, "the brackets in " + name + " are not in pairs");
     }
     if (senses.size() > kMaximalSenses) {
         table.refuse(record, "more than three senses in " + name);
     }
     for (const auto& sense : senses) {
-        if (sense.empty() || sense.starts_with(' ') || sense.ends_with(' ') ||
-            sense.find(',') != std::string::npos) {
+        const auto bare = withoutBrackets(sense);
+        if (bare.empty() || bare.starts_with(' ') || bare.ends_with(' ') ||
+            bare.find(',') != std::string::npos) {
             table.refuse(record, "the " + name + " senses are not divided by \", \"");
         }
     }
@@ -132,6 +163,7 @@ Verb readVerb(const TextTable& table, const TextTable::Record& record, const Mod
     }
     entry.auxiliary = readAuxiliary(table, record);
     readTraits(table, record, entry);
+    verb.use = readUse(table, record);
     for (std::size_t language = 0; language < kLanguages.size(); ++language) {
         verb.translations[language] = readTranslation(table, record, language);
     }
@@ -161,8 +193,9 @@ Content readContent(const std::filesystem::path& folder)
     const auto verbTable = TextTable::read(folder / "verbs.tsv", verbHeader());
     std::vector<Verb> verbs;
     std::map<std::int64_t, std::size_t> lineOfId;
-    // Homographs differ in their model or their auxiliary.
-    std::map<std::tuple<std::string, std::string, Auxiliary>, std::size_t> lineOfVerb;
+    // Homographs differ in their model, their auxiliary or their pronoun.
+    using Key = std::tuple<std::string, std::string, Auxiliary, bool, bool>;
+    std::map<Key, std::size_t> lineOfVerb;
     for (const auto& record : verbTable.records()) {
         auto verb = readVerb(verbTable, record, models);
         if (const auto [at, fresh] = lineOfId.emplace(verb.id, record.line); !fresh) {
@@ -175,7 +208,8 @@ Content readContent(const std::filesystem::path& folder)
         }
         const auto& entry = verb.entry;
         const auto [at, fresh] = lineOfVerb.emplace(
-            std::tuple(entry.infinitive, entry.model, entry.auxiliary), record.line);
+            Key(entry.infinitive, entry.model, entry.auxiliary, entry.pronominal, entry.en),
+            record.line);
         if (!fresh) {
             verbTable.refuse(record, inQuotes(entry.infinitive) +
                                          " with the same model and "

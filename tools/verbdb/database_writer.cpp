@@ -4,10 +4,13 @@
 #include "verbdb/database_writer.h"
 
 #include "verbdb/simplify.h"
+#include "verbdb/verb_facts.h"
 
 #include <sqlite3.h>
 
+#include <map>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -20,10 +23,11 @@ namespace {
 
 // Fixed pages and rows written in the order of their keys make the file a
 // function of the tables. Without a rowid a verb's forms lie together and the
-// text is not kept a second time in an index. What a search looks at lies at the
+// text is not kept a second time in an index; a number of a row's own would be
+// 3 MB that nothing else follows from, so it is computed. What a search looks at lies at the
 // head of a verb's row, for SQLite counts its way through to a column.
 constexpr auto kSchema = R"(
-PRAGMA page_size = 4096;
+PRAGMA page_size = 8192;
 PRAGMA encoding = 'UTF-8';
 PRAGMA auto_vacuum = NONE;
 PRAGMA journal_mode = OFF;
@@ -46,7 +50,7 @@ CREATE TABLE verb (
     simplified_portuguese TEXT NOT NULL
 );
 CREATE TABLE conjugation (
-    _id INTEGER NOT NULL,
+    _id INTEGER NOT NULL GENERATED ALWAYS AS (verbid * 1000 + conj_order) VIRTUAL,
     verbid INTEGER NOT NULL REFERENCES verb (_id),
     pronoun TEXT NOT NULL,
     verb TEXT NOT NULL,
@@ -56,17 +60,34 @@ CREATE TABLE conjugation (
     PRIMARY KEY (verbid, conj_order)
 ) WITHOUT ROWID;
 CREATE TABLE packed_forms (verbid INTEGER PRIMARY KEY, forms BLOB NOT NULL);
+CREATE TABLE verb_facts (
+    verbid INTEGER PRIMARY KEY REFERENCES verb (_id),
+    verb_group INTEGER NOT NULL,
+    model TEXT NOT NULL,
+    like_verbid INTEGER REFERENCES verb (_id),
+    auxiliary TEXT NOT NULL,
+    traits TEXT NOT NULL,
+    participle TEXT NOT NULL,
+    use_class INTEGER NOT NULL,
+    divisionsid INTEGER NOT NULL REFERENCES form_divisions (_id)
+);
+CREATE TABLE form_divisions (_id INTEGER PRIMARY KEY, divisions BLOB NOT NULL);
 CREATE TABLE favourite (_id INTEGER PRIMARY KEY, verbid INTEGER);
 CREATE TABLE history (_id INTEGER PRIMARY KEY, verbid INTEGER, timestamp REAL);
 CREATE INDEX favourite_verbid ON favourite (verbid);
 CREATE INDEX history_verbid ON history (verbid);
 )";
 
+/// Of a verb, so that the numbers of its rows are its own.
+constexpr std::int64_t kMostRows = 999;
+
 constexpr auto kInsertVerb =
     "INSERT INTO verb VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14)";
-constexpr auto kInsertForm = "INSERT INTO conjugation VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7)";
+constexpr auto kInsertForm = "INSERT INTO conjugation VALUES (?1, ?2, ?3, ?4, ?5, ?6)";
 // Bound as text, whose NULs SQLite keeps.
 constexpr auto kInsertPacked = "INSERT INTO packed_forms VALUES (?1, CAST(?2 AS BLOB))";
+constexpr auto kInsertFacts = "INSERT INTO verb_facts VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)";
+constexpr auto kInsertDivisions = "INSERT INTO form_divisions VALUES (?1, CAST(?2 AS BLOB))";
 
 struct Closer {
     void operator()(sqlite3* database) const { sqlite3_close(database); }
@@ -124,6 +145,16 @@ public:
         return *this;
     }
 
+    /// None is NULL.
+    Insertion& operator<<(std::optional<std::int64_t> number)
+    {
+        if (number) {
+            return *this << *number;
+        }
+        output_.check(sqlite3_bind_null(statement_.get(), ++bound_));
+        return *this;
+    }
+
     void run()
     {
         output_.check(sqlite3_step(statement_.get()));
@@ -162,12 +193,50 @@ private:
     std::unordered_set<std::string> seen_;
 };
 
+/// Writes the helper tables. Most verbs of a model divide alike and share a row.
+class FactsWriter {
+public:
+    FactsWriter(const Content& content, Output& output)
+        : content_(content),
+          namesakes_(content),
+          insertFacts_(output, kInsertFacts),
+          insertDivisions_(output, kInsertDivisions)
+    {}
+
+    void write(const Verb& verb, const std::vector<conjugator::Row>& rows)
+    {
+        const auto packed = packedDivisions(rows);
+        const auto [found, fresh] = idOfDivisions_.emplace(packed, idOfDivisions_.size() + 1);
+        const auto divisions = static_cast<std::int64_t>(found->second);
+        if (fresh) {
+            insertDivisions_ << divisions << std::string_view(packed);
+            insertDivisions_.run();
+        }
+        const auto& entry = verb.entry;
+        const auto traits = namesOf(entry, kTraits);
+        const auto participle = namesOf(entry, kParticipleKinds);
+        insertFacts_ << verb.id << std::int64_t{content_.conjugator.group(entry)}
+                     << std::string_view(entry.model) << namesakes_.of(verb)
+                     << kAuxiliaries[static_cast<std::size_t>(entry.auxiliary)]
+                     << std::string_view(traits) << std::string_view(participle)
+                     << std::int64_t{verb.use} << divisions;
+        insertFacts_.run();
+    }
+
+private:
+    const Content& content_;
+    Namesakes namesakes_;
+    Insertion insertFacts_;
+    Insertion insertDivisions_;
+    std::map<std::string, std::size_t> idOfDivisions_;
+};
+
 void writeRows(const Content& content, Output& output)
 {
     Insertion insertVerb(output, kInsertVerb);
     Insertion insertForm(output, kInsertForm);
     Insertion insertPacked(output, kInsertPacked);
-    std::int64_t formId = 0;
+    FactsWriter facts(content, output);
     for (const auto& verb : content.verbs) {
         const auto headword = content.conjugator.headword(verb.entry);
         const auto simplifiedHeadword = simplified(headword);
@@ -185,15 +254,19 @@ void writeRows(const Content& content, Output& output)
 
         std::int64_t order = 0;
         PackedForms packed;
-        for (const auto& row : content.conjugator.rows(verb.entry)) {
-            insertForm << ++formId << verb.id << std::string_view(row.pronoun)
-                       << std::string_view(row.verb) << conjugator::name(row.tense) << ++order
-                       << std::int64_t{row.shown};
+        const auto rows = content.conjugator.rows(verb.entry);
+        for (const auto& row : rows) {
+            insertForm << verb.id << std::string_view(row.pronoun) << std::string_view(row.verb)
+                       << conjugator::name(row.tense) << ++order << std::int64_t{row.shown};
             insertForm.run();
             packed.add(row.verb);
+            if (order >= kMostRows) {
+                throw std::runtime_error(headword + " has too many forms");
+            }
         }
         insertPacked << verb.id << packed.text();
         insertPacked.run();
+        facts.write(verb, rows);
     }
 }
 

@@ -3,6 +3,9 @@
 
 #include "verbdb/report.h"
 
+#include "verbdb/senses.h"
+#include "verbdb/verb_facts.h"
+
 #include <algorithm>
 #include <map>
 #include <ostream>
@@ -10,6 +13,60 @@
 #include <utility>
 
 namespace lumora::verbdb {
+
+namespace {
+
+using Counts = std::map<std::string, std::size_t>;
+
+void print(const char* title, const Counts& counts, std::ostream& output)
+{
+    output << "\n" << title << "\n";
+    for (const auto& [name, count] : counts) {
+        output << "  " << name << "\t" << count << "\n";
+    }
+}
+
+/// How many senses end in brackets: prepositions, registers, reflexives.
+std::size_t bracketedSenses(const Verb& verb, std::size_t language)
+{
+    const auto senses = sensesOf(verb.translations[language]);
+    return static_cast<std::size_t>(
+        std::count_if(senses.begin(), senses.end(), [](const std::string& sense) {
+            return withoutBrackets(sense).size() < sense.size();
+        }));
+}
+
+void printKinds(const Content& content, std::ostream& output)
+{
+    Counts auxiliaries;
+    Counts traits;
+    Counts participles;
+    Counts groups;
+    Counts uses;
+    Counts brackets;
+    for (const auto& verb : content.verbs) {
+        auxiliaries[std::string(kAuxiliaries[static_cast<std::size_t>(verb.entry.auxiliary)])] += 1;
+        for (const auto& [name, flag] : kTraits) {
+            traits[std::string(name)] += verb.entry.*flag ? 1 : 0;
+        }
+        if (const auto kinds = namesOf(verb.entry, kParticipleKinds); !kinds.empty()) {
+            participles[kinds] += 1;
+        }
+        groups[std::to_string(content.conjugator.group(verb.entry))] += 1;
+        uses[std::to_string(verb.use)] += 1;
+        for (std::size_t language = 0; language < kLanguages.size(); ++language) {
+            brackets[std::string(kLanguages[language])] += bracketedSenses(verb, language);
+        }
+    }
+    print("verbs an auxiliary", auxiliaries, output);
+    print("verbs a trait", traits, output);
+    print("participles that do not agree", participles, output);
+    print("verbs a group", groups, output);
+    print("verbs a class of use", uses, output);
+    print("senses with brackets", brackets, output);
+}
+
+} // namespace
 
 void printReport(const Content& content, std::ostream& output)
 {
@@ -33,8 +90,7 @@ void printReport(const Content& content, std::ostream& output)
         entriesOfHeadword[content.conjugator.headword(verb.entry)] += 1;
         for (std::size_t language = 0; language < kLanguages.size(); ++language) {
             const auto& text = verb.translations[language];
-            senses[language] +=
-                1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), ','));
+            senses[language] += sensesOf(text).size();
             texts[language].insert(text);
         }
         if (content.conjugator.models()
@@ -55,6 +111,8 @@ void printReport(const Content& content, std::ostream& output)
         output << "  " << kLanguages[language] << "\t" << content.verbs.size() << "\t"
                << senses[language] << "\t" << texts[language].size() << "\n";
     }
+
+    printKinds(content, output);
 
     output << "\nverbs a model\n";
     std::vector<std::pair<std::string, std::size_t>> models(verbsOfModel.begin(),
