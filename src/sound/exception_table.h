@@ -12,6 +12,8 @@ namespace lumora::sound {
 struct Exception {
     std::u32string_view letters;
     std::u32string_view said;
+    /// Empty for every verb.
+    std::u32string_view verb;
 };
 
 /// Sorted by the letters, their ^ not counted.

@@ -50,11 +50,12 @@ bool standsAt(const Letters& word, std::size_t at, std::u32string_view letters)
 }
 
 /// The entry with the most letters, as what is longer is meant more exactly.
-const Exception* longestAt(const Letters& word, std::size_t at)
+const Exception* longestAt(const Letters& word, std::size_t at, std::u32string_view infinitive)
 {
     const Exception* longest = nullptr;
     for (const auto& entry : beginningWith(word[at])) {
         if (standsAt(word, at, entry.letters) &&
+            (entry.verb.empty() || entry.verb == infinitive) &&
             (longest == nullptr || longest->letters.size() < entry.letters.size())) {
             longest = &entry;
         }
@@ -81,12 +82,12 @@ void append(Letters& word, std::u32string_view notation)
 
 } // namespace
 
-Letters respelled(const Letters& word)
+Letters respelled(const Letters& word, std::u32string_view infinitive)
 {
     Letters result;
     result.reserve(word.size() + 4);
     for (std::size_t at = 0; at < word.size();) {
-        if (const auto* entry = longestAt(word, at)) {
+        if (const auto* entry = longestAt(word, at, infinitive)) {
             append(result, entry->said);
             at += withoutAnchors(entry->letters).size();
         } else {

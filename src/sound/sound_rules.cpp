@@ -59,7 +59,7 @@ Sounds withGlides(const Sounds& sounds)
         const bool cluster = endsInCluster(result);
         if (sound == U'j' && cluster) {
             result += U"ij";
-        } else if (!isVowelSound(next) || next == U'ə') {
+        } else if (!isVowelSound(next) || next == U'ə' || next == sound) {
             result += sound;
         } else if (sound == U'i') {
             result += cluster ? U"ij" : U"j";
@@ -81,7 +81,9 @@ void settleE(Sounds& sounds)
     for (std::size_t i = 0; i < sounds.size(); ++i) {
         if (sounds[i] == U'E') {
             const auto next = nextVowel(sounds, i + 1);
-            sounds[i] = next == kNone || sounds[next] == U'ə' ? U'ɛ' : U'e';
+            const bool open = next == kNone || sounds[next] == U'ə' ||
+                              sounds.compare(i + 1, 2, U"jɔ") == 0;
+            sounds[i] = open ? U'ɛ' : U'e';
         }
     }
 }
@@ -117,7 +119,9 @@ bool keepsE(const Sounds& before, const Sounds& sounds, std::size_t at)
     if (next == kNone || next - at > 2) {
         return true;
     }
-    return before.back() == U'ɲ' || (before.back() == U'ʁ' && sounds[at + 1] == U'ʁ');
+    const auto last = before.back();
+    return last == U'ɲ' || (last == U'ʁ' && sounds[at + 1] == U'ʁ') ||
+           (isOneOf(last, U"kɡ") && sounds[at + 1] == U't');
 }
 
 Sounds withoutFallenE(const Sounds& sounds)

@@ -10,9 +10,9 @@
 
 namespace lumora::sound {
 
-Sounds wordSounds(std::string_view word, Tense tense, Person person)
+Sounds wordSounds(const Letters& word, Tense tense, Person person, std::u32string_view infinitive)
 {
-    return settled(spelledSounds(withEnding(respelled(decoded(word)), tense, person)));
+    return settled(spelledSounds(withEnding(respelled(word, infinitive), tense, person)));
 }
 
 } // namespace lumora::sound

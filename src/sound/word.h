@@ -13,6 +13,8 @@ namespace lumora::sound {
 /// How one word of a row is said by itself, without liaison.
 ///
 /// The word is one form of a verb, in lower case, without pronoun and brackets.
-Sounds wordSounds(std::string_view word, Tense tense, Person person);
+/// The infinitive tells surfait of surfer from that of surfaire.
+Sounds wordSounds(const Letters& word, Tense tense, Person person,
+                  std::u32string_view infinitive);
 
 } // namespace lumora::sound

@@ -70,7 +70,7 @@ int main(int argc, char** argv)
                 for (const std::string end : {"-toi", "-nous", "-vous"})
                     if (form.ends_with(end)) form = form.substr(0, form.size() - end.size());
                 if (form.find_first_of(" (") != std::string::npos) continue;
-                forms[form].insert(sound::ipaOf(sound::wordSounds(form, tense, person)));
+                forms[form].insert(sound::ipaOf(sound::wordSounds(sound::decoded(form), tense, person, sound::decoded(verb.entry.infinitive))));
             }
         }
     }
