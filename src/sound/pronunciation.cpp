@@ -202,6 +202,27 @@ std::string firstPronoun(std::string_view pronoun)
     return first;
 }
 
+/// The pronoun as it stands before a variant: elided or not, and left out where
+/// the variant has its own ("suis apparu, j'ai apparu").
+std::string pronounBefore(std::string_view variant, std::string pronoun, bool aspirated)
+{
+    const auto own = tokensOf(variant, 0, variant.size());
+    if (pronoun.empty() || own.empty()) {
+        return {};
+    }
+    if (own.size() > 1 && particleNamed(own[0].text) != nullptr) {
+        const auto subject = pronoun.find(' ');
+        return pronoun.starts_with("que ") ? pronoun.substr(0, subject + 1) : std::string();
+    }
+    const bool open = beginsWithVowel(decoded(own[0].text)) && !(aspirated && own.size() == 1);
+    if (pronoun.ends_with('\'') && !open) {
+        pronoun.back() = 'e';
+    } else if (pronoun.ends_with('e') && !pronoun.ends_with("elle") && open) {
+        pronoun.back() = '\'';
+    }
+    return pronoun.ends_with('\'') ? pronoun : pronoun + ' ';
+}
+
 std::string withoutBrackets(std::string_view form)
 {
     std::string text;
@@ -255,15 +276,13 @@ std::vector<SpokenWord> spokenWords(std::string_view text, const Row& row)
 
 std::string ipa(const Row& row)
 {
-    auto pronoun = firstPronoun(row.pronoun);
-    if (!pronoun.empty() && !pronoun.ends_with('\'')) {
-        pronoun += ' ';
-    }
+    const auto pronoun = firstPronoun(row.pronoun);
     std::string all;
     const auto form = withoutBrackets(row.form);
     for (std::size_t begin = 0; begin <= form.size();) {
         const auto end = std::min(form.find(kVariants, begin), form.size());
-        const auto text = pronoun + form.substr(begin, end - begin);
+        const auto variant = form.substr(begin, end - begin);
+        const auto text = pronounBefore(variant, pronoun, row.aspirated) + variant;
         all += all.empty() ? "" : kVariants;
         all += joined(spokenWords(text, row), text);
         begin = end + kVariants.size();

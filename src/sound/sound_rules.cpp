@@ -139,8 +139,10 @@ Sounds withoutFallenE(const Sounds& sounds)
 
 Sounds settled(const Sounds& sounds)
 {
-    auto result = withGlides(withoutEAfterVowel(sounds));
+    // paierai: its e opens the syllable before it, and only then falls.
+    auto result = sounds;
     settleE(result);
+    result = withGlides(withoutEAfterVowel(result));
     settleEu(result);
     return withoutFallenE(result);
 }
