@@ -54,8 +54,7 @@ const Exception* longestAt(const Letters& word, std::size_t at, std::u32string_v
 {
     const Exception* longest = nullptr;
     for (const auto& entry : beginningWith(word[at])) {
-        if (standsAt(word, at, entry.letters) &&
-            (entry.verb.empty() || entry.verb == infinitive) &&
+        if (standsAt(word, at, entry.letters) && (entry.verb.empty() || entry.verb == infinitive) &&
             (longest == nullptr || longest->letters.size() < entry.letters.size())) {
             longest = &entry;
         }

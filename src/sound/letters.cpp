@@ -135,8 +135,7 @@ bool isVowelLetter(char32_t letter)
     if (isSaid(letter)) {
         return isVowelSound(soundOf(letter));
     }
-    return std::u32string_view(U"aàâäeéèêëiîïoôöuùûüyœ").find(letter) !=
-           std::u32string_view::npos;
+    return std::u32string_view(U"aàâäeéèêëiîïoôöuùûüyœ").find(letter) != std::u32string_view::npos;
 }
 
 bool isConsonantLetter(char32_t letter)

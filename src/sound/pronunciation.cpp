@@ -28,11 +28,11 @@ struct Particle {
 };
 
 constexpr std::array<Particle, 22> kParticles{{
-    {"je", "ʒə", ""},    {"j'", "ʒ", ""},     {"tu", "ty", ""},   {"il", "il", ""},
-    {"elle", "ɛl", ""},  {"on", "ɔ̃", "n"},    {"nous", "nu", "z"}, {"vous", "vu", "z"},
-    {"ils", "il", "z"},  {"elles", "ɛl", "z"}, {"me", "mə", ""},   {"m'", "m", ""},
-    {"te", "tə", ""},    {"t'", "t", ""},     {"se", "sə", ""},   {"s'", "s", ""},
-    {"que", "kə", ""},   {"qu'", "k", ""},    {"ou", "u", ""},    {"-toi", "twa", ""},
+    {"je", "ʒə", ""},    {"j'", "ʒ", ""},      {"tu", "ty", ""},    {"il", "il", ""},
+    {"elle", "ɛl", ""},  {"on", "ɔ̃", "n"},     {"nous", "nu", "z"}, {"vous", "vu", "z"},
+    {"ils", "il", "z"},  {"elles", "ɛl", "z"}, {"me", "mə", ""},    {"m'", "m", ""},
+    {"te", "tə", ""},    {"t'", "t", ""},      {"se", "sə", ""},    {"s'", "s", ""},
+    {"que", "kə", ""},   {"qu'", "k", ""},     {"ou", "u", ""},     {"-toi", "twa", ""},
     {"-nous", "nu", ""}, {"-vous", "vu", ""},
 }};
 
@@ -109,10 +109,7 @@ class Speaker {
 public:
     /// The person holds where the text has no subject.
     Speaker(std::vector<Token> tokens, const Row& row, Tense tense, Person person)
-        : tokens_(std::move(tokens)),
-          row_(row),
-          infinitive_(decoded(row.infinitive)),
-          tense_(tense)
+        : tokens_(std::move(tokens)), row_(row), infinitive_(decoded(row.infinitive)), tense_(tense)
     {
         findVerb();
         person_ = person_ == Person::Nobody ? person : person_;
@@ -214,7 +211,7 @@ std::string pronounBefore(std::string_view variant, std::string pronoun, bool as
         const auto subject = pronoun.find(' ');
         return pronoun.starts_with("que ") ? pronoun.substr(0, subject + 1) : std::string();
     }
-    const bool open = beginsWithVowel(decoded(own[0].text)) && !(aspirated && own.size() == 1);
+    const bool open = beginsWithVowel(decoded(own[0].text)) && (!aspirated || own.size() > 1);
     if (pronoun.ends_with('\'') && !open) {
         pronoun.back() = 'e';
     } else if (pronoun.ends_with('e') && !pronoun.ends_with("elle") && open) {

@@ -49,7 +49,22 @@ Sounds withoutEAfterVowel(const Sounds& sounds)
     return kept;
 }
 
-/// i, y and u before a vowel become j, ɥ and w.
+/// What i, y and u become before a vowel; other sounds stay.
+std::u32string_view glideOf(char32_t sound, char32_t next, bool afterCluster)
+{
+    switch (sound) {
+    case U'i':
+        return afterCluster ? U"ij" : U"j";
+    case U'y':
+        return afterCluster && next != U'i' ? U"y" : U"ɥ";
+    case U'u':
+        return afterCluster ? U"u" : U"w";
+    default:
+        return {};
+    }
+}
+
+/// nier, tuer, louer with one syllable; oublier, montrions, clouer with two.
 Sounds withGlides(const Sounds& sounds)
 {
     Sounds result;
@@ -57,32 +72,26 @@ Sounds withGlides(const Sounds& sounds)
         const auto sound = sounds[i];
         const auto next = i + 1 < sounds.size() ? sounds[i + 1] : 0;
         const bool cluster = endsInCluster(result);
-        if (sound == U'j' && cluster) {
-            result += U"ij";
-        } else if (!isVowelSound(next) || next == U'ə' || next == sound) {
-            result += sound;
-        } else if (sound == U'i') {
-            result += cluster ? U"ij" : U"j";
-        } else if (sound == U'y') {
-            result += cluster && next != U'i' ? U'y' : U'ɥ';
-        } else if (sound == U'u') {
-            result += cluster ? U'u' : U'w';
+        const bool meetsVowel = isVowelSound(next) && next != U'ə' && next != sound;
+        const auto glide = meetsVowel ? glideOf(sound, next, cluster) : std::u32string_view();
+        if (!glide.empty()) {
+            result += glide;
         } else {
-            result += sound;
+            result += sound == U'j' && cluster ? U"ij" : std::u32string_view(&sound, 1);
         }
     }
     return result;
 }
 
-/// e before a heavy or last syllable, ɛ where its own syllable is the last one
-/// or the next has a mute e.
+/// ɛ where its own syllable is the last one, or the next has a mute e, or before
+/// jɔ (rayonner); e elsewhere.
 void settleE(Sounds& sounds)
 {
     for (std::size_t i = 0; i < sounds.size(); ++i) {
         if (sounds[i] == U'E') {
             const auto next = nextVowel(sounds, i + 1);
-            const bool open = next == kNone || sounds[next] == U'ə' ||
-                              sounds.compare(i + 1, 2, U"jɔ") == 0;
+            const bool open =
+                next == kNone || sounds[next] == U'ə' || sounds.compare(i + 1, 2, U"jɔ") == 0;
             sounds[i] = open ? U'ɛ' : U'e';
         }
     }

@@ -12,7 +12,9 @@ namespace {
 
 using Rule = SpellingRule;
 
-// Sorted by the first of the letters; within one, the longer before the shorter.
+// Sorted by the first of the letters; within one, the longer before the shorter; one
+// rule a line.
+// clang-format off
 constexpr auto kRules = std::to_array<Rule>({
     {U"", U"aill", U"", U"aj"},
     {U"", U"ail", U"$", U"aj"},
@@ -20,17 +22,17 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"ain", U"N", U"ẽ"},
     {U"", U"ai", U"", U"E"},
     {U"", U"aî", U"", U"E"},
-    {U"", U"aou", U"", U"u"},
+    {U"", U"aou", U"", U"u"},  // saouler
     {U"", U"aoû", U"", U"u"},
     {U"", U"au", U"r", U"ɔ"},
     {U"", U"au", U"", U"o"},
-    {U"", U"ays", U"", U"eiz"},
+    {U"", U"ays", U"", U"eiz"},  // dépayser
     {U"", U"ay", U"V", U"Ej"},
     {U"", U"ay", U"", U"E"},
     {U"", U"am", U"P", U"ã"},
     {U"", U"an", U"N", U"ã"},
     {U"", U"a", U"", U"a"},
-    {U"", U"b", U"s", U"p"},
+    {U"", U"b", U"s", U"p"},  // observer
     {U"", U"b", U"t", U"p"},
     {U"", U"bb", U"", U"b"},
     {U"", U"b", U"", U"b"},
@@ -49,15 +51,15 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"dd", U"", U"d"},
     {U"", U"d", U"", U"d"},
     {U"", U"eau", U"", U"o"},
-    {U"", U"ea", U"C", U"i"},
+    {U"", U"ea", U"C", U"i"},  // streamer
     {U"", U"ee", U"", U"i"},
-    {U"#", U"emm", U"", U"ãm"},
+    {U"#", U"emm", U"", U"ãm"},  // emmener
     {U"#r", U"emm", U"", U"ãm"},
     {U"#dés", U"emm", U"", U"ãm"},
     {U"#", U"enn", U"", U"ãn"},
     {U"#r", U"enn", U"", U"ãn"},
     {U"#dés", U"enn", U"", U"ãn"},
-    {U"", U"enh", U"", U"ã"},
+    {U"", U"enh", U"", U"ã"},  // enhardir
     {U"", U"eill", U"", U"Ej"},
     {U"", U"eil", U"$", U"Ej"},
     {U"", U"eim", U"P", U"ẽ"},
@@ -67,30 +69,30 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"ey", U"", U"E"},
     {U"", U"euill", U"", U"œj"},
     {U"", U"euil", U"$", U"œj"},
-    {U"#", U"eu", U"r", U"ø"},
+    {U"#", U"eu", U"r", U"ø"},  // européaniser
     {U"", U"eu", U"", U"Ø"},
     {U"", U"eû", U"", U"ø"},
     {U"i", U"en", U"$", U"ẽ"},
-    {U"i", U"en", U"dr", U"ẽ"},
+    {U"i", U"en", U"dr", U"ẽ"},  // viendra
     {U"y", U"en", U"$", U"ẽ"},
     {U"é", U"en", U"$", U"ẽ"},
     {U"", U"em", U"P", U"ã"},
     {U"", U"en", U"N", U"ã"},
-    {U"", U"e", U"oi", U""},
+    {U"", U"e", U"oi", U""},  // asseoir
     {U"", U"e-", U"V", U""},
-    {U"", U"e-", U"", U"ə"},
+    {U"", U"e-", U"", U"ə"},  // contre-braquer
     {U"#cyb", U"e", U"r", U"ɛ"},
     {U"#hyp", U"e", U"r", U"ɛ"},
-    {U"#int", U"e", U"rV", U"ɛ"},
+    {U"#int", U"e", U"rV", U"ɛ"},  // interagir
     {U"#sup", U"e", U"r", U"ɛ"},
     {U"", U"e", U"scF", U"E"},
     {U"", U"e", U"sç", U"E"},
-    {U"#r", U"e", U"ss", U"ə"},
+    {U"#r", U"e", U"ss", U"ə"},  // ressembler
     {U"#d", U"e", U"ss", U"e"},
     {U"", U"ff", U"", U"f"},
     {U"", U"f", U"", U"f"},
-    {U"", U"ge", U"B", U"ʒ"},
-    {U"", U"gg", U"F", U"ɡʒ"},
+    {U"", U"ge", U"B", U"ʒ"},  // mangeons
+    {U"", U"gg", U"F", U"ɡʒ"},  // suggérer
     {U"", U"gg", U"", U"ɡ"},
     {U"", U"gh", U"", U"ɡ"},
     {U"", U"gn", U"", U"ɲ"},
@@ -100,7 +102,7 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"g", U"", U"ɡ"},
     {U"", U"h", U"", U""},
     {U"C", U"ill", U"V", U"ij"},
-    {U"qu", U"ill", U"V", U"ij"},
+    {U"qu", U"ill", U"V", U"ij"},  // maquiller
     {U"gu", U"ill", U"V", U"ij"},
     {U"", U"im", U"P", U"ẽ"},
     {U"", U"in", U"N", U"ẽ"},
@@ -110,14 +112,14 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"ll", U"", U"l"},
     {U"", U"l", U"", U"l"},
     {U"", U"mm", U"", U"m"},
-    {U"da", U"mn", U"", U"n"},
+    {U"da", U"mn", U"", U"n"},  // condamner
     {U"", U"m", U"", U"m"},
     {U"", U"nn", U"", U"n"},
     {U"", U"n", U"", U"n"},
     {U"", U"oin", U"N", U"wẽ"},
     {U"", U"oi", U"", U"wa"},
     {U"", U"oî", U"", U"wa"},
-    {U"", U"oê", U"", U"wa"},
+    {U"", U"oê", U"", U"wa"},  // poêler
     {U"", U"oy", U"V", U"waj"},
     {U"", U"oy", U"", U"wa"},
     {U"", U"oeill", U"", U"œj"},
@@ -128,14 +130,14 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"oû", U"", U"u"},
     {U"", U"om", U"P", U"õ"},
     {U"", U"on", U"N", U"õ"},
-    {U"", U"o", U"sV", U"o"},
+    {U"", U"o", U"sV", U"o"},  // poser
     {U"", U"o", U"$", U"o"},
     {U"", U"o", U"", U"ɔ"},
     {U"", U"ph", U"", U"f"},
-    {U"om", U"p", U"t", U""},
+    {U"om", U"p", U"t", U""},  // compter
     {U"xem", U"p", U"t", U""},
     {U"ba", U"p", U"t", U""},
-    {U"cul", U"p", U"t", U""},
+    {U"cul", U"p", U"t", U""},  // sculpter
     {U"", U"pp", U"", U"p"},
     {U"", U"p", U"", U"p"},
     {U"", U"qu", U"", U"k"},
@@ -144,17 +146,17 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"rr", U"", U"ʁ"},
     {U"", U"r", U"", U"ʁ"},
     {U"", U"sch", U"", U"ʃ"},
-    {U"", U"sc", U"F", U"s"},
+    {U"", U"sc", U"F", U"s"},  // descendre
     {U"#dé", U"sh", U"V", U"z"},
     {U"tran", U"sh", U"V", U"z"},
     {U"", U"sh", U"", U"ʃ"},
     {U"", U"ss", U"", U"s"},
     {U"", U"sç", U"", U"s"},
-    {U"tran", U"s", U"V", U"z"},
+    {U"tran", U"s", U"V", U"z"},  // transiter
     {U"#re", U"s", U"V", U"s"},
     {U"#anti", U"s", U"V", U"s"},
     {U"#auto", U"s", U"V", U"s"},
-    {U"#co", U"s", U"V", U"s"},
+    {U"#co", U"s", U"V", U"s"},  // cosigner
     {U"#contre", U"s", U"V", U"s"},
     {U"#entre", U"s", U"V", U"s"},
     {U"#photo", U"s", U"V", U"s"},
@@ -162,25 +164,25 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"s", U"", U"s"},
     {U"", U"th", U"", U"t"},
     {U"", U"tt", U"", U"t"},
-    {U"S", U"t", U"", U"t"},
-    {U"", U"t", U"ionn", U"s"},
+    {U"S", U"t", U"", U"t"},  // questionner
+    {U"", U"t", U"ionn", U"s"},  // stationner
     {U"", U"t", U"ional", U"s"},
     {U"", U"t", U"ial", U"s"},
     {U"", U"t", U"iel", U"s"},
-    {U"pa", U"t", U"ient", U"s"},
+    {U"pa", U"t", U"ient", U"s"},  // patienter
     {U"", U"t", U"", U"t"},
     {U"", U"uill", U"V", U"ɥij"},
     {U"", U"um", U"P", U"ũ"},
     {U"", U"un", U"N", U"ũ"},
-    {U"", U"uy", U"V", U"ɥij"},
+    {U"", U"uy", U"V", U"ɥij"},  // essuyer
     {U"", U"u", U"", U"y"},
     {U"", U"v", U"", U"v"},
     {U"", U"w", U"", U"w"},
-    {U"", U"x", U"cF", U"k"},
+    {U"", U"x", U"cF", U"k"},  // exciter
     {U"", U"xs", U"", U"ks"},
     {U"#e", U"xh", U"V", U"ɡz"},
     {U"#e", U"x", U"V", U"ɡz"},
-    {U"Ve", U"x", U"V", U"ɡz"},
+    {U"Ve", U"x", U"V", U"ɡz"},  // réexaminer
     {U"#ine", U"x", U"V", U"ɡz"},
     {U"", U"x", U"", U"ks"},
     {U"", U"ym", U"P", U"ẽ"},
@@ -198,7 +200,7 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"é", U"", U"e"},
     {U"", U"ê", U"", U"ɛ"},
     {U"", U"ë", U"", U"ɛ"},
-    {U"", U"înm", U"", U"ẽm"},
+    {U"", U"înm", U"", U"ẽm"},  // vînmes
     {U"", U"în", U"N", U"ẽ"},
     {U"", U"î", U"", U"i"},
     {U"", U"ïn", U"N", U"ẽ"},
@@ -212,16 +214,16 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"œu", U"", U"Ø"},
     {U"", U"œ", U"", U"e"},
 });
+// clang-format on
 
 struct ByFirstLetter {
     bool operator()(const Rule& rule, char32_t letter) const { return rule.letters[0] < letter; }
     bool operator()(char32_t letter, const Rule& rule) const { return letter < rule.letters[0]; }
 };
 
-static_assert(std::is_sorted(kRules.begin(), kRules.end(),
-                             [](const Rule& a, const Rule& b) {
-                                 return a.letters[0] < b.letters[0];
-                             }));
+static_assert(std::is_sorted(kRules.begin(), kRules.end(), [](const Rule& a, const Rule& b) {
+    return a.letters[0] < b.letters[0];
+}));
 
 } // namespace
 

@@ -14,7 +14,6 @@ namespace lumora::sound {
 ///
 /// The word is one form of a verb, in lower case, without pronoun and brackets.
 /// The infinitive tells surfait of surfer from that of surfaire.
-Sounds wordSounds(const Letters& word, Tense tense, Person person,
-                  std::u32string_view infinitive);
+Sounds wordSounds(const Letters& word, Tense tense, Person person, std::u32string_view infinitive);
 
 } // namespace lumora::sound

@@ -42,9 +42,11 @@ TEST(Pronunciation, FindsTheWordsOfATextThatIsReadAloud)
         std::string words;
     };
     const std::vector<Case> cases{
-        {"il ou elle ou on va", {"aller", "", "", "indicatifPresent"},
+        {"il ou elle ou on va",
+         {"aller", "", "", "indicatifPresent"},
          "0+2 il, 3+2 u, 6+4 ɛl, 11+2 u, 14+2 ɔ̃, 17+2 va"},
-        {"ils ou elles aiment", {"aimer", "", "", "indicatifPresent"},
+        {"ils ou elles aiment",
+         {"aimer", "", "", "indicatifPresent"},
          "0+3 il, 4+2 u, 7+5 ɛlz‿, 13+6 ɛm"},
         {"j'ai paye", {"payer", "", "", "indicatifPresent"}, "0+2 ʒ, 2+2 e, 5+4 pɛj"},
         {"je paie, paye", {"payer", "", "", "indicatifPresent"}, "0+2 ʒə, 3+4 pɛ, 9+4 pɛj"},
@@ -67,7 +69,8 @@ TEST(Pronunciation, FindsTheWordsOfATextThatIsReadAloud)
 
 TEST(Pronunciation, OutlivesWhatIsNoFrench)
 {
-    for (const std::string form : {"", "\xff\xfe", "\xe2\x82", "''''", "(((", "1234", "-", ", , "}) {
+    for (const std::string form :
+         {"", "\xff\xfe", "\xe2\x82", "''''", "(((", "1234", "-", ", , "}) {
         for (const std::string pronoun : {"", "je", "que j'", "/", "\xc3"}) {
             ipa({form, pronoun, form, "indicatifPresent"});
             spokenWords(pronoun + form, {form, pronoun, form, "imperatif"});

@@ -49,9 +49,16 @@ std::string plain(const std::string& ipa)
 /// What dictionaries are not of one mind about is made the same.
 std::string loose(const std::string& ipa)
 {
-    return replaced(ipa, {{"ɛ̃", "1"}, {"ɑ̃", "2"}, {"ɔ̃", "3"}, {"œ̃", "4"},
-                          {"ɛ", "e"}, {"ɔ", "o"}, {"ɑ", "a"}, {"œ", "ø"},
-                          {"ɥ", "y"}, {"ə", ""}});
+    return replaced(ipa, {{"ɛ̃", "1"},
+                          {"ɑ̃", "2"},
+                          {"ɔ̃", "3"},
+                          {"œ̃", "4"},
+                          {"ɛ", "e"},
+                          {"ɔ", "o"},
+                          {"ɑ", "a"},
+                          {"œ", "ø"},
+                          {"ɥ", "y"},
+                          {"ə", ""}});
 }
 
 struct Entry {
@@ -146,8 +153,7 @@ bool agreesWithDictionary(const std::vector<SpokenVerb>& verbs,
                           const std::filesystem::path& disagreements, std::ostream& output)
 {
     const auto forms = formsOf(verbs);
-    const auto listed =
-        TextTable::read(disagreements, {"infinitive", "form", "ours", "reason"});
+    const auto listed = TextTable::read(disagreements, {"infinitive", "form", "ours", "reason"});
     const auto entries = dictionaryEntries(dictionary);
     Count count;
     Count listedCount;
@@ -174,8 +180,8 @@ bool agreesWithDictionary(const std::vector<SpokenVerb>& verbs,
             listedCount.loose += !close;
             continue;
         }
-        output << (close ? "letter\t" : "sound\t") << infinitive << "\t" << form << "\t"
-               << ours << "\t" << ipa << "\n";
+        output << (close ? "letter\t" : "sound\t") << infinitive << "\t" << form << "\t" << ours
+               << "\t" << ipa << "\n";
     }
     const auto strict = share(count.strict + listedCount.strict, count);
     const auto near = share(count.loose + listedCount.loose, count);

@@ -27,8 +27,8 @@ void list(const std::vector<SpokenVerb>& verbs)
 {
     for (const auto& verb : verbs) {
         for (const auto& form : verb.forms) {
-            std::cout << verb.verb->entry.infinitive << "\t" << form.form << "\t" << form.ipa << "\t"
-                      << form.rowIpa << "\n";
+            std::cout << verb.verb->entry.infinitive << "\t" << form.form << "\t" << form.ipa
+                      << "\t" << form.rowIpa << "\n";
         }
     }
 }
@@ -54,8 +54,8 @@ int run(const std::vector<std::string_view>& arguments)
     }
     bool good = lumora::sounds::followsRules(verbs, std::cout);
     if (arguments.size() == 2) {
-        good &= lumora::sounds::agreesWithDictionary(
-            verbs, arguments[1], folder / "sound_disagreements.tsv", std::cout);
+        good &= lumora::sounds::agreesWithDictionary(verbs, arguments[1],
+                                                     folder / "sound_disagreements.tsv", std::cout);
     }
     return good ? 0 : 1;
 }

@@ -36,7 +36,7 @@ constexpr std::array<Endings, 5> kEndings{{
     {Tense::IndicatifPasseSimple, {"", "", "", "m", "t", "ʁ"}},
 }};
 
-/// What is said alike in every verb but être, avoir, aller.
+/// What is said alike in every verb.
 constexpr std::array<std::pair<Tense, std::array<Person, 4>>, 3> kAlike{{
     {Tense::IndicatifImparfait, {Person::Je, Person::Tu, Person::Il, Person::Ils}},
     {Tense::ConditionnelPresent, {Person::Je, Person::Tu, Person::Il, Person::Ils}},
@@ -124,8 +124,7 @@ private:
                     heard.insert(found->second);
                 }
             }
-            const bool irregular = entry().model == "être" || entry().model == "avoir";
-            if (heard.size() > 1 && !(irregular && tense == Tense::SubjonctifPresent)) {
+            if (heard.size() > 1) {
                 breakRule("alike", conjugator::name(tense).data(), *heard.begin()->begin());
             }
         }

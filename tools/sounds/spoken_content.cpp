@@ -41,17 +41,17 @@ SpokenVerb spoken(const verbdb::Verb& verb, const conjugator::Conjugator& conjug
         const auto typeName = conjugator::name(row.tense);
         const auto person = sound::personOf(row.pronoun);
         for (const auto& variant : conjugator::split(row.verb, ", ")) {
-            auto rowIpa = sound::ipa(
-                {infinitive, row.pronoun, variant, typeName, verb.entry.aspirated});
+            auto rowIpa =
+                sound::ipa({infinitive, row.pronoun, variant, typeName, verb.entry.aspirated});
             const auto form = bareForm(variant);
             if (form.find(' ') != std::string::npos) {
                 result.compoundIpa.push_back(std::move(rowIpa));
                 continue;
             }
-            const auto sounds = sound::wordSounds(
-                sound::decoded(form), *sound::tenseNamed(typeName), person, letters);
-            result.forms.push_back({row.tense, person, form, sound::ipaOf(sounds), row.pronoun,
-                                    std::move(rowIpa)});
+            const auto sounds = sound::wordSounds(sound::decoded(form),
+                                                  *sound::tenseNamed(typeName), person, letters);
+            result.forms.push_back(
+                {row.tense, person, form, sound::ipaOf(sounds), row.pronoun, std::move(rowIpa)});
         }
     }
     return result;
