@@ -27,13 +27,14 @@ struct Particle {
     std::string_view liaison;
 };
 
-constexpr std::array<Particle, 22> kParticles{{
-    {"je", "ʒə", ""},    {"j'", "ʒ", ""},      {"tu", "ty", ""},    {"il", "il", ""},
-    {"elle", "ɛl", ""},  {"on", "ɔ̃", "n"},     {"nous", "nu", "z"}, {"vous", "vu", "z"},
-    {"ils", "il", "z"},  {"elles", "ɛl", "z"}, {"me", "mə", ""},    {"m'", "m", ""},
-    {"te", "tə", ""},    {"t'", "t", ""},      {"se", "sə", ""},    {"s'", "s", ""},
-    {"que", "kə", ""},   {"qu'", "k", ""},     {"ou", "u", ""},     {"-toi", "twa", ""},
-    {"-nous", "nu", ""}, {"-vous", "vu", ""},
+constexpr std::array<Particle, 26> kParticles{{
+    {"je", "ʒə", ""},     {"j'", "ʒ", ""},      {"tu", "ty", ""},    {"il", "il", ""},
+    {"elle", "ɛl", ""},   {"on", "ɔ̃", "n"},     {"nous", "nu", "z"}, {"vous", "vu", "z"},
+    {"ils", "il", "z"},   {"elles", "ɛl", "z"}, {"me", "mə", ""},    {"m'", "m", ""},
+    {"te", "tə", ""},     {"t'", "t", ""},      {"se", "sə", ""},    {"s'", "s", ""},
+    {"que", "kə", ""},    {"qu'", "k", ""},     {"ou", "u", ""},     {"-toi", "twa", ""},
+    {"-nous", "nu", "z"}, {"-vous", "vu", "z"}, {"en", "ɑ̃", "n"},    {"y", "i", ""},
+    {"-t'", "t", ""},     {"-en", "ɑ̃", ""},
 }};
 
 const Particle* particleNamed(std::string_view text)
@@ -49,26 +50,29 @@ struct Token {
     std::string_view text;
 };
 
-/// A hyphen parts the word from the pronoun of an imperative alone.
-std::size_t hyphenedPronoun(std::string_view word)
+/// A hyphen parts a verb from the pronouns of its imperative alone: "allez",
+/// "-vous", "-en", but "pique-nique".
+std::size_t firstPart(std::string_view word)
 {
-    const auto hyphen = word.rfind('-');
-    const bool parts = hyphen != std::string_view::npos && hyphen > 0 &&
-                       particleNamed(word.substr(hyphen)) != nullptr;
-    return parts ? hyphen : word.size();
+    for (auto hyphen = word.find('-', 1); hyphen != std::string_view::npos;
+         hyphen = word.find('-', hyphen + 1)) {
+        const auto next = std::min(word.find('-', hyphen + 1), word.size());
+        if (particleNamed(word.substr(hyphen, next - hyphen)) != nullptr) {
+            return hyphen;
+        }
+    }
+    return word.size();
 }
 
 std::vector<Token> tokensOf(std::string_view text, std::size_t begin, std::size_t end)
 {
     std::vector<Token> tokens;
     const auto take = [&](std::size_t wordEnd) {
-        if (wordEnd > begin) {
+        while (wordEnd > begin) {
             const auto word = text.substr(begin, wordEnd - begin);
-            const auto hyphen = hyphenedPronoun(word);
-            tokens.push_back({begin, word.substr(0, hyphen)});
-            if (hyphen < word.size()) {
-                tokens.push_back({begin + hyphen, word.substr(hyphen)});
-            }
+            const auto length = firstPart(word);
+            tokens.push_back({begin, word.substr(0, length)});
+            begin += length;
         }
         begin = wordEnd;
     };
@@ -138,9 +142,9 @@ private:
     /// The first word that is no particle, or the last one: tu of taire.
     void findVerb()
     {
-        auto last = tokens_.size();
-        while (last > 1 && tokens_[last - 1].text.starts_with('-')) {
-            --last;
+        std::size_t last = 1;
+        while (last < tokens_.size() && !tokens_[last].text.starts_with('-')) {
+            ++last;
         }
         while (verb_ + 1 < last && particleNamed(tokens_[verb_].text) != nullptr) {
             if (const auto person = personOf(tokens_[verb_].text); person_ == Person::Nobody) {
@@ -165,14 +169,18 @@ private:
         return {ipaOf(sounds), auxiliary ? auxiliaryLiaison(text, person_) : ""};
     }
 
-    /// Auxiliaries are never aspirated.
+    /// Auxiliaries, en and y are never aspirated.
     bool isLinkedTo(std::size_t index) const
     {
-        if (index >= tokens_.size() || index < verb_) {
+        if (index >= tokens_.size()) {
             return false;
         }
+        const auto next = tokens_[index].text;
+        if (index != verb_ && particleNamed(next) != nullptr) {
+            return next == "en" || next == "-en" || next == "y";
+        }
         const bool auxiliary = compound_ && index == verb_;
-        return (auxiliary || !row_.aspirated) && beginsWithVowel(decoded(tokens_[index].text));
+        return (auxiliary || !row_.aspirated) && beginsWithVowel(decoded(next));
     }
 
     std::vector<Token> tokens_;
