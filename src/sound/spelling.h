@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "sound/letters.h"
+
+namespace lumora::sound {
+
+/// What the letters of a word stand for, one after the other.
+///
+/// Where the neighbours in speech decide, an open question stands for them: E
+/// for e or ɛ, Ø for ø or œ, ə for every e that may fall.
+Sounds spelledSounds(const Letters& word);
+
+} // namespace lumora::sound
