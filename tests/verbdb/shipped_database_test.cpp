@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "conjugator/grammar.h"
+#include "conjugator/text_table.h"
 #include "support/stock_sqlite.h"
 #include "text/text.h"
 #include "verbdb/content.h"
@@ -143,12 +144,38 @@ TEST(ShippedDatabase, MakesCompoundFormsOfAuxiliaryAndAgreeingParticiple)
                });
 }
 
+TEST(ShippedDatabase, HasThePronominalVerbsThatPeopleSay)
+{
+    const auto table =
+        conjugator::TextTable::read(LUMORA_FROZEN_CONTENT_DIR "/../pronominal_forms.tsv",
+                                    {"headword", "tense", "pronoun", "forms"});
+    std::set<std::string> headwords;
+    for (const auto& record : table.records()) {
+        SCOPED_TRACE("pronominal_forms.tsv:" + std::to_string(record.line));
+        const auto& fields = record.fields;
+        headwords.insert(fields[0]);
+        std::string forms;
+        support::forEachRow(
+            LUMORA_VERBS_DB,
+            "SELECT type, pronoun, conjugation.verb FROM conjugation JOIN verb ON verb._id = verbid"
+            " WHERE display = 1 AND french = ? ORDER BY verbid, conj_order",
+            [&](const Row& row) {
+                if (row[0] == fields[1] && (fields[2] == "*" || fields[2] == row[1])) {
+                    forms += (forms.empty() ? "" : " | ") + row[2];
+                }
+            },
+            fields[0]);
+        EXPECT_EQ(forms, fields[3]) << fields[0];
+    }
+    EXPECT_GE(headwords.size(), 60U);
+}
+
 TEST(ShippedDatabase, ElidesBeforeVowelsAndMuteHOnly)
 {
     const auto aspirated = idsOf([](const conjugator::VerbEntry& verb) { return verb.aspirated; });
     constexpr std::string_view kVowels = "aeiou";
     forEachRow("SELECT verbid, pronoun, verb FROM conjugation WHERE display = 1 AND"
-               " (pronoun LIKE '%j%' OR pronoun LIKE 'tu t%')",
+               " (pronoun LIKE '%j%' OR pronoun LIKE 'tu t%') AND pronoun NOT LIKE '%en'",
                [&](const Row& row) {
                    // A simple form has no blank but behind the comma of a variant.
                    const auto blank = row[2].find(' ');
