@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The Lumora authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Writes the facts that a running program states about itself.
 #
 # The version carries the database's fingerprint: an installed copy is replaced

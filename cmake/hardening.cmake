@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The Lumora authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # What makes a mistake with memory end the program rather than serve a stranger.
 # tests/security looks for it in what was built.
 if(SANITIZE)

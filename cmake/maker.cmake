@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The Lumora authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Who makes the program and where the maker is found: settings of the build, for
 # the program, its package and its description alike.
 set(LUMORA_MAKER "Brindle" CACHE STRING "Name of the maker")

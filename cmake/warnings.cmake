@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The Lumora authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # What every target of ours is compiled with.
 add_library(lumora_warnings INTERFACE)
 target_compile_options(lumora_warnings INTERFACE
