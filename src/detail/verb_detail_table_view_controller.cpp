@@ -24,7 +24,6 @@
 #include "settings/setting_keys.h"
 
 #include <algorithm>
-#include <any>
 #include <cstdint>
 #include <limits>
 #include <ostream>
@@ -128,11 +127,10 @@ void VerbDetailTableViewController::viewDidLoad()
 
     showVerb();
 
-    refresh_ = services_.notifications.addObserver(
-        "RefreshConjugations", [this](const platform::Notification&) { refreshConjugations(); });
-    favouriteToggled_ = services_.notifications.addObserver(
-        "VerbFavouriteToggled",
-        [this](const platform::Notification& notification) { verbFavouriteToggled(notification); });
+    refresh_ = data::observe<data::RefreshConjugations>(
+        services_.notifications, [this](const auto& /*news*/) { refreshConjugations(); });
+    favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
+        services_.notifications, [this](const auto& news) { verbFavouriteToggled(news); });
     outletsChanged();
 }
 
@@ -187,7 +185,7 @@ void VerbDetailTableViewController::showVerb()
             }
         });
     }
-    services_.notifications.post({"VerbViewed", {}, {{"verb", selectedVerb}}});
+    data::post(services_.notifications, data::VerbViewed{selectedVerb});
 }
 
 void VerbDetailTableViewController::countView()
@@ -263,7 +261,7 @@ void VerbDetailTableViewController::toggleFavourite()
             data::updateFavourite(database, *selectedVerb, services_.console);
         });
     }
-    services_.notifications.post({"VerbFavouriteToggled", this, {{"verb", selectedVerb}}});
+    data::post(services_.notifications, data::VerbFavouriteToggled{this, selectedVerb, {}});
 }
 
 void VerbDetailTableViewController::exportOptions()
@@ -287,31 +285,18 @@ void VerbDetailTableViewController::exportOptions()
                                  exportBarButton.identifier);
 }
 
-void VerbDetailTableViewController::verbFavouriteToggled(const platform::Notification& notification)
+void VerbDetailTableViewController::verbFavouriteToggled(const data::VerbFavouriteToggled& news)
 {
-    if (const auto* sender = std::get_if<const platform::ViewController*>(&notification.object);
-        sender != nullptr &&
-        dynamic_cast<const VerbDetailTableViewController*>(*sender) != nullptr) {
+    if (!selectedVerb ||
+        dynamic_cast<const VerbDetailTableViewController*>(news.sender) != nullptr) {
         return;
     }
-    if (!selectedVerb) {
-        return;
+    if (std::find(news.added.begin(), news.added.end(), selectedVerb->id) != news.added.end()) {
+        selectedVerb->isFavourite = true;
+        updateFavouriteIcon();
     }
-    const auto many = notification.userInfo.find("added");
-    if (many != notification.userInfo.end()) {
-        const auto* added = std::any_cast<std::vector<std::int64_t>>(&many->second);
-        if (added != nullptr && std::ranges::find(*added, selectedVerb->id) != added->end()) {
-            selectedVerb->isFavourite = true;
-            updateFavouriteIcon();
-        }
-    }
-    const auto found = notification.userInfo.find("verb");
-    if (found == notification.userInfo.end()) {
-        return;
-    }
-    const auto* verb = std::any_cast<data::VerbPtr>(&found->second);
-    if (verb != nullptr && *verb && (*verb)->id == selectedVerb->id) {
-        selectedVerb->isFavourite = (*verb)->isFavourite;
+    if (news.verb && news.verb->id == selectedVerb->id) {
+        selectedVerb->isFavourite = news.verb->isFavourite;
         updateFavouriteIcon();
     }
 }

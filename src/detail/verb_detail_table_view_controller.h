@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "data/news.h"
 #include "data/tense_table.h"
 #include "data/verb.h"
 #include "detail/verb_collection_view_cell.h"
@@ -136,7 +137,7 @@ private:
     bool loadConjugations(platform::Database& database);
     void recordHistory(platform::Database& database);
     void refreshConjugations() const;
-    void verbFavouriteToggled(const platform::Notification& notification);
+    void verbFavouriteToggled(const data::VerbFavouriteToggled& news);
     void updateFavouriteIcon();
     void updateNavigationItem();
     void updateEmptyState(double toolbarHeight);

@@ -39,9 +39,8 @@ std::string listStatement(std::string_view sortColumn)
 void VerbListTableViewController::viewDidLoad()
 {
     InterstitialTableViewController::viewDidLoad();
-    favouriteToggled_ = services().notifications.addObserver(
-        "VerbFavouriteToggled",
-        [this](const platform::Notification& notification) { verbFavouriteToggled(notification); });
+    favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
+        services().notifications, [this](const auto& news) { verbFavouriteToggled(news); });
     reloadVerbs();
 }
 
@@ -63,13 +62,12 @@ void VerbListTableViewController::viewDidDisappear()
     isVisible = false;
 }
 
-void VerbListTableViewController::verbFavouriteToggled(const platform::Notification& notification)
+void VerbListTableViewController::verbFavouriteToggled(const data::VerbFavouriteToggled& news)
 {
-    const auto* sender = std::get_if<const platform::ViewController*>(&notification.object);
-    if (sender != nullptr && *sender == this) {
-        return;
+    // This list has already changed its own row.
+    if (news.sender != this) {
+        reloadVerbs();
     }
-    reloadVerbs();
 }
 
 void VerbListTableViewController::reloadVerbs()
@@ -212,7 +210,7 @@ void VerbListTableViewController::toggleFavourite(const data::VerbPtr& verb,
         data::updateFavourite(connection, *verb, services().console);
         connection.close();
     });
-    services().notifications.post({"VerbFavouriteToggled", this, {{"verb", verb}}});
+    data::post(services().notifications, data::VerbFavouriteToggled{this, verb, {}});
 }
 
 } // namespace lumora::lists

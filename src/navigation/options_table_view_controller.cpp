@@ -5,8 +5,8 @@
 
 #include "backup/backup_menu.h"
 #include "build_settings.h"
+#include "data/news.h"
 #include "export/support_email_sender.h"
-#include "platform/base/notification_center.h"
 #include "platform/machine/analytics.h"
 #include "platform/machine/bundle.h"
 #include "platform/machine/url_opener.h"
@@ -311,7 +311,7 @@ void OptionsTableViewController::switchToggled(platform::IndexPath path, bool on
         settings.setValue(on, settings::kIncludeConjugations);
     } else if (row == Row::UseHistory) {
         settings.setValue(on, settings::kUseHistory);
-        services().notifications.post({"HistoryFeatureToggled", on, {}});
+        data::post(services().notifications, data::HistoryFeatureToggled{on});
     } else if (row == Row::Analytics) {
         settings.setValue(on, settings::kAnalyticsCollectionEnabled);
         services().analytics.setAnalyticsCollectionEnabled(on);
@@ -409,7 +409,7 @@ void OptionsTableViewController::clearHistory()
             database.close();
         });
     }
-    services().notifications.post({"RefreshHistory", {}, {}});
+    data::post(services().notifications, data::RefreshHistory{});
 }
 
 void OptionsTableViewController::flush()
