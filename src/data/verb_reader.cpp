@@ -3,8 +3,12 @@
 
 #include "data/verb_reader.h"
 
+#include "data/conjugation.h"
+#include "data/tense_table.h"
 #include "platform/storage/database.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -28,6 +32,25 @@ constexpr TextField kSimplified[] = {
     {"simplified_italian", &Verb::simplified_italian},
     {"simplified_portuguese", &Verb::simplified_portuguese},
 };
+
+constexpr std::string_view kConjugationsOfVerb =
+    "SELECT _id, pronoun, verb, type, conj_order as pid FROM conjugation WHERE verbid = ? AND "
+    "display=1 ORDER BY conj_order";
+
+ConjugationList readForms(platform::ResultSet& rows)
+{
+    const int pronoun = rows.columnIndex("pronoun");
+    const int verb = rows.columnIndex("verb");
+    const int type = rows.columnIndex("type");
+    const int pid = rows.columnIndex("pid");
+    ConjugationList forms;
+    while (rows.next()) {
+        forms.push_back(std::make_shared<const Conjugation>(
+            Conjugation{rows.stringForColumn(pronoun), rows.stringForColumn(verb),
+                        rows.stringForColumn(type), rows.longForColumn(pid)}));
+    }
+    return forms;
+}
 
 } // namespace
 
@@ -68,19 +91,20 @@ bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spelling
     return !rows->failed();
 }
 
-ConjugationReader::ConjugationReader(const platform::ResultSet& rows)
-    : pronoun_{rows.columnIndex("pronoun")},
-      verb_{rows.columnIndex("verb")},
-      type_{rows.columnIndex("type")},
-      pid_{rows.columnIndex("pid")}
-{}
-
-std::shared_ptr<const Conjugation>
-ConjugationReader::readConjugation(const platform::ResultSet& rows) const
+bool loadConjugations(platform::Database& database, Verb& verb)
 {
-    return std::make_shared<const Conjugation>(
-        Conjugation{rows.stringForColumn(pronoun_), rows.stringForColumn(verb_),
-                    rows.stringForColumn(type_), rows.longForColumn(pid_)});
+    auto rows = database.executeQuery(kConjugationsOfVerb, {verb.id});
+    if (!rows) {
+        return false;
+    }
+    const auto forms = readForms(*rows);
+    for (const auto& tense : kTenses) {
+        auto& list = verb.*tense.forms;
+        list.clear();
+        std::copy_if(forms.begin(), forms.end(), std::back_inserter(list),
+                     [&](const auto& form) { return form->type == tense.identifier; });
+    }
+    return !rows->failed();
 }
 
 } // namespace lumora::data

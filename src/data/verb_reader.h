@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include "data/conjugation.h"
 #include "data/verb.h"
 #include "platform/base/error.h"
 
 namespace lumora::platform {
+class Database;
 class ResultSet;
-}
+} // namespace lumora::platform
 
 namespace lumora::data {
 
@@ -41,17 +41,9 @@ private:
 bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
                std::vector<VerbPtr>& verbs);
 
-class ConjugationReader {
-public:
-    explicit ConjugationReader(const platform::ResultSet& rows);
-
-    std::shared_ptr<const Conjugation> readConjugation(const platform::ResultSet& rows) const;
-
-private:
-    int pronoun_;
-    int verb_;
-    int type_;
-    int pid_;
-};
+/// Reads the forms that are shown into the verb's lists, by tense. False when
+/// the statement failed: at once, and the lists are as before, or on the way,
+/// and they hold what was read. The connection knows why.
+bool loadConjugations(platform::Database& database, Verb& verb);
 
 } // namespace lumora::data

@@ -106,7 +106,7 @@ void printVerb(Screen& screen, const std::optional<data::FormDivisions>& divisio
                const Output& output)
 {
     if (output.isTerminal()) {
-        output.stream << screen.headerText() << "\n\n";
+        output.stream << screen.header().title << "\n\n";
     }
     const auto& verb = *screen.selectedVerb;
     std::size_t printed = 0;

@@ -155,7 +155,7 @@ TEST_F(VerbDetail, WithoutAVerbShowsTheLabelAndNoToolbar)
         EXPECT_EQ(detail->selectVerbLabel.hidden, there);
         EXPECT_EQ(detail->toolbar.hidden, !there);
         EXPECT_EQ(detail->toolbarHeightConstaint, there ? detail->defaultToolbarHeight : 0);
-        EXPECT_EQ(detail->headerText(), there ? "aller (go)" : "");
+        EXPECT_EQ(detail->header().title, there ? "aller (go)" : "");
         EXPECT_EQ(button(*detail, "favourite").enabled, there);
         EXPECT_EQ(button(*detail, "export").enabled, there);
         EXPECT_EQ(world.count("history"), there ? 1 : 0);

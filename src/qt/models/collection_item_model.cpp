@@ -74,7 +74,7 @@ void CollectionItemModel::reloadData()
     }
     busy_ = true;
     const int count = std::max(0, source_.numberOfItems());
-    headerText_ = toQString(source_.headerText());
+    headerText_ = toQString(source_.header().title);
     layout_ = source_.layout();
     busy_ = false;
     loaded_ = true;
