@@ -5,6 +5,7 @@
 
 #include "data/conjugation.h"
 #include "data/tense_table.h"
+#include "data/translation_table.h"
 #include "platform/storage/database.h"
 
 #include <algorithm>
@@ -15,23 +16,6 @@
 namespace lumora::data {
 
 namespace {
-
-using TextField = std::pair<std::string_view, std::string Verb::*>;
-
-constexpr TextField kPlain[] = {
-    {"english", &Verb::english},       {"german", &Verb::german}, {"french", &Verb::french},
-    {"spanish", &Verb::spanish},       {"dutch", &Verb::dutch},   {"italian", &Verb::italian},
-    {"portuguese", &Verb::portuguese},
-};
-
-constexpr TextField kSimplified[] = {
-    {"simplified_german", &Verb::simplified_german},
-    {"simplified_french", &Verb::simplified_french},
-    {"simplified_spanish", &Verb::simplified_spanish},
-    {"simplified_dutch", &Verb::simplified_dutch},
-    {"simplified_italian", &Verb::simplified_italian},
-    {"simplified_portuguese", &Verb::simplified_portuguese},
-};
 
 constexpr std::string_view kConjugationsOfVerb =
     "SELECT _id, pronoun, verb, type, conj_order as pid FROM conjugation WHERE verbid = ? AND "
@@ -57,12 +41,14 @@ ConjugationList readForms(platform::ResultSet& rows)
 VerbReader::VerbReader(const platform::ResultSet& rows, Spellings spellings)
     : id_{rows.columnIndex("_id")}, favouriteAvailable_{rows.columnIndex("favourite_available")}
 {
-    for (const auto& [name, field] : kPlain) {
-        texts_.push_back({field, rows.columnIndex(name)});
-    }
-    if (spellings == Spellings::WithSimplified) {
-        for (const auto& [name, field] : kSimplified) {
-            texts_.push_back({field, rows.columnIndex(name)});
+    for (const auto& language : kTranslationLanguages) {
+        if (!language.hasColumn()) {
+            continue;
+        }
+        texts_.push_back({language.text, rows.columnIndex(language.column)});
+        if (spellings == Spellings::WithSimplified && language.simplifiedText != nullptr) {
+            texts_.push_back(
+                {language.simplifiedText, rows.columnIndex(language.simplifiedColumn)});
         }
     }
 }
@@ -78,17 +64,25 @@ VerbPtr VerbReader::readVerb(const platform::ResultSet& rows) const
     return verb;
 }
 
-bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
-               std::vector<VerbPtr>& verbs)
+bool forEachVerb(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
+                 const std::function<void(const VerbPtr&, const platform::ResultSet&)>& visit)
 {
     if (!rows) {
         return false;
     }
     const VerbReader reader{*rows, spellings};
     while (rows->next()) {
-        verbs.push_back(reader.readVerb(*rows));
+        visit(reader.readVerb(*rows), *rows);
     }
     return !rows->failed();
+}
+
+bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
+               std::vector<VerbPtr>& verbs)
+{
+    return forEachVerb(
+        rows, spellings,
+        [&](const VerbPtr& verb, const platform::ResultSet& /*rows*/) { verbs.push_back(verb); });
 }
 
 bool loadConjugations(platform::Database& database, Verb& verb)

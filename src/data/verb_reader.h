@@ -6,6 +6,10 @@
 #include "data/verb.h"
 #include "platform/base/error.h"
 
+#include <functional>
+#include <string>
+#include <vector>
+
 namespace lumora::platform {
 class Database;
 class ResultSet;
@@ -35,6 +39,11 @@ private:
     int favouriteAvailable_;
     std::vector<TextColumn> texts_;
 };
+
+/// Calls `visit` with each verb and the row it was read from. False when the
+/// statement failed, at once or on the way.
+bool forEachVerb(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
+                 const std::function<void(const VerbPtr&, const platform::ResultSet&)>& visit);
 
 /// Appends the verbs of all rows. False when the statement failed, at once or
 /// on the way; what was read before stays.
