@@ -4,9 +4,11 @@
 #include "detail/conjugation_grid.h"
 
 #include "platform/machine/crash_reporter.h"
+#include "text/pronoun.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace lumora::detail {
 
@@ -54,6 +56,11 @@ std::shared_ptr<const data::Conjugation> formAt(ShownMood shown, int position, i
     const auto& forms = formsAt(shown, position);
     const bool isThere = row >= 0 && static_cast<std::size_t>(row) < forms.size();
     return isThere ? forms[static_cast<std::size_t>(row)] : nullptr;
+}
+
+std::string spokenName(const data::Conjugation& form)
+{
+    return text::beforeForm(form.pronoun) + form.verb;
 }
 
 std::shared_ptr<CERoundProgressView> makePlayIndicator()
@@ -118,6 +125,7 @@ platform::TableCell ConjugationGrid::cellForRow(ShownMood shown, platform::Index
     }
     cell.text = row->form->pronoun;
     cell.detailText = row->form->verb;
+    cell.accessibilityLabel = spokenName(*row->form);
     cell.control = platform::PlayControl{row->indicator};
     return cell;
 }
@@ -182,6 +190,7 @@ platform::CollectionCell ConjugationGrid::cellForItem(ShownMood shown, int item)
         const bool filled = line < forms.size();
         cell.pronounLabel[line] = filled ? forms[line]->pronoun : " ";
         cell.verbLabel[line] = filled ? forms[line]->verb : " ";
+        cell.accessibilityLabel[line] = filled ? spokenName(*forms[line]) : std::string{};
         cell.progressViewPlaceholderHidden[line] = !filled;
         if (filled) {
             cell.audioPaddingConstraint[line] = kAudioPadding;

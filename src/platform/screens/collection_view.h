@@ -19,6 +19,8 @@ struct CollectionRow {
     double audioPadding = 0;
     bool controlHidden = true;
     PlayControl control;
+    /// What a screen reader says; empty where the line is.
+    std::string accessibilityLabel;
 };
 
 /// What one square of a collection shows.
