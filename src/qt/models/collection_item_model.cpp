@@ -49,6 +49,7 @@ CollectionLine CollectionItemModel::line(int item, std::size_t number) const
     const auto& row = rows[number];
     return {.leading = toQString(row.leading),
             .trailing = toQString(row.trailing),
+            .accessibleName = toQString(row.accessibilityLabel),
             .audioWidth = row.audioWidth,
             .audioPadding = row.audioPadding,
             .controlHidden = row.controlHidden,
