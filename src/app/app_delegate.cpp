@@ -7,11 +7,11 @@
 #include "app/deep_link.h"
 #include "app/old_settings_file.h"
 #include "data/homographs.h"
+#include "data/news.h"
 #include "data/verb_finder.h"
 #include "data/verb_reader.h"
 #include "detail/verb_detail_table_view_controller.h"
 #include "navigation/home_view_controller.h"
-#include "platform/base/notification_center.h"
 #include "platform/machine/bundle.h"
 #include "platform/machine/clock.h"
 #include "platform/machine/crash_reporter.h"
@@ -34,10 +34,10 @@ namespace lumora::app {
 
 namespace {
 
-constexpr std::pair<std::string_view, const char*> kTabShortcuts[] = {
-    {"com.brindle.shortcut.favourite", "Favourites"},
-    {"com.brindle.shortcut.history", "History"},
-    {"com.brindle.shortcut.list", "List"},
+constexpr std::pair<std::string_view, std::string_view> kTabShortcuts[] = {
+    {"com.brindle.shortcut.favourite", data::TabOpenEvent::kFavourites},
+    {"com.brindle.shortcut.history", data::TabOpenEvent::kHistory},
+    {"com.brindle.shortcut.list", data::TabOpenEvent::kList},
 };
 
 constexpr std::string_view kEveryVerb =
@@ -159,7 +159,7 @@ void AppDelegate::handleShortcutItem(const ShortcutItem& item)
     }
     for (const auto& [type, tab] : kTabShortcuts) {
         if (item.type == type) {
-            services_.notifications.post({"TabOpenEvent", {}, {{"SelectedTab", std::string{tab}}}});
+            data::post(services_.notifications, data::TabOpenEvent{std::string{tab}});
             return;
         }
     }

@@ -42,23 +42,23 @@ std::shared_ptr<platform::SplitViewController> MainStoryboard::instantiateInitia
 {
     auto home = std::make_shared<NavigationController>(
         std::make_shared<navigation::HomeViewController>(*services_));
-    return std::make_shared<platform::SplitViewController>(std::move(home),
-                                                           instantiateDestination("showDetail"));
+    return std::make_shared<platform::SplitViewController>(
+        std::move(home), instantiateDestination(platform::kShowDetailSegue));
 }
 
 std::shared_ptr<platform::ViewController>
 MainStoryboard::instantiateViewController(std::string_view identifier)
 {
-    if (identifier == "VerbListTableViewController") {
+    if (identifier == platform::kVerbListScreen) {
         return std::make_shared<lists::VerbListTableViewController>(*services_);
     }
-    if (identifier == "FavouritesTableViewController") {
+    if (identifier == platform::kFavouritesScreen) {
         return std::make_shared<lists::FavouritesTableViewController>(*services_);
     }
-    if (identifier == "HistoryTableViewController") {
+    if (identifier == platform::kHistoryScreen) {
         return std::make_shared<lists::HistoryTableViewController>(*services_);
     }
-    if (identifier == "TableSearchResultsNavController") {
+    if (identifier == platform::kSearchResultsScreen) {
         return std::make_shared<NavigationController>(
             std::make_shared<lists::SearchResultsTableViewController>(*services_));
     }
@@ -68,19 +68,20 @@ MainStoryboard::instantiateViewController(std::string_view identifier)
 std::shared_ptr<platform::ViewController>
 MainStoryboard::instantiateDestination(std::string_view segueIdentifier)
 {
-    if (segueIdentifier == "showDetail" || segueIdentifier == "showSearchResult") {
+    if (segueIdentifier == platform::kShowDetailSegue ||
+        segueIdentifier == platform::kShowSearchResultSegue) {
         return std::make_shared<NavigationController>(
             std::make_shared<detail::VerbDetailTableViewController>(*services_));
     }
-    if (segueIdentifier == "Navigation") {
+    if (segueIdentifier == platform::kNavigationSegue) {
         return std::make_shared<platform::SideMenuNavigationController>(
             std::make_shared<navigation::NavigationDrawerTableTableViewController>(*services_));
     }
-    if (segueIdentifier == "Options") {
+    if (segueIdentifier == platform::kOptionsSegue) {
         return std::make_shared<NavigationController>(
             std::make_shared<navigation::OptionsTableViewController>(*services_));
     }
-    if (segueIdentifier == "MoreApps") {
+    if (segueIdentifier == platform::kMoreAppsSegue) {
         return std::make_shared<NavigationController>(
             std::make_shared<navigation::MoreAppsTableViewController>(*services_));
     }
@@ -89,10 +90,10 @@ MainStoryboard::instantiateDestination(std::string_view segueIdentifier)
 
 platform::SegueStyle MainStoryboard::segueStyle(std::string_view segueIdentifier) const
 {
-    if (segueIdentifier == "Navigation") {
+    if (segueIdentifier == platform::kNavigationSegue) {
         return platform::SegueStyle::SideMenu;
     }
-    if (segueIdentifier == "Options" || segueIdentifier == "MoreApps") {
+    if (segueIdentifier == platform::kOptionsSegue || segueIdentifier == platform::kMoreAppsSegue) {
         return platform::SegueStyle::PresentModally;
     }
     return platform::SegueStyle::ShowDetail;

@@ -3,7 +3,7 @@
 
 #include "backup/backup_menu.h"
 
-#include "platform/base/notification_center.h"
+#include "data/news.h"
 #include "platform/machine/bundle.h"
 #include "platform/machine/clock.h"
 #include "platform/screens/presenter.h"
@@ -122,10 +122,10 @@ void BackupMenu::restore(const std::filesystem::path& file)
 void BackupMenu::announce(const RestoredCounts& restored)
 {
     if (!restored.favourites.empty()) {
-        services_.notifications.post(
-            {"VerbFavouriteToggled", &screen_, {{"added", restored.favourites}}});
+        data::post(services_.notifications,
+                   data::VerbFavouriteToggled{&screen_, {}, restored.favourites});
     }
-    services_.notifications.post({"RefreshHistory", {}, {}});
+    data::post(services_.notifications, data::RefreshHistory{});
 }
 
 void BackupMenu::tell(std::string_view titleKey, std::string message)

@@ -35,7 +35,7 @@ const std::array<std::string_view, kMoodCount> kMoodTitleKeys{
 
 namespace {
 
-/// A name that is none does not compile.
+/// Done by the compiler, so that a misspelt identifier does not build.
 consteval TenseField tenseNamed(std::string_view identifier)
 {
     std::size_t tense = 0;

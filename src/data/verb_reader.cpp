@@ -3,8 +3,13 @@
 
 #include "data/verb_reader.h"
 
+#include "data/conjugation.h"
+#include "data/tense_table.h"
+#include "data/translation_table.h"
 #include "platform/storage/database.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -12,34 +17,38 @@ namespace lumora::data {
 
 namespace {
 
-using TextField = std::pair<std::string_view, std::string Verb::*>;
+constexpr std::string_view kConjugationsOfVerb =
+    "SELECT _id, pronoun, verb, type, conj_order as pid FROM conjugation WHERE verbid = ? AND "
+    "display=1 ORDER BY conj_order";
 
-constexpr TextField kPlain[] = {
-    {"english", &Verb::english},       {"german", &Verb::german}, {"french", &Verb::french},
-    {"spanish", &Verb::spanish},       {"dutch", &Verb::dutch},   {"italian", &Verb::italian},
-    {"portuguese", &Verb::portuguese},
-};
-
-constexpr TextField kSimplified[] = {
-    {"simplified_german", &Verb::simplified_german},
-    {"simplified_french", &Verb::simplified_french},
-    {"simplified_spanish", &Verb::simplified_spanish},
-    {"simplified_dutch", &Verb::simplified_dutch},
-    {"simplified_italian", &Verb::simplified_italian},
-    {"simplified_portuguese", &Verb::simplified_portuguese},
-};
+ConjugationList readForms(platform::ResultSet& rows)
+{
+    const int pronoun = rows.columnIndex("pronoun");
+    const int verb = rows.columnIndex("verb");
+    const int type = rows.columnIndex("type");
+    const int pid = rows.columnIndex("pid");
+    ConjugationList forms;
+    while (rows.next()) {
+        forms.push_back(std::make_shared<const Conjugation>(
+            Conjugation{rows.stringForColumn(pronoun), rows.stringForColumn(verb),
+                        rows.stringForColumn(type), rows.longForColumn(pid)}));
+    }
+    return forms;
+}
 
 } // namespace
 
 VerbReader::VerbReader(const platform::ResultSet& rows, Spellings spellings)
     : id_{rows.columnIndex("_id")}, favouriteAvailable_{rows.columnIndex("favourite_available")}
 {
-    for (const auto& [name, field] : kPlain) {
-        texts_.push_back({field, rows.columnIndex(name)});
-    }
-    if (spellings == Spellings::WithSimplified) {
-        for (const auto& [name, field] : kSimplified) {
-            texts_.push_back({field, rows.columnIndex(name)});
+    for (const auto& language : kTranslationLanguages) {
+        if (!language.hasColumn()) {
+            continue;
+        }
+        texts_.push_back({language.text, rows.columnIndex(language.column)});
+        if (spellings == Spellings::WithSimplified && language.simplifiedText != nullptr) {
+            texts_.push_back(
+                {language.simplifiedText, rows.columnIndex(language.simplifiedColumn)});
         }
     }
 }
@@ -55,32 +64,41 @@ VerbPtr VerbReader::readVerb(const platform::ResultSet& rows) const
     return verb;
 }
 
-bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
-               std::vector<VerbPtr>& verbs)
+bool forEachVerb(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
+                 const std::function<void(const VerbPtr&, const platform::ResultSet&)>& visit)
 {
     if (!rows) {
         return false;
     }
     const VerbReader reader{*rows, spellings};
     while (rows->next()) {
-        verbs.push_back(reader.readVerb(*rows));
+        visit(reader.readVerb(*rows), *rows);
     }
     return !rows->failed();
 }
 
-ConjugationReader::ConjugationReader(const platform::ResultSet& rows)
-    : pronoun_{rows.columnIndex("pronoun")},
-      verb_{rows.columnIndex("verb")},
-      type_{rows.columnIndex("type")},
-      pid_{rows.columnIndex("pid")}
-{}
-
-std::shared_ptr<const Conjugation>
-ConjugationReader::readConjugation(const platform::ResultSet& rows) const
+bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
+               std::vector<VerbPtr>& verbs)
 {
-    return std::make_shared<const Conjugation>(
-        Conjugation{rows.stringForColumn(pronoun_), rows.stringForColumn(verb_),
-                    rows.stringForColumn(type_), rows.longForColumn(pid_)});
+    return forEachVerb(
+        rows, spellings,
+        [&](const VerbPtr& verb, const platform::ResultSet& /*rows*/) { verbs.push_back(verb); });
+}
+
+bool loadConjugations(platform::Database& database, Verb& verb)
+{
+    auto rows = database.executeQuery(kConjugationsOfVerb, {verb.id});
+    if (!rows) {
+        return false;
+    }
+    const auto forms = readForms(*rows);
+    for (const auto& tense : kTenses) {
+        auto& list = verb.*tense.forms;
+        list.clear();
+        std::copy_if(forms.begin(), forms.end(), std::back_inserter(list),
+                     [&](const auto& form) { return form->type == tense.identifier; });
+    }
+    return !rows->failed();
 }
 
 } // namespace lumora::data

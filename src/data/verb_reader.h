@@ -3,13 +3,17 @@
 
 #pragma once
 
-#include "data/conjugation.h"
 #include "data/verb.h"
 #include "platform/base/error.h"
 
+#include <functional>
+#include <string>
+#include <vector>
+
 namespace lumora::platform {
+class Database;
 class ResultSet;
-}
+} // namespace lumora::platform
 
 namespace lumora::data {
 
@@ -36,22 +40,19 @@ private:
     std::vector<TextColumn> texts_;
 };
 
+/// Calls `visit` with each verb and the row it was read from. False when the
+/// statement failed, at once or on the way.
+bool forEachVerb(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
+                 const std::function<void(const VerbPtr&, const platform::ResultSet&)>& visit);
+
 /// Appends the verbs of all rows. False when the statement failed, at once or
 /// on the way; what was read before stays.
 bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
                std::vector<VerbPtr>& verbs);
 
-class ConjugationReader {
-public:
-    explicit ConjugationReader(const platform::ResultSet& rows);
-
-    std::shared_ptr<const Conjugation> readConjugation(const platform::ResultSet& rows) const;
-
-private:
-    int pronoun_;
-    int verb_;
-    int type_;
-    int pid_;
-};
+/// Reads the forms that are shown into the verb's lists, by tense. False when
+/// the statement failed: at once, and the lists are as before, or on the way,
+/// and they hold what was read. The connection knows why.
+bool loadConjugations(platform::Database& database, Verb& verb);
 
 } // namespace lumora::data

@@ -6,6 +6,7 @@
 #include "data/conjugation.h"
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
+#include "text/pronoun.h"
 #include "text/text.h"
 
 #include <algorithm>
@@ -24,15 +25,14 @@ constexpr double kSecondsOfADay = 86400;
 /// Visible from the first word on.
 constexpr float kLeastProgress = 0.1F;
 /// Ahead of the voice, so that the ring looks full when the last word begins.
-constexpr float kHaste = 1.1F;
+constexpr float kLead = 1.1F;
 
 std::string spokenText(const data::Conjugation& form)
 {
-    auto text = text::replaced(form.pronoun, "/", " ou ");
-    if (!text.ends_with('\'')) {
-        text += ' ';
+    if (form.pronoun.empty()) {
+        return ' ' + form.verb;
     }
-    return text + form.verb;
+    return text::beforeForm(text::replaced(form.pronoun, "/", " ou ")) + form.verb;
 }
 
 /// As precise as stored: a float would be minutes off.
@@ -63,7 +63,7 @@ float AudioUtils::progressAt(std::size_t location, const platform::Utterance& ut
 {
     const auto count = std::max<std::size_t>(text::characterCount(utterance.text), 1);
     return std::max(kLeastProgress,
-                    static_cast<float>(location) / static_cast<float>(count) * kHaste);
+                    static_cast<float>(location) / static_cast<float>(count) * kLead);
 }
 
 bool AudioUtils::isVolumeWarningDue(float volume, double now,

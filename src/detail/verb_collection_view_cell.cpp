@@ -14,7 +14,8 @@ platform::CollectionCell VerbCollectionViewCell::content() const
                              audioWidthConstraint[line],
                              audioPaddingConstraint[line],
                              progressViewPlaceholderHidden[line],
-                             {progressView[line]}});
+                             {progressView[line]},
+                             accessibilityLabel[line]});
     }
     return cell;
 }

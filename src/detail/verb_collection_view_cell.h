@@ -24,6 +24,7 @@ struct VerbCollectionViewCell {
     std::string titleLabel;
     std::array<std::string, kLines> pronounLabel;
     std::array<std::string, kLines> verbLabel;
+    std::array<std::string, kLines> accessibilityLabel;
     std::array<double, kLines> audioWidthConstraint{};
     std::array<double, kLines> audioPaddingConstraint{};
     std::array<bool, kLines> progressViewPlaceholderHidden{};

@@ -4,77 +4,34 @@
 #include "detail/verb_detail_table_view_controller.h"
 
 #include "data/favourite_statements.h"
-#include "data/history_record.h"
+#include "data/tense_table.h"
 #include "data/verb_reader.h"
-#include "detail/audio_utils.h"
 #include "export/verb_export.h"
 #include "platform/machine/analytics.h"
-#include "platform/machine/audio_session.h"
 #include "platform/machine/bundle.h"
-#include "platform/machine/clock.h"
 #include "platform/machine/crash_reporter.h"
 #include "platform/machine/device.h"
-#include "platform/machine/review_prompter.h"
 #include "platform/screens/presenter.h"
 #include "platform/screens/share_sheet.h"
 #include "platform/screens/split_view_controller.h"
 #include "platform/screens/view_factory.h"
 #include "platform/storage/database_queue.h"
-#include "platform/storage/settings_store.h"
-#include "settings/setting_keys.h"
 
 #include <algorithm>
-#include <any>
-#include <cstdint>
-#include <limits>
 #include <ostream>
 #include <utility>
-#include <vector>
 
 namespace lumora::detail {
 
-namespace {
-
-constexpr std::string_view kConjugationsOfVerb =
-    "SELECT _id, pronoun, verb, type, conj_order as pid FROM conjugation WHERE verbid = ? AND "
-    "display=1 ORDER BY conj_order";
-
-// The "other" table keeps a third, empty section.
-constexpr std::array<int, data::kMoodCount> kTableSections{9, 5, 4, 4};
-constexpr std::array<int, data::kMoodCount> kCollectionItems{8, 4, 3, 2};
-
-/// The view from which on a review may be asked for.
-constexpr std::int64_t kViewsBeforeReview = 21;
-constexpr platform::Color kPlayTint{1.0 / 255, 85.0 / 255, 179.0 / 255, 1};
-constexpr double kAudioPadding = 8;
-constexpr double kAudioWidth = 30;
-
-template <typename Counts>
-int countForSegment(const Counts& counts, int segment)
-{
-    return segment >= 0 && segment < data::kMoodCount ? counts[static_cast<std::size_t>(segment)]
-                                                      : 0;
-}
-
-/// The mood whose rings belong to `segment`.
-std::size_t moodOf(int segment)
-{
-    return static_cast<std::size_t>(std::clamp(segment, 0, data::kMoodCount - 1));
-}
-
-std::shared_ptr<CERoundProgressView> makePlayIndicator()
-{
-    auto indicator = std::make_shared<CERoundProgressView>();
-    indicator->setTintColor(kPlayTint);
-    return indicator;
-}
-
-} // namespace
-
 VerbDetailTableViewController::VerbDetailTableViewController(const platform::Services& services)
-    : tableView{services.views.makeTableView(*this)},
+    : playback_{services.speech, services.audioSession, services.settings, services.console},
+      tableView{services.views.makeTableView(*this)},
       collectionView{services.views.makeCollectionView(*this)},
-      services_{services}
+      services_{services},
+      grid_{services.bundle, services.settings, services.device, services.crashReporter},
+      record_{services.settings, services.device, services.clock, services.reviewPrompter},
+      volumeWarning_{services.audioSession, services.clock,     services.settings,
+                     services.bundle,       services.presenter, services.console}
 {}
 
 VerbDetailTableViewController::~VerbDetailTableViewController() = default;
@@ -128,11 +85,10 @@ void VerbDetailTableViewController::viewDidLoad()
 
     showVerb();
 
-    refresh_ = services_.notifications.addObserver(
-        "RefreshConjugations", [this](const platform::Notification&) { refreshConjugations(); });
-    favouriteToggled_ = services_.notifications.addObserver(
-        "VerbFavouriteToggled",
-        [this](const platform::Notification& notification) { verbFavouriteToggled(notification); });
+    refresh_ = data::observe<data::RefreshConjugations>(
+        services_.notifications, [this](const auto& /*news*/) { refreshConjugations(); });
+    favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
+        services_.notifications, [this](const auto& news) { verbFavouriteToggled(news); });
     outletsChanged();
 }
 
@@ -179,69 +135,16 @@ void VerbDetailTableViewController::showVerb()
     if (!selectedVerb || selectedVerb->loaded) {
         return;
     }
-    countView();
+    record_.countView();
     if (queue != nullptr) {
         queue->inDatabase([this](platform::Database& database) {
-            if (loadConjugations(database)) {
-                recordHistory(database);
+            if (!data::loadConjugations(database, *selectedVerb) ||
+                !record_.recordHistory(database, selectedVerb->id)) {
+                logReadingError(database);
             }
         });
     }
-    services_.notifications.post({"VerbViewed", {}, {{"verb", selectedVerb}}});
-}
-
-void VerbDetailTableViewController::countView()
-{
-    const auto arguments = services_.device.launchArguments();
-    if (std::find(arguments.begin(), arguments.end(), "ui_test") != arguments.end()) {
-        return;
-    }
-    // A damaged count must not overflow.
-    const auto before = services_.settings.integerForKey(settings::kNumberOfVerbsViewed);
-    const auto count = before < std::numeric_limits<std::int64_t>::max() ? before + 1 : before;
-    if (count >= kViewsBeforeReview && !services_.settings.boolForKey(settings::kAskedForReview)) {
-        if (services_.device.hasActiveScene()) {
-            services_.reviewPrompter.requestReview();
-        }
-        services_.settings.setValue(true, settings::kAskedForReview);
-    }
-    services_.settings.setValue(count, settings::kNumberOfVerbsViewed);
-}
-
-bool VerbDetailTableViewController::loadConjugations(platform::Database& database)
-{
-    auto rows = database.executeQuery(kConjugationsOfVerb, {selectedVerb->id});
-    if (!rows) {
-        logReadingError(database);
-        return false;
-    }
-    data::ConjugationList forms;
-    const data::ConjugationReader reader{*rows};
-    while (rows->next()) {
-        forms.push_back(reader.readConjugation(*rows));
-    }
-    const bool failed = rows->failed();
-    for (const auto& tense : data::kTenses) {
-        auto& list = (*selectedVerb).*tense.forms;
-        list.clear();
-        std::copy_if(forms.begin(), forms.end(), std::back_inserter(list),
-                     [&](const auto& form) { return form->type == tense.identifier; });
-    }
-    if (failed) {
-        logReadingError(database);
-    }
-    return !failed;
-}
-
-void VerbDetailTableViewController::recordHistory(platform::Database& database)
-{
-    if (!platform::boolObjectForKey(services_.settings, settings::kUseHistory).value_or(true)) {
-        return;
-    }
-    const double now = services_.clock.secondsSince1970() - platform::kReferenceDate;
-    if (!data::recordInHistory(database, selectedVerb->id, now)) {
-        logReadingError(database);
-    }
+    data::post(services_.notifications, data::VerbViewed{selectedVerb});
 }
 
 void VerbDetailTableViewController::logReadingError(const platform::Database& database)
@@ -263,7 +166,7 @@ void VerbDetailTableViewController::toggleFavourite()
             data::updateFavourite(database, *selectedVerb, services_.console);
         });
     }
-    services_.notifications.post({"VerbFavouriteToggled", this, {{"verb", selectedVerb}}});
+    data::post(services_.notifications, data::VerbFavouriteToggled{this, selectedVerb, {}});
 }
 
 void VerbDetailTableViewController::exportOptions()
@@ -287,31 +190,18 @@ void VerbDetailTableViewController::exportOptions()
                                  exportBarButton.identifier);
 }
 
-void VerbDetailTableViewController::verbFavouriteToggled(const platform::Notification& notification)
+void VerbDetailTableViewController::verbFavouriteToggled(const data::VerbFavouriteToggled& news)
 {
-    if (const auto* sender = std::get_if<const platform::ViewController*>(&notification.object);
-        sender != nullptr &&
-        dynamic_cast<const VerbDetailTableViewController*>(*sender) != nullptr) {
+    if (!selectedVerb ||
+        dynamic_cast<const VerbDetailTableViewController*>(news.sender) != nullptr) {
         return;
     }
-    if (!selectedVerb) {
-        return;
+    if (std::find(news.added.begin(), news.added.end(), selectedVerb->id) != news.added.end()) {
+        selectedVerb->isFavourite = true;
+        updateFavouriteIcon();
     }
-    const auto many = notification.userInfo.find("added");
-    if (many != notification.userInfo.end()) {
-        const auto* added = std::any_cast<std::vector<std::int64_t>>(&many->second);
-        if (added != nullptr && std::ranges::find(*added, selectedVerb->id) != added->end()) {
-            selectedVerb->isFavourite = true;
-            updateFavouriteIcon();
-        }
-    }
-    const auto found = notification.userInfo.find("verb");
-    if (found == notification.userInfo.end()) {
-        return;
-    }
-    const auto* verb = std::any_cast<data::VerbPtr>(&found->second);
-    if (verb != nullptr && *verb && (*verb)->id == selectedVerb->id) {
-        selectedVerb->isFavourite = (*verb)->isFavourite;
+    if (news.verb && news.verb->id == selectedVerb->id) {
+        selectedVerb->isFavourite = news.verb->isFavourite;
         updateFavouriteIcon();
     }
 }
@@ -331,16 +221,9 @@ void VerbDetailTableViewController::selectVerbTypes(int segment)
     outletsChanged();
 }
 
-VerbDetailTableViewController::Block VerbDetailTableViewController::blockAt(int segment,
-                                                                            int position) const
+ShownMood VerbDetailTableViewController::shown() const
 {
-    const auto blocks = data::blocksOfSegment(segment);
-    if (!selectedVerb || position < 0 || static_cast<std::size_t>(position) >= blocks.size()) {
-        return {};
-    }
-    const auto& block = blocks[static_cast<std::size_t>(position)];
-    return {&((*selectedVerb).*block.tense.forms),
-            data::tenseTitle(block.titleKey, services_.bundle, services_.settings)};
+    return {selectedVerb.get(), verbTypeSegmentedControl.selected};
 }
 
 void VerbDetailTableViewController::updateEmptyState(double toolbarHeight)
@@ -361,136 +244,45 @@ int VerbDetailTableViewController::numberOfSections()
 {
     // Only the table knows of previews; the collection always shows the toolbar.
     updateEmptyState(isPeeking ? 0 : defaultToolbarHeight.value_or(0));
-    if (!selectedVerb) {
-        return 0;
-    }
-    return countForSegment(kTableSections, verbTypeSegmentedControl.selected);
+    return ConjugationGrid::numberOfSections(shown());
 }
 
 int VerbDetailTableViewController::numberOfRowsInSection(int section)
 {
-    if (section == 0) {
-        return 1;
-    }
-    const auto block = blockAt(verbTypeSegmentedControl.selected, section - 1);
-    return block.forms == nullptr ? 0 : static_cast<int>(block.forms->size());
+    return ConjugationGrid::numberOfRowsInSection(shown(), section);
 }
 
 std::optional<std::string> VerbDetailTableViewController::titleForHeaderInSection(int section)
 {
-    if (section == 0) {
-        return std::nullopt;
-    }
-    return blockAt(verbTypeSegmentedControl.selected, section - 1).title;
+    return grid_.titleForHeaderInSection(shown(), section);
 }
 
 platform::TableCell VerbDetailTableViewController::cellForRow(platform::IndexPath path)
 {
-    platform::TableCell cell;
-    cell.selectable = false;
-    if (path.section == 0) {
-        cell.reuseIdentifier = "CellVerb";
-        cell.text = selectedVerb ? selectedVerb->translation(services_.settings, services_.device)
-                                 : std::string{};
-        return cell;
-    }
-    cell.reuseIdentifier = "CellConjugation";
-    const auto block = blockAt(verbTypeSegmentedControl.selected, path.section - 1);
-    if (block.forms == nullptr || path.row < 0 ||
-        static_cast<std::size_t>(path.row) >= block.forms->size()) {
-        services_.crashReporter.logWithFormat(
-            "Unable to find conjugation for table row %@",
-            {"[" + std::to_string(path.section) + ", " + std::to_string(path.row) + "]"});
-        return cell;
-    }
-    const auto& form = *(*block.forms)[static_cast<std::size_t>(path.row)];
-    cell.text = form.pronoun;
-    cell.detailText = form.verb;
-    cell.control = platform::PlayControl{indicatorFor(path)};
-    return cell;
+    return grid_.cellForRow(shown(), path);
 }
 
 void VerbDetailTableViewController::accessoryButtonTapped(platform::IndexPath path)
 {
-    const auto block = blockAt(verbTypeSegmentedControl.selected, path.section - 1);
-    if (block.forms != nullptr && path.row >= 0 &&
-        static_cast<std::size_t>(path.row) < block.forms->size()) {
-        const auto form = (*block.forms)[static_cast<std::size_t>(path.row)];
-        play(*form, indicatorFor(path));
+    if (const auto row = grid_.playableRow(shown(), path)) {
+        play(*row);
     }
-}
-
-std::shared_ptr<CERoundProgressView>
-VerbDetailTableViewController::indicatorFor(platform::IndexPath path)
-{
-    // Kept for the row, so that a redrawn row shows the ring it had.
-    const auto section = static_cast<std::size_t>(path.section);
-    const auto row = static_cast<std::size_t>(path.row);
-    auto& sections = rowIndicators_[moodOf(verbTypeSegmentedControl.selected)];
-    if (sections.size() <= section) {
-        sections.resize(section + 1);
-    }
-    auto& indicators = sections[section];
-    while (indicators.size() <= row) {
-        indicators.push_back(makePlayIndicator());
-    }
-    return indicators[row];
 }
 
 int VerbDetailTableViewController::numberOfItems()
 {
     updateEmptyState(defaultToolbarHeight.value_or(0));
-    if (!selectedVerb) {
-        return 0;
-    }
-    return countForSegment(kCollectionItems, verbTypeSegmentedControl.selected);
-}
-
-VerbCollectionViewCell& VerbDetailTableViewController::collectionCell(int item)
-{
-    auto& cells = cells_[moodOf(verbTypeSegmentedControl.selected)];
-    const auto index = static_cast<std::size_t>(std::max(item, 0));
-    if (cells.size() <= index) {
-        cells.resize(index + 1);
-    }
-    auto& cell = cells[index];
-    for (auto& indicator : cell.progressView) {
-        if (!indicator) {
-            indicator = makePlayIndicator();
-        }
-    }
-    return cell;
+    return ConjugationGrid::numberOfItems(shown());
 }
 
 platform::CollectionCell VerbDetailTableViewController::cellForItem(int item)
 {
-    auto& cell = collectionCell(item);
-    const auto block = blockAt(verbTypeSegmentedControl.selected, item);
-
-    cell.audioWidthConstraint.fill(0);
-    cell.audioPaddingConstraint.fill(0);
-    cell.titleLabel = block.title.value_or(std::string{});
-    const std::size_t count = block.forms == nullptr ? 0 : block.forms->size();
-    for (std::size_t line = 0; line < VerbCollectionViewCell::kLines; ++line) {
-        const bool filled = line < count;
-        cell.pronounLabel[line] = filled ? (*block.forms)[line]->pronoun : " ";
-        cell.verbLabel[line] = filled ? (*block.forms)[line]->verb : " ";
-        cell.progressViewPlaceholderHidden[line] = !filled;
-        if (filled) {
-            cell.audioPaddingConstraint[line] = kAudioPadding;
-            cell.audioWidthConstraint[line] = kAudioWidth;
-        }
-    }
-    return cell.content();
+    return grid_.cellForItem(shown(), item);
 }
 
-std::string VerbDetailTableViewController::headerText()
+platform::CollectionHeader VerbDetailTableViewController::header()
 {
-    if (!selectedVerb) {
-        return {};
-    }
-    return selectedVerb->french + " (" +
-           selectedVerb->translation(services_.settings, services_.device) + ")";
+    return grid_.header(shown()).content();
 }
 
 platform::CollectionLayout VerbDetailTableViewController::layout()
@@ -500,105 +292,41 @@ platform::CollectionLayout VerbDetailTableViewController::layout()
 
 void VerbDetailTableViewController::audioTapped(int item, int row)
 {
-    const int segment = verbTypeSegmentedControl.selected;
-    if (!selectedVerb || item < 0 || item >= countForSegment(kCollectionItems, segment)) {
+    if (item < 0 || item >= ConjugationGrid::numberOfItems(shown())) {
         return;
     }
     constexpr int kSection = 0;
     services_.console << "Row " << item << ", section: " << kSection << std::endl;
-    const auto block = blockAt(segment, item);
-    const auto line = static_cast<std::size_t>(std::max(row, 0));
-    if (row >= 0 && line < VerbCollectionViewCell::kLines && block.forms != nullptr &&
-        line < block.forms->size()) {
-        const auto form = (*block.forms)[line];
-        play(*form, collectionCell(item).progressView[line]);
+    if (const auto line = grid_.playableLine(shown(), item, row)) {
+        play(*line);
     }
 }
 
-void VerbDetailTableViewController::play(const data::Conjugation& form,
-                                         std::shared_ptr<CERoundProgressView> indicator)
+void VerbDetailTableViewController::play(const PlayableRow& row)
 {
     if (!selectedVerb) {
         services_.console << "It shouldn't be possible for the verb to be null when we reach here."
                           << std::endl;
         return;
     }
-    warnOfLowVolume();
-    if (speechSynthesizer().isSpeaking()) {
-        stopPlayback();
-    }
-    currentAudioProgress = std::move(indicator);
-    prepareAudioSession();
-    speechSynthesizer().setDelegate(this);
-    speechSynthesizer().speak(AudioUtils::utteranceFor(form, services_.settings));
-}
-
-platform::SpeechSynthesizer& VerbDetailTableViewController::speechSynthesizer()
-{
-    if (!speechSynthesizer_) {
-        speechSynthesizer_ = services_.speech.makeSpeechSynthesizer();
-    }
-    return *speechSynthesizer_;
-}
-
-void VerbDetailTableViewController::warnOfLowVolume()
-{
-    const double now = services_.clock.secondsSince1970();
-    if (!AudioUtils::isVolumeWarningDue(services_.audioSession.outputVolume(), now,
-                                        services_.settings)) {
-        return;
-    }
-    services_.presenter.presentAlert(
-        *this,
-        platform::notice(std::nullopt, localizedString(services_.bundle, "volume.low.warning"),
-                         localizedString(services_.bundle, "common.ok")));
-    services_.settings.setValue(now, settings::kTimeAudioWarning);
-    if (const auto written = services_.settings.synchronize(); !written) {
-        services_.console << "Unable to write the settings: " << written.error().message
-                          << std::endl;
-    }
-}
-
-void VerbDetailTableViewController::prepareAudioSession()
-{
-    auto& session = services_.audioSession;
-    const auto ready = session.setCategoryPlayback().and_then([&] { return session.activate(); });
-    if (!ready) {
-        services_.console << "Error: Could not set audio category: " << ready.error().message
-                          << ", {code = " << ready.error().code << '}' << std::endl;
-    }
-}
-
-void VerbDetailTableViewController::stopPlayback()
-{
-    speechSynthesizer().stopSpeaking();
-    if (currentAudioProgress) {
-        currentAudioProgress->setProgress(0);
-    }
-    if (const auto invalidate = std::exchange(audioTimer, nullptr)) {
-        invalidate();
-    }
+    volumeWarning_.showIfDue(*this);
+    playback_.play(*row.form, row.indicator, *this);
 }
 
 void VerbDetailTableViewController::willSpeakRange(std::size_t location, std::size_t /*length*/,
                                                    const platform::Utterance& utterance)
 {
-    if (currentAudioProgress) {
-        currentAudioProgress->setProgress(AudioUtils::progressAt(location, utterance), false);
-    }
+    playback_.willSpeakRange(location, utterance);
 }
 
 void VerbDetailTableViewController::didFinish(const platform::Utterance& /*utterance*/)
 {
-    if (currentAudioProgress) {
-        currentAudioProgress->setProgress(1);
-    }
-    stopPlayback();
+    playback_.didFinish();
 }
 
 void VerbDetailTableViewController::didCancel(const platform::Utterance& /*utterance*/)
 {
-    stopPlayback();
+    playback_.stop();
 }
 
 } // namespace lumora::detail

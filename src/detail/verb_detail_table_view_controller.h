@@ -3,9 +3,13 @@
 
 #pragma once
 
-#include "data/tense_table.h"
+#include "data/news.h"
 #include "data/verb.h"
-#include "detail/verb_collection_view_cell.h"
+#include "detail/conjugation_grid.h"
+#include "detail/playback.h"
+#include "detail/verb_detail_outlets.h"
+#include "detail/view_record.h"
+#include "detail/volume_warning.h"
 #include "platform/base/notification_center.h"
 #include "platform/machine/speech_synthesizer.h"
 #include "platform/screens/collection_view.h"
@@ -13,13 +17,11 @@
 #include "platform/screens/table_view.h"
 #include "platform/screens/view_controller.h"
 
-#include <array>
 #include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace lumora::platform {
 class Database;
@@ -27,26 +29,6 @@ class DatabaseQueue;
 } // namespace lumora::platform
 
 namespace lumora::detail {
-
-/// The centred text of a detail screen without a verb.
-struct SelectVerbLabel {
-    std::string text;
-    bool hidden = false;
-    platform::Color backgroundColor{0.99, 0.99, 0.99, 1};
-    platform::Color borderColor{0.8, 0.8, 0.8, 1};
-    double cornerRadius = 5;
-    double borderWidth = 1;
-};
-
-struct VerbTypeSegmentedControl {
-    std::vector<std::string> titles;
-    int selected = 0;
-    bool hidden = false;
-};
-
-struct Toolbar {
-    bool hidden = false;
-};
 
 /// One verb: its conjugations by mood, as a table and as a collection of the
 /// same data, spoken one at a time, the favourite toggle, the export, and the
@@ -58,6 +40,9 @@ class VerbDetailTableViewController final : public platform::ViewController,
                                             public platform::TableDataSource,
                                             public platform::CollectionDataSource,
                                             public platform::SpeechSynthesizerDelegate {
+    // Before the fields that refer to it.
+    Playback playback_;
+
 public:
     explicit VerbDetailTableViewController(const platform::Services& services);
     ~VerbDetailTableViewController() override;
@@ -80,11 +65,9 @@ public:
     /// The shared queue. Not owned.
     platform::DatabaseQueue* queue = nullptr;
     data::VerbPtr selectedVerb;
-    /// Invalidates a timer. Nothing is ever scheduled: the speech alone moves
-    /// the ring.
-    std::function<void()> audioTimer;
-    /// The ring of the row spoken last.
-    std::shared_ptr<CERoundProgressView> currentAudioProgress;
+    /// Those of the playback.
+    std::function<void()>& audioTimer = playback_.audioTimer;
+    std::shared_ptr<CERoundProgressView>& currentAudioProgress = playback_.currentAudioProgress;
     /// Whether the screen is shown as a preview.
     bool isPeeking = false;
 
@@ -110,7 +93,7 @@ public:
 
     int numberOfItems() override;
     platform::CollectionCell cellForItem(int item) override;
-    std::string headerText() override;
+    platform::CollectionHeader header() override;
     platform::CollectionLayout layout() override;
     void audioTapped(int item, int row) override;
 
@@ -123,44 +106,25 @@ protected:
     void viewDidLoad() override;
 
 private:
-    /// A tense's forms and title, as a mood shows them at a position.
-    struct Block {
-        const data::ConjugationList* forms = nullptr;
-        std::optional<std::string> title;
-    };
-
-    Block blockAt(int segment, int position) const;
+    ShownMood shown() const;
     void showVerb();
-    void countView();
-    /// False when the reading failed; what was read is kept.
-    bool loadConjugations(platform::Database& database);
-    void recordHistory(platform::Database& database);
     void refreshConjugations() const;
-    void verbFavouriteToggled(const platform::Notification& notification);
+    void verbFavouriteToggled(const data::VerbFavouriteToggled& news);
     void updateFavouriteIcon();
     void updateNavigationItem();
     void updateEmptyState(double toolbarHeight);
     void outletsChanged();
     void logReadingError(const platform::Database& database);
-    std::shared_ptr<CERoundProgressView> indicatorFor(platform::IndexPath path);
-    VerbCollectionViewCell& collectionCell(int item);
-    void play(const data::Conjugation& form, std::shared_ptr<CERoundProgressView> indicator);
-    void stopPlayback();
-    void warnOfLowVolume();
-    void prepareAudioSession();
-    platform::SpeechSynthesizer& speechSynthesizer();
+    void play(const PlayableRow& row);
 
     platform::Services services_;
-    // By mood, so that a ring stays with its form when the mood changes.
-    std::array<std::vector<VerbCollectionViewCell>, data::kMoodCount> cells_;
-    std::array<std::vector<std::vector<std::shared_ptr<CERoundProgressView>>>, data::kMoodCount>
-        rowIndicators_;
+    ConjugationGrid grid_;
+    ViewRecord record_;
+    VolumeWarning volumeWarning_;
     std::function<void()> outletListener_;
     bool buttonsEnabled_ = false;
     platform::NotificationCenter::Subscription refresh_;
     platform::NotificationCenter::Subscription favouriteToggled_;
-    /// Made on first use.
-    std::unique_ptr<platform::SpeechSynthesizer> speechSynthesizer_;
 };
 
 } // namespace lumora::detail

@@ -13,9 +13,8 @@ namespace lumora::lists {
 void FavouritesTableViewController::viewDidLoad()
 {
     RemovableVerbListController::viewDidLoad();
-    favouriteToggled_ = services().notifications.addObserver(
-        "VerbFavouriteToggled",
-        [this](const platform::Notification& notification) { verbFavouriteToggled(notification); });
+    favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
+        services().notifications, [this](const auto& news) { verbFavouriteToggled(news); });
     installEmptyState("favourites.empty");
     reloadFavourites();
 }
@@ -31,14 +30,11 @@ void FavouritesTableViewController::viewDidDisappear()
     isVisible = false;
 }
 
-void FavouritesTableViewController::verbFavouriteToggled(const platform::Notification& notification)
+void FavouritesTableViewController::verbFavouriteToggled(const data::VerbFavouriteToggled& news)
 {
-    const auto* sender = std::get_if<const platform::ViewController*>(&notification.object);
-    if (sender != nullptr &&
-        dynamic_cast<const FavouritesTableViewController*>(*sender) != nullptr) {
-        return;
+    if (dynamic_cast<const FavouritesTableViewController*>(news.sender) == nullptr) {
+        reloadFavourites();
     }
-    reloadFavourites();
 }
 
 void FavouritesTableViewController::reloadFavourites()
@@ -61,7 +57,7 @@ RemovableVerbListController::RemoveAction FavouritesTableViewController::removeA
 
 void FavouritesTableViewController::verbRemoved(const data::VerbPtr& verb)
 {
-    services().notifications.post({"VerbFavouriteToggled", this, {{"verb", verb}}});
+    data::post(services().notifications, data::VerbFavouriteToggled{this, verb, {}});
 }
 
 } // namespace lumora::lists

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "data/news.h"
 #include "lists/removable_verb_list_controller.h"
 #include "platform/base/notification_center.h"
 
@@ -24,7 +25,7 @@ protected:
     void verbRemoved(const data::VerbPtr& verb) override;
 
 private:
-    void verbFavouriteToggled(const platform::Notification& notification);
+    void verbFavouriteToggled(const data::VerbFavouriteToggled& news);
 
     platform::NotificationCenter::Subscription favouriteToggled_;
 };

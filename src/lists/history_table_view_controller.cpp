@@ -8,13 +8,13 @@ namespace lumora::lists {
 void HistoryTableViewController::viewDidLoad()
 {
     RemovableVerbListController::viewDidLoad();
-    const auto reloadOn = [this](std::string_view name) {
-        return services().notifications.addObserver(
-            name, [this](const platform::Notification&) { reloadHistory(); });
-    };
-    favouriteToggled_ = reloadOn("VerbFavouriteToggled");
-    verbViewed_ = reloadOn("VerbViewed");
-    refreshHistory_ = reloadOn("RefreshHistory");
+    auto& center = services().notifications;
+    favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
+        center, [this](const auto& news) { verbFavouriteToggled(news); });
+    verbViewed_ =
+        data::observe<data::VerbViewed>(center, [this](const auto& news) { verbViewed(news); });
+    refreshHistory_ = data::observe<data::RefreshHistory>(
+        center, [this](const auto& news) { refreshHistory(news); });
     installEmptyState("history.empty");
     reloadHistory();
 }

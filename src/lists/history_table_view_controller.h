@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "data/news.h"
 #include "lists/removable_verb_list_controller.h"
 #include "platform/base/notification_center.h"
 
@@ -21,6 +22,11 @@ protected:
     RemoveAction removeAction() const override;
 
 private:
+    /// Whoever changed it: the stars of the rows follow.
+    void verbFavouriteToggled(const data::VerbFavouriteToggled& /*news*/) { reloadHistory(); }
+    void verbViewed(const data::VerbViewed& /*news*/) { reloadHistory(); }
+    void refreshHistory(const data::RefreshHistory& /*news*/) { reloadHistory(); }
+
     platform::NotificationCenter::Subscription favouriteToggled_;
     platform::NotificationCenter::Subscription verbViewed_;
     platform::NotificationCenter::Subscription refreshHistory_;

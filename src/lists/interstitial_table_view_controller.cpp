@@ -7,6 +7,7 @@
 #include "platform/screens/navigation_controller.h"
 #include "platform/screens/presenter.h"
 #include "platform/screens/split_view_controller.h"
+#include "platform/screens/storyboard.h"
 
 namespace lumora::lists {
 
@@ -17,7 +18,7 @@ void InterstitialTableViewController::viewDidLoad()
 
 void InterstitialTableViewController::rowTapped(platform::IndexPath path)
 {
-    services().presenter.performSegue(*this, "showDetail", path);
+    services().presenter.performSegue(*this, platform::kShowDetailSegue, path);
     didSelectRow(path);
 }
 
@@ -28,7 +29,7 @@ void InterstitialTableViewController::didSelectRow(platform::IndexPath path)
 
 void InterstitialTableViewController::rowHeld(platform::IndexPath path)
 {
-    services().presenter.previewSegue(*this, "showDetail", path);
+    services().presenter.previewSegue(*this, platform::kShowDetailSegue, path);
 }
 
 std::optional<platform::IndexPath> InterstitialTableViewController::pathOfVerb(std::int64_t id)
@@ -51,7 +52,7 @@ bool InterstitialTableViewController::shouldPerformSegue(std::string_view /*iden
 
 void InterstitialTableViewController::prepareForSegue(const platform::Segue& segue)
 {
-    if (segue.identifier != "showDetail") {
+    if (segue.identifier != platform::kShowDetailSegue) {
         return;
     }
     auto& stack = dynamic_cast<platform::NavigationController&>(segue.destination);

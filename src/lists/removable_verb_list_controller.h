@@ -34,7 +34,7 @@ public:
     std::vector<platform::SwipeAction> trailingSwipeActions(platform::IndexPath path) override;
 
 protected:
-    /// The words of one list's swipe.
+    /// What the swipe that removes a row says and does.
     struct RemoveAction {
         std::string_view titleKey;
         std::string_view statement;

@@ -3,43 +3,14 @@
 
 #include "lists/search_query.h"
 
+#include "data/translation_table.h"
 #include "lists/sort_column.h"
 #include "platform/storage/settings_store.h"
 #include "settings/search_from.h"
 #include "settings/setting_keys.h"
-#include "settings/translation_language.h"
 #include "text/text.h"
 
-#include <utility>
-
 namespace lumora::lists {
-
-namespace {
-
-/// A translation's column and the one with its simplified spelling.
-std::pair<std::string_view, std::string_view> columnsFor(settings::TranslationColumn column)
-{
-    using settings::TranslationColumn;
-    switch (column) {
-    case TranslationColumn::German:
-        return {"german", "simplified_german"};
-    case TranslationColumn::Spanish:
-        return {"spanish", "simplified_spanish"};
-    case TranslationColumn::Dutch:
-        return {"dutch", "simplified_dutch"};
-    case TranslationColumn::Portuguese:
-        return {"portuguese", "simplified_portuguese"};
-    case TranslationColumn::Italian:
-        return {"italian", "simplified_italian"};
-    case TranslationColumn::French:
-        return {"french", "simplified_french"};
-    case TranslationColumn::English:
-        break;
-    }
-    return {"english", "english"};
-}
-
-} // namespace
 
 SearchQuery makeSearchQuery(std::string_view text, const platform::SettingsStore& settings,
                             const platform::Device& device)
@@ -47,9 +18,9 @@ SearchQuery makeSearchQuery(std::string_view text, const platform::SettingsStore
     SearchQuery query;
     query.text = text::replaced(std::string{text}, "\u2019", "'");
 
-    const auto [translation, simplified] = columnsFor(
-        settings::columnForLanguage(settings::effectiveTranslationLanguage(settings, device)));
-    const std::string order{sortsByFrench(settings) ? "simplified_french" : simplified};
+    const auto& language = data::listLanguage(settings, device);
+    const std::string order{sortsByFrench(settings) ? "simplified_french"
+                                                    : language.simplifiedColumn};
     const bool fromStart = settings::searchesFromStart(settings);
     query.pattern = fromStart ? query.text + "%" : "%" + query.text + "%";
 
@@ -57,9 +28,9 @@ SearchQuery makeSearchQuery(std::string_view text, const platform::SettingsStore
     query.placeholders = 2;
     if (settings.boolForKey(settings::kIncludeEnglish)) {
         condition += " OR ";
-        condition += translation;
+        condition += language.column;
         condition += " LIKE ? OR ";
-        condition += simplified;
+        condition += language.simplifiedColumn;
         condition += " LIKE ?";
         query.placeholders += 2;
     }

@@ -3,9 +3,9 @@
 
 #include "lists/sort_column.h"
 
+#include "data/translation_table.h"
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
-#include "settings/translation_language.h"
 
 namespace lumora::lists {
 
@@ -17,27 +17,10 @@ bool sortsByFrench(const platform::SettingsStore& settings)
 std::string_view listSortColumn(const platform::SettingsStore& settings,
                                 const platform::Device& device)
 {
-    using settings::TranslationColumn;
     if (sortsByFrench(settings)) {
         return "simplified_french";
     }
-    switch (settings::columnForLanguage(settings::effectiveTranslationLanguage(settings, device))) {
-    case TranslationColumn::German:
-        return "simplified_german";
-    case TranslationColumn::Spanish:
-        return "simplified_spanish";
-    case TranslationColumn::Dutch:
-        return "simplified_dutch";
-    case TranslationColumn::Portuguese:
-        return "portuguese";
-    case TranslationColumn::Italian:
-        return "simplified_italian";
-    case TranslationColumn::French:
-        return "simplified_french";
-    case TranslationColumn::English:
-        break;
-    }
-    return "english";
+    return data::listLanguage(settings, device).sortColumn;
 }
 
 } // namespace lumora::lists

@@ -17,9 +17,6 @@ namespace lumora::lists {
 bool sortsByFrench(const platform::SettingsStore& settings);
 
 /// The column that the verb list and the favourites are ordered by.
-///
-/// Portuguese goes by its plain column and English has no simplified one, so
-/// their accented capitals come after Z.
 std::string_view listSortColumn(const platform::SettingsStore& settings,
                                 const platform::Device& device);
 

@@ -4,10 +4,10 @@
 #include "lists/verb_cell.h"
 
 #include "data/homographs.h"
+#include "data/translation_table.h"
 #include "platform/machine/crash_reporter.h"
 #include "platform/screens/services.h"
 #include "platform/storage/database.h"
-#include "settings/translation_language.h"
 
 namespace lumora::lists {
 
@@ -15,8 +15,7 @@ namespace {
 
 bool translatesIntoFrench(const platform::Services& services)
 {
-    return settings::columnForLanguage(settings::effectiveTranslationLanguage(
-               services.settings, services.device)) == settings::TranslationColumn::French;
+    return data::listLanguage(services.settings, services.device).text == &data::Verb::french;
 }
 
 } // namespace

@@ -39,9 +39,8 @@ std::string listStatement(std::string_view sortColumn)
 void VerbListTableViewController::viewDidLoad()
 {
     InterstitialTableViewController::viewDidLoad();
-    favouriteToggled_ = services().notifications.addObserver(
-        "VerbFavouriteToggled",
-        [this](const platform::Notification& notification) { verbFavouriteToggled(notification); });
+    favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
+        services().notifications, [this](const auto& news) { verbFavouriteToggled(news); });
     reloadVerbs();
 }
 
@@ -63,13 +62,12 @@ void VerbListTableViewController::viewDidDisappear()
     isVisible = false;
 }
 
-void VerbListTableViewController::verbFavouriteToggled(const platform::Notification& notification)
+void VerbListTableViewController::verbFavouriteToggled(const data::VerbFavouriteToggled& news)
 {
-    const auto* sender = std::get_if<const platform::ViewController*>(&notification.object);
-    if (sender != nullptr && *sender == this) {
-        return;
+    // This list has already changed its own row.
+    if (news.sender != this) {
+        reloadVerbs();
     }
-    reloadVerbs();
 }
 
 void VerbListTableViewController::reloadVerbs()
@@ -87,33 +85,30 @@ void VerbListTableViewController::readVerbs(platform::DatabaseQueue& database,
 {
     database.inDatabase([&](platform::Database& connection) {
         auto rows = connection.executeQuery(listStatement(sortColumn), {});
-        bool failed = !rows;
+        const int indexLetter = rows ? rows->columnIndex("index_letter") : -1;
         std::vector<data::VerbPtr> all;
-        if (rows) {
-            const data::VerbReader reader{*rows, data::VerbReader::Spellings::WithSimplified};
-            const int indexLetter = rows->columnIndex("index_letter");
-            // Neighbouring rows mostly share their letter.
-            std::string lastLetter;
-            std::vector<data::VerbPtr>* section = nullptr;
-            while (rows->next()) {
-                auto letter = rows->stringForColumn(indexLetter);
-                if (section == nullptr || letter != lastLetter) {
-                    section = &verbs[text::upperCased(letter)];
-                    lastLetter = std::move(letter);
-                }
-                section->push_back(reader.readVerb(*rows));
-                all.push_back(section->back());
-            }
-            failed = rows->failed();
-        }
-        if (failed) {
+        // Neighbouring rows mostly share their letter.
+        std::string lastLetter;
+        std::vector<data::VerbPtr>* section = nullptr;
+        const bool read =
+            data::forEachVerb(rows, data::VerbReader::Spellings::WithSimplified,
+                              [&](const data::VerbPtr& verb, const platform::ResultSet& row) {
+                                  auto letter = row.stringForColumn(indexLetter);
+                                  if (section == nullptr || letter != lastLetter) {
+                                      section = &verbs[text::upperCased(letter)];
+                                      lastLetter = std::move(letter);
+                                  }
+                                  section->push_back(verb);
+                                  all.push_back(verb);
+                              });
+        if (!read) {
             services().crashReporter.logWithFormat(
                 "An error occurred when reading list of verbs: %@ (%d)",
                 {connection.lastErrorMessage(), connection.lastErrorCode()});
         }
-        if (!failed || !verbs.empty()) {
+        if (read || !verbs.empty()) {
             keys.clear();
-            for (const auto& [letter, section_] : verbs) {
+            for (const auto& [letter, verbsOfLetter] : verbs) {
                 keys.push_back(letter);
             }
             std::sort(keys.begin(), keys.end(), text::scalarLess);
@@ -212,7 +207,7 @@ void VerbListTableViewController::toggleFavourite(const data::VerbPtr& verb,
         data::updateFavourite(connection, *verb, services().console);
         connection.close();
     });
-    services().notifications.post({"VerbFavouriteToggled", this, {{"verb", verb}}});
+    data::post(services().notifications, data::VerbFavouriteToggled{this, verb, {}});
 }
 
 } // namespace lumora::lists

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "data/news.h"
 #include "lists/interstitial_table_view_controller.h"
 #include "platform/base/notification_center.h"
 
@@ -47,7 +48,7 @@ protected:
     data::VerbPtr verbAt(platform::IndexPath path) const override;
 
 private:
-    void verbFavouriteToggled(const platform::Notification& notification);
+    void verbFavouriteToggled(const data::VerbFavouriteToggled& news);
     void readVerbs(platform::DatabaseQueue& database, std::string_view sortColumn);
     void toggleFavourite(const data::VerbPtr& verb, platform::IndexPath path);
     const std::string& keyOfSection(int section) const;

@@ -19,7 +19,6 @@
 #include "settings/search_from.h"
 #include "settings/setting_keys.h"
 
-#include <any>
 #include <cstdlib>
 #include <optional>
 #include <utility>
@@ -35,8 +34,8 @@ Controller& topOf(platform::ViewController& stack)
         *dynamic_cast<platform::NavigationController&>(stack).topViewController());
 }
 
-constexpr std::string_view kScreenOfTab[] = {
-    "VerbListTableViewController", "FavouritesTableViewController", "HistoryTableViewController"};
+constexpr std::string_view kScreenOfTab[] = {platform::kVerbListScreen, platform::kFavouritesScreen,
+                                             platform::kHistoryScreen};
 
 } // namespace
 
@@ -65,11 +64,10 @@ void HomeViewController::outletsChanged()
 
 void HomeViewController::viewDidLoad()
 {
-    historyFeature_ = services_.notifications.addObserver(
-        "HistoryFeatureToggled", [this](const platform::Notification&) { buildTabBarItems(); });
-    tabOpen_ = services_.notifications.addObserver(
-        "TabOpenEvent",
-        [this](const platform::Notification& notification) { openTab(notification); });
+    historyFeature_ = data::observe<data::HistoryFeatureToggled>(
+        services_.notifications, [this](const auto& news) { historyFeatureToggled(news); });
+    tabOpen_ = data::observe<data::TabOpenEvent>(services_.notifications,
+                                                 [this](const auto& news) { openTab(news); });
     makeSearchResultsController();
 
     const auto text = [this](std::string_view key) {
@@ -79,7 +77,7 @@ void HomeViewController::viewDidLoad()
     item.title = text("verb.list.full");
     item.leftBarButton = {
         .identifier = "menu", .title = {}, .image = "menu", .enabled = true, .action = [this] {
-            performSegue("Navigation");
+            performSegue(platform::kNavigationSegue);
         }};
     setNavigationItem(std::move(item));
     searchBar.accessibilityIdentifier = "Search";
@@ -96,7 +94,7 @@ void HomeViewController::viewDidLoad()
 void HomeViewController::makeSearchResultsController()
 {
     const auto stack = std::dynamic_pointer_cast<platform::NavigationController>(
-        services_.storyboard.instantiateViewController("TableSearchResultsNavController"));
+        services_.storyboard.instantiateViewController(platform::kSearchResultsScreen));
     if (!stack || stack->viewControllers().empty()) {
         std::abort();
     }
@@ -139,14 +137,16 @@ void HomeViewController::setSplitViewController(platform::SplitViewController* s
     }
 }
 
-void HomeViewController::openTab(const platform::Notification& notification)
+void HomeViewController::historyFeatureToggled(const data::HistoryFeatureToggled& /*news*/)
 {
-    const auto found = notification.userInfo.find("SelectedTab");
-    const auto* selected =
-        found == notification.userInfo.end() ? nullptr : std::any_cast<std::string>(&found->second);
-    if (selected != nullptr && *selected == "History") {
+    buildTabBarItems();
+}
+
+void HomeViewController::openTab(const data::TabOpenEvent& news)
+{
+    if (news.selectedTab == data::TabOpenEvent::kHistory) {
         showTab(Tab::History);
-    } else if (selected != nullptr && *selected == "Favourites") {
+    } else if (news.selectedTab == data::TabOpenEvent::kFavourites) {
         showTab(Tab::Favourites);
     } else {
         showTab(Tab::List);
@@ -221,7 +221,7 @@ void HomeViewController::focusSearchBar()
 void HomeViewController::didSelectSearchResult(const data::VerbPtr& verb)
 {
     selectedSearchResult = verb;
-    performSegue("showSearchResult");
+    performSegue(platform::kShowSearchResultSegue);
     if (services_.device.isTablet()) {
         searchBar.isFirstResponder = false;
         outletsChanged();
@@ -236,20 +236,20 @@ void HomeViewController::performSegue(std::string_view identifier)
 void HomeViewController::didHoldSearchResult(const data::VerbPtr& verb)
 {
     selectedSearchResult = verb;
-    services_.presenter.previewSegue(*this, "showSearchResult", std::nullopt);
+    services_.presenter.previewSegue(*this, platform::kShowSearchResultSegue, std::nullopt);
 }
 
 void HomeViewController::prepareForSegue(const platform::Segue& segue)
 {
-    if (segue.identifier == "showSearchResult") {
+    if (segue.identifier == platform::kShowSearchResultSegue) {
         auto& detail = topOf<detail::VerbDetailTableViewController>(segue.destination);
         detail.selectedVerb = selectedSearchResult;
         detail.queue = queue;
         detail.isPeeking = false;
         detail.offerDisplayModeButton(splitViewController());
-    } else if (segue.identifier == "Navigation") {
+    } else if (segue.identifier == platform::kNavigationSegue) {
         topOf<NavigationDrawerTableTableViewController>(segue.destination).delegate = this;
-    } else if (segue.identifier == "Options") {
+    } else if (segue.identifier == platform::kOptionsSegue) {
         auto& options = topOf<OptionsTableViewController>(segue.destination);
         options.delegate = this;
         options.queue = queue;
@@ -258,12 +258,12 @@ void HomeViewController::prepareForSegue(const platform::Segue& segue)
 
 void HomeViewController::showOptions()
 {
-    performSegue("Options");
+    performSegue(platform::kOptionsSegue);
 }
 
 void HomeViewController::showMoreApps()
 {
-    performSegue("MoreApps");
+    performSegue(platform::kMoreAppsSegue);
 }
 
 void HomeViewController::contactSupport()
@@ -280,7 +280,7 @@ void HomeViewController::optionsClosed(bool fieldsChanged)
     }
     dynamic_cast<lists::VerbListTableViewController&>(*listFor(Tab::List)).reloadVerbs();
     dynamic_cast<lists::HistoryTableViewController&>(*listFor(Tab::History)).reloadHistory();
-    services_.notifications.post({"RefreshConjugations", {}, {}});
+    data::post(services_.notifications, data::RefreshConjugations{});
     sendCrashReportValues();
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "data/news.h"
 #include "data/verb.h"
 #include "lists/search_results_table_view_controller.h"
 #include "navigation/navigation_drawer_table_table_view_controller.h"
@@ -123,7 +124,8 @@ protected:
 
 private:
     void performSegue(std::string_view identifier);
-    void openTab(const platform::Notification& notification);
+    void historyFeatureToggled(const data::HistoryFeatureToggled& news);
+    void openTab(const data::TabOpenEvent& news);
     void makeSearchResultsController();
     void findDetailViewController();
     void showTab(Tab tab);

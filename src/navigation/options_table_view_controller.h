@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "navigation/option_rows.h"
 #include "platform/base/color.h"
 #include "platform/screens/table_view_controller.h"
 
@@ -97,20 +98,14 @@ protected:
 
 private:
     std::string text(std::string_view key) const;
-    platform::TableCell switchCell(std::string label, bool on) const;
-    platform::TableCell segmentCell(std::string_view labelKey, std::string_view firstKey,
-                                    std::string_view secondKey, int selected) const;
-    platform::TableCell detailCell(std::string_view labelKey, std::string detail) const;
-    /// `fallbackKey` names the language when none that is known is stored.
-    std::string translationLanguageName(std::string_view fallbackKey) const;
-    std::string audioSpeedText() const;
-
-    void chooseTranslation(platform::IndexPath path);
-    void chooseAudioSpeed(platform::IndexPath path);
+    std::string detailOf(const OptionRow& row) const;
+    std::string labelOf(const OptionRow& row) const;
+    void change(platform::IndexPath path, OptionRow::Kind kind, bool on);
+    /// The chosen value is stored at once.
+    void offer(OptionChooser chooser, platform::IndexPath path);
     void confirmClearingHistory(platform::IndexPath path);
     void clearHistory();
-    void flush();
-    void chosen();
+    void flush() const;
 };
 
 } // namespace lumora::navigation

@@ -8,7 +8,7 @@
 #include "settings/setting_keys.h"
 
 #include <cstdlib>
-#include <utility>
+#include <variant>
 
 namespace lumora::settings {
 
@@ -27,21 +27,6 @@ std::string effectiveTranslationLanguage(const platform::SettingsStore& settings
         std::abort();
     }
     return preferred.front();
-}
-
-TranslationColumn columnForLanguage(std::string_view language)
-{
-    static constexpr std::pair<std::string_view, TranslationColumn> kByPrefix[] = {
-        {"de", TranslationColumn::German},  {"es", TranslationColumn::Spanish},
-        {"nl", TranslationColumn::Dutch},   {"pt", TranslationColumn::Portuguese},
-        {"it", TranslationColumn::Italian}, {"fr", TranslationColumn::French},
-    };
-    for (const auto& [prefix, column] : kByPrefix) {
-        if (language.starts_with(prefix)) {
-            return column;
-        }
-    }
-    return TranslationColumn::English;
 }
 
 } // namespace lumora::settings

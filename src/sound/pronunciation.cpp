@@ -6,6 +6,7 @@
 #include "sound/grammar.h"
 #include "sound/letters.h"
 #include "sound/word.h"
+#include "text/pronoun.h"
 
 #include <algorithm>
 #include <array>
@@ -225,7 +226,7 @@ std::string pronounBefore(std::string_view variant, std::string pronoun, bool as
     } else if (pronoun.ends_with('e') && !pronoun.ends_with("elle") && open) {
         pronoun.back() = '\'';
     }
-    return pronoun.ends_with('\'') ? pronoun : pronoun + ' ';
+    return text::beforeForm(pronoun);
 }
 
 std::string withoutBrackets(std::string_view form)

@@ -8,6 +8,7 @@
 #include "terminal/loaded_verbs.h"
 #include "terminal/output.h"
 #include "terminal/session.h"
+#include "text/pronoun.h"
 #include "text/text.h"
 
 #include <algorithm>
@@ -21,21 +22,15 @@ namespace lumora::terminal {
 
 namespace {
 
-/// "je " and "j'": what stands before the form.
-std::string lead(const std::string& pronoun)
-{
-    return pronoun.empty() || pronoun.ends_with('\'') ? pronoun : pronoun + ' ';
-}
-
 TextBlock tenseBlock(const std::string& title, const std::vector<TextRow>& rows)
 {
     std::size_t leadWidth = 0;
     for (const auto& row : rows) {
-        leadWidth = std::max(leadWidth, text::columns(lead(row.text)));
+        leadWidth = std::max(leadWidth, text::columns(text::beforeForm(row.text)));
     }
     TextBlock block{title};
     for (const auto& row : rows) {
-        const auto before = lead(row.text);
+        const auto before = text::beforeForm(row.text);
         block.push_back(std::string(leadWidth - text::columns(before), ' ') + before +
                         row.detailText);
     }
@@ -106,7 +101,7 @@ void printVerb(Screen& screen, const std::optional<data::FormDivisions>& divisio
                const Output& output)
 {
     if (output.isTerminal()) {
-        output.stream << screen.headerText() << "\n\n";
+        output.stream << screen.header().title << "\n\n";
     }
     const auto& verb = *screen.selectedVerb;
     std::size_t printed = 0;

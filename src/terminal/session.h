@@ -14,7 +14,7 @@
 #include "qt/machine/qt_device.h"
 #include "qt/machine/qt_java_script_context.h"
 #include "terminal/complaints.h"
-#include "terminal/silence.h"
+#include "terminal/null_services.h"
 #include "terminal/terminal_views.h"
 
 #include <filesystem>
@@ -47,18 +47,18 @@ private:
     qt::QtDevice device_;
     qt::QtClock clock_;
     Complaints complaints_;
-    SilentAnalytics analytics_;
+    NullAnalytics analytics_;
     TerminalViewFactory views_;
-    SilentPresenter presenter_;
+    NullPresenter presenter_;
     app::MainStoryboard storyboard_;
-    SilentSpeech speech_;
-    SilentAudioSession audioSession_;
+    NullSpeech speech_;
+    NullAudioSession audioSession_;
     qt::QtJavaScriptContextFactory scripts_;
-    SilentShareSheet shareSheet_;
-    SilentReviewPrompter reviewPrompter_;
-    SilentMailService mail_;
-    SilentUrlOpener urlOpener_;
-    SilentFileChooser fileChooser_;
+    NullShareSheet shareSheet_;
+    NullReviewPrompter reviewPrompter_;
+    NullMailService mail_;
+    NullUrlOpener urlOpener_;
+    NullFileChooser fileChooser_;
     platform::Services services_;
     std::unique_ptr<platform::DatabaseQueue> queue_;
 };

@@ -87,6 +87,8 @@ TEST_F(VerbDetail, CountsSectionsAndItemsByMood)
 
 TEST_F(VerbDetail, ShowsARowAsPronounFormAndPlayControl)
 {
+    world.execute("INSERT INTO conjugation VALUES(NULL, 3, 'j''', 'irai', "
+                  "'indicatifFuturSimple', 10, 1)");
     const auto detail = open(aller);
 
     EXPECT_EQ(detail->cellForRow({0, 0}).text, "go");
@@ -94,6 +96,9 @@ TEST_F(VerbDetail, ShowsARowAsPronounFormAndPlayControl)
     const auto cell = detail->cellForRow({1, 0});
     EXPECT_EQ(cell.text, "je");
     EXPECT_EQ(cell.detailText, "vais");
+    EXPECT_EQ(cell.accessibilityLabel, "je vais");
+    EXPECT_EQ(detail->cellForRow({5, 0}).accessibilityLabel, "j'irai");
+    EXPECT_EQ(detail->cellForItem(4).rows[0].accessibilityLabel, "j'irai");
     EXPECT_EQ(std::get<PlayControl>(cell.control).indicator,
               std::get<PlayControl>(detail->cellForRow({1, 0}).control).indicator);
 
@@ -155,7 +160,7 @@ TEST_F(VerbDetail, WithoutAVerbShowsTheLabelAndNoToolbar)
         EXPECT_EQ(detail->selectVerbLabel.hidden, there);
         EXPECT_EQ(detail->toolbar.hidden, !there);
         EXPECT_EQ(detail->toolbarHeightConstaint, there ? detail->defaultToolbarHeight : 0);
-        EXPECT_EQ(detail->headerText(), there ? "aller (go)" : "");
+        EXPECT_EQ(detail->header().title, there ? "aller (go)" : "");
         EXPECT_EQ(button(*detail, "favourite").enabled, there);
         EXPECT_EQ(button(*detail, "export").enabled, there);
         EXPECT_EQ(world.count("history"), there ? 1 : 0);

@@ -29,7 +29,7 @@ public:
     /// The operating system with its version.
     virtual std::string systemVersion() const = 0;
     /// The two letters of the country whose customs the user keeps, in upper
-    /// case, for example "DE".
+    /// case, for example "DE"; empty where nobody can tell.
     virtual std::string regionCode() const = 0;
 };
 

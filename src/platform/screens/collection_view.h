@@ -19,6 +19,8 @@ struct CollectionRow {
     double audioPadding = 0;
     bool controlHidden = true;
     PlayControl control;
+    /// What a screen reader says; empty where the line is.
+    std::string accessibilityLabel;
 };
 
 /// What one square of a collection shows.
@@ -26,6 +28,12 @@ struct CollectionCell {
     std::string reuseIdentifier;
     std::string title;
     std::vector<CollectionRow> rows;
+};
+
+/// What stands above the squares.
+struct CollectionHeader {
+    std::string reuseIdentifier;
+    std::string title;
 };
 
 /// Points, the same on every screen.
@@ -43,7 +51,7 @@ public:
 
     virtual int numberOfItems() = 0;
     virtual CollectionCell cellForItem(int item) = 0;
-    virtual std::string headerText() = 0;
+    virtual CollectionHeader header() = 0;
     virtual CollectionLayout layout() = 0;
     /// `row` is the tapped control's line in the cell, from 0.
     virtual void audioTapped(int item, int row) = 0;

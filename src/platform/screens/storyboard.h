@@ -10,6 +10,18 @@
 
 namespace lumora::platform {
 
+/// The steps between screens and the screens made for themselves, as the
+/// interface description names them.
+inline constexpr std::string_view kShowDetailSegue = "showDetail";
+inline constexpr std::string_view kShowSearchResultSegue = "showSearchResult";
+inline constexpr std::string_view kNavigationSegue = "Navigation";
+inline constexpr std::string_view kOptionsSegue = "Options";
+inline constexpr std::string_view kMoreAppsSegue = "MoreApps";
+inline constexpr std::string_view kVerbListScreen = "VerbListTableViewController";
+inline constexpr std::string_view kFavouritesScreen = "FavouritesTableViewController";
+inline constexpr std::string_view kHistoryScreen = "HistoryTableViewController";
+inline constexpr std::string_view kSearchResultsScreen = "TableSearchResultsNavController";
+
 /// How the screen at the end of a step comes into view.
 enum class SegueStyle {
     /// In the detail pane, or on top of the list where there is one pane.

@@ -37,6 +37,8 @@ struct TableCell {
     /// Name of an image of ours; empty for none.
     std::string image;
     std::string accessibilityIdentifier;
+    /// What a screen reader says; empty: the text.
+    std::string accessibilityLabel;
     bool selectable = true;
     CellAccessory accessory = CellAccessory::None;
     std::variant<std::monostate, SwitchControl, SegmentedControl, PlayControl> control;

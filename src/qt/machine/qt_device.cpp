@@ -59,7 +59,7 @@ std::string QtDevice::regionCode() const
 {
     const auto code = toUtf8(QLocale::territoryToCode(QLocale::system().territory()));
     // The "C" locale is at home nowhere.
-    return code.size() == 2 ? code : "US";
+    return code.size() == 2 ? code : std::string{};
 }
 
 bool QtDevice::isTablet() const

@@ -49,6 +49,7 @@ CollectionLine CollectionItemModel::line(int item, std::size_t number) const
     const auto& row = rows[number];
     return {.leading = toQString(row.leading),
             .trailing = toQString(row.trailing),
+            .accessibleName = toQString(row.accessibilityLabel),
             .audioWidth = row.audioWidth,
             .audioPadding = row.audioPadding,
             .controlHidden = row.controlHidden,
@@ -74,7 +75,7 @@ void CollectionItemModel::reloadData()
     }
     busy_ = true;
     const int count = std::max(0, source_.numberOfItems());
-    headerText_ = toQString(source_.headerText());
+    headerText_ = toQString(source_.header().title);
     layout_ = source_.layout();
     busy_ = false;
     loaded_ = true;

@@ -18,6 +18,7 @@ struct CollectionLine {
     QML_VALUE_TYPE(collectionLine)
     Q_PROPERTY(QString leading MEMBER leading FINAL)
     Q_PROPERTY(QString trailing MEMBER trailing FINAL)
+    Q_PROPERTY(QString accessibleName MEMBER accessibleName FINAL)
     Q_PROPERTY(double audioWidth MEMBER audioWidth FINAL)
     Q_PROPERTY(double audioPadding MEMBER audioPadding FINAL)
     Q_PROPERTY(bool controlHidden MEMBER controlHidden FINAL)
@@ -26,6 +27,7 @@ struct CollectionLine {
 public:
     QString leading;
     QString trailing;
+    QString accessibleName;
     double audioWidth = 0;
     double audioPadding = 0;
     bool controlHidden = true;

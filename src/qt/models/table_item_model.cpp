@@ -19,24 +19,18 @@ using platform::TableCell;
 
 namespace {
 
-template <typename Control>
-const Control* controlOf(const TableCell& cell)
-{
-    return std::get_if<Control>(&cell.control);
-}
-
 std::optional<QString> optionalText(const std::optional<std::string>& text)
 {
     return text ? std::optional{toQString(*text)} : std::nullopt;
 }
 
 /// Marks the time in which the controller answers a question about a row.
-class Answering {
+class AnsweringScope {
 public:
-    explicit Answering(int& depth) : depth_{depth} { ++depth_; }
-    ~Answering() { --depth_; }
-    Answering(const Answering&) = delete;
-    Answering& operator=(const Answering&) = delete;
+    explicit AnsweringScope(int& depth) : depth_{depth} { ++depth_; }
+    ~AnsweringScope() { --depth_; }
+    AnsweringScope(const AnsweringScope&) = delete;
+    AnsweringScope& operator=(const AnsweringScope&) = delete;
 
 private:
     int& depth_;
@@ -53,139 +47,58 @@ int TableItemModel::rowCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
-QHash<int, QByteArray> TableItemModel::roleNames() const
+QVariant TableItemModel::kindOfRow(int row) const
 {
-    return {{KindRole, "kind"},
-            {SectionRole, "section"},
-            {RowRole, "row"},
-            {TitleRole, "title"},
-            {TextRole, "text"},
-            {DetailTextRole, "detailText"},
-            {ImageRole, "image"},
-            {SelectableRole, "selectable"},
-            {DisclosureRole, "disclosure"},
-            {ControlRole, "control"},
-            {SwitchOnRole, "switchOn"},
-            {SegmentTitlesRole, "segmentTitles"},
-            {SelectedSegmentRole, "selectedSegment"},
-            {IndicatorRole, "indicatorSource"},
-            {CanEditRole, "canEdit"},
-            {IdentifierRole, "identifier"},
-            {ReuseIdentifierRole, "reuseIdentifier"},
-            {SelectedRole, "selected"},
-            {LastInSectionRole, "lastInSection"}};
+    return static_cast<int>(rows_[static_cast<std::size_t>(row)].kind);
 }
 
-QVariant TableItemModel::data(const QModelIndex& index, int role) const
+QVariant TableItemModel::sectionOfRow(int row) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
-        return {};
-    }
-    const Row& row = rows_[static_cast<std::size_t>(index.row())];
-    const bool isCell = row.kind == RowKind::Cell;
-    switch (role) {
-    case KindRole:
-        return static_cast<int>(row.kind);
-    case SectionRole:
-        return row.path.section;
-    case RowRole:
-        return isCell ? row.path.row : -1;
-    case TitleRole: {
-        const auto& section = sections_[static_cast<std::size_t>(row.path.section)];
-        return isCell                        ? QString{}
-               : row.kind == RowKind::Header ? section.header.value_or(QString{})
-                                             : section.footer.value_or(QString{});
-    }
-    case SelectedRole:
-        return isCell && selected_ == row.path;
-    case LastInSectionRole: {
-        const auto next = static_cast<std::size_t>(index.row()) + 1;
-        return isCell && (next == rows_.size() || rows_[next].kind != RowKind::Cell ||
-                          rows_[next].path.section != row.path.section);
-    }
-    default:
-        break;
-    }
-    if (isCell && !stale_) {
-        return cellData(row.path, role);
-    }
-    // Headers and footers answer with an empty cell's values, so that one
-    // delegate with typed properties serves every kind.
-    switch (role) {
-    case TextRole:
-    case DetailTextRole:
-    case ImageRole:
-    case IdentifierRole:
-    case ReuseIdentifierRole:
-        return QString{};
-    case SelectableRole:
-    case DisclosureRole:
-    case SwitchOnRole:
-    case CanEditRole:
+    return sectionOf(row);
+}
+
+QVariant TableItemModel::rowInSection(int row) const
+{
+    const auto path = cellPath(row);
+    return path ? path->row : -1;
+}
+
+QVariant TableItemModel::titleOfRow(int row) const
+{
+    const auto kind = rows_[static_cast<std::size_t>(row)].kind;
+    const auto& section = sections_[static_cast<std::size_t>(sectionOf(row))];
+    return kind == RowKind::Cell     ? QString{}
+           : kind == RowKind::Header ? section.header.value_or(QString{})
+                                     : section.footer.value_or(QString{});
+}
+
+QVariant TableItemModel::isSelected(int row) const
+{
+    const auto path = cellPath(row);
+    return path && selected_ == path;
+}
+
+QVariant TableItemModel::isLastInSection(int row) const
+{
+    const auto path = cellPath(row);
+    const auto next = cellPath(row + 1);
+    return path && (!next || next->section != path->section);
+}
+
+QVariant TableItemModel::canEdit(int row) const
+{
+    const auto path = cellPath(row);
+    if (!path || stale_) {
         return false;
-    case ControlRole:
-        return static_cast<int>(ControlKind::None);
-    case SegmentTitlesRole:
-        return QStringList{};
-    case SelectedSegmentRole:
-        return 0;
-    case IndicatorRole:
-        return QVariant::fromValue<IndicatorSource*>(nullptr);
-    default:
-        return {};
     }
-}
-
-QVariant TableItemModel::cellData(IndexPath path, int role) const
-{
-    const Answering guard{answering_};
-    if (role == CanEditRole) {
-        return source_.canEditRow(path);
-    }
-    const TableCell& shown = cell(path);
-    switch (role) {
-    case TextRole:
-        return toQString(shown.text);
-    case DetailTextRole:
-        return toQString(shown.detailText);
-    case ImageRole:
-        return toQString(shown.image);
-    case IdentifierRole:
-        return toQString(shown.accessibilityIdentifier);
-    case ReuseIdentifierRole:
-        return toQString(shown.reuseIdentifier);
-    case SelectableRole:
-        return shown.selectable;
-    case DisclosureRole:
-        return shown.accessory == platform::CellAccessory::DisclosureIndicator;
-    case ControlRole:
-        // The variant's alternatives stand in the order of ControlKind.
-        return static_cast<int>(shown.control.index());
-    case SwitchOnRole: {
-        const auto* control = controlOf<platform::SwitchControl>(shown);
-        return control != nullptr && control->on;
-    }
-    case SegmentTitlesRole: {
-        const auto* control = controlOf<platform::SegmentedControl>(shown);
-        return control == nullptr ? QStringList{} : toQStringList(control->titles);
-    }
-    case SelectedSegmentRole: {
-        const auto* control = controlOf<platform::SegmentedControl>(shown);
-        return control == nullptr ? 0 : control->selected;
-    }
-    case IndicatorRole: {
-        const auto* control = controlOf<platform::PlayControl>(shown);
-        return QVariant::fromValue(control == nullptr ? nullptr
-                                                      : indicators_.sourceFor(control->indicator));
-    }
-    default:
-        return {};
-    }
+    const AnsweringScope guard{answering_};
+    return source_.canEditRow(*path);
 }
 
 const TableCell& TableItemModel::cell(IndexPath path) const
 {
     if (!cell_ || cellPath_ != path) {
+        const AnsweringScope guard{answering_};
         cell_ = source_.cellForRow(path);
         cellPath_ = path;
     }
@@ -464,11 +377,8 @@ void TableItemModel::tap(int row)
     if (!path) {
         return;
     }
-    {
-        const Answering guard{answering_};
-        if (!cell(*path).selectable) {
-            return;
-        }
+    if (!cell(*path).selectable) {
+        return;
     }
     if (selected_ && *selected_ != *path) {
         deselect(*selected_);

@@ -11,7 +11,7 @@
 #include <QVariantList>
 
 #include <optional>
-#include <set>
+#include <span>
 #include <vector>
 
 namespace lumora::qt {
@@ -55,6 +55,7 @@ public:
         ReuseIdentifierRole,
         SelectedRole,
         LastInSectionRole,
+        AccessibleNameRole,
     };
 
     explicit TableItemModel(platform::TableDataSource& source, QObject* parent = nullptr);
@@ -123,11 +124,22 @@ private:
         std::optional<QString> footer;
     };
 
+    struct RoleEntry;
+    static std::span<const RoleEntry> roles();
+    // The values of the roles that do not come from a cell, by list row.
+    QVariant kindOfRow(int row) const;
+    QVariant sectionOfRow(int row) const;
+    /// -1 for a header or a footer.
+    QVariant rowInSection(int row) const;
+    QVariant titleOfRow(int row) const;
+    QVariant isSelected(int row) const;
+    QVariant isLastInSection(int row) const;
+    QVariant canEdit(int row) const;
+
     void load();
     void replaceRows(std::vector<Row> rows, std::vector<Section> sections);
     std::optional<platform::IndexPath> cellPath(int row) const;
     const platform::TableCell& cell(platform::IndexPath path) const;
-    QVariant cellData(platform::IndexPath path, int role) const;
     void hide(platform::IndexPath path);
     void rowChanged(platform::IndexPath path, const QList<int>& roles = {});
 

@@ -11,13 +11,8 @@
 namespace lumora::qt {
 
 OptionsScreen::OptionsScreen(std::shared_ptr<navigation::OptionsTableViewController> controller)
-    : Screen{controller, QStringLiteral("OptionsPage")}, options_{std::move(controller)}
+    : TableScreen{controller, QStringLiteral("OptionsPage")}, options_{std::move(controller)}
 {}
-
-QtTableView* OptionsScreen::table() const
-{
-    return &dynamic_cast<QtTableView&>(options_->tableView());
-}
 
 QString OptionsScreen::icon() const
 {

@@ -4,19 +4,17 @@
 #pragma once
 
 #include "navigation/options_table_view_controller.h"
-#include "qt/models/qt_table_view.h"
-#include "qt/screens/screen.h"
+#include "qt/screens/table_screen.h"
 
 #include <QColor>
 
 namespace lumora::qt {
 
 /// The options: a table with a header above it.
-class OptionsScreen final : public Screen {
+class OptionsScreen final : public TableScreen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the registry")
-    Q_PROPERTY(lumora::qt::QtTableView* table READ table CONSTANT)
     // The screen is loaded by the time it gets its page.
     Q_PROPERTY(QString icon READ icon CONSTANT)
     Q_PROPERTY(double iconRadius READ iconRadius CONSTANT)
@@ -30,7 +28,6 @@ class OptionsScreen final : public Screen {
 public:
     explicit OptionsScreen(std::shared_ptr<navigation::OptionsTableViewController> controller);
 
-    QtTableView* table() const;
     QString icon() const;
     double iconRadius() const { return options_->header.iconImageView.cornerRadius; }
     double iconBorderWidth() const { return options_->header.iconImageView.borderWidth; }
@@ -42,8 +39,6 @@ public:
 
     Q_INVOKABLE void openWebsite() { options_->openWebsite(); }
     Q_INVOKABLE void sendSupportEmail() { options_->sendSupportEmail(); }
-    /// The page is about to draw the table.
-    Q_INVOKABLE void prepare() const { table()->model()->loadIfNeeded(); }
 
 private:
     std::shared_ptr<navigation::OptionsTableViewController> options_;

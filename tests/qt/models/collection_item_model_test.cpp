@@ -26,7 +26,10 @@ public:
                 titles.at(static_cast<std::size_t>(item)),
                 {{"je", "vais", 30, 8, false, {indicator}}, {" ", " ", 0, 0, true, {nullptr}}}};
     }
-    std::string headerText() override { return std::to_string(titles.size()) + " tenses"; }
+    platform::CollectionHeader header() override
+    {
+        return {"Header", std::to_string(titles.size()) + " tenses"};
+    }
     platform::CollectionLayout layout() override { return {300, 300, 20, 20}; }
     void audioTapped(int item, int row) override { tapped = {item, row}; }
 };

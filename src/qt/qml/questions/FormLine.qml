@@ -11,13 +11,12 @@ Item {
     required property collectionLine line
     required property real pronounWidth
     required property int textSize
-    readonly property string spokenText: (line.leading + " " + line.trailing).trim()
 
     signal played
 
-    Accessible.ignored: spokenText === ""
+    Accessible.ignored: line.accessibleName === ""
     Accessible.role: Accessible.StaticText
-    Accessible.name: spokenText
+    Accessible.name: line.accessibleName
 
     Text {
         id: pronoun
@@ -51,7 +50,7 @@ Item {
         width: root.line.audioWidth
         visible: !root.line.controlHidden
         source: root.line.indicator
-        spoken: root.spokenText
+        spoken: root.line.accessibleName
         onClicked: root.played()
     }
 }

@@ -15,6 +15,7 @@ Rectangle {
     required property string title
     required property string text
     required property string detailText
+    required property string accessibleName
     required property string reuseIdentifier
     required property IndicatorSource indicatorSource
     required property QtTableView table
@@ -37,7 +38,7 @@ Rectangle {
     Accessible.role: isCell ? Accessible.ListItem : Accessible.Heading
     Accessible.focusable: isCell
     Accessible.focused: isCurrent
-    Accessible.name: !isCell ? title : isForm ? text + " " + detailText : text
+    Accessible.name: isCell ? accessibleName : title
 
     Text {
         id: leading
@@ -80,7 +81,7 @@ Rectangle {
         focusPolicy: Qt.NoFocus
         visible: root.isForm
         source: root.indicatorSource
-        spoken: (root.text + " " + root.detailText).trim()
+        spoken: root.accessibleName
         onClicked: root.table.model.tapAccessory(root.index)
     }
     Rectangle {

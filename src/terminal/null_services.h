@@ -18,10 +18,10 @@
 #include <optional>
 #include <string_view>
 
-/// What a program that prints and ends has no use for.
+/// Services that do nothing, for a program that prints and ends.
 namespace lumora::terminal {
 
-class SilentAnalytics final : public platform::Analytics {
+class NullAnalytics final : public platform::Analytics {
 public:
     void logEvent(std::string_view /*name*/,
                   const std::map<std::string, std::string>& /*parameters*/) override
@@ -29,7 +29,7 @@ public:
     void setAnalyticsCollectionEnabled(bool /*enabled*/) override {}
 };
 
-class SilentPresenter final : public platform::Presenter {
+class NullPresenter final : public platform::Presenter {
 public:
     void performSegue(platform::ViewController& /*source*/, std::string_view /*identifier*/,
                       std::optional<platform::IndexPath> /*sender*/) override
@@ -54,7 +54,7 @@ public:
     }
 };
 
-class SilentSpeechSynthesizer final : public platform::SpeechSynthesizer {
+class NullSpeechSynthesizer final : public platform::SpeechSynthesizer {
 public:
     void setDelegate(platform::SpeechSynthesizerDelegate* delegate) override
     {
@@ -73,40 +73,40 @@ private:
     platform::SpeechSynthesizerDelegate* delegate_ = nullptr;
 };
 
-class SilentSpeech final : public platform::SpeechSynthesizerFactory {
+class NullSpeech final : public platform::SpeechSynthesizerFactory {
 public:
     std::unique_ptr<platform::SpeechSynthesizer> makeSpeechSynthesizer() override
     {
-        return std::make_unique<SilentSpeechSynthesizer>();
+        return std::make_unique<NullSpeechSynthesizer>();
     }
 };
 
-class SilentAudioSession final : public platform::AudioSession {
+class NullAudioSession final : public platform::AudioSession {
 public:
     float outputVolume() const override { return 0; }
     platform::Result<void> setCategoryPlayback() override { return {}; }
     platform::Result<void> activate() override { return {}; }
 };
 
-class SilentShareSheet final : public platform::ShareSheet {
+class NullShareSheet final : public platform::ShareSheet {
 public:
     void present(platform::ViewController& /*on*/, platform::ShareItems /*items*/,
                  std::string_view /*anchor*/) override
     {}
 };
 
-class SilentReviewPrompter final : public platform::ReviewPrompter {
+class NullReviewPrompter final : public platform::ReviewPrompter {
 public:
     void requestReview() override {}
 };
 
-class SilentUrlOpener final : public platform::UrlOpener {
+class NullUrlOpener final : public platform::UrlOpener {
 public:
     bool canOpen(std::string_view /*url*/) const override { return false; }
     bool open(std::string_view /*url*/) override { return false; }
 };
 
-class SilentFileChooser final : public platform::FileChooser {
+class NullFileChooser final : public platform::FileChooser {
 public:
     void choose(const platform::FileQuestion& /*question*/,
                 std::function<void(const std::filesystem::path&)> /*chosen*/) override
@@ -114,7 +114,7 @@ public:
 };
 
 /// Its messages go nowhere and say nothing.
-class SilentMailComposer final : public platform::MailComposer {
+class NullMailComposer final : public platform::MailComposer {
 public:
     void setMailComposeDelegate(platform::MailComposerDelegate* /*delegate*/) override {}
     void setToRecipients(std::vector<std::string> /*addresses*/) override {}
@@ -122,12 +122,12 @@ public:
     void setMessageBody(std::string /*body*/, bool /*isHtml*/) override {}
 };
 
-class SilentMailService final : public platform::MailService {
+class NullMailService final : public platform::MailService {
 public:
     bool canSendMail() const override { return false; }
     std::shared_ptr<platform::MailComposer> makeMailComposer() override
     {
-        return std::make_shared<SilentMailComposer>();
+        return std::make_shared<NullMailComposer>();
     }
 };
 

@@ -1,0 +1,221 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "detail/conjugation_grid.h"
+
+#include "platform/machine/crash_reporter.h"
+#include "text/pronoun.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+namespace lumora::detail {
+
+namespace {
+
+// The "other" table keeps a third, empty section.
+constexpr std::array<int, data::kMoodCount> kTableSections{9, 5, 4, 4};
+constexpr std::array<int, data::kMoodCount> kCollectionItems{8, 4, 3, 2};
+
+constexpr platform::Color kPlayTint{1.0 / 255, 85.0 / 255, 179.0 / 255, 1};
+constexpr double kAudioPadding = 8;
+constexpr double kAudioWidth = 30;
+
+int countFor(const std::array<int, data::kMoodCount>& counts, ShownMood shown)
+{
+    const bool isMood = shown.segment >= 0 && shown.segment < data::kMoodCount;
+    return shown.verb != nullptr && isMood ? counts[static_cast<std::size_t>(shown.segment)] : 0;
+}
+
+/// The mood whose rings belong to `segment`.
+std::size_t moodOf(int segment)
+{
+    return static_cast<std::size_t>(std::clamp(segment, 0, data::kMoodCount - 1));
+}
+
+/// Null where the mood has no tense at that position.
+const data::TenseBlock* blockAt(ShownMood shown, int position)
+{
+    const auto blocks = data::blocksOfSegment(shown.segment);
+    const bool isThere = shown.verb != nullptr && position >= 0 &&
+                         static_cast<std::size_t>(position) < blocks.size();
+    return isThere ? &blocks[static_cast<std::size_t>(position)] : nullptr;
+}
+
+const data::ConjugationList& formsAt(ShownMood shown, int position)
+{
+    static const data::ConjugationList kNone;
+    const auto* block = blockAt(shown, position);
+    return block == nullptr ? kNone : shown.verb->*(block->tense.forms);
+}
+
+/// Null where the tense has no such row.
+std::shared_ptr<const data::Conjugation> formAt(ShownMood shown, int position, int row)
+{
+    const auto& forms = formsAt(shown, position);
+    const bool isThere = row >= 0 && static_cast<std::size_t>(row) < forms.size();
+    return isThere ? forms[static_cast<std::size_t>(row)] : nullptr;
+}
+
+std::string spokenName(const data::Conjugation& form)
+{
+    return text::beforeForm(form.pronoun) + form.verb;
+}
+
+std::shared_ptr<CERoundProgressView> makePlayIndicator()
+{
+    auto indicator = std::make_shared<CERoundProgressView>();
+    indicator->setTintColor(kPlayTint);
+    return indicator;
+}
+
+} // namespace
+
+ConjugationGrid::ConjugationGrid(const platform::Bundle& bundle,
+                                 const platform::SettingsStore& settings,
+                                 const platform::Device& device,
+                                 platform::CrashReporter& crashReporter)
+    : bundle_{bundle}, settings_{settings}, device_{device}, crashReporter_{crashReporter}
+{}
+
+int ConjugationGrid::numberOfSections(ShownMood shown)
+{
+    return countFor(kTableSections, shown);
+}
+
+int ConjugationGrid::numberOfRowsInSection(ShownMood shown, int section)
+{
+    return section == 0 ? 1 : static_cast<int>(formsAt(shown, section - 1).size());
+}
+
+std::string ConjugationGrid::tenseTitle(const data::TenseBlock& block) const
+{
+    return data::tenseTitle(block.titleKey, bundle_, settings_);
+}
+
+std::optional<std::string> ConjugationGrid::titleForHeaderInSection(ShownMood shown,
+                                                                    int section) const
+{
+    const auto* block = blockAt(shown, section - 1);
+    return block == nullptr ? std::nullopt : std::optional{tenseTitle(*block)};
+}
+
+std::string ConjugationGrid::translation(ShownMood shown) const
+{
+    return shown.verb == nullptr ? std::string{} : shown.verb->translation(settings_, device_);
+}
+
+platform::TableCell ConjugationGrid::cellForRow(ShownMood shown, platform::IndexPath path)
+{
+    platform::TableCell cell;
+    cell.selectable = false;
+    if (path.section == 0) {
+        cell.reuseIdentifier = "CellVerb";
+        cell.text = translation(shown);
+        return cell;
+    }
+    cell.reuseIdentifier = "CellConjugation";
+    const auto row = playableRow(shown, path);
+    if (!row) {
+        crashReporter_.logWithFormat(
+            "Unable to find conjugation for table row %@",
+            {"[" + std::to_string(path.section) + ", " + std::to_string(path.row) + "]"});
+        return cell;
+    }
+    cell.text = row->form->pronoun;
+    cell.detailText = row->form->verb;
+    cell.accessibilityLabel = spokenName(*row->form);
+    cell.control = platform::PlayControl{row->indicator};
+    return cell;
+}
+
+std::optional<PlayableRow> ConjugationGrid::playableRow(ShownMood shown, platform::IndexPath path)
+{
+    auto form = formAt(shown, path.section - 1, path.row);
+    if (form == nullptr) {
+        return std::nullopt;
+    }
+    return PlayableRow{std::move(form), indicatorFor(shown.segment, path)};
+}
+
+std::shared_ptr<CERoundProgressView> ConjugationGrid::indicatorFor(int segment,
+                                                                   platform::IndexPath path)
+{
+    // Kept for the row, so that a redrawn row shows the ring it had.
+    const auto section = static_cast<std::size_t>(path.section);
+    const auto row = static_cast<std::size_t>(path.row);
+    auto& sections = rowIndicators_[moodOf(segment)];
+    if (sections.size() <= section) {
+        sections.resize(section + 1);
+    }
+    auto& indicators = sections[section];
+    while (indicators.size() <= row) {
+        indicators.push_back(makePlayIndicator());
+    }
+    return indicators[row];
+}
+
+int ConjugationGrid::numberOfItems(ShownMood shown)
+{
+    return countFor(kCollectionItems, shown);
+}
+
+VerbCollectionViewCell& ConjugationGrid::collectionCell(int segment, int item)
+{
+    auto& cells = cells_[moodOf(segment)];
+    const auto index = static_cast<std::size_t>(std::max(item, 0));
+    if (cells.size() <= index) {
+        cells.resize(index + 1);
+    }
+    auto& cell = cells[index];
+    for (auto& indicator : cell.progressView) {
+        if (!indicator) {
+            indicator = makePlayIndicator();
+        }
+    }
+    return cell;
+}
+
+platform::CollectionCell ConjugationGrid::cellForItem(ShownMood shown, int item)
+{
+    auto& cell = collectionCell(shown.segment, item);
+    const auto* block = blockAt(shown, item);
+    const auto& forms = formsAt(shown, item);
+
+    cell.audioWidthConstraint.fill(0);
+    cell.audioPaddingConstraint.fill(0);
+    cell.titleLabel = block == nullptr ? std::string{} : tenseTitle(*block);
+    for (std::size_t line = 0; line < VerbCollectionViewCell::kLines; ++line) {
+        const bool filled = line < forms.size();
+        cell.pronounLabel[line] = filled ? forms[line]->pronoun : " ";
+        cell.verbLabel[line] = filled ? forms[line]->verb : " ";
+        cell.accessibilityLabel[line] = filled ? spokenName(*forms[line]) : std::string{};
+        cell.progressViewPlaceholderHidden[line] = !filled;
+        if (filled) {
+            cell.audioPaddingConstraint[line] = kAudioPadding;
+            cell.audioWidthConstraint[line] = kAudioWidth;
+        }
+    }
+    return cell.content();
+}
+
+VerbCollectionViewHeader ConjugationGrid::header(ShownMood shown) const
+{
+    if (shown.verb == nullptr) {
+        return {};
+    }
+    return {shown.verb->french + " (" + translation(shown) + ")"};
+}
+
+std::optional<PlayableRow> ConjugationGrid::playableLine(ShownMood shown, int item, int line)
+{
+    auto form = formAt(shown, item, line);
+    if (form == nullptr || static_cast<std::size_t>(line) >= VerbCollectionViewCell::kLines) {
+        return std::nullopt;
+    }
+    const auto& cell = collectionCell(shown.segment, item);
+    return PlayableRow{std::move(form), cell.progressView[static_cast<std::size_t>(line)]};
+}
+
+} // namespace lumora::detail

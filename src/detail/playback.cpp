@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "detail/playback.h"
+
+#include "detail/audio_utils.h"
+#include "platform/machine/audio_session.h"
+
+#include <ostream>
+#include <utility>
+
+namespace lumora::detail {
+
+Playback::Playback(platform::SpeechSynthesizerFactory& speech, platform::AudioSession& audioSession,
+                   const platform::SettingsStore& settings, std::ostream& console)
+    : speech_{speech}, audioSession_{audioSession}, settings_{settings}, console_{console}
+{}
+
+void Playback::play(const data::Conjugation& form, std::shared_ptr<CERoundProgressView> indicator,
+                    platform::SpeechSynthesizerDelegate& delegate)
+{
+    if (speechSynthesizer().isSpeaking()) {
+        stop();
+    }
+    currentAudioProgress = std::move(indicator);
+    prepareAudioSession();
+    speechSynthesizer().setDelegate(&delegate);
+    speechSynthesizer().speak(AudioUtils::utteranceFor(form, settings_));
+}
+
+platform::SpeechSynthesizer& Playback::speechSynthesizer()
+{
+    if (!speechSynthesizer_) {
+        speechSynthesizer_ = speech_.makeSpeechSynthesizer();
+    }
+    return *speechSynthesizer_;
+}
+
+void Playback::prepareAudioSession()
+{
+    const auto ready =
+        audioSession_.setCategoryPlayback().and_then([&] { return audioSession_.activate(); });
+    if (!ready) {
+        console_ << "Error: Could not set audio category: " << ready.error().message
+                 << ", {code = " << ready.error().code << '}' << std::endl;
+    }
+}
+
+void Playback::stop()
+{
+    speechSynthesizer().stopSpeaking();
+    if (currentAudioProgress) {
+        currentAudioProgress->setProgress(0);
+    }
+    if (const auto invalidate = std::exchange(audioTimer, nullptr)) {
+        invalidate();
+    }
+}
+
+void Playback::willSpeakRange(std::size_t location, const platform::Utterance& utterance)
+{
+    if (currentAudioProgress) {
+        currentAudioProgress->setProgress(AudioUtils::progressAt(location, utterance), false);
+    }
+}
+
+void Playback::didFinish()
+{
+    if (currentAudioProgress) {
+        currentAudioProgress->setProgress(1);
+    }
+    stop();
+}
+
+} // namespace lumora::detail
