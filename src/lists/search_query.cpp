@@ -36,7 +36,9 @@ SearchQuery makeSearchQuery(std::string_view text, const platform::SettingsStore
     }
     std::string join;
     std::string grouping;
-    if (platform::boolObjectForKey(settings, settings::kIncludeConjugations).value_or(false)) {
+    query.searchesForms =
+        platform::boolObjectForKey(settings, settings::kIncludeConjugations).value_or(false);
+    if (query.searchesForms) {
         condition += " OR conjugation.verb like ?";
         query.placeholders += 1;
         join = "LEFT OUTER JOIN conjugation ON verb._id = conjugation.verbid";

@@ -21,6 +21,8 @@ struct SearchQuery {
     std::string statement;
     std::string pattern;
     int placeholders = 0;
+    /// Whether the conjugated forms are searched too.
+    bool searchesForms = false;
 };
 
 /// Reads the search settings and assembles the statement. "%" and "_" in the

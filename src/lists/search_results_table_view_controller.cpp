@@ -6,21 +6,12 @@
 #include "data/verb_reader.h"
 #include "lists/search_query.h"
 #include "lists/verb_cell.h"
-#include "platform/form_search/packed_search.h"
 #include "platform/machine/crash_reporter.h"
 #include "platform/storage/database_queue.h"
 
 #include <cstdlib>
-#include <optional>
 
 namespace lumora::lists {
-
-namespace {
-
-constexpr platform::PackedColumn kForms{"conjugation",  "verbid", "verb",
-                                        "packed_forms", "forms",  "verb"};
-
-} // namespace
 
 void SearchResultsTableViewController::search(std::string_view text)
 {
@@ -33,16 +24,18 @@ void SearchResultsTableViewController::search(std::string_view text)
     queue->inDatabase([&](platform::Database& connection) {
         const std::vector<platform::SqlValue> values(
             static_cast<std::size_t>(statement.placeholders), statement.pattern);
-        // Declared before the rows, so that they go first.
-        std::optional<platform::PackedSearch> fast;
-        if (statement.statement.find(kForms.table) != std::string::npos) {
-            fast.emplace(connection, kForms);
-        }
-        auto rows = connection.executeQuery(statement.statement, values);
-        if (!data::readVerbs(rows, data::VerbReader::Spellings::Plain, verbs)) {
-            services().crashReporter.logWithFormat(
-                "An error occurred when performing search: %@ (%d)",
-                {connection.lastErrorMessage(), connection.lastErrorCode()});
+        const auto read = [&](platform::Result<platform::ResultSet>& rows) {
+            if (!data::readVerbs(rows, data::VerbReader::Spellings::Plain, verbs)) {
+                services().crashReporter.logWithFormat(
+                    "An error occurred when performing search: %@ (%d)",
+                    {connection.lastErrorMessage(), connection.lastErrorCode()});
+            }
+        };
+        if (statement.searchesForms) {
+            formSearch_.executeQuery(connection, statement.statement, values, read);
+        } else {
+            auto rows = connection.executeQuery(statement.statement, values);
+            read(rows);
         }
         distinguishHomographs(verbs, connection, services());
         tableView().reloadData();

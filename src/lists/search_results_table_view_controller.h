@@ -4,6 +4,7 @@
 #pragma once
 
 #include "data/verb.h"
+#include "platform/form_search/form_search.h"
 #include "platform/screens/table_view_controller.h"
 
 #include <string>
@@ -49,6 +50,8 @@ public:
 
 private:
     const data::VerbPtr& verbAt(platform::IndexPath path) const;
+
+    platform::FormSearch formSearch_;
 };
 
 } // namespace lumora::lists

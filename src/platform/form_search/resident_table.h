@@ -5,12 +5,11 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 struct sqlite3;
-struct sqlite3_value;
 
 namespace lumora::platform {
 
@@ -18,48 +17,43 @@ namespace lumora::platform {
 /// the order of the keys.
 class ResidentTable {
 public:
-    /// How the cells beside the key are handed on.
+    /// What the cells beside the key hold.
     enum class Cells {
-        Text,    ///< as they are
-        Pointer, ///< NULL to everyone but `pointedCell`
+        Text,   ///< texts, handed on as they are
+        Packed, ///< packed texts: NULL to everyone but the table's own LIKE, which
+                ///< answers whether any of them is like the pattern
     };
 
     /// Reads all rows of `select`, whose first column is the key. Null when a
-    /// statement fails, a key is no integer, or a cell is neither text (a blob,
-    /// for pointers) nor NULL. The columns are named as the statement's.
-    static std::shared_ptr<const ResidentTable> read(sqlite3* connection, const std::string& select,
+    /// statement fails, a key is no integer, or a cell is neither NULL nor what
+    /// it should be. The columns are named as the statement's.
+    static std::unique_ptr<const ResidentTable> read(sqlite3* connection, const char* select,
                                                      Cells kind);
 
-    const std::vector<std::string>& columns() const { return columns_; }
+    /// Makes `name` mean this table on the connection, until `drop`: the temporary
+    /// schema is looked up before the file's. The table must live until then.
+    bool show(sqlite3* connection, const std::string& name) const;
+    /// False when there is no memory, or a statement still reads the table.
+    static bool drop(sqlite3* connection, const std::string& name);
+
+    /// "CREATE TABLE ...", as SQLite wants to know the columns.
+    const std::string& schema() const { return schema_; }
     Cells kind() const { return kind_; }
     std::size_t size() const { return keys_.size(); }
     std::int64_t key(std::size_t row) const { return keys_[row]; }
-    /// `column` from 1, 0 being the key. Followed by a NUL; without data for NULL.
-    const std::string_view& cell(std::size_t row, std::size_t column) const
+    /// `column` from 1, 0 being the key. None for NULL.
+    const std::optional<std::string>& cell(std::size_t row, std::size_t column) const
     {
-        return cells_[row * (columns_.size() - 1) + column - 1];
+        return cells_[row * (cells_.size() / keys_.size()) + column - 1];
     }
-    /// The row of the key, looked for at `guess` and behind it first; `size`
-    /// when there is none.
-    std::size_t rowOf(std::int64_t key, std::size_t guess) const;
+    /// The row of the key; `size` when there is none.
+    std::size_t rowOf(std::int64_t key) const;
 
 private:
     Cells kind_ = Cells::Text;
-    std::vector<std::string> columns_;
+    std::string schema_;
     std::vector<std::int64_t> keys_;
-    std::vector<std::string_view> cells_;
-    /// What the cells look into.
-    std::string bytes_;
+    std::vector<std::optional<std::string>> cells_;
 };
-
-/// Makes `name` mean the resident table on this connection, until
-/// `dropResidentTable`: the temporary schema is looked up before the file's.
-/// Both tell whether they succeeded; no statement may be under way.
-bool showResidentTable(sqlite3* connection, const char* name,
-                       const std::shared_ptr<const ResidentTable>& table);
-bool dropResidentTable(sqlite3* connection, const char* name);
-
-/// The cell behind a pointer; null for every other value.
-const std::string_view* pointedCell(sqlite3_value* value);
 
 } // namespace lumora::platform

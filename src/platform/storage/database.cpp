@@ -3,8 +3,6 @@
 
 #include "platform/storage/database.h"
 
-#include "platform/form_search/quick_like.h"
-
 #include <sqlite3.h>
 
 #include <cassert>
@@ -156,7 +154,6 @@ Result<void> Database::open()
     // long table would push each other out at every search.
     sqlite3_exec(connection_, "PRAGMA temp_store = MEMORY; PRAGMA cache_size = -4000", nullptr,
                  nullptr, nullptr);
-    registerQuickLike(connection_);
     return {};
 }
 

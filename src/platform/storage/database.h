@@ -7,7 +7,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -21,7 +20,6 @@ namespace lumora::platform {
 using SqlValue = std::variant<std::nullptr_t, std::int64_t, double, std::string>;
 
 class Database;
-struct PackedTables;
 
 /// The rows of one statement, read by column name, one row per `next`.
 ///
@@ -75,9 +73,12 @@ public:
     void close();
     bool isOpen() const { return connection_ != nullptr; }
 
+    /// The connection itself, for what adds tables of its own to it; null while
+    /// closed. Not to be closed but by `close`.
+    sqlite3* handle() const { return connection_; }
+
 private:
     friend class DatabaseQueue;
-    friend class PackedSearch;
     friend class ResultSet;
     explicit Database(std::string fileUrl);
     Result<void> open();
@@ -89,8 +90,6 @@ private:
     Error lastError_;
     /// Why statements fail while there is no connection.
     Error closedReason_;
-    /// Of PackedSearch, which reads them once for all connections of the queue.
-    std::shared_ptr<const PackedTables> packedTables_;
 };
 
 } // namespace lumora::platform
