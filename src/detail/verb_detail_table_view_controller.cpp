@@ -7,6 +7,7 @@
 #include "data/history_record.h"
 #include "data/verb_reader.h"
 #include "detail/audio_utils.h"
+#include "detail/row_sounds.h"
 #include "export/verb_export.h"
 #include "platform/machine/analytics.h"
 #include "platform/machine/audio_session.h"
@@ -22,6 +23,7 @@
 #include "platform/storage/database_queue.h"
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
+#include "settings/view_memory.h"
 
 #include <algorithm>
 #include <any>
@@ -530,7 +532,21 @@ void VerbDetailTableViewController::play(const data::Conjugation& form,
     currentAudioProgress = std::move(indicator);
     prepareAudioSession();
     speechSynthesizer().setDelegate(this);
-    speechSynthesizer().speak(AudioUtils::utteranceFor(form, services_.settings));
+    speechSynthesizer().speak(AudioUtils::utteranceFor(form, RowSounds{*selectedVerb, queue},
+                                                       voice(), services_.settings));
+}
+
+platform::Voice VerbDetailTableViewController::voice() const
+{
+    return settings::ViewMemory{services_.viewMemory}.voice();
+}
+
+void VerbDetailTableViewController::chooseVoice(platform::Voice voice)
+{
+    if (const auto kept = settings::ViewMemory{services_.viewMemory}.setVoice(voice); !kept) {
+        services_.console << "Unable to keep the voice: " << kept.error().message << std::endl;
+    }
+    outletsChanged();
 }
 
 platform::SpeechSynthesizer& VerbDetailTableViewController::speechSynthesizer()
