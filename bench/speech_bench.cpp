@@ -4,21 +4,41 @@
 #include "benches.h"
 #include "qt/speech/espeak_voice.h"
 #include "qt/speech/qt_speech_synthesizer.h"
+#include "sound/pronunciation.h"
+#include "text/text.h"
 
 #include <QCoreApplication>
 
 #include <atomic>
 #include <stdexcept>
+#include <string>
+#include <string_view>
 
 namespace lumora::bench {
 namespace {
 
-constexpr const char* kRows[] = {"je parle",
-                                 "nous sommes allés",
-                                 "que nous nous fussions évanouis",
-                                 "ils/elles auraient conjugué",
-                                 "qu'il/elle/on eût entretenu",
-                                 "vous haïssiez"};
+constexpr sound::Row kRows[] = {
+    {"parler", "je", "parle", "indicatifPresent"},
+    {"aller", "nous", "sommes allé(e)s", "indicatifPasseCompose"},
+    {"évanouir", "que nous nous", "fussions évanoui(e)s", "subjonctifPlusqueParfait"},
+    {"conjuguer", "ils/elles", "auraient conjugué", "conditionnelPasse1reForme"},
+    {"entretenir", "qu'il/elle/on", "eût entretenu", "subjonctifPlusqueParfait"},
+    {"haïr", "vous", "haïssiez", "indicatifImparfait", true},
+};
+
+platform::Utterance utteranceOf(const sound::Row& row, bool withSounds)
+{
+    platform::Utterance utterance{std::string{row.pronoun} + ' ' + std::string{row.form}, "fr"};
+    for (const auto& word : sound::spokenWords(utterance.text, row)) {
+        const std::string_view text = utterance.text;
+        if (withSounds) {
+            utterance.words.push_back({text::characterCount(text.substr(0, word.begin)),
+                                       text::characterCount(text.substr(word.begin, word.length)),
+                                       word.ipa});
+        }
+    }
+    return utterance;
+}
 
 /// Hears when the first word begins to sound.
 class FirstWord final : public platform::SpeechSynthesizerDelegate {
@@ -35,19 +55,34 @@ public:
     bool ended = false;
 };
 
+void measureRow(Report& report)
+{
+    constexpr int kRounds = 2000;
+    Figure figure{"a row in IPA", {}, {}, {}, "median in 100 µs", {}, "µs"};
+    for (int round = 0; round < kRounds; ++round) {
+        for (const auto& row : kRows) {
+            figure.own.add(1000 * millisecondsOf([&] { use(sound::ipa(row)); }));
+        }
+    }
+    figure.holds = figure.own.median() <= 100;
+    report.add(figure);
+}
+
 } // namespace
 
 void measureSpeech(Report& report)
 {
+    measureRow(report);
     constexpr int kRounds = 5;
     qt::SpeechEngine engine;
     qt::QtSpeechSynthesizer synthesizer{engine};
     const qt::EspeakVoice voice;
     const std::atomic<bool> never{false};
-    Figure figure{"first sound after the tap", {}, "the engine alone", {}, {}, {}};
+    Figure figure{"first sound after the tap", {}, "the engine alone, from plain text", {}, {}, {}};
     for (int round = -1; round < kRounds; ++round) {
-        for (const char* row : kRows) {
-            const platform::Utterance utterance{row, "fr", platform::kDefaultSpeechRate};
+        for (const auto& row : kRows) {
+            const auto utterance = utteranceOf(row, true);
+            const auto plain = utteranceOf(row, false);
             FirstWord listener;
             synthesizer.setDelegate(&listener);
             const auto own = millisecondsOf([&] {
@@ -61,7 +96,7 @@ void measureSpeech(Report& report)
             }
             synthesizer.stopSpeaking();
             synthesizer.setDelegate(nullptr);
-            const auto reference = millisecondsOf([&] { use(voice.synthesize(utterance, never)); });
+            const auto reference = millisecondsOf([&] { use(voice.synthesize(plain, never)); });
             if (round >= 0) {
                 figure.own.add(own);
                 figure.referenceSamples.add(reference);

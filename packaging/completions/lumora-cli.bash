@@ -19,7 +19,7 @@ _lumora_cli() {
         1\ *) words="conjugate about search export backup restore help version --help --version" ;;
         2\ help\ *) words="conjugate about search export backup restore help version" ;;
         *\ --language) words="en fr de es pt it nl" ;;
-        *\ conjugate\ *) words="--stems --language --help" ;;
+        *\ conjugate\ *) words="--stems --ipa --language --help" ;;
         *\ about\ *) words="--language --help" ;;
         *\ search\ *) words="--anywhere --conjugations --translations --language --help" ;;
         *\ export\ *) words="--html --text --language --help" ;;

@@ -20,6 +20,7 @@ complete -c lumora-cli -n '__fish_seen_subcommand_from help' -a "$commands"
 complete -c lumora-cli -n '__fish_seen_subcommand_from conjugate about export' -a '(__lumora_cli_verbs)'
 complete -c lumora-cli -n '__fish_seen_subcommand_from backup restore' -F
 complete -c lumora-cli -n '__fish_seen_subcommand_from conjugate' -l stems -d 'Mark where endings begin'
+complete -c lumora-cli -n '__fish_seen_subcommand_from conjugate' -l ipa -d 'Add how each row is said'
 complete -c lumora-cli -n '__fish_seen_subcommand_from search' -l anywhere -d 'Anywhere in the verb'
 complete -c lumora-cli -n '__fish_seen_subcommand_from search' -l conjugations -d 'Search the forms too'
 complete -c lumora-cli -n '__fish_seen_subcommand_from search' -l translations -d 'Search the translations too'

@@ -609,9 +609,21 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Französische Verben</translation>
     </message>
+    <message id="verb.menu">
+        <source></source>
+        <translation>Mehr</translation>
+    </message>
     <message id="verb.moods">
         <source></source>
         <translation>Modus</translation>
+    </message>
+    <message id="verb.voice.man">
+        <source></source>
+        <translation>Männerstimme</translation>
+    </message>
+    <message id="verb.voice.woman">
+        <source></source>
+        <translation>Frauenstimme</translation>
     </message>
     <message id="volume.low.warning">
         <source></source>

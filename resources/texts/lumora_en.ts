@@ -609,9 +609,21 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>French verbs</translation>
     </message>
+    <message id="verb.menu">
+        <source></source>
+        <translation>More</translation>
+    </message>
     <message id="verb.moods">
         <source></source>
         <translation>Mood</translation>
+    </message>
+    <message id="verb.voice.man">
+        <source></source>
+        <translation>Man’s voice</translation>
+    </message>
+    <message id="verb.voice.woman">
+        <source></source>
+        <translation>Woman’s voice</translation>
     </message>
     <message id="volume.low.warning">
         <source></source>

@@ -609,9 +609,21 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Verbos franceses</translation>
     </message>
+    <message id="verb.menu">
+        <source></source>
+        <translation>Más</translation>
+    </message>
     <message id="verb.moods">
         <source></source>
         <translation>Modo</translation>
+    </message>
+    <message id="verb.voice.man">
+        <source></source>
+        <translation>Voz de hombre</translation>
+    </message>
+    <message id="verb.voice.woman">
+        <source></source>
+        <translation>Voz de mujer</translation>
     </message>
     <message id="volume.low.warning">
         <source></source>

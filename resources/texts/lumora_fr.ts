@@ -609,9 +609,21 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Verbes français</translation>
     </message>
+    <message id="verb.menu">
+        <source></source>
+        <translation>Plus</translation>
+    </message>
     <message id="verb.moods">
         <source></source>
         <translation>Mode</translation>
+    </message>
+    <message id="verb.voice.man">
+        <source></source>
+        <translation>Voix d’homme</translation>
+    </message>
+    <message id="verb.voice.woman">
+        <source></source>
+        <translation>Voix de femme</translation>
     </message>
     <message id="volume.low.warning">
         <source></source>

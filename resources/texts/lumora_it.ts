@@ -609,9 +609,21 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Verbi francesi</translation>
     </message>
+    <message id="verb.menu">
+        <source></source>
+        <translation>Altro</translation>
+    </message>
     <message id="verb.moods">
         <source></source>
         <translation>Modo</translation>
+    </message>
+    <message id="verb.voice.man">
+        <source></source>
+        <translation>Voce maschile</translation>
+    </message>
+    <message id="verb.voice.woman">
+        <source></source>
+        <translation>Voce femminile</translation>
     </message>
     <message id="volume.low.warning">
         <source></source>

@@ -609,9 +609,21 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Franse werkwoorden</translation>
     </message>
+    <message id="verb.menu">
+        <source></source>
+        <translation>Meer</translation>
+    </message>
     <message id="verb.moods">
         <source></source>
         <translation>Wijs</translation>
+    </message>
+    <message id="verb.voice.man">
+        <source></source>
+        <translation>Mannenstem</translation>
+    </message>
+    <message id="verb.voice.woman">
+        <source></source>
+        <translation>Vrouwenstem</translation>
     </message>
     <message id="volume.low.warning">
         <source></source>

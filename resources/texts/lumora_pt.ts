@@ -609,9 +609,21 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Verbos franceses</translation>
     </message>
+    <message id="verb.menu">
+        <source></source>
+        <translation>Mais</translation>
+    </message>
     <message id="verb.moods">
         <source></source>
         <translation>Modo</translation>
+    </message>
+    <message id="verb.voice.man">
+        <source></source>
+        <translation>Voz masculina</translation>
+    </message>
+    <message id="verb.voice.woman">
+        <source></source>
+        <translation>Voz feminina</translation>
     </message>
     <message id="volume.low.warning">
         <source></source>

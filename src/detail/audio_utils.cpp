@@ -4,6 +4,7 @@
 #include "detail/audio_utils.h"
 
 #include "data/conjugation.h"
+#include "detail/row_sounds.h"
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 #include "text/pronoun.h"
@@ -13,6 +14,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <variant>
 
 namespace lumora::detail {
@@ -51,12 +53,16 @@ double numberOf(const platform::SettingValue& value)
 
 } // namespace
 
-platform::Utterance AudioUtils::utteranceFor(const data::Conjugation& form,
+platform::Utterance AudioUtils::utteranceFor(const data::Conjugation& form, const RowSounds& sounds,
+                                             platform::Voice voice,
                                              const platform::SettingsStore& settings)
 {
     const float speed = settings.floatForKey(settings::kAudioSpeed);
     const float factor = speed > 0 ? speed : 1;
-    return {spokenText(form), std::string{kLanguage}, platform::kDefaultSpeechRate * factor};
+    auto text = spokenText(form);
+    auto words = sounds.words(text, form);
+    return {std::move(text), std::string{kLanguage}, platform::kDefaultSpeechRate * factor,
+            std::move(words), voice};
 }
 
 float AudioUtils::progressAt(std::size_t location, const platform::Utterance& utterance)

@@ -16,13 +16,16 @@ class SettingsStore;
 
 namespace lumora::detail {
 
+class RowSounds;
+
 /// What pronunciation says and how it looks, apart from any screen.
 class AudioUtils {
 public:
     AudioUtils() = delete;
 
     /// A form with its pronoun, in French, at the rate of the settings.
-    static platform::Utterance utteranceFor(const data::Conjugation& form,
+    static platform::Utterance utteranceFor(const data::Conjugation& form, const RowSounds& sounds,
+                                            platform::Voice voice,
                                             const platform::SettingsStore& settings);
 
     /// How full the ring is when the word at `location` begins.

@@ -12,11 +12,12 @@
 namespace lumora::detail {
 
 Playback::Playback(platform::SpeechSynthesizerFactory& speech, platform::AudioSession& audioSession,
-                   const platform::SettingsStore& settings, std::ostream& console)
-    : speech_{speech}, audioSession_{audioSession}, settings_{settings}, console_{console}
+                   std::ostream& console)
+    : speech_{speech}, audioSession_{audioSession}, console_{console}
 {}
 
-void Playback::play(const data::Conjugation& form, std::shared_ptr<CERoundProgressView> indicator,
+void Playback::play(const platform::Utterance& utterance,
+                    std::shared_ptr<CERoundProgressView> indicator,
                     platform::SpeechSynthesizerDelegate& delegate)
 {
     if (speechSynthesizer().isSpeaking()) {
@@ -25,7 +26,7 @@ void Playback::play(const data::Conjugation& form, std::shared_ptr<CERoundProgre
     currentAudioProgress = std::move(indicator);
     prepareAudioSession();
     speechSynthesizer().setDelegate(&delegate);
-    speechSynthesizer().speak(AudioUtils::utteranceFor(form, settings_));
+    speechSynthesizer().speak(utterance);
 }
 
 platform::SpeechSynthesizer& Playback::speechSynthesizer()

@@ -11,25 +11,20 @@
 #include <iosfwd>
 #include <memory>
 
-namespace lumora::data {
-struct Conjugation;
-}
-
 namespace lumora::platform {
 class AudioSession;
-class SettingsStore;
-} // namespace lumora::platform
+}
 
 namespace lumora::detail {
 
-/// Speaks one form at a time and moves the ring of its row with the voice.
+/// Speaks one row at a time and moves the ring of its row with the voice.
 ///
 /// The screen is the synthesizer's delegate and hands its calls on. GUI thread
 /// only; what the constructor takes must outlive the object.
 class Playback {
 public:
     Playback(platform::SpeechSynthesizerFactory& speech, platform::AudioSession& audioSession,
-             const platform::SettingsStore& settings, std::ostream& console);
+             std::ostream& console);
 
     /// Invalidates a timer. Nothing is ever scheduled: the speech alone moves
     /// the ring.
@@ -39,7 +34,7 @@ public:
 
     /// Cuts off what is being spoken. Speaks also where the audio session
     /// cannot be had; the console is told.
-    void play(const data::Conjugation& form, std::shared_ptr<CERoundProgressView> indicator,
+    void play(const platform::Utterance& utterance, std::shared_ptr<CERoundProgressView> indicator,
               platform::SpeechSynthesizerDelegate& delegate);
     void stop();
 
@@ -52,7 +47,6 @@ private:
 
     platform::SpeechSynthesizerFactory& speech_;
     platform::AudioSession& audioSession_;
-    const platform::SettingsStore& settings_;
     std::ostream& console_;
     /// Made on first use.
     std::unique_ptr<platform::SpeechSynthesizer> speechSynthesizer_;

@@ -6,6 +6,8 @@
 #include "data/favourite_statements.h"
 #include "data/tense_table.h"
 #include "data/verb_reader.h"
+#include "detail/audio_utils.h"
+#include "detail/row_sounds.h"
 #include "export/verb_export.h"
 #include "platform/machine/analytics.h"
 #include "platform/machine/bundle.h"
@@ -16,6 +18,7 @@
 #include "platform/screens/split_view_controller.h"
 #include "platform/screens/view_factory.h"
 #include "platform/storage/database_queue.h"
+#include "settings/view_memory.h"
 
 #include <algorithm>
 #include <ostream>
@@ -24,7 +27,7 @@
 namespace lumora::detail {
 
 VerbDetailTableViewController::VerbDetailTableViewController(const platform::Services& services)
-    : playback_{services.speech, services.audioSession, services.settings, services.console},
+    : playback_{services.speech, services.audioSession, services.console},
       tableView{services.views.makeTableView(*this)},
       collectionView{services.views.makeCollectionView(*this)},
       services_{services},
@@ -310,7 +313,22 @@ void VerbDetailTableViewController::play(const PlayableRow& row)
         return;
     }
     volumeWarning_.showIfDue(*this);
-    playback_.play(*row.form, row.indicator, *this);
+    playback_.play(AudioUtils::utteranceFor(*row.form, RowSounds{*selectedVerb, queue}, voice(),
+                                            services_.settings),
+                   row.indicator, *this);
+}
+
+platform::Voice VerbDetailTableViewController::voice() const
+{
+    return settings::ViewMemory{services_.viewMemory}.voice();
+}
+
+void VerbDetailTableViewController::chooseVoice(platform::Voice voice)
+{
+    if (const auto kept = settings::ViewMemory{services_.viewMemory}.setVoice(voice); !kept) {
+        services_.console << "Unable to keep the voice: " << kept.error().message << std::endl;
+    }
+    outletsChanged();
 }
 
 void VerbDetailTableViewController::willSpeakRange(std::size_t location, std::size_t /*length*/,

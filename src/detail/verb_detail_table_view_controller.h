@@ -85,6 +85,10 @@ public:
     /// The mood control's value changed to `segment`.
     void selectVerbTypes(int segment);
 
+    /// The one that speaks from the next row on, on every verb's screen.
+    platform::Voice voice() const;
+    void chooseVoice(platform::Voice voice);
+
     int numberOfSections() override;
     int numberOfRowsInSection(int section) override;
     std::optional<std::string> titleForHeaderInSection(int section) override;

@@ -89,6 +89,21 @@ std::vector<Token> tokensOf(std::string_view text, std::size_t begin, std::size_
     return tokens;
 }
 
+/// Endings in brackets are for the eye: "allé(e)".
+std::string withoutBrackets(std::string_view form)
+{
+    std::string text;
+    bool inside = false;
+    for (const char c : form) {
+        inside |= c == '(';
+        if (!inside) {
+            text += c;
+        }
+        inside &= c != ')';
+    }
+    return text;
+}
+
 /// By the letters, as grammar has it: y is a vowel before a consonant alone.
 bool beginsWithVowel(const Letters& word)
 {
@@ -159,7 +174,7 @@ private:
 
     Said said(std::size_t index) const
     {
-        const auto text = tokens_[index].text;
+        const auto text = withoutBrackets(tokens_[index].text);
         if (const auto* particle = particleNamed(text); index != verb_ && particle != nullptr) {
             return {std::string(particle->ipa), particle->liaison};
         }
@@ -227,20 +242,6 @@ std::string pronounBefore(std::string_view variant, std::string pronoun, bool as
         pronoun.back() = '\'';
     }
     return text::beforeForm(pronoun);
-}
-
-std::string withoutBrackets(std::string_view form)
-{
-    std::string text;
-    bool inside = false;
-    for (const char c : form) {
-        inside |= c == '(';
-        if (!inside) {
-            text += c;
-        }
-        inside &= c != ')';
-    }
-    return text;
 }
 
 std::string joined(const std::vector<SpokenWord>& words, std::string_view text)

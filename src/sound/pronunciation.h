@@ -38,7 +38,8 @@ struct SpokenWord {
 
 /// The words of a row that was made one text, as it is read aloud: "il ou elle
 /// ou on va", "j'ai parlé", "méfiez-vous". Words end at spaces and hyphens, and
-/// after apostrophes. Double forms are parted by ", ".
+/// after apostrophes. Double forms are parted by ", ". Endings in brackets, as
+/// in "allé(e)", belong to their word and are not said.
 ///
 /// Only tense, aspirated and infinitive of the row count. Empty where the tense
 /// is not known.

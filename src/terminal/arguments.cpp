@@ -33,7 +33,7 @@ On a terminal the output is in columns, in a pipe it has tabs between fields.
 )help";
 
 constexpr const char* kConjugateHelp =
-    R"help(Usage: lumora-cli conjugate [--stems] [--language CODE] VERB|-
+    R"help(Usage: lumora-cli conjugate [--stems] [--ipa] [--language CODE] VERB|-
 
 Print every mood and tense of a verb.
 
@@ -43,8 +43,9 @@ the verbs are read from standard input, one a line.
 
 Options:
   --stems            put "|" before the ending of each simple form
+  --ipa              add how each row is said, in IPA
 
-In a pipe each line holds verb, mood, tense, pronoun and form.
+In a pipe each line holds verb, mood, tense, pronoun and form, then the IPA.
 )help";
 
 constexpr const char* kAboutHelp =
@@ -134,6 +135,11 @@ constexpr std::pair<std::string_view, bool Arguments::*> kSearchOptions[] = {
     {"--translations", &Arguments::translations},
 };
 
+constexpr std::pair<std::string_view, bool Arguments::*> kConjugateOptions[] = {
+    {"--stems", &Arguments::stems},
+    {"--ipa", &Arguments::ipa},
+};
+
 constexpr std::pair<std::string_view, Format> kFormats[] = {
     {"--html", Format::Html},
     {"--text", Format::Text},
@@ -188,8 +194,9 @@ platform::Result<void> setOption(Arguments& arguments, std::string_view word)
         arguments.*option->second = true;
         return {};
     }
-    if (word == "--stems" && arguments.command == Command::Conjugate) {
-        arguments.stems = true;
+    const auto* const addition = lookUp(kConjugateOptions, word);
+    if (addition != std::end(kConjugateOptions) && arguments.command == Command::Conjugate) {
+        arguments.*addition->second = true;
         return {};
     }
     const auto* const format = lookUp(kFormats, word);

@@ -22,6 +22,7 @@ struct Arguments {
     /// Read the verbs from standard input, one a line, instead.
     bool verbsFromInput = false;
     bool stems = false;
+    bool ipa = false;
     bool anywhere = false;
     bool conjugations = false;
     bool translations = false;

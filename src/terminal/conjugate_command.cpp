@@ -3,6 +3,7 @@
 
 #include "data/form_parts.h"
 #include "data/tense_table.h"
+#include "detail/row_sounds.h"
 #include "terminal/arguments.h"
 #include "terminal/commands.h"
 #include "terminal/loaded_verbs.h"
@@ -25,14 +26,20 @@ namespace {
 TextBlock tenseBlock(const std::string& title, const std::vector<TextRow>& rows)
 {
     std::size_t leadWidth = 0;
+    std::size_t formWidth = 0;
     for (const auto& row : rows) {
         leadWidth = std::max(leadWidth, text::columns(text::beforeForm(row.text)));
+        formWidth = std::max(formWidth, text::columns(row.detailText));
     }
     TextBlock block{title};
     for (const auto& row : rows) {
         const auto before = text::beforeForm(row.text);
         block.push_back(std::string(leadWidth - text::columns(before), ' ') + before +
                         row.detailText);
+        if (row.ipa) {
+            const auto gap = formWidth - text::columns(row.detailText) + 2;
+            block.back() += std::string(gap, ' ') + *row.ipa;
+        }
     }
     return block;
 }
@@ -52,10 +59,16 @@ std::string marked(const data::Conjugation& row, const data::FormDivisions& divi
     return text;
 }
 
-/// Puts the marks into the rows of a mood, whose tenses follow a section with the
-/// translation.
-void mark(std::vector<TextSection>& sections, const data::Verb& verb, int mood,
-          const data::FormDivisions& divisions)
+/// What is wanted of each row besides itself.
+struct Additions {
+    std::optional<data::FormDivisions> divisions;
+    std::optional<detail::RowSounds> sounds;
+};
+
+/// Puts the additions into the rows of a mood, whose tenses follow a section with
+/// the translation.
+void add(const Additions& additions, std::vector<TextSection>& sections, const data::Verb& verb,
+         int mood)
 {
     std::size_t section = 1;
     for (const auto& block : data::blocksOfSegment(mood)) {
@@ -65,7 +78,12 @@ void mark(std::vector<TextSection>& sections, const data::Verb& verb, int mood,
         const auto& forms = verb.*block.tense.forms;
         auto& rows = sections[section++].rows;
         for (std::size_t row = 0; row < std::min(rows.size(), forms.size()); ++row) {
-            rows[row].detailText = marked(*forms[row], divisions);
+            if (additions.sounds) {
+                rows[row].ipa = additions.sounds->ipa(*forms[row]);
+            }
+            if (additions.divisions) {
+                rows[row].detailText = marked(*forms[row], *additions.divisions);
+            }
         }
     }
 }
@@ -86,7 +104,7 @@ std::size_t printMood(const std::string& verb, const std::string& mood,
         for (const auto& row : tense.rows) {
             if (!output.isTerminal()) {
                 output.stream << verb << '\t' << mood << '\t' << *tense.title << '\t' << row.text
-                              << '\t' << row.detailText << '\n';
+                              << '\t' << row.detailText << (row.ipa ? "\t" + *row.ipa : "") << '\n';
             }
         }
     }
@@ -97,8 +115,7 @@ std::size_t printMood(const std::string& verb, const std::string& mood,
     return printed;
 }
 
-void printVerb(Screen& screen, const std::optional<data::FormDivisions>& divisions,
-               const Output& output)
+void printVerb(Screen& screen, const Additions& additions, const Output& output)
 {
     if (output.isTerminal()) {
         output.stream << screen.header().title << "\n\n";
@@ -110,9 +127,7 @@ void printVerb(Screen& screen, const std::optional<data::FormDivisions>& divisio
         const int segment = static_cast<int>(mood);
         screen.selectVerbTypes(segment);
         auto sections = TerminalTableView::of(*screen.tableView).sections();
-        if (divisions) {
-            mark(sections, verb, segment, *divisions);
-        }
+        add(additions, sections, verb, segment);
         printed += printMood(verb.french, moods[mood], sections, output);
     }
     if (printed == 0) {
@@ -124,7 +139,7 @@ void printVerb(Screen& screen, const std::optional<data::FormDivisions>& divisio
 class Printer {
 public:
     Printer(Session& session, const Arguments& arguments, const Output& output)
-        : session_(session), stems_(arguments.stems), output_(output)
+        : session_(session), arguments_(arguments), output_(output)
     {}
 
     platform::Result<void> print(const std::vector<data::VerbPtr>& verbs)
@@ -134,12 +149,12 @@ public:
             if (!screen) {
                 return tl::unexpected(screen.error());
             }
-            const auto divisions = divisionsOf(*verb);
-            if (!divisions) {
-                return tl::unexpected(divisions.error());
+            const auto additions = additionsTo(*verb);
+            if (!additions) {
+                return tl::unexpected(additions.error());
             }
             std::ostringstream text;
-            printVerb(**screen, *divisions, {text, output_.errors, output_.width});
+            printVerb(**screen, *additions, {text, output_.errors, output_.width});
             // An empty line parts verbs in a pipe: homographs have the same name.
             if (!text.str().empty()) {
                 const bool first = std::exchange(first_, false);
@@ -150,21 +165,27 @@ public:
     }
 
 private:
-    platform::Result<std::optional<data::FormDivisions>> divisionsOf(const data::Verb& verb)
+    platform::Result<Additions> additionsTo(const data::Verb& verb)
     {
-        if (!stems_) {
-            return std::nullopt;
+        Additions additions;
+        if (arguments_.ipa) {
+            additions.sounds.emplace(verb, &session_.queue());
+        }
+        if (!arguments_.stems) {
+            return additions;
         }
         platform::Result<data::FormDivisions> read;
         session_.queue().inDatabase([&](platform::Database& database) {
             read = data::readFormDivisions(database, verb.id);
         });
-        return read.map(
-            [](const data::FormDivisions& divisions) { return std::optional{divisions}; });
+        return read.map([&](data::FormDivisions& divisions) {
+            additions.divisions = std::move(divisions);
+            return std::move(additions);
+        });
     }
 
     Session& session_;
-    bool stems_;
+    const Arguments& arguments_;
     const Output& output_;
     bool first_ = true;
 };

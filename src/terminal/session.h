@@ -43,6 +43,7 @@ public:
 private:
     platform::NotificationCenter notifications_;
     platform::MemorySettingsStore settings_;
+    platform::MemorySettingsStore viewMemory_;
     qt::QtBundle bundle_;
     qt::QtDevice device_;
     qt::QtClock clock_;

@@ -14,6 +14,8 @@ namespace lumora::terminal {
 struct TextRow {
     std::string text;
     std::string detailText;
+    /// How it is said, where that is wanted.
+    std::optional<std::string> ipa{};
 };
 
 struct TextSection {

@@ -30,9 +30,10 @@ protected:
     {
         return world.speech.synthesizers.empty() ? 0 : world.speech.synthesizers[0]->spoken.size();
     }
-    void say(const std::string& pronoun, const std::string& form)
+    void say(const std::string& pronoun, const std::string& form, const std::string& type = {})
     {
         auto row = std::make_shared<data::Conjugation>();
+        row->type = type;
         row->pronoun = pronoun;
         row->verb = form;
         detail.selectedVerb->indicatifPresent = {row};
@@ -81,6 +82,58 @@ TEST_F(Pronunciation, SpeaksThePronounWithTheForm)
         EXPECT_EQ(voice().spoken.back().language, "fr");
     }
     EXPECT_EQ(world.speech.synthesizers.size(), 1U) << "one synthesizer for the screen";
+}
+
+TEST_F(Pronunciation, TheWordsCarryTheirSounds)
+{
+    world.execute("INSERT INTO verb_facts VALUES(4, 2, 'haïr', NULL, 'avoir', "
+                  "'defective,aspirated', '', 2, 1)");
+    const struct {
+        std::int64_t verb;
+        const char* pronoun;
+        const char* form;
+        const char* type;
+        const char* words;
+        const char* why;
+    } cases[] = {
+        {3, "il/elle/on", "va", "indicatifPresent",
+         "0+2 il, 3+2 u, 6+4 ɛl, 11+2 u, 14+2 ɔ̃, 17+2 va", "every pronoun"},
+        {3, "nous", "sommes allé(e)s", "indicatifPasseCompose", "0+4 nu, 5+6 sɔmz, 12+8 ale",
+         "endings in brackets, counted in characters"},
+        {3, "j'", "étais allé(e)", "indicatifPlusQueParfait", "0+2 ʒ, 2+5 etɛ, 8+7 ale",
+         "an elided pronoun"},
+        {3, "", "allant", "participe", "1+6 alɑ̃", "no pronoun"},
+        {4, "nous", "haïssons", "indicatifPresent", "0+4 nu, 5+8 aisɔ̃", "no liaison"},
+        {3, "nous", "haïssons", "indicatifPresent", "0+4 nuz, 5+8 aisɔ̃", "no such trait"},
+        {3, "je", "vais", "a later tense", "", "read from the text"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        detail.selectedVerb->id = c.verb;
+        say(c.pronoun, c.form, c.type);
+        std::string words;
+        for (const auto& word : voice().spoken.back().words) {
+            words += (words.empty() ? "" : ", ") + std::to_string(word.location) + "+" +
+                     std::to_string(word.length) + " " + word.ipa;
+        }
+        EXPECT_EQ(words, c.words);
+    }
+}
+
+TEST_F(Pronunciation, TheChosenVoiceSpeaksFromTheNextRowOn)
+{
+    int redrawn = 0;
+    detail.setOutletListener([&] { ++redrawn; });
+    say("je", "vais");
+    detail.chooseVoice(platform::Voice::Man);
+    say("je", "vais");
+
+    EXPECT_EQ(voice().spoken.front().voice, platform::Voice::Woman);
+    EXPECT_EQ(voice().spoken.back().voice, platform::Voice::Man);
+    EXPECT_EQ(redrawn, 1);
+    EXPECT_EQ(world.viewMemory.flushes, 1);
+    const VerbDetailTableViewController next{world.services()};
+    EXPECT_EQ(next.voice(), platform::Voice::Man);
 }
 
 TEST_F(Pronunciation, TheSettingIsAFactorOnTheDefaultRate)

@@ -76,7 +76,7 @@ platform::Services World::services()
     return {notifications,  settings,  bundle,       device,        clock,
             crashReporter,  analytics, console,      views,         presenter,
             storyboard,     speech,    audioSession, *scriptEngine, shareSheet,
-            reviewPrompter, mail,      urlOpener,    fileChooser};
+            reviewPrompter, mail,      urlOpener,    fileChooser,   viewMemory};
 }
 
 void World::execute(const std::string& sql) const

@@ -85,6 +85,7 @@ public:
     /// How often each notification was posted.
     std::map<std::string, int> posted;
     FlushedSettingsStore settings;
+    FlushedSettingsStore viewMemory;
     FakeBundle bundle;
     FakeDevice device;
     FakeClock clock;

@@ -85,6 +85,10 @@ TEST_F(TerminalTest, TellsWhatTheTablesKnow)
     EXPECT_THAT(stems.out, HasSubstr("\tnous\taimio|ns\n"));
     EXPECT_THAT(stems.out, HasSubstr("\t\tform of aimer\n"));
     EXPECT_THAT(program.run({"conjugate", "--stems", "aller"}).out, HasSubstr("\tje\tvais\n"));
+
+    const auto both = program.run({"conjugate", "--stems", "--ipa", "aimer"});
+    EXPECT_THAT(both.out, HasSubstr("\tj'\taim|e, ayme\tʒɛm, ʒɛm\n"));
+    EXPECT_THAT(both.out, HasSubstr("\tnous\taimo|ns\tnuz‿emɔ̃\n"));
 }
 
 TEST_F(TerminalTest, ConjugatesTheVerbsOfStandardInput)

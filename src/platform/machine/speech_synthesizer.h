@@ -6,11 +6,22 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace lumora::platform {
 
 /// Words a minute.
 inline constexpr float kDefaultSpeechRate = 175;
+
+enum class Voice { Woman, Man };
+
+/// How a word of an utterance sounds.
+struct PronouncedWord {
+    /// Where it is in the text, in characters.
+    std::size_t location = 0;
+    std::size_t length = 0;
+    std::string ipa;
+};
 
 /// A text to speak, in the voice of a language.
 struct Utterance {
@@ -19,6 +30,10 @@ struct Utterance {
     std::string language;
     /// Words a minute.
     float rate = kDefaultSpeechRate;
+    /// In the order of the text, apart. Words of the text that are not among them
+    /// are said as the language's rules of reading have it.
+    std::vector<PronouncedWord> words{};
+    Voice voice = Voice::Woman;
 };
 
 /// Hears how an utterance gets on, on the GUI thread. May speak and stop from

@@ -49,6 +49,8 @@ struct Services {
     MailService& mail;
     UrlOpener& urlOpener;
     FileChooser& fileChooser;
+    /// What settings::ViewMemory keeps.
+    SettingsStore& viewMemory;
 };
 
 } // namespace lumora::platform

@@ -42,6 +42,7 @@ void registerInterface()
 Application::Application(ApplicationOptions options)
     : options_{std::move(options)},
       settings_{options_.folders.config / "settings.json"},
+      viewMemory_{options_.folders.config / "view.json"},
       crashReporter_{options_.folders.state},
       analytics_{options_.folders.state, clock_},
       bundle_{options_.shareFolder},
@@ -52,10 +53,10 @@ Application::Application(ApplicationOptions options)
       fileChooser_{presenter_, options_.desktop},
       shareSheet_{presenter_, mail_, fileChooser_, options_.desktop},
       settingsPortal_{options_.desktop.bus},
-      services_{notifications_,  settings_,  bundle_,       device_,     clock_,
-                crashReporter_,  analytics_, std::cout,     views_,      presenter_,
-                storyboard_,     speech_,    audioSession_, scripts_,    shareSheet_,
-                reviewPrompter_, mail_,      urlOpener_,    fileChooser_},
+      services_{notifications_,  settings_,  bundle_,       device_,      clock_,
+                crashReporter_,  analytics_, std::cout,     views_,       presenter_,
+                storyboard_,     speech_,    audioSession_, scripts_,     shareSheet_,
+                reviewPrompter_, mail_,      urlOpener_,    fileChooser_, viewMemory_},
       delegate_{services_, {options_.folders.data, options_.folders.data.string()}, kAccentPrimary}
 {
     storyboard_.setServices(services_);

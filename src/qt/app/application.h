@@ -93,6 +93,7 @@ private:
 
     ApplicationOptions options_;
     platform::FileSettingsStore settings_;
+    platform::FileSettingsStore viewMemory_;
     platform::CrashReportLog crashReporter_;
     QtClock clock_;
     platform::LocalAnalytics analytics_;

@@ -30,6 +30,8 @@ class VerbDetailScreen final : public Screen {
     Q_PROPERTY(QColor selectBorder READ selectBorder CONSTANT)
     Q_PROPERTY(double selectRadius READ selectRadius CONSTANT)
     Q_PROPERTY(double selectBorderWidth READ selectBorderWidth CONSTANT)
+    // The woman's 0, the man's 1.
+    Q_PROPERTY(int voice READ voice NOTIFY outletsChanged)
     // Where the person has scrolled to, from one page to the next.
     Q_PROPERTY(int topTense MEMBER topTense_ NOTIFY topTenseChanged)
 
@@ -51,6 +53,12 @@ public:
     double selectRadius() const { return detail_->selectVerbLabel.cornerRadius; }
     double selectBorderWidth() const { return detail_->selectVerbLabel.borderWidth; }
 
+    int voice() const { return static_cast<int>(detail_->voice()); }
+
+    Q_INVOKABLE void chooseVoice(int voice)
+    {
+        detail_->chooseVoice(static_cast<platform::Voice>(voice));
+    }
     Q_INVOKABLE void selectMood(int segment) { detail_->selectVerbTypes(segment); }
     /// The page is about to draw the collection.
     Q_INVOKABLE void prepareCollection() const { collection()->loadIfNeeded(); }

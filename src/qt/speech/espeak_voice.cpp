@@ -25,6 +25,12 @@ constexpr float kSlowestOfEngine = espeakRATE_MINIMUM;
 constexpr float kFastestRate = espeakRATE_MAXIMUM;
 constexpr auto kUsualRate = static_cast<int>(platform::kDefaultSpeechRate);
 
+/// The engine's variants of a voice.
+constexpr const char* kWoman = "+f2";
+constexpr const char* kMan = "+m3";
+/// How far the pitch goes, up to 100; the engine's own 50 sounds flat.
+constexpr int kLivelyRange = 85;
+
 std::mutex& libraryLock()
 {
     static std::mutex lock;
@@ -75,8 +81,9 @@ platform::Result<Speech> speakAtRate(const SpokenText& text, int wordsAMinute, i
     Recording recording{text, cancelled, {sampleRate, {}, {}}};
     espeak_SetSynthCallback(&onSamples);
     espeak_SetParameter(espeakRATE, wordsAMinute, 0);
+    const unsigned flags = espeakCHARS_UTF8 | (text.hasPhonemes() ? espeakPHONEMES : 0U);
     const auto done = espeak_Synth(text.text().c_str(), text.text().size() + 1, 0, POS_CHARACTER, 0,
-                                   espeakCHARS_UTF8, nullptr, &recording);
+                                   flags, nullptr, &recording);
     if (cancelled) {
         return tl::unexpected{platform::Error{"Cancelled", 0}};
     }
@@ -106,10 +113,13 @@ platform::Result<Speech> EspeakVoice::synthesize(const platform::Utterance& utte
         return tl::unexpected{platform::Error{"The engine's data are missing", sampleRate_}};
     }
     const std::scoped_lock lock{libraryLock()};
-    if (const auto chosen = espeak_SetVoiceByName(utterance.language.c_str()); chosen != EE_OK) {
+    const auto* const variant = utterance.voice == platform::Voice::Man ? kMan : kWoman;
+    if (const auto chosen = espeak_SetVoiceByName((utterance.language + variant).c_str());
+        chosen != EE_OK) {
         return tl::unexpected{platform::Error{"No voice speaks " + utterance.language, chosen}};
     }
-    const SpokenText text{utterance.text};
+    espeak_SetParameter(espeakRANGE, kLivelyRange, 0);
+    const SpokenText text{utterance};
     const float rate = std::clamp(utterance.rate, kSlowestRate, kFastestRate);
     const auto nearest = static_cast<int>(std::lround(std::max(rate, kSlowestOfEngine)));
     auto speech = speakAtRate(text, nearest, sampleRate_, cancelled);

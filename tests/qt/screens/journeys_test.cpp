@@ -3,6 +3,8 @@
 
 #include "support/window_fixture.h"
 
+#include <gmock/gmock.h>
+
 namespace lumora::qt {
 namespace {
 
@@ -83,6 +85,22 @@ TEST_F(Journey, FindAVerbStarItAndSeeItAmongTheFavourites)
     ASSERT_TRUE(until([&] { return verbs() == QStringList{"être"}; }));
     touch("être", "bar.favourite", "backButton", "searchClear", "tab1");
     EXPECT_TRUE(until([&] { return verbs() == QStringList{"être"}; }));
+}
+
+TEST_F(Journey, ChooseTheVoiceInTheMenuOfAVerb)
+{
+    start(kPhone);
+    touch("aller", "bar.more", "voice1");
+    ASSERT_TRUE(until([&] { return find("verbMenu") == nullptr && find("voice1") == nullptr; }));
+    const auto file = folder / "config" / "view.json";
+    EXPECT_THAT(support::contentOf(file), testing::HasSubstr("man\""));
+
+    touch("backButton", "être", "bar.more");
+    ASSERT_TRUE(settled("voice1"));
+    EXPECT_TRUE(find("voice1")->property("checked").toBool());
+    keys("Up, Return");
+    EXPECT_TRUE(until([&] { return find("voice0") == nullptr; }));
+    EXPECT_THAT(support::contentOf(file), testing::HasSubstr("woman\""));
 }
 
 TEST_F(Journey, ClearTheHistorySwitchItOffAndItsTabGoes)

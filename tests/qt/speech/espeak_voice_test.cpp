@@ -3,12 +3,15 @@
 
 #include "qt/speech/espeak_voice.h"
 
+#include "qt/speech/espeak_phonemes.h"
 #include "qt/speech/spoken_text.h"
 #include "qt/speech/time_stretch.h"
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
 #include <numbers>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -71,8 +74,103 @@ TEST(SpokenText, LeavesOutBracketedEndings)
         {"", "", "nothing"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(SpokenText{c.written}.text(), c.spoken) << c.why;
+        EXPECT_EQ(SpokenText({c.written, "fr"}).text(), c.spoken) << c.why;
     }
+}
+
+/// With the sounds of words, such as "0+2 ʒə, 3+4 pɛ".
+platform::Utterance pronounced(const std::string& text, const std::string& words)
+{
+    platform::Utterance utterance{text, "fr"};
+    std::istringstream input{words};
+    platform::PronouncedWord word;
+    for (char sign = 0; input >> word.location >> sign >> word.length >> word.ipa;) {
+        if (word.ipa.back() == ',') {
+            word.ipa.pop_back();
+        }
+        utterance.words.push_back(word);
+    }
+    return utterance;
+}
+
+TEST(EspeakVoice, IsHandedPhonemesAndAnswersWithThePlacesOfTheWords)
+{
+    struct Case {
+        const char* text;
+        const char* words;
+        const char* handed;
+        Ranges places;
+        const char* why;
+    };
+    const Case cases[] = {
+        {"il ou elle ou on va",
+         "0+2 il, 3+2 u, 6+4 ɛl, 11+2 u, 14+2 ɔ̃, 17+2 va",
+         "[[il]] [[u]] [[El]] [[u]] [[O~]] [[v'a]]",
+         {{0, 2}, {3, 2}, {6, 4}, {11, 2}, {14, 2}, {17, 2}},
+         "short words are stressed at the end alone"},
+        {"nous avons été allé(e)s",
+         "0+4 nuz, 5+5 avɔ̃z, 11+3 ete, 15+8 ale",
+         "[[nuz]] [[av'O~z]] [[et'e]] [[al'e]]",
+         {{0, 4}, {5, 5}, {11, 3}, {15, 8}},
+         "characters and brackets"},
+        {"j'aime", "0+2 ʒ, 2+4 ɛm", "[[Z'Em]]", {{0, 6}}, "one word in the mouth"},
+        {"méfiez-vous", "0+6 mefje, 6+5 vu", "[[mefjev'u]]", {{0, 11}}, "and with a hyphen"},
+        {" va", "1+2 va", " [[v'a]]", {{1, 2}}, "a space leads"},
+        {"je paie, paye",
+         "0+2 ʒə, 3+4 pɛ, 9+4 pɛj",
+         "[[Z@-]] [[p'E]], [[p'Ej]]",
+         {{0, 2}, {3, 4}, {9, 4}},
+         "each of a double form is stressed"},
+        {"que je suis",
+         "0+3 kə, 4+2 ʒə, 7+4 sɥi",
+         "[[k@-]] [[Z@-]] [[sy-'i]]",
+         {{0, 3}, {4, 2}, {7, 4}},
+         "a glide"},
+        {"tu ħas été",
+         "0+2 ty, 3+3 ħa, 7+3 ete",
+         "[[ty]] ħas [[et'e]]",
+         {{0, 2}, {3, 3}, {7, 3}},
+         "a sound that the voice lacks"},
+        {"été (e) là", "0+3 ete", "[[et'e]] (e) là", {{0, 3}, {5, 1}, {8, 2}}, "a text follows"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        auto utterance = pronounced(c.text, c.words);
+        std::vector<std::int16_t> heard;
+        EXPECT_EQ(SpokenText{utterance}.text(), c.handed);
+        for (const auto voice : {platform::Voice::Woman, platform::Voice::Man}) {
+            utterance.voice = voice;
+            const std::atomic<bool> cancelled = false;
+            const auto speech = EspeakVoice{}.synthesize(utterance, cancelled);
+            ASSERT_TRUE(speech);
+            EXPECT_EQ(rangesOf(*speech), c.places);
+            EXPECT_NE(std::exchange(heard, speech->samples), speech->samples);
+        }
+    }
+}
+
+TEST(EspeakPhonemes, NameEverySoundOfTheRulesOfPronunciation)
+{
+    std::ifstream rows{LUMORA_ROWS};
+    std::size_t count = 0;
+    for (std::string line; std::getline(rows, line);) {
+        std::istringstream fields{line};
+        std::string field;
+        for (int column = 0; column < 4 && std::getline(fields, field, '\t'); ++column) {
+        }
+        for (const char* sign : {" ", ",", "‿"}) {
+            for (auto at = field.find(sign); at != std::string::npos; at = field.find(sign)) {
+                field.erase(at, std::string{sign}.size());
+            }
+        }
+        if (!line.starts_with('#') && !line.starts_with("tense\t")) {
+            EXPECT_TRUE(espeakPhonemes(field, true)) << field;
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 200U);
+    EXPECT_EQ(espeakPhonemes("", true), std::nullopt);
+    EXPECT_EQ(espeakPhonemes("ʁə", true), "r@-") << "nothing to stress";
 }
 
 TEST(EspeakVoice, ReportsEachWordWhereItIsWritten)

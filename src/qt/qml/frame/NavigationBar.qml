@@ -13,6 +13,8 @@ Rectangle {
     property bool canGoBack: false
     property bool wide: false
     property bool hasButtons: true
+    // The last of its buttons, where a page has more to offer than its screen.
+    property Component menu: null
     property real cornerRadius: 0
 
     signal backRequested
@@ -86,6 +88,10 @@ Rectangle {
             ScreenBarButton {
                 screen: root.screen
             }
+        }
+        Loader {
+            visible: sourceComponent !== null
+            sourceComponent: root.menu
         }
     }
 }

@@ -17,6 +17,8 @@ FocusScope {
     property real cornerRadius: StackView.view?.cornerRadius ?? 0
     // Shown small, for a look only.
     property bool preview: false
+    // Of the bar, beside the screen's buttons.
+    property Component barMenu: null
     default property alias content: area.data
 
     signal backRequested
@@ -35,6 +37,7 @@ FocusScope {
         canGoBack: root.canGoBack
         wide: root.wide
         hasButtons: !root.preview
+        menu: root.preview ? null : root.barMenu
         cornerRadius: root.cornerRadius
         onBackRequested: root.backRequested()
     }

@@ -11,6 +11,8 @@ ScreenPage {
 
     readonly property VerbDetailScreen verb: screen
 
+    barMenu: verb.selectTextHidden ? menu : null
+
     MoodBar {
         id: moods
         width: parent.width
@@ -49,6 +51,13 @@ ScreenPage {
         }
     }
 
+    Component {
+        id: menu
+
+        VerbMenuButton {
+            screen: root.verb
+        }
+    }
     Component {
         id: table
 

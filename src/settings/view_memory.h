@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/base/error.h"
+#include "platform/machine/speech_synthesizer.h"
+
+namespace lumora::platform {
+class SettingsStore;
+}
+
+namespace lumora::settings {
+
+/// What the program remembers of how a person likes its screens, in a file
+/// beside the settings, whose keys belong to the options screen. What is
+/// missing or of no known value reads as at the first start.
+class ViewMemory {
+public:
+    /// The store of that file. Not owned.
+    explicit ViewMemory(platform::SettingsStore& store) : store_(store) {}
+
+    /// The woman's at first.
+    platform::Voice voice() const;
+    /// Written at once; an error when the file cannot be written.
+    platform::Result<void> setVoice(platform::Voice voice);
+
+private:
+    platform::SettingsStore& store_;
+};
+
+} // namespace lumora::settings
