@@ -21,7 +21,7 @@
 namespace lumora::bench {
 namespace {
 
-using support::WindowDriver;
+using qt::WindowDriver;
 
 constexpr const char* kFormsStatement =
     "SELECT _id, pronoun, verb, type, conj_order as pid FROM conjugation WHERE verbid = ? AND "

@@ -19,7 +19,7 @@
 namespace lumora::bench {
 namespace {
 
-using support::WindowDriver;
+using qt::WindowDriver;
 
 constexpr const char* kEmptyFrame = "--first-frame-of-an-empty-window";
 constexpr const char* kFrame = "--first-frame";

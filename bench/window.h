@@ -4,7 +4,7 @@
 #pragma once
 
 #include "qt/app/application.h"
-#include "support/window_driver.h"
+#include "qt/tour/window_driver.h"
 
 #include <QQmlApplicationEngine>
 #include <QSize>

@@ -4,18 +4,19 @@
 #include "fault/fault_harness.h"
 
 #include <algorithm>
-#include <array>
+#include <cerrno>
 #include <csignal>
-#include <fstream>
-#include <map>
+#include <cstring>
+#include <new>
 #include <stdexcept>
+#include <string_view>
 #include <system_error>
+#include <type_traits>
 #include <utility>
 
-#include <fcntl.h>
-#include <sys/ptrace.h>
-#include <sys/syscall.h>
-#include <sys/user.h>
+#include <dirent.h>
+#include <dlfcn.h>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -23,277 +24,164 @@ namespace lumora::fault {
 
 namespace {
 
-using Registers = user_regs_struct;
-
-constexpr int kNone = -1;
-constexpr int kSyscallStop = SIGTRAP | 0x80;
-
-/// Where a system call names files.
-struct Call {
-    const char* name;
-    int path = kNone;
-    /// Of the folder that the path starts from, or of the file.
-    int descriptor = kNone;
-    bool writes = false;
-    int secondPath = kNone;
-    int secondDescriptor = kNone;
+/// What a run and who waits for it both see.
+struct Report {
+    std::size_t calls = 0;
+    char met[512] = "";
 };
 
-const std::map<long, Call>& calls()
-{
-    static const std::map<long, Call> kCalls{
-        {SYS_open, {"open", 0, kNone, true}},
-        {SYS_openat, {"openat", 1, 0, true}},
-        {SYS_creat, {"creat", 0, kNone, true}},
-        {SYS_stat, {"stat", 0}},
-        {SYS_lstat, {"lstat", 0}},
-        {SYS_newfstatat, {"newfstatat", 1, 0}},
-        {SYS_statx, {"statx", 1, 0}},
-        {SYS_access, {"access", 0}},
-        {SYS_faccessat, {"faccessat", 1, 0}},
-        {SYS_faccessat2, {"faccessat2", 1, 0}},
-        {SYS_readlink, {"readlink", 0}},
-        {SYS_readlinkat, {"readlinkat", 1, 0}},
-        {SYS_mkdir, {"mkdir", 0, kNone, true}},
-        {SYS_mkdirat, {"mkdirat", 1, 0, true}},
-        {SYS_rmdir, {"rmdir", 0}},
-        {SYS_unlink, {"unlink", 0}},
-        {SYS_unlinkat, {"unlinkat", 1, 0}},
-        {SYS_rename, {"rename", 0, kNone, true, 1}},
-        {SYS_renameat, {"renameat", 1, 0, true, 3, 2}},
-        {SYS_renameat2, {"renameat2", 1, 0, true, 3, 2}},
-        {SYS_link, {"link", 0, kNone, true, 1}},
-        {SYS_symlink, {"symlink", 1, kNone, true}},
-        {SYS_chmod, {"chmod", 0}},
-        {SYS_fchmodat, {"fchmodat", 1, 0}},
-        {SYS_chown, {"chown", 0}},
-        {SYS_truncate, {"truncate", 0, kNone, true}},
-        {SYS_statfs, {"statfs", 0}},
-        {SYS_read, {"read", kNone, 0}},
-        {SYS_readv, {"readv", kNone, 0}},
-        {SYS_pread64, {"pread64", kNone, 0}},
-        {SYS_write, {"write", kNone, 0, true}},
-        {SYS_writev, {"writev", kNone, 0, true}},
-        {SYS_pwrite64, {"pwrite64", kNone, 0, true}},
-        {SYS_copy_file_range, {"copy_file_range", kNone, 0, true, kNone, 2}},
-        {SYS_sendfile, {"sendfile", kNone, 0, true, kNone, 1}},
-        {SYS_fsync, {"fsync", kNone, 0, true}},
-        {SYS_fdatasync, {"fdatasync", kNone, 0, true}},
-        {SYS_ftruncate, {"ftruncate", kNone, 0, true}},
-        {SYS_fallocate, {"fallocate", kNone, 0, true}},
-        {SYS_fchmod, {"fchmod", kNone, 0}},
-        {SYS_fchown, {"fchown", kNone, 0}},
-        {SYS_fstat, {"fstat", kNone, 0}},
-        {SYS_fstatfs, {"fstatfs", kNone, 0}},
-        {SYS_lseek, {"lseek", kNone, 0}},
-        {SYS_fcntl, {"fcntl", kNone, 0}},
-        {SYS_flock, {"flock", kNone, 0}},
-        {SYS_ioctl, {"ioctl", kNone, 0}},
-        {SYS_getdents64, {"getdents64", kNone, 0}},
-        {SYS_mmap, {"mmap", kNone, 4}},
-        {SYS_close, {"close", kNone, 0}},
-    };
-    return kCalls;
-}
-
-long argument(const Registers& registers, int place)
-{
-    const std::array values{registers.rdi, registers.rsi, registers.rdx,
-                            registers.r10, registers.r8,  registers.r9};
-    return static_cast<long>(values.at(static_cast<std::size_t>(place)));
-}
-
-std::string linkTarget(const std::string& link)
-{
-    std::error_code gone;
-    return std::filesystem::read_symlink(link, gone).string();
-}
-
-std::string readText(pid_t process, long address)
-{
-    std::ifstream memory{"/proc/" + std::to_string(process) + "/mem", std::ios::binary};
-    std::string text;
-    std::getline(memory.seekg(address), text, '\0');
-    return text;
-}
-
-/// The absolute path of a file that a call names by path, descriptor or both.
-std::string pathOf(pid_t process, const Registers& registers, int path, int descriptor)
-{
-    const std::string links = "/proc/" + std::to_string(process);
-    auto text = path == kNone ? std::string{} : readText(process, argument(registers, path));
-    if (text.starts_with('/')) {
-        return text;
-    }
-    const int number =
-        descriptor == kNone ? AT_FDCWD : static_cast<int>(argument(registers, descriptor));
-    const auto folder =
-        linkTarget(number == AT_FDCWD ? links + "/cwd" : links + "/fd/" + std::to_string(number));
-    return text.empty() ? folder : folder + '/' + text;
-}
-
-/// A process that stops at every system call. Killed at the end of the scope
-/// unless it has ended.
-class TracedProcess {
-public:
-    explicit TracedProcess(const std::function<int()>& work) : id_{::fork()}
-    {
-        if (id_ == 0) {
-            if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) {
-                ::_exit(1);
-            }
-            ::raise(SIGSTOP);
-            ::_exit(work());
-        }
-        if (!waitForStop() || ::ptrace(PTRACE_SETOPTIONS, id_, nullptr,
-                                       PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL) != 0) {
-            throw std::runtime_error("a process may not trace another here: the faults of a disk "
-                                     "cannot be tried");
-        }
-    }
-    TracedProcess(const TracedProcess&) = delete;
-    TracedProcess& operator=(const TracedProcess&) = delete;
-    ~TracedProcess()
-    {
-        if (!ended_) {
-            kill();
-        }
-    }
-
-    pid_t id() const { return id_; }
-
-    /// Goes on to the next end of a half of a system call; false when the
-    /// process has ended.
-    bool step()
-    {
-        int signal = 0;
-        while (::ptrace(PTRACE_SYSCALL, id_, nullptr, signal) == 0 && waitForStop()) {
-            if (WSTOPSIG(status_) == kSyscallStop) {
-                return true;
-            }
-            signal = WSTOPSIG(status_) == SIGSTOP ? 0 : WSTOPSIG(status_);
-        }
-        return false;
-    }
-
-    Registers registers() const
-    {
-        Registers registers{};
-        ::ptrace(PTRACE_GETREGS, id_, nullptr, &registers);
-        return registers;
-    }
-    void setRegisters(const Registers& registers) const
-    {
-        ::ptrace(PTRACE_SETREGS, id_, nullptr, &registers);
-    }
-
-    void kill()
-    {
-        ::kill(id_, SIGKILL);
-        while (!ended_ && waitForStop()) {
-            ::ptrace(PTRACE_CONT, id_, nullptr, nullptr);
-        }
-    }
-
-    /// Lets it run to its end unwatched.
-    void release()
-    {
-        ::ptrace(PTRACE_DETACH, id_, nullptr, nullptr);
-        waitForStop();
-    }
-
-    /// -1 when a signal ended it.
-    int exitStatus() const { return WIFEXITED(status_) ? WEXITSTATUS(status_) : -1; }
-
-private:
-    bool waitForStop()
-    {
-        if (::waitpid(id_, &status_, 0) != id_) {
-            return false;
-        }
-        ended_ = !WIFSTOPPED(status_);
-        return !ended_;
-    }
-
-    pid_t id_;
-    int status_ = 0;
-    bool ended_ = false;
+struct Run {
+    const std::vector<std::filesystem::path>& watched;
+    std::optional<Fault> fault;
+    Report& report;
 };
 
-/// Lets the call at whose beginning the process stands fail.
-bool failCall(TracedProcess& process, int error)
+/// In the process of a run only; the replaced functions can be handed nothing.
+const Run* current = nullptr;
+
+/// The files that a call works on.
+struct Place {
+    // NOLINTBEGIN(google-explicit-constructor): as the functions are handed it.
+    Place(const char* path) : first{path} {}
+    Place(int descriptor) : first{pathOf(descriptor)} {}
+    Place(DIR* folder) : Place{::dirfd(folder)} {}
+    // NOLINTEND(google-explicit-constructor)
+    Place(int folder, const char* path) : first{*path == '/' ? path : pathOf(folder) + '/' + path}
+    {}
+    Place(const char* from, const char* to) : first{from}, second{to} {}
+
+    static std::string pathOf(int descriptor)
+    {
+        std::error_code gone;
+        return std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(descriptor), gone)
+            .string();
+    }
+
+    std::string first;
+    std::string second;
+};
+
+bool isWatched(const std::string& path)
 {
-    auto registers = process.registers();
-    // Closing frees the number even when it fails.
-    if (registers.orig_rax != SYS_close) {
-        registers.orig_rax = ~0ULL;
-        process.setRegisters(registers);
+    return std::any_of(current->watched.begin(), current->watched.end(), [&](const auto& folder) {
+        return path == folder.native() || path.starts_with(folder.native() + '/');
+    });
+}
+
+/// The code with which the call has to fail; 0 when it may go on.
+int errorFor(const char* name, const Place& place, bool writes)
+{
+    auto& report = current->report;
+    const auto& fault = current->fault;
+    const bool over = fault && report.calls >= fault->call;
+    if ((over && !fault->lasts) || !(isWatched(place.first) || isWatched(place.second))) {
+        return 0;
     }
-    if (!process.step()) {
-        return false;
+    ++report.calls;
+    if (over) {
+        return writes ? *fault->error : 0;
     }
-    registers = process.registers();
-    registers.rax = static_cast<unsigned long long>(-error);
-    process.setRegisters(registers);
-    return true;
+    if (!fault || report.calls != fault->call) {
+        return 0;
+    }
+    const auto met = std::string{name} + ' ' + place.first;
+    met.copy(report.met, sizeof report.met - 1);
+    if (!fault->error) {
+        ::kill(::getpid(), SIGKILL);
+    }
+    return *fault->error;
+}
+
+/// The library's own function, or a failure of it.
+template <typename Result, typename MakePlace, typename... Arguments>
+Result called(const char* name, bool writes, MakePlace makePlace, Arguments... arguments)
+{
+    using Function = Result (*)(Arguments...);
+    // By its name, since functions of different names share this code.
+    const auto original = reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
+    const int before = errno;
+    if (const int error = current == nullptr ? 0 : errorFor(name, makePlace(), writes)) {
+        if (std::string_view{name} == "close") {
+            // Closing frees the number even when it fails.
+            original(arguments...);
+        }
+        errno = error;
+        if constexpr (std::is_pointer_v<Result>) {
+            return nullptr;
+        } else {
+            return -1;
+        }
+    }
+    errno = before;
+    return original(arguments...);
 }
 
 } // namespace
+
+// Under a C++ name of its own each, so that it need not agree with the header:
+// what takes "..." there takes what stands for it here, which Linux passes in
+// the same registers.
+#define REPLACE(result, name, writes, parameters, place, ...)                                      \
+    extern "C" result replaced_##name parameters __asm__(#name);                                   \
+    extern "C" result replaced_##name parameters                                                   \
+    {                                                                                              \
+        return called<result>(                                                                     \
+            #name, writes, [&] { return Place place; }, __VA_ARGS__);                              \
+    }
+
+REPLACE(int, open, true, (const char* path, int flags, mode_t mode), {path}, path, flags, mode)
+REPLACE(int, open64, true, (const char* path, int flags, mode_t mode), {path}, path, flags, mode)
+REPLACE(int, openat, true, (int folder, const char* path, int flags, mode_t mode), (folder, path),
+        folder, path, flags, mode)
+REPLACE(int, access, false, (const char* path, int mode), {path}, path, mode)
+REPLACE(int, stat, false, (const char* path, void* into), {path}, path, into)
+REPLACE(int, stat64, false, (const char* path, void* into), {path}, path, into)
+REPLACE(int, lstat, false, (const char* path, void* into), {path}, path, into)
+REPLACE(int, lstat64, false, (const char* path, void* into), {path}, path, into)
+REPLACE(int, mkdir, true, (const char* path, mode_t mode), {path}, path, mode)
+REPLACE(int, unlink, false, (const char* path), {path}, path)
+REPLACE(int, rename, true, (const char* from, const char* to), (from, to), from, to)
+REPLACE(int, close, false, (int file), {file}, file)
+REPLACE(int, fchmod, false, (int file, mode_t mode), {file}, file, mode)
+REPLACE(int, fcntl64, false, (int file, int command, void* value), {file}, file, command, value)
+REPLACE(int, fsync, true, (int file), {file}, file)
+REPLACE(int, fdatasync, true, (int file), {file}, file)
+REPLACE(int, fstat64, false, (int file, void* into), {file}, file, into)
+REPLACE(int, ftruncate64, true, (int file, off_t size), {file}, file, size)
+REPLACE(ssize_t, read, false, (int file, void* into, std::size_t size), {file}, file, into, size)
+REPLACE(ssize_t, write, true, (int file, const void* from, std::size_t size), {file}, file, from,
+        size)
+REPLACE(ssize_t, pread64, false, (int file, void* into, std::size_t size, off_t place), {file},
+        file, into, size, place)
+REPLACE(ssize_t, pwrite64, true, (int file, const void* from, std::size_t size, off_t place),
+        {file}, file, from, size, place)
+REPLACE(DIR*, fdopendir, false, (int folder), {folder}, folder)
+REPLACE(dirent*, readdir, false, (DIR * folder), {folder}, folder)
 
 FaultHarness::FaultHarness(std::vector<std::filesystem::path> watched)
     : watched_{std::move(watched)}
 {}
 
-bool FaultHarness::isWatched(const std::string& path) const
-{
-    return std::any_of(watched_.begin(), watched_.end(), [&](const auto& folder) {
-        return path == folder.native() || path.starts_with(folder.native() + '/');
-    });
-}
-
 Outcome FaultHarness::run(const std::function<int()>& work, const std::optional<Fault>& fault) const
 {
-    Outcome outcome;
-    TracedProcess process{work};
-    while (process.step()) {
-        const auto registers = process.registers();
-        const auto found = calls().find(static_cast<long>(registers.orig_rax));
-        bool touches = false;
-        if (found != calls().end()) {
-            const auto& call = found->second;
-            auto path = pathOf(process.id(), registers, call.path, call.descriptor);
-            touches = isWatched(path);
-            if (!touches && (call.secondPath != kNone || call.secondDescriptor != kNone)) {
-                path = pathOf(process.id(), registers, call.secondPath, call.secondDescriptor);
-                touches = isWatched(path);
-            }
-            outcome.calls += touches ? 1 : 0;
-            const bool first = fault && touches && outcome.calls == fault->call;
-            if (first) {
-                outcome.met = std::string{call.name} + ' ' + path;
-            }
-            if (first && !fault->error) {
-                process.kill();
-                return outcome;
-            }
-            if (first ||
-                (fault && fault->lasts && touches && call.writes && outcome.calls > fault->call)) {
-                if (!failCall(process, *fault->error)) {
-                    break;
-                }
-                if (!fault->lasts) {
-                    process.release();
-                    break;
-                }
-                continue;
-            }
-        }
-        // The other half of the call.
-        if (!process.step()) {
-            break;
-        }
+    void* const shared =
+        ::mmap(nullptr, sizeof(Report), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    if (shared == MAP_FAILED) {
+        throw std::runtime_error("no memory to share with a process");
     }
-    outcome.status = process.exitStatus();
+    auto& report = *new (shared) Report;
+    const pid_t process = ::fork();
+    if (process == 0) {
+        const Run run{watched_, fault, report};
+        current = &run;
+        ::_exit(work());
+    }
+    int status = 0;
+    if (process < 0 || ::waitpid(process, &status, 0) != process) {
+        throw std::runtime_error("no process can be made");
+    }
+    Outcome outcome{report.calls, WIFEXITED(status) ? WEXITSTATUS(status) : -1, report.met};
+    ::munmap(shared, sizeof(Report));
     return outcome;
 }
 

@@ -12,7 +12,7 @@
 
 namespace lumora::fault {
 
-/// What happens to one system call of a run.
+/// What happens to one call of a run.
 struct Fault {
     /// Which call on the watched folders, counted from 1.
     std::size_t call = 0;
@@ -33,20 +33,20 @@ struct Outcome {
     std::string met;
 };
 
-/// Runs work in a process of its own, step by step from system call to system
-/// call, and lets one that touches a watched folder go wrong: one that names a
-/// file in it, or works on a descriptor of one.
+/// Runs work in a process of its own and lets one call of the C library that
+/// touches a watched folder go wrong: one that names a file in it, or works on
+/// a descriptor of one. The library's file functions are replaced in the whole
+/// test program for this, and do what they always do outside of such a run.
 class FaultHarness {
 public:
     explicit FaultHarness(std::vector<std::filesystem::path> watched);
 
     /// The process is a fork of this one and ends without running anything
-    /// after `work`. Throws std::runtime_error where tracing is not permitted.
+    /// after `work`, which starts no threads. Throws std::runtime_error where
+    /// no process can be made.
     Outcome run(const std::function<int()>& work, const std::optional<Fault>& fault = {}) const;
 
 private:
-    bool isWatched(const std::string& path) const;
-
     std::vector<std::filesystem::path> watched_;
 };
 

@@ -17,7 +17,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <iostream>
+#include <ostream>
 #include <set>
 
 #include <unistd.h>
@@ -51,11 +51,6 @@ std::set<std::string> namesIn(const fs::path& folder)
         names.insert(entry.path().filename().string());
     }
     return names;
-}
-
-void announce(const std::string& what, std::size_t points, const Kind& kind)
-{
-    std::cout << "Fault points tried: " << points << ", " << what << ", " << kind.name << '\n';
 }
 
 class NothingLost : public testing::TestWithParam<Kind> {
@@ -198,7 +193,6 @@ TEST_P(Replacement, ShowsEveryFavouriteAndEveryViewOnceAfterAFaultAtAnyCall)
         harness, [&] { prepare(); }, [&] { return start(); },
         [&](const fault::Outcome&) { expectAllThere(); });
     EXPECT_GT(points, 300U);
-    announce("replacement of the database", points, GetParam());
 }
 
 class Settings : public NothingLost {};
@@ -242,7 +236,6 @@ TEST_P(Settings, AreTheOldOnesOrTheNewOnesAfterAFaultAtAnyCall)
         });
     }
     EXPECT_GT(points, 20U);
-    announce("saving of the settings", points, GetParam());
 }
 
 std::string kindName(const testing::TestParamInfo<Kind>& info)

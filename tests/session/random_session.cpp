@@ -6,7 +6,7 @@
 #include "app/app_delegate.h"
 #include "qt/base/text_conversion.h"
 #include "qt/share/file_location.h"
-#include "support/window_driver.h"
+#include "qt/tour/window_driver.h"
 
 #include <QDir>
 #include <QPointingDevice>
@@ -23,7 +23,7 @@
 
 namespace lumora::session {
 
-using support::WindowDriver;
+using qt::WindowDriver;
 
 namespace {
 

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "qt/app/application.h"
+#include "qt/tour/window_driver.h"
 #include "support/shipped_templates.h"
 #include "support/temporary_folder.h"
-#include "support/window_driver.h"
 #include "support/world.h"
 
 #include <QElapsedTimer>
@@ -26,8 +26,6 @@
 #include <gtest/gtest.h>
 
 namespace lumora::qt {
-
-using support::WindowDriver;
 
 /// The whole program with a window and a database of six verbs.
 struct WindowFixture : testing::Test {

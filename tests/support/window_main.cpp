@@ -9,18 +9,39 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+/// Nobody's own folders and desktop: it has a program for mail, and one that is
+/// gone.
+void makeDesktop(const lumora::support::TemporaryFolder& home)
+{
+    const auto applications = home / "applications";
+    std::filesystem::create_directory(applications);
+    lumora::support::writeContent(applications / "letters.desktop",
+                                  "[Desktop Entry]\nType=Application\nName=Letters\n"
+                                  "Exec=/bin/true %u\nMimeType=x-scheme-handler/mailto;\n");
+    lumora::support::writeContent(applications / "mimeapps.list",
+                                  "[Default Applications]\n"
+                                  "x-scheme-handler/mailto=letters.desktop\n"
+                                  "x-scheme-handler/appstream=gone.desktop\n");
+    for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME",
+                                 "XDG_DATA_DIRS", "XDG_CONFIG_DIRS"}) {
+        qputenv(variable, home.path().c_str());
+    }
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
+    const lumora::support::TemporaryFolder home;
+    makeDesktop(home);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QML_DISABLE_DISK_CACHE", "1");
     // Whatever this machine has: in silence.
     qputenv("PULSE_SERVER", "unix:/nonexistent/native");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    // Nobody's own folders.
-    const lumora::support::TemporaryFolder home;
-    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
-        qputenv(variable, home.path().c_str());
-    }
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication toolkit{argc, argv};
     lumora::qt::registerInterface();

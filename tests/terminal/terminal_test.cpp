@@ -281,29 +281,6 @@ TEST_F(TerminalTest, FailsInOneLineWhenAFileIsNotAsItShouldBe)
     EXPECT_FALSE(std::filesystem::exists(database())) << "a missing database is not made";
 }
 
-TEST_F(TerminalTest, LeavesEverythingAsItWas)
-{
-    const auto databaseBefore = support::contentOf(database());
-    const auto files = [this] {
-        std::set<std::filesystem::path> found;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator{program.home()}) {
-            found.insert(entry.path());
-        }
-        return found;
-    };
-    auto filesBefore = files();
-    // What the runs themselves say.
-    filesBefore.insert({program.home() / "out", program.home() / "err"});
-
-    for (const char* verb : {"aller", "être"}) {
-        EXPECT_EQ(program.run({"conjugate", verb}).status, 0);
-        EXPECT_EQ(program.run({"export", verb, "--text"}).status, 0);
-    }
-
-    EXPECT_EQ(support::contentOf(database()), databaseBefore) << "the history is in there";
-    EXPECT_EQ(files(), filesBefore);
-}
-
 TEST_F(TerminalTest, CarriesFavouritesAndHistoryBesideARunningApplication)
 {
     const auto home = program.home();
@@ -366,20 +343,16 @@ TEST_F(TerminalTest, HelpsAndTellsItsVersion)
     struct {
         std::vector<std::string> arguments;
         const char* usage;
-        std::vector<const char*> words;
     } cases[] = {
-        {{"--help"}, "COMMAND [OPTIONS]", {"conjugate", "search", "export", "help", "version"}},
-        {{"help", "conjugate"}, "conjugate", {"--language"}},
-        {{"search", "a", "--help"}, "search", {"--anywhere", "--conjugations", "--translations"}},
-        {{"export", "-h"}, "export", {"--html", "--text", "--language"}},
+        {{"--help"}, "COMMAND [OPTIONS]"},
+        {{"help", "conjugate"}, "conjugate"},
+        {{"search", "a", "--help"}, "search"},
+        {{"export", "-h"}, "export"},
     };
     for (const auto& c : cases) {
         const auto help = program.run(c.arguments);
         EXPECT_EQ(help.status, 0) << help.err;
         EXPECT_TRUE(help.out.starts_with(std::string{"Usage: lumora-cli "} + c.usage)) << help.out;
-        for (const char* word : c.words) {
-            EXPECT_THAT(help.out, HasSubstr(word));
-        }
     }
     EXPECT_EQ(program.run({"--version"}).out, "lumora-cli 9.8\n");
 }

@@ -16,8 +16,10 @@
 #include <QQuickWindow>
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 #include <iterator>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -131,6 +133,22 @@ int runApplication(const CommandLine& commandLine, const InstanceRequest& reques
     return status;
 }
 
+ShownProgram showForTour(const QSize& window, bool dark, const std::filesystem::path& home)
+{
+    ApplicationOptions options;
+    options.folders = {home / "data", home / "config", home / "state"};
+    options.shareFolder = shareFolder();
+    options.launchArguments = {"ui_test"};
+    options.windowSize = window;
+    auto application = std::make_shared<Application>(options);
+    if (!application->show()) {
+        return {};
+    }
+    application->launch();
+    application->setAppearance({.dark = dark});
+    return {application, application->window()};
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -161,7 +179,7 @@ int main(int argc, char** argv)
     if (commandLine.tourFolder) {
         const Translations translations{QLocale::system().uiLanguages()};
         registerInterface();
-        return runTour(toUtf8(*commandLine.tourFolder), shareFolder());
+        return runTour(toUtf8(*commandLine.tourFolder), showForTour);
     }
     return runApplication(commandLine, request);
 }

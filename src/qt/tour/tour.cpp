@@ -3,61 +3,46 @@
 
 #include "qt/tour/tour.h"
 
-#include "qt/app/application.h"
 #include "qt/base/text_conversion.h"
+#include "qt/tour/window_driver.h"
 
-#include <QDateTime>
-#include <QEventLoop>
 #include <QGuiApplication>
 #include <QImage>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QStyleHints>
 #include <QTemporaryDir>
-#include <QTimer>
 
-#include <algorithm>
 #include <iostream>
-#include <ranges>
 #include <string>
 #include <system_error>
 #include <utility>
-#include <vector>
 
 namespace lumora::qt {
 
 namespace {
 
-/// Long enough for every animation of ours.
-constexpr int kSettleMilliseconds = 600;
-/// Without a new frame: nothing moves any more.
-constexpr int kStillMilliseconds = 200;
+/// More than the toolkit asks of a touch that is held.
+constexpr int kHoldMilliseconds = 600;
 constexpr QSize kPhone{390, 844};
 constexpr QSize kTablet{1024, 768};
-/// Below the bar and the search field, above the tabs.
-constexpr double kRowsBegin = 60;
 
 class Guide {
 public:
-    Guide(Application& application, std::filesystem::path folder)
-        : application_{application}, folder_{std::move(folder)}
+    Guide(QQuickWindow& window, const QSize& size, bool dark, std::filesystem::path folder)
+        : window_{window},
+          driver_{window},
+          folder_{std::move(folder)},
+          prefix_{std::string{size == kTablet ? "tablet" : "phone"} +
+                  (dark ? "-dark-" : "-light-")},
+          tablet_{size == kTablet}
     {}
 
     bool failed() const { return failed_; }
 
-    void begin(const QSize& size, bool dark)
-    {
-        tablet_ = size == kTablet;
-        prefix_ = std::string{tablet_ ? "tablet" : "phone"} + (dark ? "-dark-" : "-light-");
-        application_.setAppearance({.dark = dark});
-        application_.window()->resize(size);
-        settle();
-    }
-
     void goThroughScreens()
     {
+        driver_.settle();
         if (tablet_) {
             picture("empty");
         }
@@ -66,11 +51,11 @@ public:
         swipeOpen();
         preview();
         search();
-        openVerb();
+        tap("aller");
         moods();
         share();
-        while (application_.splitScreen().back()) {
-            settle();
+        if (!tablet_) {
+            tap("backButton");
         }
         tabs();
         rowMenu();
@@ -78,28 +63,6 @@ public:
     }
 
 private:
-    static void wait(int milliseconds)
-    {
-        QEventLoop loop;
-        QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-        loop.exec();
-    }
-
-    /// Until nothing moves any more.
-    void settle() const
-    {
-        QEventLoop loop;
-        QTimer stillness;
-        stillness.setSingleShot(true);
-        stillness.setInterval(kStillMilliseconds);
-        QObject::connect(application_.window(), &QQuickWindow::frameSwapped, &stillness,
-                         qOverload<>(&QTimer::start));
-        QObject::connect(&stillness, &QTimer::timeout, &loop, &QEventLoop::quit);
-        QTimer::singleShot(kSettleMilliseconds, &loop, &QEventLoop::quit);
-        stillness.start();
-        loop.exec();
-    }
-
     void fail(const std::string& why)
     {
         std::cerr << "tour: " << why << '\n';
@@ -109,7 +72,7 @@ private:
     void picture(const std::string& name)
     {
         const auto file = folder_ / (prefix_ + name + ".png");
-        const QImage image = application_.window()->grabWindow();
+        const QImage image = window_.grabWindow();
         if (image.isNull() || !image.save(toQString(file.string()))) {
             fail("could not write " + file.string());
             return;
@@ -117,57 +80,46 @@ private:
         std::cout << file.string() << std::endl;
     }
 
-    /// The visible item of that name, the topmost one.
-    static QQuickItem* visibleItem(QQuickItem* parent, const QString& name)
-    {
-        const auto children = parent->childItems();
-        for (auto* child : std::views::reverse(children)) {
-            if (!child->isVisible()) {
-                continue;
-            }
-            if (child->objectName() == name && child->width() > 0) {
-                return child;
-            }
-            if (auto* found = visibleItem(child, name)) {
-                return found;
-            }
-        }
-        return nullptr;
-    }
-
     QQuickItem* item(const char* name)
     {
-        auto* found = visibleItem(application_.window()->contentItem(), QString::fromUtf8(name));
+        auto* found = driver_.find(QString::fromUtf8(name));
         if (found == nullptr) {
             fail(prefix_ + ": nothing on screen is called " + name);
         }
         return found;
     }
 
-    void mouse(QEvent::Type type, const QPointF& point,
-               Qt::MouseButton button = Qt::LeftButton) const
+    /// The cell of that number from the top of the window.
+    QQuickItem* cell(std::size_t number)
     {
-        const bool up = type == QEvent::MouseButtonRelease;
-        QMouseEvent event{type,
-                          point,
-                          application_.window()->mapToGlobal(point),
-                          type == QEvent::MouseMove ? Qt::NoButton : button,
-                          up ? Qt::NoButton : button,
-                          Qt::NoModifier};
-        // Without the time a press looks like a fast move.
-        event.setTimestamp(static_cast<quint64>(QDateTime::currentMSecsSinceEpoch()));
-        QCoreApplication::sendEvent(application_.window(), &event);
+        const auto all = driver_.cells();
+        if (all.size() <= number) {
+            fail(prefix_ + ": the list has no rows");
+            return nullptr;
+        }
+        return all[number];
+    }
+
+    void click(const QQuickItem& target, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        const auto middle = WindowDriver::middleOf(target);
+        driver_.press(middle, button);
         QCoreApplication::processEvents();
+        driver_.release(middle, button);
+        driver_.settle();
     }
 
     void tap(const char* name)
     {
-        if (auto* target = item(name)) {
-            const auto middle = target->mapToScene({target->width() / 2, target->height() / 2});
-            mouse(QEvent::MouseButtonPress, middle);
-            mouse(QEvent::MouseButtonRelease, middle);
-            settle();
+        if (const auto* target = item(name)) {
+            click(*target);
         }
+    }
+
+    void press(Qt::Key key) const
+    {
+        driver_.pressKey(key);
+        driver_.settle();
     }
 
     void useSectionIndex()
@@ -176,79 +128,45 @@ private:
             const auto at = [&](double part) {
                 return index->mapToScene({index->width() / 2, index->height() * part});
             };
-            mouse(QEvent::MouseButtonPress, at(0.2));
-            mouse(QEvent::MouseMove, at(0.45));
-            settle();
+            driver_.press(at(0.2));
+            driver_.move(at(0.45));
+            driver_.settle();
             picture("index");
-            mouse(QEvent::MouseMove, at(0.01));
-            mouse(QEvent::MouseButtonRelease, at(0.01));
-            settle();
-        }
-    }
-
-    /// The cells of a table that are wholly inside the window, from the top.
-    std::vector<QQuickItem*> rows()
-    {
-        std::vector<QQuickItem*> found;
-        collectRows(application_.window()->contentItem(), found);
-        std::sort(found.begin(), found.end(), [](QQuickItem* left, QQuickItem* right) {
-            return left->mapToScene({}).y() < right->mapToScene({}).y();
-        });
-        return found;
-    }
-
-    void collectRows(QQuickItem* parent, std::vector<QQuickItem*>& found) const
-    {
-        for (auto* child : parent->childItems()) {
-            if (!child->isVisible()) {
-                continue;
-            }
-            if (!child->property("isCell").toBool()) {
-                collectRows(child, found);
-                continue;
-            }
-            const auto top = child->mapToScene({}).y();
-            if (top > kRowsBegin &&
-                top + child->height() < application_.window()->height() - kRowsBegin) {
-                found.push_back(child);
-            }
+            driver_.move(at(0.01));
+            driver_.release(at(0.01));
+            driver_.settle();
         }
     }
 
     void swipeOpen()
     {
-        const auto all = rows();
-        if (all.size() < 2) {
-            fail(prefix_ + ": the list has no rows");
-            return;
+        if (const auto* row = cell(1)) {
+            const auto right = row->mapToScene({row->width() * 0.75, row->height() / 2});
+            const QPointF aside{row->width() * 0.06, 0};
+            driver_.press(right);
+            for (int step = 1; step <= 8; ++step) {
+                driver_.move(right - step * aside);
+                QCoreApplication::processEvents();
+            }
+            driver_.release(right - 8 * aside);
+            driver_.settle();
+            picture("swipe");
+            tap("swipeAction0");
+            picture("favourite");
         }
-        auto* row = all[1];
-        const auto right = row->mapToScene({row->width() * 0.75, row->height() / 2});
-        mouse(QEvent::MouseButtonPress, right);
-        for (int step = 1; step <= 8; ++step) {
-            mouse(QEvent::MouseMove, right - QPointF{step * row->width() * 0.06, 0});
-        }
-        mouse(QEvent::MouseButtonRelease, right - QPointF{row->width() * 0.5, 0});
-        settle();
-        picture("swipe");
-        tap("swipeAction0");
-        picture("favourite");
     }
 
     void preview()
     {
-        const auto all = rows();
-        if (all.size() < 3) {
-            fail(prefix_ + ": the list has no rows");
-            return;
+        if (const auto* row = cell(2)) {
+            const auto middle = WindowDriver::middleOf(*row);
+            driver_.press(middle);
+            WindowDriver::wait(QGuiApplication::styleHints()->mousePressAndHoldInterval() +
+                               kHoldMilliseconds);
+            driver_.release(middle);
+            picture("preview");
+            press(Qt::Key_Escape);
         }
-        const auto middle = all[2]->mapToScene({all[2]->width() / 2, all[2]->height() / 2});
-        mouse(QEvent::MouseButtonPress, middle);
-        wait(QGuiApplication::styleHints()->mousePressAndHoldInterval() + kSettleMilliseconds);
-        mouse(QEvent::MouseButtonRelease, middle);
-        picture("preview");
-        application_.presenter().preview()->close();
-        settle();
     }
 
     void share()
@@ -264,15 +182,13 @@ private:
     {
         if (auto* field = item("Search")) {
             field->setProperty("text", QStringLiteral("qwx"));
-            settle();
+            driver_.settle();
             picture("search-nothing");
             field->setProperty("text", QStringLiteral("all"));
-            settle();
+            driver_.settle();
             picture("search");
         }
     }
-
-    void openVerb() { tap("aller"); }
 
     void moods()
     {
@@ -303,11 +219,8 @@ private:
     void rowMenu()
     {
         tap("tab0");
-        if (const auto all = rows(); !all.empty()) {
-            const auto middle = all[0]->mapToScene({all[0]->width() / 2, all[0]->height() / 2});
-            mouse(QEvent::MouseButtonPress, middle, Qt::RightButton);
-            mouse(QEvent::MouseButtonRelease, middle, Qt::RightButton);
-            settle();
+        if (const auto* row = cell(0)) {
+            click(*row, Qt::RightButton);
             picture("row-menu");
             press(Qt::Key_Escape);
         }
@@ -339,25 +252,17 @@ private:
         tap("bar.done");
     }
 
-    void press(Qt::Key key)
-    {
-        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event{type, key, Qt::NoModifier};
-            QCoreApplication::sendEvent(application_.window(), &event);
-        }
-        settle();
-    }
-
-    Application& application_;
+    QQuickWindow& window_;
+    WindowDriver driver_;
     std::filesystem::path folder_;
     std::string prefix_;
-    bool tablet_ = false;
+    bool tablet_;
     bool failed_ = false;
 };
 
 } // namespace
 
-int runTour(const std::filesystem::path& folder, const std::filesystem::path& shareFolder)
+int runTour(const std::filesystem::path& folder, const StartProgram& start)
 {
     std::error_code error;
     std::filesystem::create_directories(folder, error);
@@ -370,20 +275,13 @@ int runTour(const std::filesystem::path& folder, const std::filesystem::path& sh
     bool failed = false;
     for (const auto& size : {kPhone, kTablet}) {
         for (const bool dark : {false, true}) {
-            const auto own = home / (std::to_string(size.width()) + (dark ? "-dark" : "-light"));
-            ApplicationOptions options;
-            options.folders = {own / "data", own / "config", own / "state"};
-            options.shareFolder = shareFolder;
-            options.launchArguments = {"ui_test"};
-            options.windowSize = size;
-            Application application{options};
-            if (!application.show()) {
+            const auto shown = start(
+                size, dark, home / (std::to_string(size.width()) + (dark ? "-dark" : "-light")));
+            if (shown.window == nullptr) {
                 std::cerr << "tour: the window could not be built\n";
                 return 1;
             }
-            application.launch();
-            Guide guide{application, folder};
-            guide.begin(size, dark);
+            Guide guide{*shown.window, size, dark, folder};
             guide.goThroughScreens();
             failed = failed || guide.failed();
         }

@@ -3,14 +3,34 @@
 
 #pragma once
 
+#include <QObject>
+#include <QSize>
+
 #include <filesystem>
+#include <functional>
+#include <memory>
+
+class QQuickWindow;
 
 namespace lumora::qt {
 
-/// Drives the real application through every screen, in both sizes and both
-/// themes, and writes a picture of each into `folder`. It has files of its own,
-/// so nothing of a person's changes. The exit status: 0 when every picture was
+/// A program on the screen.
+struct ShownProgram {
+    /// Ends with its last owner.
+    std::shared_ptr<QObject> program;
+    /// The program's; null when it could not be built.
+    QQuickWindow* window = nullptr;
+};
+
+/// Starts the whole program with a window of that size, in dark or light
+/// colours, with all its files below `home`.
+using StartProgram =
+    std::function<ShownProgram(const QSize& window, bool dark, const std::filesystem::path& home)>;
+
+/// Drives the real program through every screen, in both sizes and both themes,
+/// and writes a picture of each into `folder`. It has files of its own, so
+/// nothing of a person's changes. The exit status: 0 when every picture was
 /// written.
-int runTour(const std::filesystem::path& folder, const std::filesystem::path& shareFolder);
+int runTour(const std::filesystem::path& folder, const StartProgram& start);
 
 } // namespace lumora::qt

@@ -48,24 +48,6 @@ TEST(AtomicFile, ReplacesTheWholeContentAndLeavesNothingBeside)
     EXPECT_EQ(filesIn(folder.path()), 1);
 }
 
-TEST(AtomicFile, AFailedWriteKeepsTheOldContentAndSaysWhichFile)
-{
-    const TemporaryFolder folder;
-    writeContent(folder / "plain", "old");
-    std::filesystem::create_directory(folder / "taken");
-    writeContent(folder / "taken/inside", "");
-
-    const auto below = writeFileAtomically(folder / "plain/file", "new");
-    const auto onFolder = writeFileAtomically(folder / "taken", "new");
-
-    ASSERT_FALSE(below);
-    EXPECT_EQ(below.error().code, ENOTDIR);
-    EXPECT_NE(below.error().message.find("plain/file"), std::string::npos);
-    EXPECT_FALSE(onFolder);
-    EXPECT_EQ(contentOf(folder / "plain"), "old");
-    EXPECT_EQ(filesIn(folder.path()), 2) << "a temporary file was left behind";
-}
-
 TEST(AtomicFile, CopiesOverALeftoverAndRemovesACopyThatFailed)
 {
     const TemporaryFolder folder;
@@ -81,17 +63,6 @@ TEST(AtomicFile, CopiesOverALeftoverAndRemovesACopyThatFailed)
     // A folder opens like a file and fails at the first read.
     EXPECT_EQ(copyFileDurably(folder.path(), folder / "copy").error().code, EISDIR);
     EXPECT_FALSE(std::filesystem::exists(folder / "copy"));
-}
-
-TEST(AtomicFile, RemovingWhatIsNotThereIsNoFailure)
-{
-    const TemporaryFolder folder;
-    writeContent(folder / "file", "");
-
-    EXPECT_TRUE(removeDurably(folder / "file"));
-    EXPECT_TRUE(removeDurably(folder / "file"));
-    EXPECT_FALSE(removeDurably(folder.path()));
-    EXPECT_FALSE(renameDurably(folder / "file", folder / "other"));
 }
 
 TEST(AtomicFile, ReadsUpToTheLimitAndNoFurther)

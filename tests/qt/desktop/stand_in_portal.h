@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "support/message_bus.h"
+#include "qt/desktop/message_bus.h"
 
 #include <QDBusMessage>
 #include <QDBusVirtualObject>

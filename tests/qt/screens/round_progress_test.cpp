@@ -19,19 +19,21 @@ namespace {
 
 constexpr platform::Color kBlue{0, 0, 1, 1};
 
-/// The colour at an angle (clockwise from three o'clock) of the disc.
-QColor colorAt(const detail::CERoundProgressView& view, double degrees, const QSize& size)
+/// The colour at an angle (clockwise from three o'clock) and a part of the radius
+/// of the disc, in a frame of an animation that has come that far.
+QColor colorAt(const detail::CERoundProgressView& view, float progress, double degrees,
+               const QSize& size, double part = 0.7)
 {
     QImage image{size, QImage::Format_ARGB32_Premultiplied};
     image.fill(Qt::transparent);
     {
         QPainter painter{&image};
         PainterVectorContext context{painter};
-        view.layer().drawInContext(
+        view.layer().presentationCopy(progress)->drawInContext(
             context, {static_cast<double>(size.width()), static_cast<double>(size.height())});
     }
     const double angle = degrees * std::numbers::pi / 180;
-    const double radius = std::min(size.width(), size.height()) * 0.35;
+    const double radius = std::min(size.width(), size.height()) / 2.0 * part;
     return image.pixelColor(static_cast<int>(size.width() / 2 + radius * std::cos(angle)),
                             static_cast<int>(size.height() / 2 + radius * std::sin(angle)));
 }
@@ -59,11 +61,13 @@ TEST(RoundProgress, FillsAWedgeClockwiseFromItsStartAngle)
         detail::CERoundProgressView view;
         view.setTintColor(kBlue);
         view.setStartAngle(c.startAngle);
-        view.setProgress(c.progress, false);
-        EXPECT_EQ(colorAt(view, c.degrees, {60, 60}),
-                  c.filled ? QColor{Qt::blue} : QColor{Qt::white});
-        EXPECT_EQ(colorAt(view, c.degrees, {100, 60}),
-                  c.filled ? QColor{Qt::blue} : QColor{Qt::white});
+        view.setProgress(1, false);
+        for (const QSize size : {QSize{60, 60}, {100, 60}}) {
+            EXPECT_EQ(colorAt(view, c.progress, c.degrees, size),
+                      c.filled ? QColor{Qt::blue} : QColor{Qt::white});
+            EXPECT_EQ(colorAt(view, c.progress, 45, size, 1.1).alpha(), 0)
+                << "the disc is as large as fits";
+        }
     }
 }
 

@@ -206,10 +206,12 @@ TEST_P(ScreensTest, EveryTextHasRoomAndStandsOutAsIconsDo)
     lookAt("removal");
 }
 
-TEST_P(ScreensTest, RingsAndSwitchesStandOut)
+struct Shapes : WindowFixture, testing::WithParamInterface<bool> {};
+
+TEST_P(Shapes, RingsAndSwitchesStandOut)
 {
     start(kPhone);
-    application->setAppearance({.dark = look.endsWith("dark")});
+    application->setAppearance({.dark = GetParam()});
     QQmlComponent asking{qmlEngine(application->window())};
     asking.setData("import QtQml\nimport Lumora\nQtObject { property QtObject theme: Theme }",
                    QUrl{"qrc:/Lumora/asking.qml"});
@@ -237,6 +239,7 @@ TEST_P(ScreensTest, RingsAndSwitchesStandOut)
     }
 }
 
+INSTANTIATE_TEST_SUITE_P(Themes, Shapes, testing::Bool());
 INSTANTIATE_TEST_SUITE_P(Looks, ScreensTest,
                          testing::Values("en_dark", "de", "en", "es", "fr", "it", "nl", "pt"),
                          [](const auto& test) { return std::string{test.param}; });

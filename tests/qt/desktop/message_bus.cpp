@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/message_bus.h"
+#include "qt/desktop/message_bus.h"
 
 #include "qt/base/text_conversion.h"
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QEvent>
 #include <QPointF>
 #include <QString>
 
@@ -12,9 +13,10 @@
 class QQuickItem;
 class QQuickWindow;
 
-namespace lumora::support {
+namespace lumora::qt {
 
-/// Touches a window of ours as a person does, and finds what is on it. GUI
+/// Touches a window of ours as a person does, and finds what is on it: for the
+/// tour, the tests and the benchmarks. It knows nothing of the application. GUI
 /// thread only; the window must live longer.
 class WindowDriver {
 public:
@@ -29,9 +31,10 @@ public:
     static QQuickItem* listOf(QQuickItem* item);
     static QPointF middleOf(const QQuickItem& item);
 
-    void press(const QPointF& point) const;
+    void press(const QPointF& point, Qt::MouseButton button = Qt::LeftButton) const;
     void move(const QPointF& point) const;
-    void release(const QPointF& point) const;
+    void release(const QPointF& point, Qt::MouseButton button = Qt::LeftButton) const;
+    void pressKey(Qt::Key key) const;
 
     /// Lets the program run for a while.
     static void wait(int milliseconds);
@@ -39,9 +42,13 @@ public:
     static bool waitUntil(const std::function<bool()>& condition);
     /// Lets it run until its next frame is drawn; false when none came.
     bool waitForFrame() const;
+    /// Lets it run until nothing moves any more.
+    void settle() const;
 
 private:
+    void sendMouse(QEvent::Type type, const QPointF& point, Qt::MouseButton button) const;
+
     QQuickWindow& window_;
 };
 
-} // namespace lumora::support
+} // namespace lumora::qt

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/window_driver.h"
+#include "qt/tour/window_driver.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -13,12 +15,16 @@
 #include <algorithm>
 #include <ranges>
 
-namespace lumora::support {
+namespace lumora::qt {
 
 namespace {
 
 constexpr int kPatience = 5000;
 constexpr int kStep = 10;
+/// Long enough for every animation of ours.
+constexpr int kSettleMilliseconds = 600;
+/// Without a new frame: nothing moves any more.
+constexpr int kStillMilliseconds = 200;
 
 void collectCells(QQuickItem* parent, const QRectF& window, std::vector<QQuickItem*>& found)
 {
@@ -32,17 +38,6 @@ void collectCells(QQuickItem* parent, const QRectF& window, std::vector<QQuickIt
             found.push_back(child);
         }
     }
-}
-
-void sendMouse(QQuickWindow& window, QEvent::Type type, const QPointF& point)
-{
-    QMouseEvent event{type,
-                      point,
-                      window.mapToGlobal(point),
-                      type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
-                      Qt::NoModifier};
-    QCoreApplication::sendEvent(&window, &event);
 }
 
 } // namespace
@@ -92,19 +87,40 @@ QPointF WindowDriver::middleOf(const QQuickItem& item)
     return item.mapToScene({item.width() / 2, item.height() / 2});
 }
 
-void WindowDriver::press(const QPointF& point) const
+void WindowDriver::sendMouse(QEvent::Type type, const QPointF& point, Qt::MouseButton button) const
 {
-    sendMouse(window_, QEvent::MouseButtonPress, point);
+    QMouseEvent event{type,
+                      point,
+                      window_.mapToGlobal(point),
+                      type == QEvent::MouseMove ? Qt::NoButton : button,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : button,
+                      Qt::NoModifier};
+    // Without the time a press looks like a fast move.
+    event.setTimestamp(static_cast<quint64>(QDateTime::currentMSecsSinceEpoch()));
+    QCoreApplication::sendEvent(&window_, &event);
+}
+
+void WindowDriver::press(const QPointF& point, Qt::MouseButton button) const
+{
+    sendMouse(QEvent::MouseButtonPress, point, button);
 }
 
 void WindowDriver::move(const QPointF& point) const
 {
-    sendMouse(window_, QEvent::MouseMove, point);
+    sendMouse(QEvent::MouseMove, point, Qt::LeftButton);
 }
 
-void WindowDriver::release(const QPointF& point) const
+void WindowDriver::release(const QPointF& point, Qt::MouseButton button) const
 {
-    sendMouse(window_, QEvent::MouseButtonRelease, point);
+    sendMouse(QEvent::MouseButtonRelease, point, button);
+}
+
+void WindowDriver::pressKey(Qt::Key key) const
+{
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event{type, key, Qt::NoModifier};
+        QCoreApplication::sendEvent(&window_, &event);
+    }
 }
 
 void WindowDriver::wait(int milliseconds)
@@ -139,4 +155,18 @@ bool WindowDriver::waitForFrame() const
     return drawn;
 }
 
-} // namespace lumora::support
+void WindowDriver::settle() const
+{
+    QEventLoop loop;
+    QTimer stillness;
+    stillness.setSingleShot(true);
+    stillness.setInterval(kStillMilliseconds);
+    QObject::connect(&window_, &QQuickWindow::frameSwapped, &stillness,
+                     qOverload<>(&QTimer::start));
+    QObject::connect(&stillness, &QTimer::timeout, &loop, &QEventLoop::quit);
+    QTimer::singleShot(kSettleMilliseconds, &loop, &QEventLoop::quit);
+    stillness.start();
+    loop.exec();
+}
+
+} // namespace lumora::qt
