@@ -43,7 +43,7 @@ Application::Application(ApplicationOptions options)
     : options_{std::move(options)},
       settings_{options_.folders.config / "settings.json"},
       crashReporter_{options_.folders.state},
-      analytics_{options_.folders.state, clock_},
+      analytics_{options_.folders.state, options_.folders.config, clock_},
       bundle_{options_.shareFolder},
       device_{options_.launchArguments},
       presenter_{storyboard_},
