@@ -52,7 +52,9 @@ std::filesystem::path withSuffix(std::filesystem::path file, const char* suffix)
 
 bool readFavourites(Database& database, UserData& data)
 {
-    auto rows = database.executeQuery("SELECT verbid FROM favourite WHERE verbid is not null", {});
+    // Past the index of version 1.0.0, which hands the rows out by verb.
+    auto rows = database.executeQuery(
+        "SELECT verbid FROM favourite NOT INDEXED WHERE verbid is not null", {});
     if (!rows) {
         return false;
     }

@@ -153,6 +153,22 @@ TEST_F(StartUp, CarriesFavouritesAndHistoryOverInTheirOrder)
     EXPECT_TRUE(world.crashReporter.lines.empty());
 }
 
+TEST_F(StartUp, AVerbIsAFavouriteOnceAndTheOrderOfAnOldFileIsKept)
+{
+    world.bundle.resources["verbs.db"] = LUMORA_VERBS_DB;
+    installOld("(9), (4), (7), (4)", "");
+    support::executeOn(*open(), "CREATE INDEX favourite_verbid ON favourite (verbid)");
+
+    ASSERT_TRUE(prepare());
+    EXPECT_EQ(userRows(), "9 4 7 |");
+
+    support::executeOn(*open(), "INSERT INTO favourite(verbid) VALUES(9)");
+    support::executeOn(*open(), "INSERT INTO favourite(verbid) VALUES(2)");
+    EXPECT_THAT(rowsOf(*open(), "SELECT verbid FROM favourite WHERE verbid is not null"),
+                ElementsAre("9", "4", "7", "2"))
+        << "no index hands them out by verb";
+}
+
 TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsItBesideThoseBefore)
 {
     const std::string whole = contentOf(resource);
