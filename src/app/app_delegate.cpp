@@ -100,7 +100,10 @@ void AppDelegate::openDatabase()
         fail(prepared.error().message);
         return;
     }
-    queue = platform::DatabaseQueue::open(platform::fileUrl(workingDatabase(*folders_.documents)));
+    // A file that somebody removes meanwhile must stay away, so that the next
+    // start sees that it is missing.
+    queue = platform::DatabaseQueue::open(
+        platform::existingFileUrl(workingDatabase(*folders_.documents)));
 }
 
 void AppDelegate::setAppearance()

@@ -85,7 +85,7 @@ bool readHistory(Database& database, UserData& data)
 SavedData readUserData(const std::filesystem::path& file, platform::CrashReporter* crashReporter)
 {
     SavedData saved;
-    const auto queue = DatabaseQueue::open(platform::fileUrl(file));
+    const auto queue = DatabaseQueue::open(platform::existingFileUrl(file));
     if (!queue) {
         saved.failure = platform::Error{"the file cannot be opened", 0};
         return saved;
@@ -179,7 +179,7 @@ void restoreUserData(const std::filesystem::path& file, UserData waiting, Target
     if (!fileExists(file).value_or(false)) {
         return;
     }
-    const auto queue = DatabaseQueue::open(platform::fileUrl(file));
+    const auto queue = DatabaseQueue::open(platform::existingFileUrl(file));
     if (!queue) {
         return;
     }

@@ -367,6 +367,22 @@ TEST_F(StartUp, ADirectoryThatCannotBeWrittenLeavesTheVersionAndStartsWithoutAQu
     EXPECT_EQ(world.settings.values().size(), 5U) << "the rest of the launch went on";
 }
 
+TEST_F(StartUp, ADatabaseRemovedMeanwhileIsBackAtTheNextStart)
+{
+    auto delegate = makeDelegate();
+    delegate.didFinishLaunching({});
+    delegate.queue->inDatabase([](platform::Database& used) { used.close(); });
+    std::filesystem::remove(database);
+
+    delegate.queue->inDatabase([](platform::Database& gone) {
+        EXPECT_FALSE(gone.executeQuery("SELECT * FROM verb", {}));
+    });
+
+    EXPECT_FALSE(std::filesystem::exists(database)) << "an empty one in its place";
+    ASSERT_TRUE(prepare());
+    EXPECT_EQ(rowsOf(*open(), "SELECT count(*) FROM verb"), std::vector<std::string>{"6"});
+}
+
 TEST_F(StartUp, AFirstStartWritesFiveSettingsAndTheVersion)
 {
     auto delegate = makeDelegate();
