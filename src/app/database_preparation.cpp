@@ -11,7 +11,7 @@
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 
-#include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -28,6 +28,8 @@ using platform::Result;
 
 /// Enough for every disk that fails now and then.
 constexpr int kMostDamaged = 10;
+/// A start that prepares the database is done long before that.
+constexpr std::chrono::seconds kPatience{10};
 /// SQLite's code for a file that another program holds.
 constexpr int kBusy = 5;
 
@@ -351,10 +353,21 @@ std::filesystem::path workingDatabase(const std::filesystem::path& documents)
     return documents / "verbs.db";
 }
 
+Result<platform::FolderLock> lockDocuments(const std::filesystem::path& documents)
+{
+    return platform::FolderLock::take(documents, kPatience);
+}
+
 Result<void> prepareDatabase(const std::filesystem::path& documents, const platform::Bundle& bundle,
                              platform::SettingsStore& settings,
                              platform::CrashReporter& crashReporter)
 {
+    // One start at a time; the second finds in the settings what the first did.
+    const auto lock = lockDocuments(documents);
+    if (!lock) {
+        return tl::make_unexpected(lock.error());
+    }
+    settings.refresh();
     const auto installed =
         settings.stringForKey(settings::kInstalledVersion).value_or(std::string{});
     const auto version = bundle.infoValue("CFBundleShortVersionString");

@@ -7,12 +7,16 @@
 #include "app/rescue_file.h"
 #include "detail/verb_detail_table_view_controller.h"
 #include "navigation/home_view_controller.h"
+#include "platform/files/folder_lock.h"
 #include "platform/screens/navigation_controller.h"
+#include "platform/storage/file_settings_store.h"
 
 #include "support/world.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <future>
 
 namespace lumora {
 namespace {
@@ -167,6 +171,34 @@ TEST_F(StartUp, AVerbIsAFavouriteOnceAndTheOrderOfAnOldFileIsKept)
     EXPECT_THAT(rowsOf(*open(), "SELECT verbid FROM favourite WHERE verbid is not null"),
                 ElementsAre("9", "4", "7", "2"))
         << "no index hands them out by verb";
+}
+
+TEST_F(StartUp, ASecondStartWaitsForTheFirstAndLetsItsDatabaseBe)
+{
+    const auto file = world.folder / "settings.json";
+    writeContent(file, R"({"installed_version": "1.0"})");
+    installOld("(3)", "");
+    platform::FileSettingsStore first{file};
+    platform::FileSettingsStore second{file};
+    const auto start = [&](platform::SettingsStore& settings) {
+        return app::prepareDatabase(documents, world.bundle, settings, world.crashReporter)
+            .has_value();
+    };
+    std::future<bool> waiting;
+    {
+        const auto lock = platform::FolderLock::take(documents, std::chrono::seconds{0});
+        ASSERT_TRUE(lock);
+        EXPECT_FALSE(platform::FolderLock::take(documents, std::chrono::milliseconds{10}));
+        waiting = std::async(std::launch::async, [&] { return start(first); });
+        EXPECT_EQ(waiting.wait_for(std::chrono::milliseconds{100}), std::future_status::timeout);
+        EXPECT_FALSE(isFresh());
+    }
+    EXPECT_TRUE(waiting.get());
+    EXPECT_TRUE(isFresh());
+
+    support::executeOn(*open(), "CREATE TABLE old(x)");
+    EXPECT_TRUE(start(second));
+    EXPECT_FALSE(isFresh()) << "replaced once more";
 }
 
 TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsItBesideThoseBefore)
