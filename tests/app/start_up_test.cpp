@@ -201,18 +201,20 @@ TEST_F(StartUp, ASecondStartWaitsForTheFirstAndLetsItsDatabaseBe)
     EXPECT_FALSE(isFresh()) << "replaced once more";
 }
 
-TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsItBesideThoseBefore)
+TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsTheLast)
 {
     const std::string whole = contentOf(resource);
-    const std::pair<const char*, std::string> cases[] = {
-        {"verbs.db.damaged", ""},
-        {"verbs.db.damaged.1", "not a database at all, just text that goes on for a while"},
-        {"verbs.db.damaged.2", whole.substr(0, 100)},
-        {"verbs.db.damaged.3", whole.substr(0, whole.size() / 2)},
+    const std::string cases[] = {
+        "",
+        "not a database at all, just text that goes on for a while",
+        whole.substr(0, 100),
+        whole.substr(0, whole.size() / 2),
     };
-    for (const auto& [aside, content] : cases) {
-        SCOPED_TRACE(aside);
+    const auto aside = documents / "verbs.db.damaged";
+    for (const auto& content : cases) {
+        SCOPED_TRACE(content.size());
         writeContent(database, content);
+        writeContent(documents / "verbs.db.damaged-journal", "of an older one");
         world.settings.setValue(std::string{"1.0"}, "installed_version");
         world.crashReporter.lines.clear();
 
@@ -221,9 +223,8 @@ TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsItBesideThoseBefore)
         EXPECT_TRUE(isFresh());
         EXPECT_EQ(userRows(), "|");
         EXPECT_THAT(world.crashReporter.lines, ElementsAre(StartsWith(kReadingFailed)));
-    }
-    for (const auto& [aside, content] : cases) {
-        EXPECT_EQ(contentOf(documents / aside), content) << aside;
+        EXPECT_EQ(contentOf(aside), content);
+        EXPECT_FALSE(std::filesystem::exists(documents / "verbs.db.damaged-journal"));
     }
 }
 
@@ -361,6 +362,22 @@ TEST_F(StartUp, AVerbViewedSinceIsNotPutBackToItsOldTime)
     ASSERT_TRUE(prepare());
 
     EXPECT_EQ(userRows(), "| 1@5.25 2@6.0");
+}
+
+TEST_F(StartUp, AHistoryThatCannotBeAskedIsNotTakenForNeverViewed)
+{
+    installOld("", "", "2.0");
+    support::executeOn(*open(), "DROP TABLE history");
+    support::executeOn(*open(), "CREATE VIEW history AS SELECT 1 AS _id, verb._id AS verbid, "
+                                "abs(-9223372036854775807 - verb._id) AS timestamp FROM verb");
+    ASSERT_TRUE(app::RescueFile{rescue}.write({{}, {{1, 5}}}));
+
+    ASSERT_TRUE(prepare());
+
+    EXPECT_THAT(
+        world.crashReporter.lines,
+        ElementsAre("An error occurred when inserting migration settings: integer overflow (1)"));
+    EXPECT_TRUE(std::filesystem::exists(rescue));
 }
 
 TEST_F(StartUp, ARescueFileThatMakesNoSenseIsPutAside)
