@@ -22,7 +22,7 @@ _lumora_cli() {
         *\ conjugate\ *) words="--stems --ipa --language --help" ;;
         *\ about\ *) words="--language --help" ;;
         *\ search\ *) words="--anywhere --conjugations --translations --language --help" ;;
-        *\ export\ *) words="--html --text --language --help" ;;
+        *\ export\ *) words="--html --text --number --language --help" ;;
         *\ backup\ * | *\ restore\ *) words="--help" ;;
     esac
     case "${COMP_WORDS[1]} $current" in

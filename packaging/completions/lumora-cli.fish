@@ -26,6 +26,7 @@ complete -c lumora-cli -n '__fish_seen_subcommand_from search' -l conjugations -
 complete -c lumora-cli -n '__fish_seen_subcommand_from search' -l translations -d 'Search the translations too'
 complete -c lumora-cli -n '__fish_seen_subcommand_from export' -l html -d 'A page to print or to show'
 complete -c lumora-cli -n '__fish_seen_subcommand_from export' -l text -d 'Plain text for an e-mail'
+complete -c lumora-cli -n '__fish_seen_subcommand_from export' -l number -x -d 'Which of the verbs of the name'
 complete -c lumora-cli -n '__fish_seen_subcommand_from conjugate about search export' \
     -l language -x -a 'en fr de es pt it nl' -d 'Translate into'
 complete -c lumora-cli -s h -l help -d 'Print the options'

@@ -22,10 +22,12 @@
 #include "platform/storage/settings_store.h"
 #include "settings/default_settings.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <ostream>
 #include <utility>
 #include <vector>
@@ -53,6 +55,13 @@ constexpr std::string_view kEveryVerb =
 }
 
 } // namespace
+
+bool isKnownShortcut(std::string_view type)
+{
+    return type == kSearchShortcut ||
+           std::any_of(std::begin(kTabShortcuts), std::end(kTabShortcuts),
+                       [type](const auto& shortcut) { return shortcut.first == type; });
+}
 
 AppDelegate::AppDelegate(const platform::Services& services, UserFolders folders,
                          platform::Color accentPrimary)
@@ -91,7 +100,10 @@ void AppDelegate::openDatabase()
         fail(prepared.error().message);
         return;
     }
-    queue = platform::DatabaseQueue::open(platform::fileUrl(workingDatabase(*folders_.documents)));
+    // A file that somebody removes meanwhile must stay away, so that the next
+    // start sees that it is missing.
+    queue = platform::DatabaseQueue::open(
+        platform::existingFileUrl(workingDatabase(*folders_.documents)));
 }
 
 void AppDelegate::setAppearance()

@@ -33,6 +33,9 @@ struct ShortcutItem {
 
 inline constexpr std::string_view kSearchShortcut = "com.brindle.shortcut.search";
 
+/// Whether the type is one that leads somewhere; others do nothing.
+bool isKnownShortcut(std::string_view type);
+
 struct LaunchOptions {
     std::optional<ShortcutItem> shortcutItem;
 };

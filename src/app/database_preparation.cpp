@@ -11,7 +11,7 @@
 #include "platform/storage/settings_store.h"
 #include "settings/setting_keys.h"
 
-#include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -26,8 +26,10 @@ using platform::Database;
 using platform::DatabaseQueue;
 using platform::Result;
 
-/// Enough for every disk that fails now and then.
+/// How many unreadable databases version 1.0.0 kept, numbered from 0.
 constexpr int kMostDamaged = 10;
+/// A start that prepares the database is done long before that.
+constexpr std::chrono::seconds kPatience{10};
 /// SQLite's code for a file that another program holds.
 constexpr int kBusy = 5;
 
@@ -52,7 +54,9 @@ std::filesystem::path withSuffix(std::filesystem::path file, const char* suffix)
 
 bool readFavourites(Database& database, UserData& data)
 {
-    auto rows = database.executeQuery("SELECT verbid FROM favourite WHERE verbid is not null", {});
+    // Past the index of version 1.0.0, which hands the rows out by verb.
+    auto rows = database.executeQuery(
+        "SELECT verbid FROM favourite NOT INDEXED WHERE verbid is not null", {});
     if (!rows) {
         return false;
     }
@@ -83,7 +87,7 @@ bool readHistory(Database& database, UserData& data)
 SavedData readUserData(const std::filesystem::path& file, platform::CrashReporter* crashReporter)
 {
     SavedData saved;
-    const auto queue = DatabaseQueue::open(platform::fileUrl(file));
+    const auto queue = DatabaseQueue::open(platform::existingFileUrl(file));
     if (!queue) {
         saved.failure = platform::Error{"the file cannot be opened", 0};
         return saved;
@@ -132,7 +136,12 @@ Result<bool> isViewedAfter(Database& database, std::int32_t verb, std::int32_t t
     if (!rows) {
         return tl::make_unexpected(rows.error());
     }
-    return rows->next();
+    const bool found = rows->next();
+    if (rows->failed()) {
+        return tl::make_unexpected(
+            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+    }
+    return found;
 }
 
 /// Takes out what an interrupted restore may have put in; a verb that the user
@@ -166,25 +175,36 @@ Result<void> takeOutEarlierRestore(Database& database, UserData& waiting)
     return {};
 }
 
-enum class Target { FreshCopy, DatabaseInUse };
+/// Where the rows go: into the copy that has replaced an older file, into a copy
+/// where there was none, or into the database that is in use already.
+enum class Target { ReplacedFile, MissingFile, DatabaseInUse };
 
 /// Puts the rows into the file and lets the rescue file go once all are in, or
 /// leaves in it those that are not: what the user removes meanwhile must not
 /// come back.
+///
+/// Where an older file was replaced the rows need not reach the disk one by one:
+/// until all are there, the rescue file is kept and the settings tell the older
+/// version, so that after a power cut the next start makes another copy. The
+/// other targets would be taken for good ones.
 void restoreUserData(const std::filesystem::path& file, UserData waiting, Target target,
                      const RescueFile& rescue, platform::CrashReporter& crashReporter)
 {
     if (!fileExists(file).value_or(false)) {
         return;
     }
-    const auto queue = DatabaseQueue::open(platform::fileUrl(file));
+    const auto queue = DatabaseQueue::open(platform::existingFileUrl(file));
     if (!queue) {
         return;
     }
     bool complete = false;
     queue->inDatabase([&](Database& database) {
-        const auto ready =
-            target == Target::FreshCopy ? Result<void>{} : takeOutEarlierRestore(database, waiting);
+        Result<void> ready;
+        if (target == Target::ReplacedFile) {
+            ready = database.executeUpdate("PRAGMA synchronous = OFF", {});
+        } else if (target == Target::DatabaseInUse) {
+            ready = takeOutEarlierRestore(database, waiting);
+        }
         complete = ready.and_then([&] { return insertUserData(database, waiting); }).has_value();
         if (!complete) {
             crashReporter.logWithFormat(
@@ -194,6 +214,9 @@ void restoreUserData(const std::filesystem::path& file, UserData waiting, Target
         database.close();
     });
     // A rescue file that stays as it was is met again at the next start.
+    if (target == Target::ReplacedFile && !platform::syncFile(file)) {
+        return;
+    }
     static_cast<void>(complete ? rescue.remove() : rescue.write(waiting));
 }
 
@@ -212,7 +235,8 @@ Result<void> removeDatabase(const std::filesystem::path& file)
     return platform::removeDurably(file);
 }
 
-/// The names under which unreadable databases are kept, the oldest first.
+/// The name under which an unreadable database is kept, and those of version
+/// 1.0.0, which kept several.
 std::filesystem::path damagedName(const std::filesystem::path& file, int number)
 {
     auto name = withSuffix(file, ".damaged");
@@ -238,23 +262,13 @@ Result<void> moveJournals(const std::filesystem::path& file, const std::filesyst
 }
 
 /// Keeps a database that could not be read, with the journals that may make it
-/// readable, under the first free name.
+/// readable. An older one goes: no start since could read it.
 Result<void> putAside(const std::filesystem::path& file)
 {
-    for (int number = 0; number < kMostDamaged; ++number) {
-        const auto aside = damagedName(file, number);
-        const auto taken = fileExists(aside);
-        if (!taken) {
-            return tl::make_unexpected(taken.error());
-        }
-        if (!*taken) {
-            return platform::renameDurably(file, aside).and_then([&] {
-                return moveJournals(file, aside);
-            });
-        }
-    }
-    return tl::make_unexpected(
-        platform::Error{"there are too many damaged databases beside " + file.string(), EEXIST});
+    const auto aside = damagedName(file, 0);
+    return removeDatabase(aside)
+        .and_then([&] { return platform::renameDurably(file, aside); })
+        .and_then([&] { return moveJournals(file, aside); });
 }
 
 /// The rows of one database put aside, should it be readable now (a disk may
@@ -337,7 +351,8 @@ Result<void> replaceDatabase(const std::filesystem::path& file, bool exists,
     }
 
     if (saved) {
-        restoreUserData(file, std::move(saved->data), Target::FreshCopy, rescue, crashReporter);
+        restoreUserData(file, std::move(saved->data),
+                        exists ? Target::ReplacedFile : Target::MissingFile, rescue, crashReporter);
     }
     return {};
 }
@@ -349,10 +364,21 @@ std::filesystem::path workingDatabase(const std::filesystem::path& documents)
     return documents / "verbs.db";
 }
 
+Result<platform::FolderLock> lockDocuments(const std::filesystem::path& documents)
+{
+    return platform::FolderLock::take(documents, kPatience);
+}
+
 Result<void> prepareDatabase(const std::filesystem::path& documents, const platform::Bundle& bundle,
                              platform::SettingsStore& settings,
                              platform::CrashReporter& crashReporter)
 {
+    // One start at a time; the second finds in the settings what the first did.
+    const auto lock = lockDocuments(documents);
+    if (!lock) {
+        return tl::make_unexpected(lock.error());
+    }
+    settings.refresh();
     const auto installed =
         settings.stringForKey(settings::kInstalledVersion).value_or(std::string{});
     const auto version = bundle.infoValue("CFBundleShortVersionString");

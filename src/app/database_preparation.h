@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/base/error.h"
+#include "platform/files/folder_lock.h"
 
 #include <filesystem>
 
@@ -18,14 +19,20 @@ namespace lumora::app {
 /// The working database in a documents directory.
 std::filesystem::path workingDatabase(const std::filesystem::path& documents);
 
+/// For whoever works on the database from outside the application: no start
+/// replaces it meanwhile. Waits for one that does; an error should it take too
+/// long.
+platform::Result<platform::FolderLock> lockDocuments(const std::filesystem::path& documents);
+
 /// Brings the working database to the program's version and carries favourites
-/// and history over; records the version in the settings.
+/// and history over; records the version in the settings. Another process that
+/// does so meanwhile is waited for.
 ///
 /// An interruption at any instant, or a disk that fills, loses none of the
 /// user's rows: they are in the old file, in the rescue file beside it, or in
 /// the new file, and the next start goes on from there. A database that could
-/// not be read to its end is kept as "verbs.db.damaged" and read again at later
-/// starts.
+/// not be read to its end is kept as "verbs.db.damaged", in the place of an older
+/// one, and read again at later starts.
 ///
 /// A failure leaves the recorded version as it was. A program without a
 /// version or without its database resource is broken and stops.

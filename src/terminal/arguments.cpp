@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <string_view>
 #include <utility>
 
@@ -73,13 +74,15 @@ In a pipe each line holds verb and translation.
 )help";
 
 constexpr const char* kExportHelp =
-    R"help(Usage: lumora-cli export --html|--text [--language CODE] VERB
+    R"help(Usage: lumora-cli export --html|--text [--number N] [--language CODE] VERB
 
-Print a verb's conjugations as a document.
+Print a verb's conjugations as a document. Of verbs that share the name it is
+the commonest; standard error tells the others and their numbers.
 
 Options:
   --html             a page to print or to show
   --text             plain text for an e-mail
+  --number N         the N-th of the verbs that share the name
 )help";
 
 constexpr const char* kBackupHelp =
@@ -220,6 +223,57 @@ platform::Result<void> setLanguage(Arguments& arguments, std::string_view code)
     return {};
 }
 
+platform::Result<void> setNumber(Arguments& arguments, std::string_view text)
+{
+    if (arguments.command != Command::Export) {
+        return refusal("this command has no option \"--number\"");
+    }
+    std::size_t number = 0;
+    const auto* const end = text.data() + text.size();
+    if (std::from_chars(text.data(), end, number).ptr != end || number == 0) {
+        return refusal("--number counts verbs from 1, not " + quoted(text));
+    }
+    arguments.number = number;
+    return {};
+}
+
+struct ValuedOption {
+    std::string_view name;
+    std::string_view needs;
+    platform::Result<void> (*set)(Arguments& arguments, std::string_view value);
+};
+
+constexpr ValuedOption kValuedOptions[] = {
+    {"--language", " needs a code", setLanguage},
+    {"--number", " needs a number", setNumber},
+};
+
+/// The option that the word names, with or without its value; null when it names
+/// none.
+const ValuedOption* valuedOption(std::string_view word)
+{
+    const auto name = word.substr(0, word.find('='));
+    const auto* const found =
+        std::find_if(std::begin(kValuedOptions), std::end(kValuedOptions),
+                     [&](const ValuedOption& option) { return option.name == name; });
+    return found == std::end(kValuedOptions) ? nullptr : found;
+}
+
+using Words = std::vector<std::string>;
+
+/// Takes the value behind "=" or the next word, at which `word` stands then.
+platform::Result<void> setValued(const ValuedOption& option, Arguments& arguments,
+                                 Words::const_iterator& word, Words::const_iterator end)
+{
+    if (word->size() > option.name.size()) {
+        return option.set(arguments, std::string_view{*word}.substr(option.name.size() + 1));
+    }
+    if (word + 1 == end) {
+        return refusal(std::string{option.name} + std::string{option.needs});
+    }
+    return option.set(arguments, *++word);
+}
+
 platform::Result<void> checkComplete(const Arguments& arguments)
 {
     if (arguments.verbsFromInput && !arguments.text.empty()) {
@@ -236,10 +290,8 @@ platform::Result<void> checkComplete(const Arguments& arguments)
     return {};
 }
 
-platform::Result<void> readWords(Arguments& arguments, const std::vector<std::string>& words)
+platform::Result<void> readWords(Arguments& arguments, const Words& words)
 {
-    static constexpr std::string_view kLanguage = "--language";
-
     bool optionsEnded = false;
     for (auto word = words.begin() + 1; word != words.end(); ++word) {
         platform::Result<void> read;
@@ -253,12 +305,8 @@ platform::Result<void> readWords(Arguments& arguments, const std::vector<std::st
             return {};
         } else if (takesFile(arguments.command)) {
             read = refusal("this command has no option " + quoted(*word));
-        } else if (*word == kLanguage && word + 1 == words.end()) {
-            read = refusal("--language needs a code");
-        } else if (*word == kLanguage) {
-            read = setLanguage(arguments, *++word);
-        } else if (word->starts_with("--language=")) {
-            read = setLanguage(arguments, std::string_view{*word}.substr(kLanguage.size() + 1));
+        } else if (const auto* const option = valuedOption(*word)) {
+            read = setValued(*option, arguments, word, words.end());
         } else {
             read = setOption(arguments, *word);
         }

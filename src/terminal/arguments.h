@@ -5,6 +5,7 @@
 
 #include "platform/base/error.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,6 +29,9 @@ struct Arguments {
     bool translations = false;
     std::optional<std::string> language;
     std::optional<Format> format;
+    /// Which of the verbs that share the name, counted from 1; none for the
+    /// commonest.
+    std::optional<std::size_t> number;
     /// Which command Help is about; none for all of them.
     std::optional<Command> topic;
 };

@@ -14,6 +14,7 @@
 #include <cerrno>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace lumora::terminal {
 
@@ -25,19 +26,29 @@ using platform::Result;
 
 /// The application's own database, which it may have open itself: SQLite's
 /// locks keep the two apart.
-Result<std::unique_ptr<DatabaseQueue>> openWorkingDatabase()
+struct WorkingDatabase {
+    platform::FolderLock lock;
+    std::unique_ptr<DatabaseQueue> queue;
+};
+
+Result<WorkingDatabase> openWorkingDatabase()
 {
-    const auto file = app::workingDatabase(qt::StandardFolders::fromEnvironment().data);
+    const auto folder = qt::StandardFolders::fromEnvironment().data;
+    auto lock = app::lockDocuments(folder);
+    const auto file = app::workingDatabase(folder);
     std::error_code unknown;
     if (!std::filesystem::exists(file, unknown)) {
         return tl::unexpected(
             Error{"there are no favourites and no history here; start lumora once", ENOENT});
     }
-    auto queue = DatabaseQueue::open(platform::fileUrl(file) + "?mode=rw");
+    if (!lock) {
+        return tl::unexpected(lock.error());
+    }
+    auto queue = DatabaseQueue::open(platform::existingFileUrl(file));
     if (!queue) {
         return tl::unexpected(Error{file.string() + " cannot be opened", EIO});
     }
-    return queue;
+    return WorkingDatabase{std::move(*lock), std::move(queue)};
 }
 
 Error errorOf(const backup::Failure& failure, const std::string& file)
@@ -61,12 +72,12 @@ Error errorOf(const backup::Failure& failure, const std::string& file)
 
 Result<void> backUp(Session& session, const Arguments& arguments, const Output& output)
 {
-    const auto queue = openWorkingDatabase();
-    if (!queue) {
-        return tl::unexpected(queue.error());
+    const auto database = openWorkingDatabase();
+    if (!database) {
+        return tl::unexpected(database.error());
     }
-    const auto saved =
-        backup::saveBackup(**queue, arguments.text, session.services().clock.secondsSince1970());
+    const auto saved = backup::saveBackup(*database->queue, arguments.text,
+                                          session.services().clock.secondsSince1970());
     if (!saved) {
         return tl::unexpected(errorOf(saved.error(), arguments.text));
     }
@@ -77,12 +88,12 @@ Result<void> backUp(Session& session, const Arguments& arguments, const Output& 
 
 Result<void> restore(Session& session, const Arguments& arguments, const Output& output)
 {
-    const auto queue = openWorkingDatabase();
-    if (!queue) {
-        return tl::unexpected(queue.error());
+    const auto database = openWorkingDatabase();
+    if (!database) {
+        return tl::unexpected(database.error());
     }
-    const auto restored =
-        backup::restoreBackup(**queue, arguments.text, session.services().clock.secondsSince1970());
+    const auto restored = backup::restoreBackup(*database->queue, arguments.text,
+                                                session.services().clock.secondsSince1970());
     if (!restored) {
         return tl::unexpected(errorOf(restored.error(), arguments.text));
     }

@@ -7,12 +7,16 @@
 #include "app/rescue_file.h"
 #include "detail/verb_detail_table_view_controller.h"
 #include "navigation/home_view_controller.h"
+#include "platform/files/folder_lock.h"
 #include "platform/screens/navigation_controller.h"
+#include "platform/storage/file_settings_store.h"
 
 #include "support/world.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <future>
 
 namespace lumora {
 namespace {
@@ -153,18 +157,64 @@ TEST_F(StartUp, CarriesFavouritesAndHistoryOverInTheirOrder)
     EXPECT_TRUE(world.crashReporter.lines.empty());
 }
 
-TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsItBesideThoseBefore)
+TEST_F(StartUp, AVerbIsAFavouriteOnceAndTheOrderOfAnOldFileIsKept)
+{
+    world.bundle.resources["verbs.db"] = LUMORA_VERBS_DB;
+    installOld("(9), (4), (7), (4)", "");
+    support::executeOn(*open(), "CREATE INDEX favourite_verbid ON favourite (verbid)");
+
+    ASSERT_TRUE(prepare());
+    EXPECT_EQ(userRows(), "9 4 7 |");
+
+    support::executeOn(*open(), "INSERT INTO favourite(verbid) VALUES(9)");
+    support::executeOn(*open(), "INSERT INTO favourite(verbid) VALUES(2)");
+    EXPECT_THAT(rowsOf(*open(), "SELECT verbid FROM favourite WHERE verbid is not null"),
+                ElementsAre("9", "4", "7", "2"))
+        << "no index hands them out by verb";
+}
+
+TEST_F(StartUp, ASecondStartWaitsForTheFirstAndLetsItsDatabaseBe)
+{
+    const auto file = world.folder / "settings.json";
+    writeContent(file, R"({"installed_version": "1.0"})");
+    installOld("(3)", "");
+    platform::FileSettingsStore first{file};
+    platform::FileSettingsStore second{file};
+    const auto start = [&](platform::SettingsStore& settings) {
+        return app::prepareDatabase(documents, world.bundle, settings, world.crashReporter)
+            .has_value();
+    };
+    std::future<bool> waiting;
+    {
+        const auto lock = platform::FolderLock::take(documents, std::chrono::seconds{0});
+        ASSERT_TRUE(lock);
+        EXPECT_FALSE(platform::FolderLock::take(documents, std::chrono::milliseconds{10}));
+        waiting = std::async(std::launch::async, [&] { return start(first); });
+        EXPECT_EQ(waiting.wait_for(std::chrono::milliseconds{100}), std::future_status::timeout);
+        EXPECT_FALSE(isFresh());
+    }
+    EXPECT_TRUE(waiting.get());
+    EXPECT_TRUE(isFresh());
+
+    support::executeOn(*open(), "CREATE TABLE old(x)");
+    EXPECT_TRUE(start(second));
+    EXPECT_FALSE(isFresh()) << "replaced once more";
+}
+
+TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsTheLast)
 {
     const std::string whole = contentOf(resource);
-    const std::pair<const char*, std::string> cases[] = {
-        {"verbs.db.damaged", ""},
-        {"verbs.db.damaged.1", "not a database at all, just text that goes on for a while"},
-        {"verbs.db.damaged.2", whole.substr(0, 100)},
-        {"verbs.db.damaged.3", whole.substr(0, whole.size() / 2)},
+    const std::string cases[] = {
+        "",
+        "not a database at all, just text that goes on for a while",
+        whole.substr(0, 100),
+        whole.substr(0, whole.size() / 2),
     };
-    for (const auto& [aside, content] : cases) {
-        SCOPED_TRACE(aside);
+    const auto aside = documents / "verbs.db.damaged";
+    for (const auto& content : cases) {
+        SCOPED_TRACE(content.size());
         writeContent(database, content);
+        writeContent(documents / "verbs.db.damaged-journal", "of an older one");
         world.settings.setValue(std::string{"1.0"}, "installed_version");
         world.crashReporter.lines.clear();
 
@@ -173,9 +223,8 @@ TEST_F(StartUp, StartsOnADamagedDatabaseAndKeepsItBesideThoseBefore)
         EXPECT_TRUE(isFresh());
         EXPECT_EQ(userRows(), "|");
         EXPECT_THAT(world.crashReporter.lines, ElementsAre(StartsWith(kReadingFailed)));
-    }
-    for (const auto& [aside, content] : cases) {
-        EXPECT_EQ(contentOf(documents / aside), content) << aside;
+        EXPECT_EQ(contentOf(aside), content);
+        EXPECT_FALSE(std::filesystem::exists(documents / "verbs.db.damaged-journal"));
     }
 }
 
@@ -315,6 +364,22 @@ TEST_F(StartUp, AVerbViewedSinceIsNotPutBackToItsOldTime)
     EXPECT_EQ(userRows(), "| 1@5.25 2@6.0");
 }
 
+TEST_F(StartUp, AHistoryThatCannotBeAskedIsNotTakenForNeverViewed)
+{
+    installOld("", "", "2.0");
+    support::executeOn(*open(), "DROP TABLE history");
+    support::executeOn(*open(), "CREATE VIEW history AS SELECT 1 AS _id, verb._id AS verbid, "
+                                "abs(-9223372036854775807 - verb._id) AS timestamp FROM verb");
+    ASSERT_TRUE(app::RescueFile{rescue}.write({{}, {{1, 5}}}));
+
+    ASSERT_TRUE(prepare());
+
+    EXPECT_THAT(
+        world.crashReporter.lines,
+        ElementsAre("An error occurred when inserting migration settings: integer overflow (1)"));
+    EXPECT_TRUE(std::filesystem::exists(rescue));
+}
+
 TEST_F(StartUp, ARescueFileThatMakesNoSenseIsPutAside)
 {
     for (const char* content :
@@ -349,6 +414,22 @@ TEST_F(StartUp, ADirectoryThatCannotBeWrittenLeavesTheVersionAndStartsWithoutAQu
     EXPECT_TRUE(world.console.str().starts_with("Unable to initialise database "));
     EXPECT_EQ(world.settings.objectForKey("installed_version"), std::nullopt);
     EXPECT_EQ(world.settings.values().size(), 5U) << "the rest of the launch went on";
+}
+
+TEST_F(StartUp, ADatabaseRemovedMeanwhileIsBackAtTheNextStart)
+{
+    auto delegate = makeDelegate();
+    delegate.didFinishLaunching({});
+    delegate.queue->inDatabase([](platform::Database& used) { used.close(); });
+    std::filesystem::remove(database);
+
+    delegate.queue->inDatabase([](platform::Database& gone) {
+        EXPECT_FALSE(gone.executeQuery("SELECT * FROM verb", {}));
+    });
+
+    EXPECT_FALSE(std::filesystem::exists(database)) << "an empty one in its place";
+    ASSERT_TRUE(prepare());
+    EXPECT_EQ(rowsOf(*open(), "SELECT count(*) FROM verb"), std::vector<std::string>{"6"});
 }
 
 TEST_F(StartUp, AFirstStartWritesFiveSettingsAndTheVersion)

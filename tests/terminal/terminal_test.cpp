@@ -203,6 +203,43 @@ TEST_F(TerminalTest, ExportsBothDocuments)
     EXPECT_EQ(text.err + html.err, "");
 }
 
+TEST_F(TerminalTest, ExportsOneVerbOfThoseThatShareAName)
+{
+    support::executeOn(*platform::DatabaseQueue::open(platform::fileUrl(database())),
+                       "INSERT INTO verb_facts VALUES(9, 3, 'sentir', 13, 'être+avoir', '', '', 3,"
+                       " 1), (10, 2, 'finir', NULL, 'avoir', '', '', 2, 1)");
+    const std::string all = "there are 2: 1 is ressortir (avoir), 2 is ressortir (être, avoir)";
+    struct {
+        std::vector<std::string> options;
+        const char* form;
+        std::string err;
+        int status = 0;
+    } const cases[] = {
+        {{}, "je ressortis\n", all + "; this is 1, --number chooses another"},
+        {{"--number", "1"}, "je ressortis\n", ""},
+        {{"--number=2"}, "je ressors\n", ""},
+        {{"--number", "3"}, "", "no verb is number 3, " + all, 1},
+        {{"--number"}, "", "--number needs a number", 2},
+        {{"--number", "0"}, "", "--number counts verbs from 1, not \"0\"", 2},
+        {{"--number", "2x"}, "", "--number counts verbs from 1, not \"2x\"", 2},
+    };
+    for (const auto& c : cases) {
+        std::vector<std::string> arguments{"export", "ressortir", "--text"};
+        arguments.insert(arguments.end(), c.options.begin(), c.options.end());
+        SCOPED_TRACE(testing::PrintToString(arguments));
+
+        const auto run = program.run(arguments);
+
+        EXPECT_EQ(run.status, c.status);
+        EXPECT_EQ(run.err, c.err.empty() ? "" : "lumora-cli: " + c.err + "\n");
+        const std::regex form{"je ressort?[a-z]*\n"};
+        const std::vector<std::string> found{
+            std::sregex_token_iterator{run.out.begin(), run.out.end(), form}, {}};
+        EXPECT_EQ(found,
+                  c.status == 0 ? std::vector<std::string>{c.form} : std::vector<std::string>{});
+    }
+}
+
 TEST_F(TerminalTest, SaysWhatIsWrongInOneLine)
 {
     struct {
@@ -223,6 +260,7 @@ TEST_F(TerminalTest, SaysWhatIsWrongInOneLine)
         {{"about", "-"}, 2, "this command has no option \"-\""},
         {{"conjugate", "-", "être"}, 2, "either a verb or \"-\" for those of standard input"},
         {{"search", ""}, 2, "which text?"},
+        {{"search", "a", "--number", "2"}, 2, "this command has no option \"--number\""},
         {{"search", "a", "--html"}, 2, "this command has no option \"--html\""},
         {{"conjugate", "être", "--anywhere"}, 2, "this command has no option \"--anywhere\""},
         {{"export", "être"}, 2, "export needs --html or --text"},

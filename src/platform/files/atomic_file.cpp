@@ -168,6 +168,18 @@ Result<void> renameDurably(const std::filesystem::path& from, const std::filesys
     return syncFolder(folderOf(to));
 }
 
+Result<void> syncFile(const std::filesystem::path& file)
+{
+    const auto descriptor = FileDescriptor::open(file, O_RDONLY);
+    if (!descriptor) {
+        return tl::unexpected(descriptor.error());
+    }
+    if (const int code = descriptor->sync(); code != 0) {
+        return tl::unexpected(fileError(file, code));
+    }
+    return {};
+}
+
 Result<void> removeDurably(const std::filesystem::path& file)
 {
     if (::unlink(file.c_str()) != 0) {

@@ -31,6 +31,9 @@ Result<void> copyFileDurably(const std::filesystem::path& from,
 /// Renames and syncs the folder.
 Result<void> renameDurably(const std::filesystem::path& from, const std::filesystem::path& to);
 
+/// Brings to the disk what was written to the file without a sync.
+Result<void> syncFile(const std::filesystem::path& file);
+
 /// Removes and syncs the folder; a file that is not there is no failure.
 Result<void> removeDurably(const std::filesystem::path& file);
 

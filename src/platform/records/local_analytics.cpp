@@ -9,6 +9,7 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 namespace lumora::platform {
@@ -17,17 +18,22 @@ namespace {
 
 constexpr std::uintmax_t kMaximumFlagBytes = 4096;
 constexpr const char* kFlagKey = "collectionEnabled";
+constexpr const char* kFlagFile = "analytics.json";
 
 std::string dumped(const nlohmann::ordered_json& object)
 {
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-bool readFlag(const std::filesystem::path& file)
+/// None when there is no such file.
+std::optional<bool> readFlag(const std::filesystem::path& file)
 {
     const auto content = readFile(file, kMaximumFlagBytes);
+    if (!content && content.error().code == ENOENT) {
+        return std::nullopt;
+    }
     if (!content) {
-        return content.error().code == ENOENT;
+        return false;
     }
     const auto object = nlohmann::json::parse(*content, nullptr, false);
     if (!object.is_object()) {
@@ -40,29 +46,49 @@ bool readFlag(const std::filesystem::path& file)
 
 } // namespace
 
-LocalAnalytics::LocalAnalytics(std::filesystem::path folder, const Clock& clock)
-    : folder_(std::move(folder)), clock_(clock), enabled_(readFlag(folder_ / "analytics.json"))
-{}
+LocalAnalytics::LocalAnalytics(std::filesystem::path stateFolder,
+                               std::filesystem::path configFolder, const Clock& clock)
+    : stateFolder_(std::move(stateFolder)), configFolder_(std::move(configFolder)), clock_(clock)
+{
+    if (const auto flag = readFlag(configFolder_ / kFlagFile)) {
+        enabled_ = *flag;
+    } else {
+        takeOverOldFlag();
+    }
+}
+
+void LocalAnalytics::takeOverOldFlag()
+{
+    const auto old = stateFolder_ / kFlagFile;
+    const auto flag = readFlag(old);
+    if (!flag) {
+        return;
+    }
+    setAnalyticsCollectionEnabled(*flag);
+    if (readFlag(configFolder_ / kFlagFile) == flag) {
+        static_cast<void>(removeDurably(old));
+    }
+}
 
 void LocalAnalytics::logEvent(std::string_view name,
                               const std::map<std::string, std::string>& parameters)
 {
-    if (!enabled_ || !makePrivateFolder(folder_)) {
+    if (!enabled_ || !makePrivateFolder(stateFolder_)) {
         return;
     }
     nlohmann::ordered_json event;
     event["time"] = clock_.secondsSince1970();
     event["event"] = name;
     event["parameters"] = parameters;
-    static_cast<void>(appendLine(folder_ / "analytics.jsonl", dumped(event), kMaximumBytes));
+    static_cast<void>(appendLine(stateFolder_ / "analytics.jsonl", dumped(event), kMaximumBytes));
 }
 
 void LocalAnalytics::setAnalyticsCollectionEnabled(bool enabled)
 {
     enabled_ = enabled;
-    if (makePrivateFolder(folder_)) {
+    if (makePrivateFolder(configFolder_)) {
         const nlohmann::ordered_json flag = {{kFlagKey, enabled}};
-        static_cast<void>(writeFileAtomically(folder_ / "analytics.json", dumped(flag) + '\n'));
+        static_cast<void>(writeFileAtomically(configFolder_ / kFlagFile, dumped(flag) + '\n'));
     }
 }
 

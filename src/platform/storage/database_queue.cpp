@@ -88,4 +88,9 @@ std::string fileUrl(const std::filesystem::path& path)
     return url;
 }
 
+std::string existingFileUrl(const std::filesystem::path& path)
+{
+    return fileUrl(path) + "?mode=rw";
+}
+
 } // namespace lumora::platform

@@ -44,4 +44,8 @@ private:
 /// The file URL of a path, as text.
 std::string fileUrl(const std::filesystem::path& path);
 
+/// The same for a file that must be there: it is never made, not even when it
+/// goes while the queue lives.
+std::string existingFileUrl(const std::filesystem::path& path);
+
 } // namespace lumora::platform

@@ -134,6 +134,18 @@ FileSettingsStore::~FileSettingsStore()
     static_cast<void>(FileSettingsStore::synchronize());
 }
 
+void FileSettingsStore::refresh()
+{
+    if (isChanged()) {
+        return;
+    }
+    SettingsReader reader;
+    if (const auto content = readFile(file_, kMaximumBytes);
+        content && nlohmann::json::sax_parse(*content, &reader)) {
+        setValues(std::move(reader.values));
+    }
+}
+
 Result<void> FileSettingsStore::synchronize()
 {
     if (!isChanged()) {

@@ -23,6 +23,8 @@ public:
     ~FileSettingsStore() override;
 
     Result<void> synchronize() override;
+    /// A file that cannot be read, or is gone, changes nothing.
+    void refresh() override;
 
 private:
     std::filesystem::path file_;

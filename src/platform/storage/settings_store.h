@@ -49,6 +49,9 @@ public:
 
     /// Brings the values to storage; the file is not touched when nothing changed.
     virtual Result<void> synchronize() = 0;
+    /// Takes in what another process has brought to storage since. Values that
+    /// were changed here and not yet synchronized stay, all of them.
+    virtual void refresh() {}
 
 protected:
     void setValues(Values values);

@@ -44,7 +44,7 @@ Application::Application(ApplicationOptions options)
       settings_{options_.folders.config / "settings.json"},
       viewMemory_{options_.folders.config / "view.json"},
       crashReporter_{options_.folders.state},
-      analytics_{options_.folders.state, clock_},
+      analytics_{options_.folders.state, options_.folders.config, clock_},
       bundle_{options_.shareFolder},
       device_{options_.launchArguments},
       presenter_{storyboard_},
@@ -193,17 +193,19 @@ void Application::clearTheWay()
 
 void Application::open(const InstanceRequest& request)
 {
+    const auto type = toUtf8(request.shortcut.value_or(QString{}));
     // Beside a verb the search field is in sight: its shortcut does nothing.
-    const bool changesNothing = request.shortcut == toQString(app::kSearchShortcut) &&
-                                !splitScreen_->collapsed() && request.links.isEmpty();
-    if ((request.shortcut || !request.links.isEmpty()) && !changesNothing) {
+    const bool leadsSomewhere =
+        app::isKnownShortcut(type) &&
+        (type != app::kSearchShortcut || splitScreen_->collapsed() || !request.links.isEmpty());
+    if (leadsSomewhere || !request.links.isEmpty()) {
         clearTheWay();
     }
+    if (leadsSomewhere) {
+        splitScreen_->backToHome();
+    }
     if (request.shortcut) {
-        if (!changesNothing) {
-            splitScreen_->backToHome();
-        }
-        delegate_.performActionForShortcutItem({toUtf8(*request.shortcut)}, [](bool) {});
+        delegate_.performActionForShortcutItem({type}, [](bool) {});
     }
     for (const auto& link : request.links) {
         delegate_.openLink(toUtf8(link));

@@ -88,7 +88,7 @@ int print(const CommandLine& commandLine, int argc, char** argv)
 
 int runApplication(const CommandLine& commandLine, const InstanceRequest& request)
 {
-    Desktop desktop{QDBusConnection::sessionBus(), hasUrlHandler};
+    Desktop desktop{QDBusConnection::sessionBus(), hasUrlHandler, isSandboxed()};
     RunningInstance instance{desktop.bus};
     switch (instance.start(request)) {
     case RunningInstance::Role::First:

@@ -18,6 +18,9 @@ struct Desktop {
     /// As hasUrlHandler().
     std::function<bool(const std::string& scheme)> hasUrlHandler =
         [](const std::string& /*scheme*/) { return false; };
+    /// Whether the desktop's lists of programs are out of reach, so that a
+    /// portal has to be trusted to find one.
+    bool sandboxed = false;
 };
 
 } // namespace lumora::qt

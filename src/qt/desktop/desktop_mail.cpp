@@ -34,7 +34,8 @@ MailComposeResult resultOf(portal::Answer answer)
 {
     switch (answer) {
     case portal::Answer::Done:
-        return MailComposeResult::Sent;
+        // A mail program was started: not a word is written yet.
+        return MailComposeResult::Saved;
     case portal::Answer::Cancelled:
         return MailComposeResult::Cancelled;
     case portal::Answer::Failed:
@@ -95,8 +96,12 @@ DesktopMail::DesktopMail(Desktop desktop)
 
 bool DesktopMail::canSendMail() const
 {
-    return portal_.exists() || (!QStandardPaths::findExecutable(kMailProgram).isEmpty() &&
-                                desktop_.hasUrlHandler("mailto"));
+    if (desktop_.sandboxed) {
+        return portal_.exists();
+    }
+    // The portal is there without any mail program too.
+    return desktop_.hasUrlHandler("mailto") &&
+           (portal_.exists() || !QStandardPaths::findExecutable(kMailProgram).isEmpty());
 }
 
 std::shared_ptr<platform::MailComposer> DesktopMail::makeMailComposer()

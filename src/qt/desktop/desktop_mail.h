@@ -23,9 +23,10 @@ struct MailMessage {
     QString body;
 };
 
-/// Mail through the desktop's portal, which knows the outcome, or else through
-/// the default mail program, which takes the message and does not say what
-/// becomes of it: that counts as saved.
+/// Mail through the desktop's portal or else through xdg-email. Either hands
+/// the message to the default mail program, which does not say what becomes of
+/// it: that counts as saved. Needs a program for mailto addresses; in a sandbox,
+/// which sees none, the portal.
 class DesktopMail final : public QObject, public platform::MailService {
 public:
     using Finished = std::function<void(platform::MailComposeResult)>;

@@ -32,8 +32,7 @@ std::optional<QUrl> openable(std::string_view text)
     return url;
 }
 
-/// Nearly every desktop has a program for these, also where the lists of
-/// programs are out of this program's reach.
+/// The portal does not open the others.
 bool isForPortal(const QUrl& url)
 {
     return url.scheme() != QLatin1String("appstream");
@@ -57,20 +56,22 @@ DesktopUrlOpener::DesktopUrlOpener(Desktop desktop)
 bool DesktopUrlOpener::canOpen(std::string_view url) const
 {
     const auto address = openable(url);
+    // The portal is there without a program behind it too; only in a sandbox,
+    // where no program is in sight, its word has to do.
     return address && (desktop_.hasUrlHandler(toUtf8(address->scheme())) ||
-                       (isForPortal(*address) && portal_.exists()));
+                       (desktop_.sandboxed && isForPortal(*address) && portal_.exists()));
 }
 
 bool DesktopUrlOpener::open(std::string_view url)
 {
     const auto address = openable(url);
-    if (!address) {
+    if (!address || !canOpen(url)) {
         return false;
     }
     const auto encoded = QString::fromLatin1(address->toEncoded());
     const bool handled = desktop_.hasUrlHandler(toUtf8(address->scheme()));
     if (!isForPortal(*address) || !portal_.exists()) {
-        return handled && openInHandler(encoded);
+        return openInHandler(encoded);
     }
     const QString noParentWindow;
     portal::Request::send(

@@ -11,4 +11,7 @@ namespace lumora::qt {
 /// `scheme`. Reads files.
 bool hasUrlHandler(const std::string& scheme);
 
+/// Whether this program runs as a Flatpak or a Snap.
+bool isSandboxed();
+
 } // namespace lumora::qt

@@ -106,6 +106,14 @@ void QtPresenter::dismiss(platform::ViewController& presented, std::function<voi
 
 void QtPresenter::ask(Question question)
 {
+    // A notice that is given again takes the place of the first, so that it is
+    // answered once.
+    if (asking() && question.isNotice() && questions_.back().isNotice() &&
+        question.title == questions_.back().title &&
+        question.message == questions_.back().message) {
+        questions_.back() = std::move(question);
+        return;
+    }
     questions_.push_back(std::move(question));
     if (questions_.size() == 1) {
         emit questionChanged();

@@ -89,6 +89,9 @@ private:
         bool sheet = false;
         QPointer<QtTableView> anchorTable;
         platform::IndexPath anchor;
+
+        /// Whether it only tells something: its one answer does nothing.
+        bool isNotice() const { return !sheet && actions.size() == 1 && !actions.front().handler; }
     };
 
     void ask(Question question);

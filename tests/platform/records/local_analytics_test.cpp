@@ -27,7 +27,7 @@ TEST(LocalAnalytics, WritesOneLineOfJsonAnEvent)
     const TemporaryFolder folder;
     support::FakeClock clock;
     clock.now = 1234.5;
-    LocalAnalytics analytics(folder / "state", clock);
+    LocalAnalytics analytics(folder / "state", folder / "config", clock);
 
     analytics.logEvent("search", {{"text", "l'\"é\n\xff"}});
     analytics.logEvent("share", {});
@@ -48,8 +48,8 @@ TEST(LocalAnalytics, WritesOneLineOfJsonAnEvent)
 bool collectsIn(const TemporaryFolder& folder)
 {
     const support::FakeClock clock;
-    LocalAnalytics(folder.path(), clock).logEvent("search", {});
-    return std::filesystem::remove(folder / "analytics.jsonl");
+    LocalAnalytics(folder / "state", folder / "config", clock).logEvent("search", {});
+    return std::filesystem::remove(folder / "state/analytics.jsonl");
 }
 
 TEST(LocalAnalytics, TheUsersRefusalOutlivesTheProgram)
@@ -58,19 +58,35 @@ TEST(LocalAnalytics, TheUsersRefusalOutlivesTheProgram)
     const support::FakeClock clock;
     EXPECT_TRUE(collectsIn(folder));
     for (const bool enabled : {false, true}) {
-        LocalAnalytics analytics(folder.path(), clock);
+        LocalAnalytics analytics(folder / "state", folder / "config", clock);
         analytics.setAnalyticsCollectionEnabled(enabled);
         analytics.logEvent("at once", {});
-        EXPECT_EQ(std::filesystem::remove(folder / "analytics.jsonl"), enabled);
+        EXPECT_EQ(std::filesystem::remove(folder / "state/analytics.jsonl"), enabled);
         EXPECT_EQ(collectsIn(folder), enabled);
+        std::filesystem::remove_all(folder / "state");
+        EXPECT_EQ(collectsIn(folder), enabled) << "the state folder was cleared";
     }
+}
+
+TEST(LocalAnalytics, TakesOverARefusalThatVersion1Kept)
+{
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder / "state");
+    writeContent(folder / "state/analytics.json", "{\"collectionEnabled\": false}");
+
+    EXPECT_FALSE(collectsIn(folder));
+
+    EXPECT_FALSE(std::filesystem::exists(folder / "state/analytics.json"));
+    std::filesystem::remove_all(folder / "state");
+    EXPECT_FALSE(collectsIn(folder));
 }
 
 TEST(LocalAnalytics, ADamagedFlagCollectsNothing)
 {
     for (const char* content : {"", "{", "[]", "{}", "{\"collectionEnabled\": 1}"}) {
         const TemporaryFolder folder;
-        writeContent(folder / "analytics.json", content);
+        std::filesystem::create_directory(folder / "config");
+        writeContent(folder / "config/analytics.json", content);
         EXPECT_FALSE(collectsIn(folder)) << content;
     }
 }
@@ -79,7 +95,7 @@ TEST(LocalAnalytics, StaysBelowItsCapAndLosesAnEventThatIsTooLarge)
 {
     const TemporaryFolder folder;
     const support::FakeClock clock;
-    LocalAnalytics analytics(folder.path(), clock);
+    LocalAnalytics analytics(folder.path(), folder.path(), clock);
 
     analytics.logEvent("huge", {{"text", std::string(LocalAnalytics::kMaximumBytes, 'x')}});
     for (int turn = 0; turn < 400; ++turn) {

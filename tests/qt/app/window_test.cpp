@@ -253,6 +253,9 @@ TEST_F(WindowTest, ARequestFromOutsideWithdrawsWhatWaitsForTheUser)
     }
     ASSERT_TRUE(presenter.asking());
 
+    application->serve({QStringLiteral("com.brindle.shortcut.other"), {}, {}});
+    EXPECT_TRUE(presenter.asking()) << "nothing is known of that";
+
     application->serve({QStringLiteral("com.brindle.shortcut.favourite"), {}, {}});
 
     EXPECT_FALSE(presenter.asking());

@@ -87,7 +87,7 @@ struct Programs {
     support::EnvironmentVariable path{"PATH", folder.path()};
 };
 
-TEST(DesktopMail, ThePortalTakesTheMessageAndItsAnswerIsTheOutcome)
+TEST(DesktopMail, ThePortalTakesTheMessageAndNeverSaysThatItWasSent)
 {
     struct Case {
         uint version;
@@ -96,8 +96,8 @@ TEST(DesktopMail, ThePortalTakesTheMessageAndItsAnswerIsTheOutcome)
         MailComposeResult result;
     };
     const Case cases[] = {
-        {3, 0, false, MailComposeResult::Sent},     {3, 1, false, MailComposeResult::Cancelled},
-        {3, 2, false, MailComposeResult::Failed},   {2, 0, false, MailComposeResult::Sent},
+        {3, 0, false, MailComposeResult::Saved},    {3, 1, false, MailComposeResult::Cancelled},
+        {3, 2, false, MailComposeResult::Failed},   {2, 0, false, MailComposeResult::Saved},
         {1, 1, true, MailComposeResult::Cancelled},
     };
     for (const auto& c : cases) {
@@ -107,8 +107,8 @@ TEST(DesktopMail, ThePortalTakesTheMessageAndItsAnswerIsTheOutcome)
                                    {.versions = {{kEmail, c.version}},
                                     .response = c.response,
                                     .choosesPaths = c.choosesPaths}};
-        DesktopMail mail{{bus.connect(), {}}};
-        EXPECT_TRUE(mail.canSendMail()) << "whatever programs there are";
+        DesktopMail mail{{bus.connect(), handlesAll}};
+        EXPECT_TRUE(mail.canSendMail());
         Outcome outcome;
         compose(mail, outcome);
 
@@ -161,8 +161,20 @@ TEST(DesktopMail, WithoutAPortalTheMailProgramSavesTheMessage)
     }
 }
 
-TEST(DesktopMail, NeedsAPortalOrAProgramForMailtoAddresses)
+TEST(DesktopMail, NeedsAProgramForMailtoAddressesWhichASandboxHidesBehindThePortal)
 {
+    {
+        MessageBus bus;
+        const StandInPortal portal{bus, {.versions = {{kEmail, 3}, {kOpenUri, 4}}}};
+        Desktop desktop{bus.connect()};
+        EXPECT_FALSE(DesktopMail(desktop).canSendMail());
+        EXPECT_FALSE(DesktopUrlOpener(desktop).canOpen("https://example.org"));
+        EXPECT_FALSE(DesktopUrlOpener(desktop).open("https://example.org"));
+        desktop.sandboxed = true;
+        EXPECT_TRUE(DesktopMail(desktop).canSendMail());
+        EXPECT_TRUE(DesktopUrlOpener(desktop).canOpen("https://example.org"));
+        EXPECT_FALSE(DesktopUrlOpener(desktop).canOpen("appstream://org.example.a"));
+    }
     const Programs programs{"xdg-email", 0};
     EXPECT_TRUE(DesktopMail({QDBusConnection{QString{}}, handlesAll}).canSendMail());
     EXPECT_FALSE(DesktopMail(Desktop{}).canSendMail()) << "xdg-email alone sends nothing";

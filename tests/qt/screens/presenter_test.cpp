@@ -41,6 +41,20 @@ TEST_F(PresenterTest, AsksOneQuestionAfterTheOther)
     EXPECT_FALSE(presenter.asking());
 }
 
+TEST_F(PresenterTest, ANoticeGivenAgainIsAnsweredOnce)
+{
+    const auto failed = platform::notice("Mail", "could not be sent", "OK");
+    presenter.presentAlert(screen, {"Mail", "could not be sent", {action("again")}});
+    presenter.presentAlert(screen, failed);
+    presenter.presentAlert(screen, failed);
+    presenter.presentAlert(screen, platform::notice("Mail", "other", "OK"));
+
+    presenter.answer(0);
+    EXPECT_EQ(answered, "again") << "what does something is asked";
+    presenter.answer(0);
+    EXPECT_EQ(presenter.questionMessage(), QStringLiteral("other"));
+}
+
 TEST_F(PresenterTest, LeavesAQuestionOnlyByAnAnswerThatCancelsOrFromASheet)
 {
     presenter.presentAlert(screen, {"Sure?", "", {action("yes")}});
