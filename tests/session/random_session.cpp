@@ -256,7 +256,7 @@ std::string RandomSession::changeAppearance()
     static const std::vector<double> kScales{0.8, 1, 1, 1.3, 2};
     const qt::Appearance appearance{
         .dark = below(2) == 0, .textScale = oneOf(kScales), .reducedMotion = below(2) == 0};
-    application_.setAppearance(appearance);
+    application_.appearance().setDesktop(appearance);
     return "appearance with texts of " + std::to_string(appearance.textScale);
 }
 
@@ -297,7 +297,7 @@ std::string RandomSession::goHome()
     }
     // A verb in the second pane comes to lie over the home screen.
     window.resize(kPhone);
-    application_.setAppearance({});
+    application_.appearance().setDesktop({});
     if (!becomes([&] { return application_.splitScreen().collapsed(); }, kPatience) || !escape()) {
         return "Escape does not lead home once there is one pane" + state();
     }

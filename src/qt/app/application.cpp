@@ -4,7 +4,6 @@
 #include "qt/app/application.h"
 
 #include "platform/files/atomic_file.h"
-#include "qt/base/color_conversion.h"
 #include "qt/base/text_conversion.h"
 #include "qt/screens/icon_provider.h"
 
@@ -47,6 +46,7 @@ Application::Application(ApplicationOptions options)
       analytics_{options_.folders.state, options_.folders.config, clock_},
       bundle_{options_.shareFolder},
       device_{options_.launchArguments},
+      appearance_{kAccentPrimary},
       presenter_{storyboard_},
       mail_{options_.desktop},
       urlOpener_{options_.desktop},
@@ -67,7 +67,7 @@ Application::Application(ApplicationOptions options)
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             &Application::applicationStateChanged);
     connect(&settingsPortal_, &SettingsPortal::appearanceChanged, this,
-            [this] { setAppearance(settingsPortal_.appearance()); });
+            [this] { appearance_.setDesktop(settingsPortal_.appearance()); });
 }
 
 Application::~Application() = default;
@@ -79,7 +79,7 @@ bool Application::show()
     engine_.setInitialProperties({{QStringLiteral("presenter"), QVariant::fromValue(&presenter_)},
                                   {QStringLiteral("files"), QVariant::fromValue(&fileChooser_)},
                                   {QStringLiteral("share"), QVariant::fromValue(&shareSheet_)},
-                                  {QStringLiteral("accent"), toQColor(kAccentPrimary)},
+                                  {QStringLiteral("appearance"), QVariant::fromValue(&appearance_)},
                                   {QStringLiteral("width"), options_.windowSize.width()},
                                   {QStringLiteral("height"), options_.windowSize.height()}});
     engine_.load(QUrl{QStringLiteral("qrc:/Lumora/Main.qml")});
@@ -114,37 +114,17 @@ void Application::launch()
     }
     device_.setWindowWidth(window_->width());
     delegate_.didFinishLaunching(launch);
-    colourBars(delegate_.appearance());
+    appearance_.setBars(delegate_.appearance());
     splitScreen_ =
         std::make_unique<SplitScreen>(root, device_, *presenter_.modals(), *presenter_.preview());
     QQmlEngine::setObjectOwnership(splitScreen_.get(), QQmlEngine::CppOwnership);
     splitScreen_->setWidth(window_->width());
-    window_->setProperty("split", QVariant::fromValue(splitScreen_.get()));
+    presenter_.setPanes(splitScreen_.get());
     for (const auto& link : options_.links) {
         delegate_.openLink(link);
     }
     for (const auto& request : std::exchange(waiting_, {})) {
         open(request);
-    }
-}
-
-void Application::colourBars(const app::BarAppearance& bars)
-{
-    const QVariantMap colours{
-        {QStringLiteral("navigationBarTint"), toQColor(bars.navigationBarTint)},
-        {QStringLiteral("navigationBarBackground"), toQColor(bars.navigationBarBackground)},
-        {QStringLiteral("navigationBarTitle"), toQColor(bars.navigationBarTitle)},
-        {QStringLiteral("tabBarTint"), toQColor(bars.tabBarTint)},
-        {QStringLiteral("segmentedControlTint"), toQColor(bars.segmentedControlTint)}};
-    QMetaObject::invokeMethod(window_, "colourBars", Q_ARG(QVariant, colours));
-}
-
-void Application::setAppearance(const Appearance& appearance)
-{
-    if (window_ != nullptr) {
-        window_->setProperty("dark", appearance.dark);
-        window_->setProperty("textScale", appearance.textScale);
-        window_->setProperty("reducedMotion", appearance.reducedMotion);
     }
 }
 

@@ -10,8 +10,8 @@
 #include "platform/records/local_analytics.h"
 #include "platform/screens/services.h"
 #include "platform/storage/file_settings_store.h"
+#include "qt/app/window_appearance.h"
 #include "qt/base/standard_folders.h"
-#include "qt/desktop/appearance.h"
 #include "qt/desktop/desktop.h"
 #include "qt/desktop/desktop_mail.h"
 #include "qt/desktop/desktop_review_prompter.h"
@@ -76,7 +76,7 @@ public:
     QtPresenter& presenter() { return presenter_; }
     QtFileChooser& fileChooser() { return fileChooser_; }
     platform::SettingsStore& settings() { return settings_; }
-    void setAppearance(const Appearance& appearance);
+    WindowAppearance& appearance() { return appearance_; }
     /// Comes to the front and does what is asked for, as soon as it can.
     void serve(const InstanceRequest& request);
     /// From now on a crash leaves a report. One application a process.
@@ -88,7 +88,6 @@ private:
     void applicationStateChanged(Qt::ApplicationState state);
     void raise(const QString& activationToken);
     void clearTheWay();
-    void colourBars(const app::BarAppearance& bars);
     void open(const InstanceRequest& request);
 
     ApplicationOptions options_;
@@ -102,6 +101,7 @@ private:
     platform::NotificationCenter notifications_;
     QtViewFactory views_;
     app::MainStoryboard storyboard_;
+    WindowAppearance appearance_;
     QtPresenter presenter_;
     QtSpeech speech_;
     PulseAudioSession audioSession_;

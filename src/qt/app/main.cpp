@@ -145,7 +145,7 @@ ShownProgram showForTour(const QSize& window, bool dark, const std::filesystem::
         return {};
     }
     application->launch();
-    application->setAppearance({.dark = dark});
+    application->appearance().setDesktop({.dark = dark});
     return {application, application->window()};
 }
 

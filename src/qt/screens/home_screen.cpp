@@ -51,9 +51,8 @@ QVariantList HomeScreen::tabs() const
 {
     QVariantList tabs;
     for (const auto& item : home_->tabBar.items) {
-        tabs.append(QVariantMap{{QStringLiteral("tag"), static_cast<int>(item.tag)},
-                                {QStringLiteral("title"), toQString(item.title)},
-                                {QStringLiteral("image"), toQString(item.image)}});
+        tabs.append(QVariant::fromValue(
+            HomeTab{static_cast<int>(item.tag), toQString(item.title), toQString(item.image)}));
     }
     return tabs;
 }

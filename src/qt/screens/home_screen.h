@@ -11,8 +11,22 @@ namespace lumora::qt {
 
 class ScreenRegistry;
 
+/// One of the tabs below the lists.
+struct HomeTab {
+    Q_GADGET
+    QML_VALUE_TYPE(homeTab)
+    Q_PROPERTY(int tag MEMBER tag FINAL)
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(QString image MEMBER image FINAL)
+
+public:
+    int tag = 0;
+    QString title;
+    QString image;
+};
+
 /// The home screen: its tabs, the lists behind them and the search over them.
-class HomeScreen final : public Screen {
+class HomeScreen final : public lumora::qt::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the registry")
@@ -32,7 +46,7 @@ public:
                ScreenRegistry& registry);
     ~HomeScreen() override;
 
-    /// Maps of tag, title and image.
+    /// Of HomeTab.
     QVariantList tabs() const;
     int selectedTab() const { return static_cast<int>(home_->tabBar.selectedItem); }
     /// The lists shown so far, which keep their place behind the others.

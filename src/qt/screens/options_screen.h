@@ -11,7 +11,7 @@
 namespace lumora::qt {
 
 /// The options: a table with a header above it.
-class OptionsScreen final : public TableScreen {
+class OptionsScreen final : public lumora::qt::TableScreen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the registry")

@@ -104,6 +104,12 @@ void QtPresenter::dismiss(platform::ViewController& presented, std::function<voi
     }
 }
 
+void QtPresenter::setPanes(SplitScreen* panes)
+{
+    panes_ = panes;
+    emit panesChanged();
+}
+
 void QtPresenter::ask(Question question)
 {
     // A notice that is given again takes the place of the first, so that it is
@@ -137,10 +143,9 @@ QVariantList QtPresenter::answers() const
         return list;
     }
     for (const auto& action : questions_.front().actions) {
-        list.append(QVariantMap{
-            {QStringLiteral("title"), toQString(action.title)},
-            {QStringLiteral("destructive"), action.style == platform::ActionStyle::Destructive},
-            {QStringLiteral("cancel"), action.style == platform::ActionStyle::Cancel}});
+        list.append(QVariant::fromValue(QuestionAnswer{
+            toQString(action.title), action.style == platform::ActionStyle::Destructive,
+            action.style == platform::ActionStyle::Cancel}));
     }
     return list;
 }

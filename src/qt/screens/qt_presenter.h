@@ -24,18 +24,38 @@ class MailComposer;
 
 namespace lumora::qt {
 
+class SplitScreen;
+
+/// What a question may be answered with.
+struct QuestionAnswer {
+    Q_GADGET
+    QML_VALUE_TYPE(questionAnswer)
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(bool destructive MEMBER destructive FINAL)
+    Q_PROPERTY(bool cancel MEMBER cancel FINAL)
+
+public:
+    QString title;
+    bool destructive = false;
+    /// Leaves everything as it is.
+    bool cancel = false;
+};
+
 /// Takes the steps between screens, keeps those that lie over the others, and
 /// holds the questions that QML asks, one at a time. GUI thread only.
 class QtPresenter final : public QObject, public platform::Presenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the program")
+    Q_MOC_INCLUDE("qt/screens/split_screen.h")
+    Q_PROPERTY(lumora::qt::SplitScreen* panes READ panes NOTIFY panesChanged)
     Q_PROPERTY(lumora::qt::QtPreview* preview READ preview CONSTANT)
     Q_PROPERTY(bool asking READ asking NOTIFY questionChanged)
     Q_PROPERTY(bool sheet READ isSheet NOTIFY questionChanged)
     Q_PROPERTY(QString questionTitle READ questionTitle NOTIFY questionChanged)
     Q_PROPERTY(QString questionMessage READ questionMessage NOTIFY questionChanged)
     Q_PROPERTY(QVariantList answers READ answers NOTIFY questionChanged)
+    Q_PROPERTY(int cancelIndex READ cancelIndex NOTIFY questionChanged)
     Q_PROPERTY(bool cancellable READ isCancellable NOTIFY questionChanged)
     Q_PROPERTY(lumora::qt::QtTableView* anchorTable READ anchorTable NOTIFY questionChanged)
     Q_PROPERTY(int anchorRow READ anchorRow NOTIFY questionChanged)
@@ -56,13 +76,19 @@ public:
                             platform::IndexPath anchor) override;
     void dismiss(platform::ViewController& presented, std::function<void()> completed) override;
 
+    /// What the window shows; null until the launch is through.
+    SplitScreen* panes() const { return panes_; }
+    /// They must outlive the window.
+    void setPanes(SplitScreen* panes);
     QtPreview* preview() { return &preview_; }
     bool asking() const { return !questions_.empty(); }
     bool isSheet() const { return asking() && questions_.front().sheet; }
     QString questionTitle() const;
     QString questionMessage() const;
-    /// Maps of title, destructive and cancel.
+    /// Of QuestionAnswer.
     QVariantList answers() const;
+    /// Which of the answers cancels; -1 for none.
+    int cancelIndex() const;
     /// Whether the question may be left without one of its answers: a sheet
     /// always, an alert when one of its answers cancels.
     bool isCancellable() const;
@@ -79,6 +105,7 @@ public:
     Q_INVOKABLE void cancel();
 
 signals:
+    void panesChanged();
     void questionChanged();
 
 private:
@@ -95,13 +122,13 @@ private:
     };
 
     void ask(Question question);
-    int cancelIndex() const;
 
     std::shared_ptr<platform::ViewController> prepared(platform::ViewController& source,
                                                        std::string_view identifier,
                                                        std::optional<platform::IndexPath> sender);
 
     platform::Storyboard& storyboard_;
+    SplitScreen* panes_ = nullptr;
     ModalStack modals_{this};
     QtPreview preview_{this};
     /// On show in another program's window. They keep themselves until their

@@ -13,12 +13,10 @@ namespace lumora::qt {
 
 namespace {
 
-QVariantMap toMap(const platform::BarButton& button)
+QVariant toVariant(const platform::BarButton& button)
 {
-    return {{QStringLiteral("identifier"), toQString(button.identifier)},
-            {QStringLiteral("title"), toQString(button.title)},
-            {QStringLiteral("image"), toQString(button.image)},
-            {QStringLiteral("enabled"), button.enabled}};
+    return QVariant::fromValue(ScreenButton{toQString(button.identifier), toQString(button.title),
+                                            toQString(button.image), button.enabled});
 }
 
 } // namespace
@@ -44,7 +42,7 @@ QVariantList Screen::leftButtons() const
 {
     QVariantList buttons;
     if (const auto& button = controller_->navigationItem().leftBarButton) {
-        buttons.append(toMap(*button));
+        buttons.append(toVariant(*button));
     }
     return buttons;
 }
@@ -53,7 +51,7 @@ QVariantList Screen::rightButtons() const
 {
     QVariantList buttons;
     for (const auto& button : controller_->navigationItem().rightBarButtons) {
-        buttons.append(toMap(button));
+        buttons.append(toVariant(button));
     }
     return buttons;
 }

@@ -10,7 +10,7 @@
 namespace lumora::qt {
 
 /// A screen that is one table.
-class TableScreen : public Screen {
+class TableScreen : public lumora::qt::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the registry")

@@ -13,7 +13,7 @@
 namespace lumora::qt {
 
 /// The verb detail screen: one verb as a table or as a collection.
-class VerbDetailScreen final : public Screen {
+class VerbDetailScreen final : public lumora::qt::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the registry")

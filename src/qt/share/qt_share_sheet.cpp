@@ -108,10 +108,8 @@ QVariantList QtShareSheet::rows() const
 {
     QVariantList list;
     for (const auto& row : rows_) {
-        list.append(QVariantMap{{QStringLiteral("title"), row.title},
-                                {QStringLiteral("detail"), row.detail},
-                                {QStringLiteral("image"), QString::fromLatin1(row.image)},
-                                {QStringLiteral("enabled"), row.chosen != nullptr}});
+        list.append(QVariant::fromValue(ShareOffer{
+            row.title, row.detail, QString::fromLatin1(row.image), row.chosen != nullptr}));
     }
     return list;
 }

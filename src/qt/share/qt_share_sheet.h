@@ -25,6 +25,23 @@
 
 namespace lumora::qt {
 
+/// A row of the share sheet: one way to share, or one printer.
+struct ShareOffer {
+    Q_GADGET
+    QML_VALUE_TYPE(shareOffer)
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(QString detail MEMBER detail FINAL)
+    Q_PROPERTY(QString image MEMBER image FINAL)
+    Q_PROPERTY(bool enabled MEMBER enabled FINAL)
+
+public:
+    QString title;
+    /// Why it cannot be chosen; empty where it can.
+    QString detail;
+    QString image;
+    bool enabled = false;
+};
+
 /// The ways out for one thing at a time: the offers, and then which printer to
 /// take. QML shows it and says what was chosen. GUI thread
 /// only; printers are talked to on a thread of their own.
@@ -56,7 +73,7 @@ public:
     bool isOpen() const { return stage_ != Stage::Closed; }
     /// What is shared, or what the rows choose.
     QString heading() const;
-    /// Maps of title, detail, image and enabled.
+    /// Of ShareOffer.
     QVariantList rows() const;
     /// The bar button that the sheet stands by; null when it is out of sight.
     QQuickItem* anchor() const { return anchor_; }

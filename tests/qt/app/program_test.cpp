@@ -9,6 +9,7 @@
 
 #include <QDBusConnectionInterface>
 #include <QProcess>
+#include <QQmlEngine>
 
 #include <csignal>
 
@@ -146,9 +147,10 @@ TEST_F(RunningProgram, LooksAsTheDesktopIsSetAndFollowsIt)
               {{"text-scaling-factor", 1.5}, {"enable-animations", false}, {"cursor-size", 24}}}}}};
     begin();
     const auto now = [this] {
-        return Appearance{application->window()->property("dark").toBool(),
-                          application->window()->property("textScale").toDouble(),
-                          application->window()->property("reducedMotion").toBool()};
+        const auto* theme = qmlEngine(application->window())
+                                ->singletonInstance<QObject*>(qmlTypeId("Lumora", 1, 0, "Theme"));
+        return Appearance{theme->property("dark").toBool(), theme->property("textScale").toDouble(),
+                          theme->property("reducedMotion").toBool()};
     };
     const auto becomes = [&](const Appearance& expected) {
         return until([&] { return now() == expected; });

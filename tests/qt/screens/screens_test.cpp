@@ -166,7 +166,7 @@ struct ScreensTest : WindowFixture, testing::WithParamInterface<const char*> {
 TEST_P(ScreensTest, EveryTextHasRoomAndStandsOutAsIconsDo)
 {
     start(kPhone);
-    application->setAppearance({.dark = look.endsWith("dark")});
+    application->appearance().setDesktop({.dark = look.endsWith("dark")});
     lookAt("home");
     tap("tab2");
     lookAt("no history");
@@ -211,7 +211,7 @@ struct Shapes : WindowFixture, testing::WithParamInterface<bool> {};
 TEST_P(Shapes, RingsAndSwitchesStandOut)
 {
     start(kPhone);
-    application->setAppearance({.dark = GetParam()});
+    application->appearance().setDesktop({.dark = GetParam()});
     QQmlComponent asking{qmlEngine(application->window())};
     asking.setData("import QtQml\nimport Lumora\nQtObject { property QtObject theme: Theme }",
                    QUrl{"qrc:/Lumora/asking.qml"});

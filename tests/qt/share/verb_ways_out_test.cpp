@@ -170,9 +170,9 @@ TEST_F(ShareSheetTest, CopiesPrintsAndSends)
 
     mail.canSend = false;
     present();
-    const auto row = sheet.rows().at(Mail).toMap();
-    EXPECT_FALSE(row.value(QStringLiteral("enabled")).toBool());
-    EXPECT_NE(row.value(QStringLiteral("detail")).toString(), QString{}) << "says why";
+    const auto row = sheet.rows().at(Mail).value<ShareOffer>();
+    EXPECT_FALSE(row.enabled);
+    EXPECT_NE(row.detail, QString{}) << "says why";
     sheet.choose(Mail);
     EXPECT_EQ(mail.composers.size(), 1U);
 
@@ -186,8 +186,7 @@ TEST_F(ShareSheetTest, CopiesPrintsAndSends)
     EXPECT_TRUE(presenter.alerts.empty());
     sheet.choose(Print);
     EXPECT_TRUE(QTest::qWaitFor([&] {
-        return presenter.alerts.size() == 1 ||
-               sheet.rows().first().toMap().value(QStringLiteral("enabled")).toBool();
+        return presenter.alerts.size() == 1 || sheet.rows().first().value<ShareOffer>().enabled;
     }));
 }
 

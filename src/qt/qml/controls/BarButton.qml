@@ -16,11 +16,10 @@ TouchButton {
     rightPadding: Theme.gap
 
     contentItem: Item {
-        implicitWidth: content.implicitWidth
-        implicitHeight: content.implicitHeight
+        implicitWidth: children[0]?.implicitWidth ?? 0
+        implicitHeight: children[0]?.implicitHeight ?? 0
 
         Row {
-            id: content
             anchors.centerIn: parent
             spacing: 4
 

@@ -13,10 +13,12 @@ Image {
     property int size: 24
     // Cuts the corners off.
     property real radius: 0
+    readonly property int pixels: Math.round(size * Theme.pixelRatio)
 
     width: size
     height: size
-    sourceSize: Qt.size(size * Theme.pixelRatio, size * Theme.pixelRatio)
+    sourceSize.width: pixels
+    sourceSize.height: pixels
     source: name === "" ? "" : "image://icon/" + name + "/" + String(color).slice(-6) + "/" + radius * Theme.pixelRatio
     fillMode: Image.PreserveAspectFit
     Accessible.ignored: true

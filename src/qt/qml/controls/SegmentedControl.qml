@@ -16,8 +16,8 @@ Item {
     property string name
     property string prefix: "segment"
     property bool inTabOrder: false
-    property color onColor: Theme.segmentOn
-    property color onInk: Theme.segmentInk
+    property color chosenColor: Theme.segmentOn
+    property color chosenInk: Theme.segmentInk
     property int padding: 4
     // How much less than a finger touches is drawn, above and below.
     property int inset: 4
@@ -93,14 +93,14 @@ Item {
 
                 background: Rectangle {
                     radius: ground.radius
-                    color: segment.checked ? root.onColor : segment.down ? Theme.pressed : "transparent"
+                    color: segment.checked ? root.chosenColor : segment.down ? Theme.pressed : "transparent"
                     border.width: segment.visualFocus ? 2 : 0
                     border.color: Theme.accentText
                 }
                 contentItem: Text {
                     padding: root.padding
                     text: segment.text
-                    color: segment.checked ? root.onInk : Theme.text
+                    color: segment.checked ? root.chosenInk : Theme.text
                     font.pixelSize: root.fontSize
                     font.weight: segment.checked ? Font.DemiBold : Font.Normal
                     wrapMode: Text.WordWrap

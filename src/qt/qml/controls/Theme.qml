@@ -3,28 +3,31 @@
 
 pragma Singleton
 import QtQuick
+import Lumora
 
 // The one place for colours, sizes and distances.
 QtObject {
-    property bool dark: false
-    property color accentPrimary: "#0b4ea2"
-    // The person's wish for larger or smaller text.
-    property real textScale: 1
-    // Of the window's screen.
+    // Set by the window, with the pixel ratio of its screen.
+    property Appearance appearance: null
     property real pixelRatio: 1
+
+    readonly property bool dark: appearance?.dark ?? false
+    readonly property color accentPrimary: appearance?.accent ?? "#0b4ea2"
+    // The person's wish for larger or smaller text.
+    readonly property real textScale: appearance?.textScale ?? 1
     // The person's wish to see nothing move.
-    property bool reducedMotion: false
+    readonly property bool reducedMotion: appearance?.reducedMotion ?? false
 
     readonly property color accentSecondary: dark ? "#f2b84b" : "#9a5b00"
     readonly property color accentSecondaryInk: dark ? "#16191d" : "#ffffff"
     // Accent on the page rather than behind white text.
     readonly property color accentText: dark ? "#8ab8f5" : accentPrimary
     // What the launch chose, for a light page.
-    property color navigationBarTint: "#ffffff"
-    property color navigationBarBackground: accentPrimary
-    property color navigationBarTitle: "#ffffff"
-    property color tabBarTint: accentPrimary
-    property color segmentedControlTint: "#555555"
+    readonly property color navigationBarTint: appearance?.navigationBarTint ?? "#ffffff"
+    readonly property color navigationBarBackground: appearance?.navigationBarBackground ?? accentPrimary
+    readonly property color navigationBarTitle: appearance?.navigationBarTitle ?? "#ffffff"
+    readonly property color tabBarTint: appearance?.tabBarTint ?? accentPrimary
+    readonly property color segmentedControlTint: appearance?.segmentedControlTint ?? "#555555"
     readonly property color barBackground: dark ? "#10325f" : navigationBarBackground
     readonly property color tabOn: dark ? accentText : tabBarTint
     readonly property color menu: dark ? "#0d2444" : Qt.darker(accentPrimary, 1.25)
@@ -52,7 +55,7 @@ QtObject {
     readonly property color playBorder: dark ? "#ffffff" : "#0155b3"
     // A play control at rest.
     readonly property url playPicture: "image://icon/Play/" + String(playBorder).slice(-6)
-    readonly property size playSize: Qt.size(30 * pixelRatio, 30 * pixelRatio)
+    readonly property int playPixels: Math.round(30 * pixelRatio)
 
     readonly property int small: Math.round(13 * textScale)
     readonly property int body: Math.round(17 * textScale)

@@ -9,46 +9,35 @@ import Lumora
 Window {
     id: root
 
-    // Null until the launch is through; until then the window shows its colours.
-    property SplitScreen split: null
+    required property Appearance appearance
     required property QtPresenter presenter
     required property QtFileChooser files
     required property QtShareSheet share
-    required property color accent
+    // Null until the launch is through; until then the window shows its colours.
+    readonly property SplitScreen split: presenter.panes
     readonly property ModalStack modals: presenter.modals
-    property bool dark: false
-    property real textScale: 1
-    property bool reducedMotion: false
-
-    // By the names that the theme has for them.
-    function colourBars(colours) {
-        for (const name in colours)
-            Theme[name] = colours[name];
-    }
 
     // What goes while it has the keyboard leaves it with nobody.
     function giveKeyboard() {
         if (activeFocusItem !== contentItem)
             return;
-        const layer = [question, fileLayer, shareLayer, previewLayer, modalLayer].find(layer => layer.wanted) ?? panes;
-        layer.item?.forceActiveFocus();
+        for (const layer of [questionLayer, fileLayer, shareLayer, previewLayer, modalLayer]) {
+            if (layer.wanted) {
+                layer.takeKeyboard();
+                return;
+            }
+        }
+        panes.takeKeyboard();
     }
 
     onActiveFocusItemChanged: if (activeFocusItem === contentItem)
-        Qt.callLater(giveKeyboard)
+        Qt.callLater(giveKeyboard) // qmllint disable
     minimumWidth: 280
     minimumHeight: 360
     visible: true
     title: "Lumora"
     color: Theme.background
     onWidthChanged: root.split?.setWidth(width)
-    onSplitChanged: {
-        if (root.split !== null) {
-            panes.setSource("qrc:/Lumora/Panes.qml", {
-                split: root.split
-            });
-        }
-    }
 
     Binding {
         target: Theme
@@ -57,23 +46,8 @@ Window {
     }
     Binding {
         target: Theme
-        property: "dark"
-        value: root.dark
-    }
-    Binding {
-        target: Theme
-        property: "textScale"
-        value: root.textScale
-    }
-    Binding {
-        target: Theme
-        property: "reducedMotion"
-        value: root.reducedMotion
-    }
-    Binding {
-        target: Theme
-        property: "accentPrimary"
-        value: root.accent
+        property: "appearance"
+        value: root.appearance
     }
     Rectangle {
         width: parent.width
@@ -81,104 +55,66 @@ Window {
         color: Theme.barBackground
         visible: panes.status !== Loader.Ready
     }
-    Loader {
+    PageLayer {
         id: panes
-        anchors.fill: parent
+        page: root.split === null ? "" : "Panes"
+        given: ({
+                presenter: root.presenter
+            })
         enabled: !root.presenter.asking && root.modals.count === 0 && !previewLayer.wanted && !shareLayer.wanted && !fileLayer.wanted
         focus: enabled
-        onLoaded: item.focus = true
     }
     EdgePull {
         id: pull
         height: parent.height
-        enabled: active || panes.enabled && panes.item !== null && panes.item.homeOnTop
+        enabled: active || panes.enabled && ((panes.item as Panes)?.homeOnTop ?? false)
         onBegun: root.split.home.press("menu")
     }
-    Loader {
+    PageLayer {
         id: modalLayer
-
-        readonly property bool wanted: root.modals.count > 0
-
-        anchors.fill: parent
+        page: root.modals.count === 0 ? "" : "ModalLayer"
+        kept: true
+        given: ({
+                stack: root.modals,
+                pull: pull
+            })
         enabled: wanted && !root.presenter.asking && !fileLayer.wanted
         focus: enabled
-        onWantedChanged: if (status === Loader.Null)
-            setSource("qrc:/Lumora/ModalLayer.qml", {
-                "stack": root.modals,
-                "pull": pull
-            })
-        onLoaded: item.focus = true
     }
-    Loader {
+    PageLayer {
         id: previewLayer
-
-        readonly property bool wanted: root.presenter.preview.screen !== null
-
-        anchors.fill: parent
+        page: root.presenter.preview.screen === null ? "" : "VerbPreview"
+        given: ({
+                preview: root.presenter.preview
+            })
         enabled: !root.presenter.asking
-        focus: wanted && enabled
-        onWantedChanged: {
-            if (wanted)
-                setSource("qrc:/Lumora/VerbPreview.qml", {
-                    "preview": root.presenter.preview
-                });
-            else
-                source = "";
-        }
-        onLoaded: item.forceActiveFocus()
+        grabsKeyboard: true
     }
-    Loader {
+    PageLayer {
         id: shareLayer
-
-        readonly property bool wanted: root.share.open
-
-        anchors.fill: parent
+        page: root.share.open ? "ShareSheet" : ""
+        given: ({
+                share: root.share,
+                modals: root.modals
+            })
         enabled: !root.presenter.asking
-        focus: wanted && enabled
-        onWantedChanged: {
-            if (wanted)
-                setSource("qrc:/Lumora/ShareSheet.qml", {
-                    "share": root.share,
-                    "wide": Qt.binding(() => !root.modals.fullScreen)
-                });
-            else
-                source = "";
-        }
-        onLoaded: item.forceActiveFocus()
+        grabsKeyboard: true
     }
-    Loader {
+    PageLayer {
         id: fileLayer
-
-        readonly property bool wanted: root.files.asking
-
-        anchors.fill: parent
+        page: root.files.asking ? "FileQuestion" : ""
+        given: ({
+                chooser: root.files
+            })
         enabled: !root.presenter.asking
-        focus: wanted && enabled
-        onWantedChanged: {
-            if (wanted)
-                setSource("qrc:/Lumora/FileQuestion.qml", {
-                    "chooser": root.files
-                });
-            else
-                source = "";
-        }
-        onLoaded: item.forceActiveFocus()
+        grabsKeyboard: true
     }
-    Loader {
-        id: question
-
-        readonly property bool wanted: root.presenter.asking
-
-        anchors.fill: parent
-        focus: wanted
-        onWantedChanged: {
-            if (wanted)
-                setSource("qrc:/Lumora/QuestionDialog.qml", {
-                    "presenter": root.presenter
-                });
-            else
-                source = "";
-        }
-        onLoaded: item.forceActiveFocus()
+    PageLayer {
+        id: questionLayer
+        page: !root.presenter.asking ? "" : root.presenter.sheet ? "ActionSheet" : "AlertDialog"
+        given: ({
+                presenter: root.presenter
+            })
+        grabsKeyboard: true
     }
 }

@@ -9,7 +9,7 @@ import Lumora
 Rectangle {
     id: root
 
-    required property Screen screen
+    required property AppScreen screen
     property bool canGoBack: false
     property bool wide: false
     property bool hasButtons: true

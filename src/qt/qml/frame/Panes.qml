@@ -8,7 +8,8 @@ import Lumora
 FocusScope {
     id: root
 
-    required property SplitScreen split
+    required property QtPresenter presenter
+    readonly property SplitScreen split: presenter.panes
     readonly property bool twoPanes: !split.collapsed
     readonly property bool homeOnTop: split.primary.length === 1 && !split.primaryHidden
     readonly property int listWidth: Math.max(320, Math.min(360, Math.round(width * 0.34)))
@@ -21,7 +22,7 @@ FocusScope {
             primary.forceActiveFocus();
     }
 
-    onTwoPanesChanged: Qt.callLater(keepKeyboard)
+    onTwoPanesChanged: Qt.callLater(keepKeyboard) // qmllint disable
 
     ScreenStack {
         id: primary
@@ -68,7 +69,7 @@ FocusScope {
     Keys.onBackPressed: event => event.accepted = root.split.back()
 
     Shortcut {
-        sequences: [StandardKey.Find]
+        sequences: [StandardKey.Find] // qmllint disable unqualified
         enabled: root.enabled
         onActivated: {
             root.split.backToHome();
@@ -85,7 +86,7 @@ FocusScope {
 
         Shortcut {
             required property int index
-            required property var modelData
+            required property homeTab modelData
 
             sequence: "Ctrl+" + (index + 1)
             enabled: root.enabled

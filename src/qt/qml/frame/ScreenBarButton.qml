@@ -8,8 +8,8 @@ import Lumora
 BarButton {
     id: root
 
-    required property Screen screen
-    required property var modelData
+    required property AppScreen screen
+    required property screenButton modelData
     readonly property bool on: modelData.image === "ic_favorite_toolbar"
 
     objectName: "bar." + modelData.identifier

@@ -9,7 +9,7 @@ import Lumora
 FocusScope {
     id: root
 
-    required property Screen screen
+    required property AppScreen screen
     property bool canGoBack: false
     // Stands beside another pane.
     property bool wide: false

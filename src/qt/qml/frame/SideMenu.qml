@@ -10,7 +10,7 @@ FocusScope {
 
     required property Modal modal
     required property EdgePull pull
-    readonly property TableScreen screen: modal.screens.length > 0 ? modal.screens[0] : null
+    readonly property TableScreen screen: (modal.screens[0] ?? null) as TableScreen
 
     // Let go of halfway, it goes where it was going.
     function settle(velocity) {

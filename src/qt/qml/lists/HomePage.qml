@@ -9,7 +9,7 @@ import Lumora
 ScreenPage {
     id: root
 
-    readonly property HomeScreen home: screen
+    readonly property HomeScreen home: screen as HomeScreen
     readonly property bool searching: home.searchText !== ""
 
     SearchField {
@@ -38,7 +38,7 @@ ScreenPage {
                 id: place
 
                 required property int index
-                readonly property TableScreen list: root.home.lists[index] ?? null
+                readonly property TableScreen list: (root.home.lists[index] ?? null) as TableScreen
 
                 anchors.fill: parent
                 active: list !== null

@@ -10,30 +10,30 @@ TouchButton {
 
     required property int index
     required property var modelData
+    readonly property int iconSize: 24
     readonly property color ink: modelData.destructive ? Theme.danger : Theme.text
 
     objectName: "previewAction" + index
     implicitHeight: Theme.touch + 4
+    leftPadding: Theme.margin
+    rightPadding: Theme.margin
     text: modelData.title
 
     contentItem: Item {
-        Text {
-            anchors.left: parent.left
-            anchors.leftMargin: Theme.margin
-            anchors.right: icon.left
+        Icon {
+            anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
+            size: root.iconSize
+            name: root.modelData.image
+            color: root.ink
+        }
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            width: parent.width - root.iconSize
             text: root.text
             color: root.ink
             font.pixelSize: Theme.body
             elide: Text.ElideRight
-        }
-        Icon {
-            id: icon
-            anchors.right: parent.right
-            anchors.rightMargin: Theme.margin
-            anchors.verticalCenter: parent.verticalCenter
-            name: root.modelData.image
-            color: root.ink
         }
     }
 }

@@ -31,7 +31,7 @@ Rectangle {
             T.TabButton {
                 id: tab
 
-                required property var modelData
+                required property homeTab modelData
                 readonly property color ink: checked ? Theme.tabOn : Theme.textSecondary
 
                 objectName: "tab" + modelData.tag

@@ -12,7 +12,7 @@ TableRow {
     required property string detailText
     required property string image
 
-    Accessible.name: [text, detailText, image !== "" ? qsTrId("button.favourite") : ""].filter(part => part !== "").join(", ")
+    Accessible.name: text + (detailText === "" ? "" : ", " + detailText) + (image === "" ? "" : ", " + qsTrId("button.favourite"))
     onPressAndHold: if (isCell && swipe.position === 0)
         table.model.hold(index)
 

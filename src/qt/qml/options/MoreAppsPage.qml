@@ -8,7 +8,7 @@ import Lumora
 ScreenPage {
     id: root
 
-    readonly property TableScreen apps: screen
+    readonly property TableScreen apps: screen as TableScreen
 
     color: Theme.grouped
 

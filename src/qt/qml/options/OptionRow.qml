@@ -19,7 +19,7 @@ GroupedRow {
     // A finger may touch these also above and below what is drawn.
     readonly property int overlap: control === TableItemModel.Switch ? 6 : control === TableItemModel.Segments ? 4 : 0
     readonly property real space: width - 4 * Theme.margin
-    readonly property real wishedWidth: value.item === null ? 0 : value.item.implicitWidth
+    readonly property real wishedWidth: (value.item as Item)?.implicitWidth ?? 0
     readonly property bool stacked: (control === TableItemModel.Segments || detailText !== "") && label.implicitWidth + Theme.margin + wishedWidth > space
     readonly property real valueWidth: stacked ? space : Math.min(wishedWidth, space)
     readonly property real drawnHeight: value.height - 2 * overlap

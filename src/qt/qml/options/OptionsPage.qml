@@ -8,7 +8,7 @@ import Lumora
 ScreenPage {
     id: root
 
-    readonly property OptionsScreen options: screen
+    readonly property OptionsScreen options: screen as OptionsScreen
 
     color: Theme.grouped
 

@@ -9,7 +9,7 @@ TouchButton {
     id: root
 
     required property int index
-    required property var modelData
+    required property questionAnswer modelData
 
     objectName: "answer" + index
     implicitHeight: Math.max(Theme.touch + 4, implicitContentHeight + topPadding + bottomPadding)

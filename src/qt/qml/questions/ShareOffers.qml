@@ -3,7 +3,6 @@
 
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Controls.Basic
 import Lumora
 
 // What the share sheet offers, one row each.
@@ -12,44 +11,28 @@ FocusScope {
 
     required property QtShareSheet share
 
-    implicitHeight: column.implicitHeight + cancel.implicitHeight + Theme.gap
+    implicitHeight: list.contentHeight + cancel.implicitHeight + Theme.gap
 
-    Flickable {
-        id: flickable
+    ChoiceList {
+        id: list
         anchors.top: parent.top
         anchors.bottom: cancel.top
         width: parent.width
-        contentHeight: column.implicitHeight
-        clip: interactive
-        boundsBehavior: Flickable.StopAtBounds
-        interactive: contentHeight > height
+        topPadding: Theme.margin
 
-        ScrollBar.vertical: ScrollBar {
-            // It would fade out on a sheet that has just got its height.
-            visible: flickable.interactive
-            policy: ScrollBar.AlwaysOn
-            Accessible.ignored: true
-        }
-
-        Column {
-            id: column
+        SheetHeading {
             width: parent.width
-            topPadding: Theme.margin
+            text: root.share.heading
+        }
+        Repeater {
+            model: root.share.rows
 
-            SheetHeading {
-                width: parent.width
-                text: root.share.heading
-            }
-            Repeater {
-                model: root.share.rows
-
-                ShareRow {
-                    width: column.width
-                    onClicked: root.share.choose(index)
-                    // What the keyboard is on stays in sight.
-                    onActiveFocusChanged: if (activeFocus)
-                        flickable.contentY = Math.max(0, Math.min(y, Math.max(flickable.contentY, y + height - flickable.height)))
-                }
+            ShareRow {
+                id: row
+                width: list.width
+                onClicked: root.share.choose(index)
+                onActiveFocusChanged: if (activeFocus)
+                    list.keepInSight(row)
             }
         }
     }

@@ -9,31 +9,28 @@ TouchButton {
     id: root
 
     required property int index
-    required property var modelData
+    required property shareOffer modelData
     readonly property color ink: enabled ? Theme.text : Theme.textSecondary
 
     objectName: "share" + index
-    implicitHeight: Math.max(Theme.touch + 4, texts.implicitHeight + 2 * Theme.gap)
+    implicitHeight: Math.max(Theme.touch + 4, implicitContentHeight + 2 * Theme.gap)
+    leftPadding: Theme.margin
+    rightPadding: Theme.margin
     text: modelData.title
     enabled: modelData.enabled
     Accessible.name: modelData.detail === "" ? text : text + ". " + modelData.detail
 
-    contentItem: Item {
+    contentItem: Row {
+        spacing: Theme.margin
+
         Icon {
-            id: icon
-            x: Theme.margin
             anchors.verticalCenter: parent.verticalCenter
-            visible: name !== ""
             name: root.modelData.image
             color: root.enabled ? Theme.accentText : Theme.textSecondary
         }
         Column {
-            id: texts
-            anchors.left: icon.right
-            anchors.leftMargin: Theme.margin
-            anchors.right: parent.right
-            anchors.rightMargin: Theme.margin
             anchors.verticalCenter: parent.verticalCenter
+            width: parent.width - x
 
             Text {
                 width: parent.width

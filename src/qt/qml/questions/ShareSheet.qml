@@ -6,56 +6,29 @@ import Lumora
 
 // The ways out for a verb: rising from the bottom of a narrow window, beside
 // the bar button on a wide one.
-FocusScope {
+Question {
     id: root
 
     required property QtShareSheet share
-    required property bool wide
+    required property ModalStack modals
     readonly property Item button: share.anchor
-    readonly property bool popover: wide && button !== null
+    readonly property bool popover: !modals.fullScreen && button !== null
     // The middle of the button's lower edge.
     property point tip
-    property real presence: 0
 
     function place() {
         if (button !== null)
             tip = mapFromItem(button, button.width / 2, button.height);
     }
-    function moveFocus(forward) {
-        (Window.activeFocusItem ?? root).nextItemInFocusChain(forward).forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
-    }
 
-    focus: true
-    Accessible.role: Accessible.Dialog
-    Accessible.name: share.heading
-    Keys.onEscapePressed: share.cancel()
-    Keys.onBackPressed: share.cancel()
-    Keys.onDownPressed: moveFocus(true)
-    Keys.onUpPressed: moveFocus(false)
-    onButtonChanged: Qt.callLater(place)
-    onWidthChanged: Qt.callLater(place)
-    Component.onCompleted: {
-        place();
-        presence = 1;
-    }
+    heading: share.heading
+    shade: popover ? 0.5 : 1
+    onDismissed: share.cancel()
+    onTappedBeside: share.cancel()
+    onButtonChanged: Qt.callLater(place) // qmllint disable
+    onWidthChanged: Qt.callLater(place) // qmllint disable
+    Component.onCompleted: place()
 
-    Behavior on presence {
-        NumberAnimation {
-            duration: Theme.quick
-            easing.type: Easing.OutCubic
-        }
-    }
-    Rectangle {
-        anchors.fill: parent
-        color: Theme.shade
-        opacity: root.presence * (root.popover ? 0.5 : 1)
-
-        MouseArea {
-            anchors.fill: parent
-            onClicked: root.share.cancel()
-            onWheel: wheel => wheel.accepted = true
-        }
-    }
     Rectangle {
         // Points at the button.
         visible: root.popover

@@ -13,8 +13,8 @@ MenuItem {
     property bool destructive: false
     readonly property color ink: destructive ? Theme.danger : Theme.text
 
-    implicitWidth: content.implicitWidth + leftPadding + rightPadding
-    implicitHeight: Math.max(Theme.touch, content.implicitHeight + Theme.gap)
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: Math.max(Theme.touch, implicitContentHeight + Theme.gap)
     leftPadding: 12
     rightPadding: 16
     arrow: null
@@ -22,7 +22,6 @@ MenuItem {
     Accessible.name: text
 
     contentItem: Row {
-        id: content
         spacing: 12
 
         Icon {

@@ -56,7 +56,7 @@ T.Control {
             menu.setSource("qrc:/Lumora/RowMenu.qml", {
                 "table": root.table
             });
-        menu.item.openFor(row, root, point);
+        (menu.item as RowMenu).openFor(row, root, point);
     }
     function showMenuOfCurrent() {
         const item = list.currentItem;

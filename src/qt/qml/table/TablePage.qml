@@ -8,7 +8,7 @@ import Lumora
 ScreenPage {
     id: root
 
-    readonly property TableScreen tableScreen: screen
+    readonly property TableScreen tableScreen: screen as TableScreen
 
     VerbTable {
         anchors.fill: parent

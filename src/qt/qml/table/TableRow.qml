@@ -60,7 +60,7 @@ T.SwipeDelegate {
     }
 
     onSwipedChanged: if (swiped)
-        ListView.view.parent.rowSwiped(root)
+        (ListView.view.parent as TableContent).rowSwiped(root)
 
     ListView.onPooled: swipe.close()
 
@@ -75,7 +75,8 @@ T.SwipeDelegate {
             color: root.separatorColor
         }
     }
-    contentItem: Item {
+    // Made at once, since what a row shows goes into it.
+    contentItem: Item { // qmllint disable deferred-property-id
         Item {
             id: holder
             anchors.fill: parent

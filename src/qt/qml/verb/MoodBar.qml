@@ -22,8 +22,8 @@ Rectangle {
         name: qsTrId("verb.moods")
         prefix: "mood"
         inTabOrder: true
-        onColor: Theme.accentSecondary
-        onInk: Theme.accentSecondaryInk
+        chosenColor: Theme.accentSecondary
+        chosenInk: Theme.accentSecondaryInk
         titles: root.screen.moods
         selected: root.screen.selectedMood
         onChosen: segment => root.screen.selectMood(segment)

@@ -25,7 +25,8 @@ T.AbstractButton {
 
     contentItem: Image {
         source: Theme.playPicture
-        sourceSize: Theme.playSize
+        sourceSize.width: Theme.playPixels
+        sourceSize.height: Theme.playPixels
         fillMode: Image.Pad
 
         Loader {

@@ -19,19 +19,28 @@ Rectangle {
     // Of the forms; that of the pronouns' font is with it.
     required property int textSize
     required property FontMetrics metrics
-    readonly property real lineHeight: (height - label.y - label.height - 4 - Theme.gap) / 6
-    // As wide as the widest, but the form needs most of the line.
-    readonly property real pronounWidth: Math.min(0.4 * label.width, Math.ceil(Math.max(metrics.advanceWidth(line0.leading.trim()), metrics.advanceWidth(line1.leading.trim()), metrics.advanceWidth(line2.leading.trim()), metrics.advanceWidth(line3.leading.trim()), metrics.advanceWidth(line4.leading.trim()), metrics.advanceWidth(line5.leading.trim()))))
     readonly property bool isCurrent: GridView.isCurrentItem && GridView.view.activeFocus
 
     signal played(int line)
 
+    function pronounSpace(line) {
+        return metrics.advanceWidth(line.leading.trim());
+    }
+
+    component Measures: QtObject {
+        property real width
+        property real height
+        property real pronounWidth
+        property int textSize
+    }
+    // An inline component sees nothing of the card by itself.
     component Line: FormLine {
-        x: label.x
-        width: label.width
-        height: root.lineHeight
-        pronounWidth: root.pronounWidth
-        textSize: root.textSize
+        required property Measures measures
+
+        width: measures.width
+        height: measures.height
+        pronounWidth: measures.pronounWidth
+        textSize: measures.textSize
     }
 
     radius: Theme.radius
@@ -55,30 +64,45 @@ Rectangle {
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }
+    Measures {
+        id: sizes
+        width: label.width
+        height: (root.height - label.y - label.height - 4 - Theme.gap) / 6
+        // As wide as the widest, but the form needs most of the line.
+        pronounWidth: Math.min(0.4 * width, Math.ceil(Math.max(root.pronounSpace(root.line0), root.pronounSpace(root.line1), root.pronounSpace(root.line2), root.pronounSpace(root.line3), root.pronounSpace(root.line4), root.pronounSpace(root.line5))))
+        textSize: root.textSize
+    }
     Column {
+        x: label.x
         y: label.y + label.height + 4
 
         Line {
+            measures: sizes
             line: root.line0
             onPlayed: root.played(0)
         }
         Line {
+            measures: sizes
             line: root.line1
             onPlayed: root.played(1)
         }
         Line {
+            measures: sizes
             line: root.line2
             onPlayed: root.played(2)
         }
         Line {
+            measures: sizes
             line: root.line3
             onPlayed: root.played(3)
         }
         Line {
+            measures: sizes
             line: root.line4
             onPlayed: root.played(4)
         }
         Line {
+            measures: sizes
             line: root.line5
             onPlayed: root.played(5)
         }

@@ -9,7 +9,7 @@ import Lumora
 ScreenPage {
     id: root
 
-    readonly property VerbDetailScreen verb: screen
+    readonly property VerbDetailScreen verb: screen as VerbDetailScreen
 
     barMenu: verb.selectTextHidden ? menu : null
 
@@ -74,7 +74,7 @@ ScreenPage {
                 root.verb.prepareTable();
                 // The first section is not a tense.
                 if (root.verb.topTense > 0)
-                    list.positionViewAtIndex(table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
+                    list.positionViewAtIndex(content.table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
             }
 
             Connections {
