@@ -41,10 +41,10 @@ struct OptionRow {
 
     int section = 0;
     Kind kind = Kind::Switch;
-    std::string_view labelKey = "";
+    std::string_view labelKey{};
     std::array<std::string_view, 2> segmentKeys{};
     /// Of the store.
-    std::string_view key = "";
+    std::string_view key{};
     /// Whether the switch is on, or the second segment is chosen.
     bool (*read)(const Settings&, std::string_view key) = nullptr;
     void (*write)(Settings&, std::string_view key, bool on) = nullptr;
