@@ -24,7 +24,8 @@ public:
     {
         return {"Conjugations",
                 titles.at(static_cast<std::size_t>(item)),
-                {{"je", "vais", 30, 8, false, {indicator}}, {" ", " ", 0, 0, true, {nullptr}}}};
+                {{"je", "vais", 30, 8, false, {indicator}, "je vais"},
+                 {" ", " ", 0, 0, true, {nullptr}, ""}}};
     }
     platform::CollectionHeader header() override
     {
