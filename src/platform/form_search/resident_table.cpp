@@ -8,6 +8,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <new>
 #include <string_view>
 #include <utility>
 
@@ -47,8 +48,8 @@ int connectTable(sqlite3* connection, void* context, int /*count*/, const char* 
 {
     const auto& table = *static_cast<const ResidentTable*>(context);
     const int code = sqlite3_declare_vtab(connection, table.schema().c_str());
-    *made = code == SQLITE_OK ? new VirtualTable(table) : nullptr;
-    return code;
+    *made = code == SQLITE_OK ? new (std::nothrow) VirtualTable(table) : nullptr;
+    return code == SQLITE_OK && *made == nullptr ? SQLITE_NOMEM : code;
 }
 
 int choosePlan(sqlite3_vtab* table, sqlite3_index_info* info)
@@ -147,9 +148,9 @@ constexpr sqlite3_module makeModule()
         return SQLITE_OK;
     };
     module.xDestroy = module.xDisconnect;
-    module.xOpen = [](sqlite3_vtab* /*table*/, sqlite3_vtab_cursor** cursor) noexcept {
-        *cursor = new Cursor{};
-        return SQLITE_OK;
+    module.xOpen = [](sqlite3_vtab* /*table*/, sqlite3_vtab_cursor** cursor) {
+        *cursor = new (std::nothrow) Cursor{};
+        return *cursor == nullptr ? SQLITE_NOMEM : SQLITE_OK;
     };
     module.xClose = [](sqlite3_vtab_cursor* cursor) {
         delete &cursorOf(cursor);

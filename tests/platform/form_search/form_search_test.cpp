@@ -215,6 +215,24 @@ TEST_F(FormSearch, FindsWhatTheRealTablesHold)
     EXPECT_GT(found, 300U);
 }
 
+TEST_F(FormSearch, TellsThePatternsOfAStatementApart)
+{
+    Ids ids;
+    queue->inDatabase([&](Database& database) {
+        forms->executeQuery(database,
+                            "SELECT verb._id FROM verb LEFT OUTER JOIN conjugation ON verb._id = "
+                            "conjugation.verbid WHERE conjugation.verb LIKE ? OR conjugation.verb "
+                            "LIKE ? GROUP BY verb._id",
+                            {std::string("as"), std::string("es")},
+                            [&](platform::Result<platform::ResultSet>& rows) {
+                                while (rows->next()) {
+                                    ids.push_back(rows->stringForColumn(0));
+                                }
+                            });
+    });
+    EXPECT_EQ(ids, (Ids{"1", "2"}));
+}
+
 TEST_F(FormSearch, IsFastOnlyWithAHelperTableThatIsWhole)
 {
     EXPECT_TRUE(isFast());
