@@ -43,18 +43,5 @@ TEST(QtJavaScriptContext, TellsAThrownValueFromAResult)
     }
 }
 
-TEST(QtJavaScriptContext, KeepsItsWorldToItselfAndOverAnException)
-{
-    QtJavaScriptContextFactory contexts;
-    const auto first = contexts.makeJavaScriptContext();
-    const auto second = contexts.makeJavaScriptContext();
-
-    first->evaluateScript("var kept = 'here'");
-    first->evaluateScript("throw 'without a handler'");
-
-    EXPECT_EQ(first->evaluateScript("kept"), "here");
-    EXPECT_EQ(second->evaluateScript("typeof kept"), "undefined");
-}
-
 } // namespace
 } // namespace lumora::qt

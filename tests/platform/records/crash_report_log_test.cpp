@@ -81,19 +81,6 @@ TEST(CrashReportLog, AnEntryStaysOneLineOfBoundedLength)
     EXPECT_TRUE(content.ends_with("é\n")) << "cut inside a character";
 }
 
-TEST(CrashReportLog, StaysBelowItsCap)
-{
-    const TemporaryFolder folder;
-    CrashReportLog log(folder.path());
-
-    for (int line = 0; line < 100; ++line) {
-        log.logWithFormat("%d %@", {line, std::string(4000, 'x')});
-    }
-
-    EXPECT_LE(std::filesystem::file_size(folder / "log.txt"), CrashReportLog::kMaximumLogBytes);
-    EXPECT_NE(contentOf(folder / "log.txt").find("\n99 x"), std::string::npos);
-}
-
 TEST(CrashReportLog, AFolderThatCannotBeMadeIsSilence)
 {
     const TemporaryFolder folder;

@@ -12,7 +12,6 @@
 #include <QXmlStreamReader>
 
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <regex>
 #include <set>
@@ -159,19 +158,6 @@ TEST(QtBundle, SpeaksTheFirstLanguageThatItHas)
         EXPECT_EQ(bundle.textForKey("no.such.key"), std::nullopt);
     }
     EXPECT_EQ(bundle.textForKey("tabs.list"), std::nullopt) << "nothing installed any more";
-}
-
-TEST(QtBundle, ReadsFactsAndFindsResources)
-{
-    const support::TemporaryFolder folder;
-    std::ofstream{folder / "bundle.json"} << R"({"CFBundleShortVersionString": "1.2", "n": 3})";
-    std::ofstream{folder / "verbs.db"} << "x";
-    const QtBundle bundle{folder.path()};
-
-    EXPECT_EQ(bundle.infoValue("CFBundleShortVersionString"), "1.2");
-    EXPECT_EQ(bundle.infoValue("n"), std::nullopt);
-    EXPECT_EQ(bundle.pathForResource("verbs", "db"), folder / "verbs.db");
-    EXPECT_EQ(bundle.pathForResource("verbs", "txt"), std::nullopt);
 }
 
 } // namespace

@@ -77,16 +77,6 @@ struct Journey : WindowFixture {
     }
 };
 
-TEST_F(Journey, FindAVerbStarItAndSeeItAmongTheFavourites)
-{
-    start(kPhone);
-    touch("Search");
-    type("etr");
-    ASSERT_TRUE(until([&] { return verbs() == QStringList{"être"}; }));
-    touch("être", "bar.favourite", "backButton", "searchClear", "tab1");
-    EXPECT_TRUE(until([&] { return verbs() == QStringList{"être"}; }));
-}
-
 TEST_F(Journey, ChooseTheVoiceInTheMenuOfAVerb)
 {
     start(kPhone);
