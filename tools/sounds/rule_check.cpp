@@ -148,7 +148,9 @@ private:
         }
         const auto vous = present(Person::Vous);
         const auto infinitive = said_.find({Tense::Infinitif, Person::Nobody});
-        if (!vous.empty() && infinitive != said_.end() && vous != infinitive->second) {
+        if (!vous.empty() && infinitive != said_.end() &&
+            !std::includes(infinitive->second.begin(), infinitive->second.end(), vous.begin(),
+                           vous.end())) {
             breakRule("alike", "vous and infinitive", *vous.begin());
         }
     }
@@ -161,10 +163,12 @@ private:
                 continue;
             }
             const bool open = conjugator::elides(form.form, entry().aspirated);
+            // En is linked on both sides: nous nous‿en sortons, je m'en‿allais.
+            const bool en = form.pronoun.ends_with(" en") || form.pronoun.ends_with("'en");
             const bool linked = form.rowIpa.find("‿") != std::string::npos;
             const bool mayLink = form.person == Person::Nous || form.person == Person::Vous ||
                                  (!entry().pronominal && form.person == Person::Ils);
-            if (linked != (open && mayLink)) {
+            if (linked != (((open || en) && mayLink) || (open && en))) {
                 breakRule("liaison", form.pronoun + " " + form.form, form.rowIpa);
             }
             const bool elided = form.pronoun.ends_with('\'');
