@@ -145,17 +145,24 @@ void HomeViewController::historyFeatureToggled(const data::HistoryFeatureToggled
 void HomeViewController::openTab(const data::TabOpenEvent& news)
 {
     if (news.selectedTab == data::TabOpenEvent::kHistory) {
-        showTab(Tab::History);
+        didSelectItem(Tab::History);
     } else if (news.selectedTab == data::TabOpenEvent::kFavourites) {
-        showTab(Tab::Favourites);
+        didSelectItem(Tab::Favourites);
     } else {
-        showTab(Tab::List);
+        didSelectItem(Tab::List);
     }
 }
 
 void HomeViewController::didSelectItem(Tab tag)
 {
+    endSearch();
     showTab(tag);
+}
+
+void HomeViewController::endSearch()
+{
+    searchBar.text.clear();
+    searchBar.isFirstResponder = false;
 }
 
 void HomeViewController::buildTabBarItems()

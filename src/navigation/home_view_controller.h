@@ -98,6 +98,7 @@ public:
     /// listener.
     void setOutletListener(std::function<void()> listener);
 
+    /// Shows a tab, which the results of a search would cover: it ends.
     void didSelectItem(Tab tag);
     /// The user changed the text of the search field.
     void searchTextChanged(std::string text);
@@ -128,6 +129,7 @@ private:
     void openTab(const data::TabOpenEvent& news);
     void makeSearchResultsController();
     void findDetailViewController();
+    void endSearch();
     void showTab(Tab tab);
     void buildTabBarItems();
     std::shared_ptr<lists::InterstitialTableViewController> listFor(Tab tab);

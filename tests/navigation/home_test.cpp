@@ -56,8 +56,21 @@ TEST_F(Home, ATabOpenEventShowsTheTabItNames)
     };
     for (const auto& [info, tab] : cases) {
         home->didSelectItem(Tab::History);
+        home->searchTextChanged("aller");
         world.notifications.post({"TabOpenEvent", {}, info});
         EXPECT_EQ(home->tabBar.selectedItem, tab);
+        EXPECT_EQ(home->searchBar.text, "") << "the results would cover the tab";
+    }
+}
+
+TEST_F(Home, ChoosingATabEndsTheSearchEvenWhereItIsTheSame)
+{
+    for (const auto tab : {Tab::Favourites, Tab::Favourites, Tab::List}) {
+        home->searchTextChanged("aller");
+        home->focusSearchBar();
+        home->didSelectItem(tab);
+        EXPECT_EQ(home->searchBar.text, "");
+        EXPECT_FALSE(home->searchBar.isFirstResponder);
     }
 }
 
