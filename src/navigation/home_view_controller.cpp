@@ -19,6 +19,7 @@
 #include "settings/search_from.h"
 #include "settings/setting_keys.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <optional>
 #include <utility>
@@ -144,13 +145,19 @@ void HomeViewController::historyFeatureToggled(const data::HistoryFeatureToggled
 
 void HomeViewController::openTab(const data::TabOpenEvent& news)
 {
-    if (news.selectedTab == data::TabOpenEvent::kHistory) {
+    if (news.selectedTab == data::TabOpenEvent::kHistory && offers(Tab::History)) {
         didSelectItem(Tab::History);
     } else if (news.selectedTab == data::TabOpenEvent::kFavourites) {
         didSelectItem(Tab::Favourites);
     } else {
         didSelectItem(Tab::List);
     }
+}
+
+bool HomeViewController::offers(Tab tab) const
+{
+    return std::any_of(tabBar.items.begin(), tabBar.items.end(),
+                       [tab](const TabBarItem& item) { return item.tag == tab; });
 }
 
 void HomeViewController::didSelectItem(Tab tag)

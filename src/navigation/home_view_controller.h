@@ -129,6 +129,7 @@ private:
     void openTab(const data::TabOpenEvent& news);
     void makeSearchResultsController();
     void findDetailViewController();
+    bool offers(Tab tab) const;
     void endSearch();
     void showTab(Tab tab);
     void buildTabBarItems();

@@ -63,6 +63,18 @@ TEST_F(Home, ATabOpenEventShowsTheTabItNames)
     }
 }
 
+TEST_F(Home, AHistoryThatIsSwitchedOffIsNotOpenedFromOutside)
+{
+    world.settings.setValue(false, "UseHistory");
+    data::post(world.notifications, data::HistoryFeatureToggled{false});
+    home->didSelectItem(Tab::Favourites);
+
+    data::post(world.notifications, data::TabOpenEvent{"History"});
+
+    EXPECT_EQ(home->tabBar.selectedItem, Tab::List);
+    EXPECT_TRUE(dynamic_cast<lists::VerbListTableViewController*>(home->currentChild().get()));
+}
+
 TEST_F(Home, ChoosingATabEndsTheSearchEvenWhereItIsTheSame)
 {
     for (const auto tab : {Tab::Favourites, Tab::Favourites, Tab::List}) {
