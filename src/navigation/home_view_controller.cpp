@@ -5,6 +5,7 @@
 
 #include "detail/verb_detail_table_view_controller.h"
 #include "export/support_email_sender.h"
+#include "lists/favourites_table_view_controller.h"
 #include "lists/history_table_view_controller.h"
 #include "lists/interstitial_table_view_controller.h"
 #include "lists/verb_list_table_view_controller.h"
@@ -296,6 +297,10 @@ void HomeViewController::optionsClosed(bool fieldsChanged)
     dynamic_cast<lists::HistoryTableViewController&>(*listFor(Tab::History)).reloadHistory();
     data::post(services_.notifications, data::RefreshConjugations{});
     sendCrashReportValues();
+    // One that was never shown reads its favourites when it is.
+    if (const auto& favourites = children_.at(static_cast<std::size_t>(Tab::Favourites))) {
+        dynamic_cast<lists::FavouritesTableViewController&>(*favourites).reloadFavourites();
+    }
 }
 
 void HomeViewController::sendCrashReportValues()

@@ -160,6 +160,12 @@ TEST_F(Home, WhatTheOptionsChangeShowsWhenTheyClose)
     const std::vector withHistory{Tab::List, Tab::Favourites, Tab::History};
     EXPECT_EQ(tabs(), withHistory);
     EXPECT_EQ(list.verbs.begin()->second.front()->french, "aller");
+    home->didSelectItem(Tab::Favourites);
+    world.execute("INSERT INTO favourite(verbid) VALUES (1), (3)");
+    auto& favourites =
+        dynamic_cast<lists::FavouritesTableViewController&>(*home->currentChild());
+    favourites.reloadFavourites();
+    EXPECT_EQ(support::infinitives(favourites.verbs), (std::vector<std::string>{"aller", "avoir"}));
     home->didSelectItem(Tab::History);
     world.settings.setValue(std::string{"de"}, "translation_language");
     options.segmentChanged({0, 2}, 0);
@@ -170,6 +176,7 @@ TEST_F(Home, WhatTheOptionsChangeShowsWhenTheyClose)
     EXPECT_EQ(tabs(), withHistory);
     options.close();
     EXPECT_EQ(list.verbs.begin()->second.front()->french, "avoir") << "ärgern comes first";
+    EXPECT_EQ(support::infinitives(favourites.verbs), (std::vector<std::string>{"avoir", "aller"}));
     EXPECT_EQ(refreshes, 1);
     EXPECT_EQ(world.crashReporter.customValues["SortByLang"], platform::CustomValue{false});
 }
