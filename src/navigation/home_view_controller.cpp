@@ -70,6 +70,8 @@ void HomeViewController::viewDidLoad()
         services_.notifications, [this](const auto& news) { historyFeatureToggled(news); });
     tabOpen_ = data::observe<data::TabOpenEvent>(services_.notifications,
                                                  [this](const auto& news) { openTab(news); });
+    favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
+        services_.notifications, [this](const auto& news) { verbFavouriteToggled(news); });
     makeSearchResultsController();
 
     const auto text = [this](std::string_view key) {
@@ -142,6 +144,14 @@ void HomeViewController::setSplitViewController(platform::SplitViewController* s
 void HomeViewController::historyFeatureToggled(const data::HistoryFeatureToggled& /*news*/)
 {
     buildTabBarItems();
+}
+
+void HomeViewController::verbFavouriteToggled(const data::VerbFavouriteToggled& news)
+{
+    // The results have already changed a row of their own.
+    if (news.sender != searchResultsController_.get()) {
+        updateSearchResults();
+    }
 }
 
 void HomeViewController::openTab(const data::TabOpenEvent& news)
@@ -301,6 +311,7 @@ void HomeViewController::optionsClosed(bool fieldsChanged)
     if (const auto& favourites = children_.at(static_cast<std::size_t>(Tab::Favourites))) {
         dynamic_cast<lists::FavouritesTableViewController&>(*favourites).reloadFavourites();
     }
+    updateSearchResults();
 }
 
 void HomeViewController::sendCrashReportValues()

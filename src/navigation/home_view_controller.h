@@ -126,6 +126,8 @@ protected:
 private:
     void performSegue(std::string_view identifier);
     void historyFeatureToggled(const data::HistoryFeatureToggled& news);
+    /// The stars of the results follow, which hear no news themselves.
+    void verbFavouriteToggled(const data::VerbFavouriteToggled& news);
     void openTab(const data::TabOpenEvent& news);
     void makeSearchResultsController();
     void findDetailViewController();
@@ -147,6 +149,7 @@ private:
     std::function<void()> outletListener_;
     platform::NotificationCenter::Subscription historyFeature_;
     platform::NotificationCenter::Subscription tabOpen_;
+    platform::NotificationCenter::Subscription favouriteToggled_;
 };
 
 } // namespace lumora::navigation

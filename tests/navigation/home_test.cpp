@@ -106,6 +106,30 @@ TEST_F(Home, AnEmptySearchTextDoesNotReachTheResults)
     EXPECT_EQ(results.verbs.size(), 1U);
 }
 
+TEST_F(Home, TheResultsFollowAFavouriteAndTheOptions)
+{
+    auto& results = *home->searchResultsController();
+    home->searchTextChanged("vais");
+    ASSERT_TRUE(results.verbs.empty());
+    world.settings.setValue(true, "IncludeConjugations");
+    home->optionsClosed(false);
+    EXPECT_TRUE(results.verbs.empty()) << "nothing has changed";
+    home->optionsClosed(true);
+    EXPECT_EQ(support::infinitives(results.verbs), std::vector<std::string>{"aller"});
+
+    results.rowTapped({0, 0});
+    home->searchTextChanged("vai");
+    world.shownDetail()->favouriteBarButton.action();
+    ASSERT_NE(results.verbs.at(0), world.shownDetail()->selectedVerb);
+    EXPECT_EQ(results.cellForRow({0, 0}).image, "ic_favorite_list");
+
+    home->searchTextChanged("");
+    const int reloads = world.table(results).reloads;
+    home->optionsClosed(true);
+    data::post(world.notifications, data::VerbFavouriteToggled{});
+    EXPECT_EQ(world.table(results).reloads, reloads) << "no text, no search";
+}
+
 TEST_F(Home, AResultOpensAsADetailScreen)
 {
     home->searchTextChanged("être");
@@ -162,8 +186,7 @@ TEST_F(Home, WhatTheOptionsChangeShowsWhenTheyClose)
     EXPECT_EQ(list.verbs.begin()->second.front()->french, "aller");
     home->didSelectItem(Tab::Favourites);
     world.execute("INSERT INTO favourite(verbid) VALUES (1), (3)");
-    auto& favourites =
-        dynamic_cast<lists::FavouritesTableViewController&>(*home->currentChild());
+    auto& favourites = dynamic_cast<lists::FavouritesTableViewController&>(*home->currentChild());
     favourites.reloadFavourites();
     EXPECT_EQ(support::infinitives(favourites.verbs), (std::vector<std::string>{"aller", "avoir"}));
     home->didSelectItem(Tab::History);
