@@ -12,8 +12,10 @@ TableRow {
     required property string note
     required property string detailText
     required property string image
+    // In French, French is no translation.
+    readonly property string translation: detailText === text ? "" : detailText
 
-    Accessible.name: text + (note === "" ? "" : ", " + note) + (detailText === "" ? "" : ", " + detailText) + (image === "" ? "" : ", " + qsTrId("button.favourite"))
+    Accessible.name: text + (note === "" ? "" : ", " + note) + (translation === "" ? "" : ", " + translation) + (image === "" ? "" : ", " + qsTrId("button.favourite"))
     onPressAndHold: if (isCell && swipe.position === 0)
         table.model.hold(index)
 
@@ -47,7 +49,7 @@ TableRow {
         Text {
             width: parent.width
             visible: text !== ""
-            text: root.detailText
+            text: root.translation
             color: Theme.textSecondary
             font.pixelSize: Theme.small + 1
             elide: Text.ElideRight
