@@ -4,11 +4,13 @@
 #include "lists/search_results_table_view_controller.h"
 
 #include "data/verb_reader.h"
+#include "lists/favourite_action.h"
 #include "lists/search_query.h"
 #include "lists/verb_cell.h"
 #include "platform/machine/crash_reporter.h"
 #include "platform/storage/database_queue.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace lumora::lists {
@@ -81,6 +83,28 @@ void SearchResultsTableViewController::rowHeld(platform::IndexPath path)
     if (delegate != nullptr) {
         delegate->didHoldSearchResult(verbAt(path));
     }
+}
+
+bool SearchResultsTableViewController::canEditRow(platform::IndexPath /*path*/)
+{
+    return true;
+}
+
+std::vector<platform::SwipeAction>
+SearchResultsTableViewController::trailingSwipeActions(platform::IndexPath path)
+{
+    return {favouriteAction(*this, services(), queue, verbAt(path), path)};
+}
+
+std::optional<platform::IndexPath>
+SearchResultsTableViewController::pathOfVerb(std::int64_t id) const
+{
+    const auto found = std::find_if(verbs.begin(), verbs.end(),
+                                    [id](const data::VerbPtr& verb) { return verb->id == id; });
+    if (found == verbs.end()) {
+        return std::nullopt;
+    }
+    return platform::IndexPath{0, static_cast<int>(found - verbs.begin())};
 }
 
 } // namespace lumora::lists

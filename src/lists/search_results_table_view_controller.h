@@ -7,6 +7,8 @@
 #include "platform/form_search/form_search.h"
 #include "platform/screens/table_view_controller.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,6 +49,12 @@ public:
     platform::TableCell cellForRow(platform::IndexPath path) override;
     void didSelectRow(platform::IndexPath path) override;
     void rowHeld(platform::IndexPath path) override;
+    bool canEditRow(platform::IndexPath path) override;
+    /// The favourite action, as in the list of all verbs.
+    std::vector<platform::SwipeAction> trailingSwipeActions(platform::IndexPath path) override;
+
+    /// The row that shows the verb now; none when no row does.
+    std::optional<platform::IndexPath> pathOfVerb(std::int64_t id) const;
 
 private:
     const data::VerbPtr& verbAt(platform::IndexPath path) const;

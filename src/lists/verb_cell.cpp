@@ -27,7 +27,7 @@ platform::TableCell verbCell(const data::Verb& verb, const platform::Services& s
     cell.text = verb.french;
     cell.detailText = verb.translation(services.settings, services.device);
     if (!verb.distinction.empty() && translatesIntoFrench(services)) {
-        cell.text += " (" + verb.distinction + ")";
+        cell.note = verb.distinction;
     }
     cell.accessibilityIdentifier = verb.french;
     if (verb.isFavourite) {

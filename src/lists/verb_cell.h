@@ -16,8 +16,8 @@ struct Services;
 namespace lumora::lists {
 
 /// The "VerbCell" of every list: the French verb over its translation, a star
-/// for a favourite. Beside a homograph's name stands what tells it from the others
-/// where the translation is French itself.
+/// for a favourite. Its note tells a homograph from the others where the
+/// translation is French itself.
 platform::TableCell verbCell(const data::Verb& verb, const platform::Services& services);
 
 /// Asks what tells homographs apart if the translations will not, and logs

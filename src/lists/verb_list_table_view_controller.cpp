@@ -3,12 +3,11 @@
 
 #include "lists/verb_list_table_view_controller.h"
 
-#include "data/favourite_statements.h"
 #include "data/verb_reader.h"
+#include "lists/favourite_action.h"
 #include "lists/sort_column.h"
 #include "lists/verb_cell.h"
 #include "platform/machine/analytics.h"
-#include "platform/machine/bundle.h"
 #include "platform/machine/crash_reporter.h"
 #include "platform/storage/database_queue.h"
 #include "text/text.h"
@@ -182,32 +181,7 @@ VerbListTableViewController::trailingSwipeActions(platform::IndexPath path)
     if (!verb) {
         return {};
     }
-    platform::SwipeAction action;
-    const bool favourite = verb->isFavourite;
-    action.title = platform::localizedString(
-        services().bundle, favourite ? "action.favourite.remove" : "action.favourite");
-    action.backgroundColor = favourite ? platform::kRedColor : platform::kLightGrayColor;
-    action.image = favourite ? "remove" : "favourite";
-    action.handler = [this, verb, path](const std::function<void(bool)>& completed) {
-        toggleFavourite(verb, path);
-        completed(true);
-    };
-    return {action};
-}
-
-void VerbListTableViewController::toggleFavourite(const data::VerbPtr& verb,
-                                                  platform::IndexPath path)
-{
-    verb->isFavourite = !verb->isFavourite;
-    tableView().reloadRow(path);
-    if (queue == nullptr) {
-        std::abort();
-    }
-    queue->inDatabase([&](platform::Database& connection) {
-        data::updateFavourite(connection, *verb, services().console);
-        connection.close();
-    });
-    data::post(services().notifications, data::VerbFavouriteToggled{this, verb, {}});
+    return {favouriteAction(*this, services(), queue, verb, path)};
 }
 
 } // namespace lumora::lists

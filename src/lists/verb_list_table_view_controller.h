@@ -50,7 +50,6 @@ protected:
 private:
     void verbFavouriteToggled(const data::VerbFavouriteToggled& news);
     void readVerbs(platform::DatabaseQueue& database, std::string_view sortColumn);
-    void toggleFavourite(const data::VerbPtr& verb, platform::IndexPath path);
     const std::string& keyOfSection(int section) const;
 
     platform::NotificationCenter::Subscription favouriteToggled_;

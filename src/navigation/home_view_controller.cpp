@@ -5,6 +5,7 @@
 
 #include "detail/verb_detail_table_view_controller.h"
 #include "export/support_email_sender.h"
+#include "lists/favourites_table_view_controller.h"
 #include "lists/history_table_view_controller.h"
 #include "lists/interstitial_table_view_controller.h"
 #include "lists/verb_list_table_view_controller.h"
@@ -19,6 +20,7 @@
 #include "settings/search_from.h"
 #include "settings/setting_keys.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <optional>
 #include <utility>
@@ -68,6 +70,8 @@ void HomeViewController::viewDidLoad()
         services_.notifications, [this](const auto& news) { historyFeatureToggled(news); });
     tabOpen_ = data::observe<data::TabOpenEvent>(services_.notifications,
                                                  [this](const auto& news) { openTab(news); });
+    favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
+        services_.notifications, [this](const auto& news) { verbFavouriteToggled(news); });
     makeSearchResultsController();
 
     const auto text = [this](std::string_view key) {
@@ -142,20 +146,41 @@ void HomeViewController::historyFeatureToggled(const data::HistoryFeatureToggled
     buildTabBarItems();
 }
 
+void HomeViewController::verbFavouriteToggled(const data::VerbFavouriteToggled& news)
+{
+    // The results have already changed a row of their own.
+    if (news.sender != searchResultsController_.get()) {
+        updateSearchResults();
+    }
+}
+
 void HomeViewController::openTab(const data::TabOpenEvent& news)
 {
-    if (news.selectedTab == data::TabOpenEvent::kHistory) {
-        showTab(Tab::History);
+    if (news.selectedTab == data::TabOpenEvent::kHistory && offers(Tab::History)) {
+        didSelectItem(Tab::History);
     } else if (news.selectedTab == data::TabOpenEvent::kFavourites) {
-        showTab(Tab::Favourites);
+        didSelectItem(Tab::Favourites);
     } else {
-        showTab(Tab::List);
+        didSelectItem(Tab::List);
     }
+}
+
+bool HomeViewController::offers(Tab tab) const
+{
+    return std::any_of(tabBar.items.begin(), tabBar.items.end(),
+                       [tab](const TabBarItem& item) { return item.tag == tab; });
 }
 
 void HomeViewController::didSelectItem(Tab tag)
 {
+    endSearch();
     showTab(tag);
+}
+
+void HomeViewController::endSearch()
+{
+    searchBar.text.clear();
+    searchBar.isFirstResponder = false;
 }
 
 void HomeViewController::buildTabBarItems()
@@ -282,6 +307,11 @@ void HomeViewController::optionsClosed(bool fieldsChanged)
     dynamic_cast<lists::HistoryTableViewController&>(*listFor(Tab::History)).reloadHistory();
     data::post(services_.notifications, data::RefreshConjugations{});
     sendCrashReportValues();
+    // One that was never shown reads its favourites when it is.
+    if (const auto& favourites = children_.at(static_cast<std::size_t>(Tab::Favourites))) {
+        dynamic_cast<lists::FavouritesTableViewController&>(*favourites).reloadFavourites();
+    }
+    updateSearchResults();
 }
 
 void HomeViewController::sendCrashReportValues()

@@ -98,6 +98,7 @@ public:
     /// listener.
     void setOutletListener(std::function<void()> listener);
 
+    /// Shows a tab, which the results of a search would cover: it ends.
     void didSelectItem(Tab tag);
     /// The user changed the text of the search field.
     void searchTextChanged(std::string text);
@@ -125,9 +126,13 @@ protected:
 private:
     void performSegue(std::string_view identifier);
     void historyFeatureToggled(const data::HistoryFeatureToggled& news);
+    /// The stars of the results follow, which hear no news themselves.
+    void verbFavouriteToggled(const data::VerbFavouriteToggled& news);
     void openTab(const data::TabOpenEvent& news);
     void makeSearchResultsController();
     void findDetailViewController();
+    bool offers(Tab tab) const;
+    void endSearch();
     void showTab(Tab tab);
     void buildTabBarItems();
     std::shared_ptr<lists::InterstitialTableViewController> listFor(Tab tab);
@@ -144,6 +149,7 @@ private:
     std::function<void()> outletListener_;
     platform::NotificationCenter::Subscription historyFeature_;
     platform::NotificationCenter::Subscription tabOpen_;
+    platform::NotificationCenter::Subscription favouriteToggled_;
 };
 
 } // namespace lumora::navigation

@@ -21,6 +21,9 @@ std::vector<TextSection> TerminalTableView::sections() const
         const int rows = source_.numberOfRowsInSection(section);
         for (int row = 0; row < rows; ++row) {
             auto cell = source_.cellForRow({section, row});
+            if (!cell.note.empty()) {
+                cell.text += " (" + cell.note + ")";
+            }
             text.rows.push_back({std::move(cell.text), std::move(cell.detailText)});
         }
         sections.push_back(std::move(text));

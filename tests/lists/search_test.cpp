@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "data/news.h"
 #include "lists/search_query.h"
 #include "lists/search_results_table_view_controller.h"
 
@@ -117,6 +118,30 @@ TEST(SearchResults, FindsWhatAPersonTypes)
         EXPECT_TRUE(world.crashReporter.lines.empty());
         EXPECT_EQ(results->numberOfRowsInSection(0), static_cast<int>(c.found.size()));
     }
+}
+
+TEST(SearchResults, AResultBecomesAFavouriteAsInTheListOfAllVerbs)
+{
+    World world;
+    const auto results = world.load<SearchResultsTableViewController>();
+    results->search("a");
+    const platform::ViewController* sender = nullptr;
+    const auto subscription = data::observe<data::VerbFavouriteToggled>(
+        world.notifications, [&](const auto& news) { sender = news.sender; });
+    const auto avoir = results->pathOfVerb(results->verbs.at(1)->id);
+    ASSERT_EQ(avoir, (platform::IndexPath{0, 1}));
+    EXPECT_TRUE(results->canEditRow(*avoir));
+
+    bool completed = false;
+    results->trailingSwipeActions(*avoir).at(0).handler([&](bool done) { completed = done; });
+
+    EXPECT_TRUE(completed);
+    EXPECT_EQ(sender, results.get());
+    EXPECT_EQ(world.count("favourite JOIN verb ON verb._id = verbid WHERE french = 'avoir'"), 1);
+    EXPECT_EQ(world.table(*results).reloadedRows, std::vector{*avoir});
+    EXPECT_EQ(results->cellForRow(*avoir).image, "ic_favorite_list");
+    EXPECT_EQ(results->trailingSwipeActions(*avoir).at(0).title, "action.favourite.remove");
+    EXPECT_FALSE(results->pathOfVerb(4711));
 }
 
 TEST(SearchResults, AFailureIsLoggedAndEmptiesTheList)

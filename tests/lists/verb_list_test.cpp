@@ -78,6 +78,22 @@ TEST_F(VerbList, ReadsNullAsEmptyAndAFavouriteOnlyFromARowOfItsOwn)
     EXPECT_EQ(list->cellForRow({1, 0}).image, "");
 }
 
+TEST_F(VerbList, AHomographsNoteLeavesItsTextsAsTheyAre)
+{
+    world.execute("INSERT INTO verb(_id, french, simplified_french) VALUES (20, 'aller', 'aller')");
+    world.execute("INSERT INTO verb_facts(verbid, model, auxiliary, use_class) VALUES"
+                  " (3, 'aller', 'être', 1), (20, 'aimer', 'avoir', 5)");
+    world.settings.setValue(std::string{"fr"}, "translation_language");
+    const auto list = world.load<VerbListTableViewController>();
+
+    for (const auto& [row, note] : {std::pair{0, "être"}, {1, "avoir"}, {2, ""}}) {
+        const auto cell = list->cellForRow({0, row});
+        EXPECT_EQ(cell.text, row < 2 ? "aller" : "avoir");
+        EXPECT_EQ(cell.detailText, cell.text);
+        EXPECT_EQ(cell.note, note);
+    }
+}
+
 TEST_F(VerbList, SwipeTogglesTheFavouriteEverywhere)
 {
     const auto list = world.load<VerbListTableViewController>();

@@ -56,8 +56,33 @@ TEST_F(Home, ATabOpenEventShowsTheTabItNames)
     };
     for (const auto& [info, tab] : cases) {
         home->didSelectItem(Tab::History);
+        home->searchTextChanged("aller");
         world.notifications.post({"TabOpenEvent", {}, info});
         EXPECT_EQ(home->tabBar.selectedItem, tab);
+        EXPECT_EQ(home->searchBar.text, "") << "the results would cover the tab";
+    }
+}
+
+TEST_F(Home, AHistoryThatIsSwitchedOffIsNotOpenedFromOutside)
+{
+    world.settings.setValue(false, "UseHistory");
+    data::post(world.notifications, data::HistoryFeatureToggled{false});
+    home->didSelectItem(Tab::Favourites);
+
+    data::post(world.notifications, data::TabOpenEvent{"History"});
+
+    EXPECT_EQ(home->tabBar.selectedItem, Tab::List);
+    EXPECT_TRUE(dynamic_cast<lists::VerbListTableViewController*>(home->currentChild().get()));
+}
+
+TEST_F(Home, ChoosingATabEndsTheSearchEvenWhereItIsTheSame)
+{
+    for (const auto tab : {Tab::Favourites, Tab::Favourites, Tab::List}) {
+        home->searchTextChanged("aller");
+        home->focusSearchBar();
+        home->didSelectItem(tab);
+        EXPECT_EQ(home->searchBar.text, "");
+        EXPECT_FALSE(home->searchBar.isFirstResponder);
     }
 }
 
@@ -79,6 +104,30 @@ TEST_F(Home, AnEmptySearchTextDoesNotReachTheResults)
     home->searchTextChanged("");
     EXPECT_EQ(results.query, "aller");
     EXPECT_EQ(results.verbs.size(), 1U);
+}
+
+TEST_F(Home, TheResultsFollowAFavouriteAndTheOptions)
+{
+    auto& results = *home->searchResultsController();
+    home->searchTextChanged("vais");
+    ASSERT_TRUE(results.verbs.empty());
+    world.settings.setValue(true, "IncludeConjugations");
+    home->optionsClosed(false);
+    EXPECT_TRUE(results.verbs.empty()) << "nothing has changed";
+    home->optionsClosed(true);
+    EXPECT_EQ(support::infinitives(results.verbs), std::vector<std::string>{"aller"});
+
+    results.rowTapped({0, 0});
+    home->searchTextChanged("vai");
+    world.shownDetail()->favouriteBarButton.action();
+    ASSERT_NE(results.verbs.at(0), world.shownDetail()->selectedVerb);
+    EXPECT_EQ(results.cellForRow({0, 0}).image, "ic_favorite_list");
+
+    home->searchTextChanged("");
+    const int reloads = world.table(results).reloads;
+    home->optionsClosed(true);
+    data::post(world.notifications, data::VerbFavouriteToggled{});
+    EXPECT_EQ(world.table(results).reloads, reloads) << "no text, no search";
 }
 
 TEST_F(Home, AResultOpensAsADetailScreen)
@@ -135,6 +184,11 @@ TEST_F(Home, WhatTheOptionsChangeShowsWhenTheyClose)
     const std::vector withHistory{Tab::List, Tab::Favourites, Tab::History};
     EXPECT_EQ(tabs(), withHistory);
     EXPECT_EQ(list.verbs.begin()->second.front()->french, "aller");
+    home->didSelectItem(Tab::Favourites);
+    world.execute("INSERT INTO favourite(verbid) VALUES (1), (3)");
+    auto& favourites = dynamic_cast<lists::FavouritesTableViewController&>(*home->currentChild());
+    favourites.reloadFavourites();
+    EXPECT_EQ(support::infinitives(favourites.verbs), (std::vector<std::string>{"aller", "avoir"}));
     home->didSelectItem(Tab::History);
     world.settings.setValue(std::string{"de"}, "translation_language");
     options.segmentChanged({0, 2}, 0);
@@ -145,6 +199,7 @@ TEST_F(Home, WhatTheOptionsChangeShowsWhenTheyClose)
     EXPECT_EQ(tabs(), withHistory);
     options.close();
     EXPECT_EQ(list.verbs.begin()->second.front()->french, "avoir") << "ärgern comes first";
+    EXPECT_EQ(support::infinitives(favourites.verbs), (std::vector<std::string>{"avoir", "aller"}));
     EXPECT_EQ(refreshes, 1);
     EXPECT_EQ(world.crashReporter.customValues["SortByLang"], platform::CustomValue{false});
 }

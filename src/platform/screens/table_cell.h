@@ -33,6 +33,9 @@ enum class CellAccessory { None, DisclosureIndicator };
 struct TableCell {
     std::string reuseIdentifier;
     std::string text;
+    /// What tells the text from an equal one in another row; stands beside it
+    /// in brackets. Empty for none.
+    std::string note;
     std::string detailText;
     /// Name of an image of ours; empty for none.
     std::string image;

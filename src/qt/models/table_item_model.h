@@ -41,6 +41,7 @@ public:
         RowRole,
         TitleRole,
         TextRole,
+        NoteRole,
         DetailTextRole,
         ImageRole,
         SelectableRole,

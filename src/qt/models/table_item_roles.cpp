@@ -90,6 +90,7 @@ std::span<const TableItemModel::RoleEntry> TableItemModel::roles()
         {LastInSectionRole, "lastInSection", &Model::isLastInSection, nullptr},
         {CanEditRole, "canEdit", &Model::canEdit, nullptr},
         {TextRole, "text", nullptr, textOf<&TableCell::text>},
+        {NoteRole, "note", nullptr, textOf<&TableCell::note>},
         {DetailTextRole, "detailText", nullptr, textOf<&TableCell::detailText>},
         {ImageRole, "image", nullptr, textOf<&TableCell::image>},
         {IdentifierRole, "identifier", nullptr, textOf<&TableCell::accessibilityIdentifier>},

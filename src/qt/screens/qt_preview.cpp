@@ -5,6 +5,7 @@
 
 #include "detail/verb_detail_table_view_controller.h"
 #include "lists/interstitial_table_view_controller.h"
+#include "navigation/home_view_controller.h"
 #include "platform/screens/navigation_controller.h"
 #include "platform/screens/split_view_controller.h"
 
@@ -36,9 +37,23 @@ void QtPreview::show(std::shared_ptr<platform::ViewController> destination,
     destination_ = std::move(destination);
     controller_ = verb;
     split_ = source.splitViewController();
-    list_ = dynamic_cast<lists::InterstitialTableViewController*>(&source);
-    table_ = list_ == nullptr ? nullptr : dynamic_cast<QtTableView*>(&list_->tableView());
+    // A result is held in the results, but the step is the home screen's.
+    if (auto* const list = dynamic_cast<lists::InterstitialTableViewController*>(&source)) {
+        findRowsIn(*list);
+    } else if (const auto* home = dynamic_cast<navigation::HomeViewController*>(&source);
+               home != nullptr && home->searchResultsController()) {
+        findRowsIn(*home->searchResultsController());
+    } else {
+        table_ = nullptr;
+    }
     emit changed();
+}
+
+template <typename List>
+void QtPreview::findRowsIn(List& list)
+{
+    table_ = dynamic_cast<QtTableView*>(&list.tableView());
+    pathOfVerb_ = [&list](std::int64_t id) { return list.pathOfVerb(id); };
 }
 
 std::shared_ptr<platform::ViewController> QtPreview::controller() const
@@ -59,7 +74,7 @@ int QtPreview::rowOfVerb() const
     if (!table_ || !controller_) {
         return -1;
     }
-    const auto path = list_->pathOfVerb(controller_->selectedVerb->id);
+    const auto path = pathOfVerb_(controller_->selectedVerb->id);
     return path ? table_->model()->listRow(*path) : -1;
 }
 

@@ -13,15 +13,13 @@
 #include <QtQml/qqmlregistration.h>
 #include <QVariantList>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
 
 namespace lumora::detail {
 class VerbDetailTableViewController;
-}
-namespace lumora::lists {
-class InterstitialTableViewController;
 }
 
 namespace lumora::qt {
@@ -65,6 +63,8 @@ signals:
     void screenChanged();
 
 private:
+    template <typename List>
+    void findRowsIn(List& list);
     /// The row of the list that shows the verb; -1 for none. It may have moved
     /// since, as the history does when the verb is seen.
     int rowOfVerb() const;
@@ -73,9 +73,10 @@ private:
     std::shared_ptr<detail::VerbDetailTableViewController> controller_;
     QPointer<Screen> screen_;
     platform::SplitViewController* split_ = nullptr;
-    /// The list and its table; the list lives as long as its table.
-    lists::InterstitialTableViewController* list_ = nullptr;
+    /// The table that the verb was held in, and how its list finds a verb; the
+    /// list lives as long as its table.
     QPointer<QtTableView> table_;
+    std::function<std::optional<platform::IndexPath>(std::int64_t id)> pathOfVerb_;
 };
 
 } // namespace lumora::qt

@@ -17,6 +17,7 @@ ScreenPage {
         width: parent.width
         home: root.home
         onListWanted: area.takeKeyboard()
+        onEnded: area.forceActiveFocus()
     }
     FocusScope {
         id: area

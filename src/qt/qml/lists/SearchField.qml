@@ -12,6 +12,8 @@ Rectangle {
 
     // To what was found, by keyboard.
     signal listWanted
+    // The search was ended elsewhere while the cursor was in the field.
+    signal ended
 
     implicitHeight: Math.max(Theme.touch, Theme.body + 27) + Theme.gap
     color: Theme.barBackground
@@ -106,8 +108,12 @@ Rectangle {
     Connections {
         target: root.home
         function onOutletsChanged() {
+            if (root.home.searchText === "")
+                input.text = "";
             if (root.home.searchFocus && !input.activeFocus)
                 input.forceActiveFocus();
+            else if (!root.home.searchFocus && input.activeFocus && root.home.searchText === "")
+                root.ended();
             else if (!root.home.searchFocus && input.activeFocus)
                 input.focus = false;
         }

@@ -9,14 +9,18 @@ TableRow {
     id: root
 
     required text
+    required property string note
     required property string detailText
     required property string image
+    // In French, French is no translation.
+    readonly property string translation: detailText === text ? "" : detailText
 
-    Accessible.name: text + (detailText === "" ? "" : ", " + detailText) + (image === "" ? "" : ", " + qsTrId("button.favourite"))
+    Accessible.name: text + (note === "" ? "" : ", " + note) + (translation === "" ? "" : ", " + translation) + (image === "" ? "" : ", " + qsTrId("button.favourite"))
     onPressAndHold: if (isCell && swipe.position === 0)
         table.model.hold(index)
 
     Column {
+        id: texts
         anchors.left: parent.left
         anchors.leftMargin: Theme.margin
         anchors.right: star.left
@@ -24,17 +28,28 @@ TableRow {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Text {
-            width: parent.width
-            text: root.text
-            color: Theme.text
-            font.pixelSize: Theme.body
-            elide: Text.ElideRight
+        Row {
+            spacing: Theme.gap
+
+            Text {
+                width: Math.min(implicitWidth, texts.width - (distinction.visible ? distinction.width + parent.spacing : 0))
+                text: root.text
+                color: Theme.text
+                font.pixelSize: Theme.body
+                elide: Text.ElideRight
+            }
+            Text {
+                id: distinction
+                visible: root.note !== ""
+                text: "(" + root.note + ")"
+                color: Theme.textSecondary
+                font.pixelSize: Theme.body
+            }
         }
         Text {
             width: parent.width
             visible: text !== ""
-            text: root.detailText
+            text: root.translation
             color: Theme.textSecondary
             font.pixelSize: Theme.small + 1
             elide: Text.ElideRight

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "data/verb.h"
+#include "platform/screens/index_path.h"
+#include "platform/screens/swipe_action.h"
+
+namespace lumora::platform {
+class DatabaseQueue;
+class TableViewController;
+struct Services;
+} // namespace lumora::platform
+
+namespace lumora::lists {
+
+/// The swipe action that makes the verb of a row a favourite, or none any more.
+///
+/// The list redraws its row; all other screens hear of it through
+/// "VerbFavouriteToggled" with the list as sender. All that is handed in must
+/// outlive the action. To trigger it without a queue stops the program.
+platform::SwipeAction favouriteAction(platform::TableViewController& list,
+                                      const platform::Services& services,
+                                      platform::DatabaseQueue* queue, const data::VerbPtr& verb,
+                                      platform::IndexPath path);
+
+} // namespace lumora::lists
