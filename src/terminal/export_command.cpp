@@ -34,6 +34,9 @@ platform::Result<void> putInOrder(Session& session, std::vector<data::VerbPtr>& 
 /// "there are 2: 1 is repartir (être), 2 is repartir (avoir)".
 std::string listed(const std::vector<data::VerbPtr>& verbs)
 {
+    if (verbs.size() == 1) {
+        return "there is only " + verbs.front()->french;
+    }
     auto text = "there are " + std::to_string(verbs.size()) + ':';
     for (std::size_t i = 0; i < verbs.size(); ++i) {
         const auto& verb = *verbs[i];

@@ -274,6 +274,9 @@ TEST_F(TerminalTest, SaysWhatIsWrongInOneLine)
         {{"conjugate", "qqq\nq\x1b[31m"}, 1, "no verb \"qqq\uFFFDq\uFFFD[31m\""},
         {{"conjugate", "allre"}, 1, "no verb \"allre\"; did you mean aller?"},
         {{"export", "pechre", "--text"}, 1, "no verb \"pechre\"; did you mean pécher or pêcher?"},
+        {{"export", "aimer", "--text", "--number", "2"},
+         1,
+         "no verb is number 2, there is only aimer"},
         {{"conjugate", "s'aller"}, 1, "no verb \"s'aller\"; did you mean aller?"},
         {{"conjugate", "caf\xE9"}, 1, "no verb \"caf\uFFFD\""},
     };
