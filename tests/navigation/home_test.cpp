@@ -119,6 +119,7 @@ TEST_F(Home, TheResultsFollowAFavouriteAndTheOptions)
 
     results.rowTapped({0, 0});
     home->searchTextChanged("vai");
+    world.shownDetail()->loadViewIfNeeded();
     world.shownDetail()->favouriteBarButton.action();
     ASSERT_NE(results.verbs.at(0), world.shownDetail()->selectedVerb);
     EXPECT_EQ(results.cellForRow({0, 0}).image, "ic_favorite_list");

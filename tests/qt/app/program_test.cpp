@@ -9,7 +9,6 @@
 
 #include <QDBusConnectionInterface>
 #include <QProcess>
-#include <QQmlEngine>
 
 #include <csignal>
 
@@ -70,6 +69,7 @@ struct RunningProgram : WindowFixture {
     void begin()
     {
         options.desktop.bus = bus.connect();
+        options.desktop.hasUrlHandler = [](std::string_view) { return true; };
         instance = std::make_unique<RunningInstance>(options.desktop.bus);
         ASSERT_EQ(instance->start({}), RunningInstance::Role::First);
         ASSERT_NO_FATAL_FAILURE(open({390, 844}));
@@ -147,10 +147,8 @@ TEST_F(RunningProgram, LooksAsTheDesktopIsSetAndFollowsIt)
               {{"text-scaling-factor", 1.5}, {"enable-animations", false}, {"cursor-size", 24}}}}}};
     begin();
     const auto now = [this] {
-        const auto* theme = qmlEngine(application->window())
-                                ->singletonInstance<QObject*>(qmlTypeId("Lumora", 1, 0, "Theme"));
-        return Appearance{theme->property("dark").toBool(), theme->property("textScale").toDouble(),
-                          theme->property("reducedMotion").toBool()};
+        const auto& look = application->appearance();
+        return Appearance{look.isDark(), look.textScale(), look.isMotionReduced()};
     };
     const auto becomes = [&](const Appearance& expected) {
         return until([&] { return now() == expected; });
@@ -187,11 +185,10 @@ TEST_F(RunningProgram, ASupportEmailEndsAsThePortalSays)
     dynamic_cast<navigation::HomeViewController&>(*home()->controller()).contactSupport();
 
     auto& presenter = application->presenter();
-    for (const char* time : {"first", "second"}) {
-        ASSERT_TRUE(until([&] { return presenter.asking(); })) << time;
-        EXPECT_EQ(presenter.questionTitle(), QStringLiteral("export.email.error"));
-        presenter.answer(0);
-    }
+    // Said twice, seen once.
+    ASSERT_TRUE(until([&] { return presenter.asking(); }));
+    EXPECT_EQ(presenter.questionTitle(), QStringLiteral("export.email.error"));
+    presenter.answer(0);
     EXPECT_FALSE(presenter.asking());
     EXPECT_TRUE(portal.requests().at(0).options.value("body").toString().startsWith(
         QStringLiteral("\n\n\n--------------------\nApp: app.title\nDevice: ")));

@@ -91,8 +91,11 @@ FocusScope {
             sequence: "Ctrl+" + (index + 1)
             enabled: root.enabled
             onActivated: {
-                root.split.backToHome();
-                root.split.home.selectTab(modelData.tag);
+                // The way back may take this shortcut away with the tabs.
+                const split = root.split;
+                const tag = modelData.tag;
+                split.backToHome();
+                split.home.selectTab(tag);
             }
         }
     }
