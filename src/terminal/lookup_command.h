@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "lookup/lookup.h"
+#include "platform/base/error.h"
+#include "settings/translation_language.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lumora::terminal {
+
+class Session;
+
+/// What texts mean, in the language of the session's translations.
+class TextReader {
+public:
+    explicit TextReader(Session& session);
+
+    platform::Result<std::vector<lookup::Reading>>
+    read(std::string_view text, lookup::Guesses guesses = lookup::Guesses::Allowed);
+
+    /// The verbs that the text is a form of, a reading a verb, without guesses.
+    platform::Result<std::vector<lookup::Reading>> verbsOfForm(std::string_view text);
+
+private:
+    Session& session_;
+    settings::TranslationColumn language_;
+    std::optional<lookup::Lookup> lookup_;
+};
+
+/// "aller (va) or être (suis)": the readings' verbs, for a person.
+std::string namesOf(const std::vector<lookup::Reading>& readings);
+
+} // namespace lumora::terminal
