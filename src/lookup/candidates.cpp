@@ -123,6 +123,26 @@ void Candidates::addForms(const Phrase& phrase, Way way, int penalty)
     }
 }
 
+void Candidates::dropWrongPronouns()
+{
+    const auto nameOf = [&](const Candidate& candidate) {
+        return catalogue_.verb(catalogue_.numberOf(candidate.reading.verb)).folded;
+    };
+    std::vector<std::string> right;
+    for (const auto& candidate : found_) {
+        if (candidate.penalty == 0) {
+            right.push_back(nameOf(candidate));
+        }
+    }
+    found_.erase(std::remove_if(found_.begin(), found_.end(),
+                                [&](const Candidate& candidate) {
+                                    return candidate.penalty > 0 &&
+                                           std::find(right.begin(), right.end(),
+                                                     nameOf(candidate)) != right.end();
+                                }),
+                 found_.end());
+}
+
 std::vector<Reading> Candidates::ranked() &&
 {
     for (auto& candidate : found_) {

@@ -38,6 +38,9 @@ public:
     /// Adds what the phrase is, letter by letter or folded.
     void addForms(const Phrase& phrase, Way way, int penalty);
 
+    /// Leaves laver (se) out of "je lave", and laver of "je me lave".
+    void dropWrongPronouns();
+
     /// The rows of a verb; null after a failure.
     Catalogue::Rows rows(std::uint32_t verb);
     Catalogue& catalogue() { return catalogue_; }

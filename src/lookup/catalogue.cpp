@@ -16,9 +16,10 @@ namespace {
 constexpr std::string_view kVerbs = "SELECT _id, french, use_class FROM verb "
                                     "LEFT JOIN verb_facts ON verbid = _id ORDER BY _id";
 
-/// Compound forms are found by their participles.
-constexpr std::string_view kForms = "SELECT verbid, verb FROM conjugation "
-                                    "WHERE instr(verb, ' ') = 0 OR instr(verb, ', ') > 0";
+/// Compound forms are found by their participles; "se lavant" is none.
+constexpr std::string_view kForms =
+    "SELECT verbid, verb FROM conjugation WHERE instr(verb, ' ') = 0 OR instr(verb, ', ') > 0 "
+    "OR substr(verb, 1, 3) = 'se ' OR substr(verb, 1, 2) = 's'''";
 
 constexpr std::size_t kMostVerbsOfWord = 12;
 constexpr std::size_t kRowsKept = 48;

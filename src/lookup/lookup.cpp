@@ -41,10 +41,12 @@ void tellWays(std::string_view text, std::string_view tidy, Candidates& candidat
         const auto isForm = [&](const Place& place) { return place.form == text; };
         const auto isPlainForm = [&](const Place& place) { return plain(place.form) == typed; };
         const auto& places = reading.places;
-        if (reading.form == text || reading.headword == text ||
+        // Of compound forms the agreement may be another than the table's.
+        const bool simple = reading.form.find(' ') == std::string::npos;
+        if ((simple && reading.form == text) || reading.headword == text ||
             std::any_of(places.begin(), places.end(), isForm)) {
             reading.way = Way::Exact;
-        } else if (foldedWord(reading.form) == foldedWord(tidy) ||
+        } else if ((simple && foldedWord(reading.form) == foldedWord(tidy)) ||
                    foldedWord(tidied(reading.headword)) == foldedWord(tidy) ||
                    std::any_of(places.begin(), places.end(), isPlainForm)) {
             reading.way = Way::Folded;
@@ -106,6 +108,14 @@ platform::Result<std::vector<Reading>> Lookup::read(platform::Database& database
     Candidates candidates{catalogue_, database};
     for (const auto& phrase : phrases) {
         candidates.addForms(phrase, Way::Phrase, 0);
+    }
+    // A form alone may be that of the pronominal verb, which is shown without its
+    // pronoun in some rows.
+    const bool withSubject = std::any_of(phrases.begin(), phrases.end(), [](const Phrase& phrase) {
+        return phrase.persons != kAnyPerson || phrase.reflexive;
+    });
+    if (withSubject) {
+        candidates.dropWrongPronouns();
     }
     tellWays(typed, tidy, candidates);
     const auto known = meanings(database, language);

@@ -51,7 +51,9 @@ bool addPart(const std::vector<std::string>& tokens, std::size_t begin, std::siz
         phrasesOf(part, [&](std::string_view word) { return catalogue.isAuxiliary(word); });
     bool any = false;
     for (const auto& phrase : phrases) {
-        if (phrase.bare && !mayStandAlone(tokens, begin)) {
+        // "le chat mange la souris" orders nothing.
+        const bool order = phrase.imperative && begin > 0;
+        if (order || (phrase.bare && !mayStandAlone(tokens, begin))) {
             continue;
         }
         for (const auto verb : catalogue.verbsOf(foldedWord(phrase.word))) {
@@ -64,8 +66,7 @@ bool addPart(const std::vector<std::string>& tokens, std::size_t begin, std::siz
             matches.erase(std::remove_if(matches.begin(), matches.end(),
                                          [](const RowMatch& match) { return !match.sameLetters; }),
                           matches.end());
-            if (matches.empty() || (rows->differsInPronoun(phrase) && phrase.reflexive == false &&
-                                    !phrase.bare)) {
+            if (matches.empty() || (rows->differsInPronoun(phrase) && !phrase.reflexive && !phrase.bare)) {
                 continue;
             }
             any = true;

@@ -12,19 +12,6 @@ namespace lumora::lookup {
 namespace {
 
 constexpr int kSwap = 3;
-constexpr int kVowelForVowel = 3;
-
-bool isVowel(char letter)
-{
-    return std::string_view{"aeiouy"}.find(letter) != std::string_view::npos;
-}
-
-int changeCost(char typed, char meant)
-{
-    return typed == meant                        ? 0
-           : isVowel(typed) && isVowel(meant) ? kVowelForVowel
-                                                 : kOneSlip;
-}
 
 /// Of a letter that stands in one word only, after this one.
 int extraCost(std::string_view word, std::size_t at)
@@ -47,7 +34,7 @@ int slipCost(std::string_view typed, std::string_view meant, int most)
         row[0] = last[0] + extraCost(typed, i);
         int least = row[0];
         for (std::size_t j = 0; j < meant.size(); ++j) {
-            row[j + 1] = std::min({last[j] + changeCost(typed[i], meant[j]),
+            row[j + 1] = std::min({last[j] + (typed[i] == meant[j] ? 0 : kOneSlip),
                                    last[j + 1] + extraCost(typed, i),
                                    row[j] + extraCost(meant, j)});
             if (i > 0 && j > 0 && typed[i] == meant[j - 1] && typed[i - 1] == meant[j]) {

@@ -4,6 +4,7 @@
 #include "lookup/sound_key.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <iterator>
 
@@ -54,6 +55,29 @@ constexpr Rule kRules[] = {
     {"z", "", Next::End}, {"e", "", Next::End},
 };
 
+/// The rules by the first byte of their letters, in their order: hundreds of
+/// thousands of words are read at once.
+struct RulesByLetter {
+    static constexpr std::size_t kBytes = 256;
+    static constexpr std::size_t kMost = 24;
+
+    std::array<std::array<std::uint8_t, kMost>, kBytes> rules{};
+    std::array<std::uint8_t, kBytes> counts{};
+};
+
+constexpr RulesByLetter rulesByLetter()
+{
+    RulesByLetter table;
+    for (std::size_t i = 0; i < std::size(kRules); ++i) {
+        const auto first = static_cast<unsigned char>(kRules[i].letters.front());
+        table.rules.at(first).at(table.counts.at(first)) = static_cast<std::uint8_t>(i);
+        ++table.counts.at(first);
+    }
+    return table;
+}
+
+constexpr RulesByLetter kRulesByLetter = rulesByLetter();
+
 constexpr std::string_view kVowels = "aeiouyàâéèêëîïôûùœ";
 
 /// Of the letter at the start of a text, two bytes included.
@@ -94,19 +118,29 @@ std::string_view soundOfE(std::string_view rest)
     return closed || doubled ? "E" : "";
 }
 
+/// The first rule for the letters that the word begins with; null for none.
+const Rule* ruleOf(std::string_view word)
+{
+    const auto first = static_cast<unsigned char>(word.front());
+    for (std::size_t i = 0; i < kRulesByLetter.counts[first]; ++i) {
+        const auto& rule = kRules[kRulesByLetter.rules[first][i]];
+        const auto length = rule.letters.size();
+        if (word.substr(0, length) == rule.letters && fits(rule.next, word.substr(length))) {
+            return &rule;
+        }
+    }
+    return nullptr;
+}
+
 std::string keyOf(std::string_view word)
 {
     std::string key;
     char before = 0;
     while (!word.empty()) {
-        const auto* const rule =
-            std::find_if(std::begin(kRules), std::end(kRules), [&](const Rule& candidate) {
-                return word.substr(0, candidate.letters.size()) == candidate.letters &&
-                       fits(candidate.next, word.substr(candidate.letters.size()));
-            });
+        const auto* const rule = ruleOf(word);
         std::string_view sound = word.substr(0, 1);
         std::size_t length = 1;
-        if (rule != std::end(kRules)) {
+        if (rule != nullptr) {
             sound = rule->sound;
             length = rule->letters.size();
         } else if (word.front() == 'e') {

@@ -36,7 +36,14 @@ void readPronoun(VerbRow& row)
 
 RowSpelling spellingOf(const std::string& form)
 {
-    const auto tidy = withoutPronouns(withoutAgreement(form));
+    auto tidy = withoutAgreement(form);
+    // "ai crevé, je suis crevé(e)" behind "j'".
+    for (const std::string_view own : {"que ", "je "}) {
+        if (std::string_view{tidy}.substr(0, own.size()) == own) {
+            tidy.erase(0, own.size());
+        }
+    }
+    tidy = withoutPronouns(tidy);
     const auto blank = tidy.rfind(' ');
     RowSpelling spelling;
     if (blank != std::string::npos) {

@@ -199,7 +199,7 @@ public:
                 "\"" + typed + "\" is a form of " + namesOf(*readings) + "; which verb?", EINVAL});
         }
         tell("\"" + typed + "\" is a form of " + readings->front().headword, output_.errors);
-        return directory_.withId(readings->front().verb);
+        return directory_.named(readings->front().headword);
     }
 
 private:

@@ -7,9 +7,7 @@
 #include "lists/verb_list_table_view_controller.h"
 #include "terminal/session.h"
 
-#include <algorithm>
 #include <cerrno>
-#include <iterator>
 #include <string>
 
 namespace lumora::terminal {
@@ -49,14 +47,6 @@ platform::Result<std::vector<data::VerbPtr>> VerbDirectory::named(std::string_vi
     if (found.empty()) {
         return tl::unexpected(unknownVerb(name, data::namesNear(name, verbs_)));
     }
-    return found;
-}
-
-std::vector<data::VerbPtr> VerbDirectory::withId(std::int64_t id) const
-{
-    std::vector<data::VerbPtr> found;
-    std::copy_if(verbs_.begin(), verbs_.end(), std::back_inserter(found),
-                 [&](const data::VerbPtr& verb) { return verb->id == id; });
     return found;
 }
 

@@ -7,7 +7,6 @@
 #include "detail/verb_detail_table_view_controller.h"
 #include "platform/base/error.h"
 
-#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -26,8 +25,6 @@ public:
     /// The verbs that the name means, one at least. A name that means none is an
     /// error that tells what it may have been meant for.
     platform::Result<std::vector<data::VerbPtr>> named(std::string_view name) const;
-    /// The verb of an id; none when there is no such verb.
-    std::vector<data::VerbPtr> withId(std::int64_t id) const;
 
 private:
     std::vector<data::VerbPtr> verbs_;

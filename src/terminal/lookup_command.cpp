@@ -109,6 +109,16 @@ platform::Result<void> lookUpLines(std::istream& input, TextReader& reader, Sess
 
 } // namespace
 
+namespace {
+
+/// Who asks for a form of aller is not asked whether s'en aller was meant.
+std::string_view verbOf(std::string_view headword)
+{
+    return headword.substr(0, headword.find(" (s"));
+}
+
+} // namespace
+
 TextReader::TextReader(Session& session)
     : session_{session},
       language_{settings::columnForLanguage(settings::effectiveTranslationLanguage(
@@ -138,9 +148,10 @@ platform::Result<std::vector<lookup::Reading>> TextReader::verbsOfForm(std::stri
     return read(text, lookup::Guesses::None).map([](std::vector<lookup::Reading> readings) {
         std::vector<lookup::Reading> verbs;
         for (auto& reading : readings) {
-            const bool known = std::any_of(
-                verbs.begin(), verbs.end(),
-                [&](const lookup::Reading& other) { return other.verb == reading.verb; });
+            const bool known =
+                std::any_of(verbs.begin(), verbs.end(), [&](const lookup::Reading& other) {
+                    return verbOf(other.headword) == verbOf(reading.headword);
+                });
             if (!known && reading.way <= lookup::Way::Phrase) {
                 verbs.push_back(std::move(reading));
             }

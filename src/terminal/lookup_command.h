@@ -24,7 +24,8 @@ public:
     platform::Result<std::vector<lookup::Reading>>
     read(std::string_view text, lookup::Guesses guesses = lookup::Guesses::Allowed);
 
-    /// The verbs that the text is a form of, a reading a verb, without guesses.
+    /// The verbs that the text is a form of, a reading a name: one for verbs that
+    /// differ in their meaning or their pronoun only. No guesses.
     platform::Result<std::vector<lookup::Reading>> verbsOfForm(std::string_view text);
 
 private:
@@ -33,7 +34,7 @@ private:
     std::optional<lookup::Lookup> lookup_;
 };
 
-/// "aller (va) or être (suis)": the readings' verbs, for a person.
+/// "être, suivre and suivre (se)": the readings' verbs, for a person.
 std::string namesOf(const std::vector<lookup::Reading>& readings);
 
 } // namespace lumora::terminal
