@@ -18,18 +18,29 @@ constexpr std::size_t kMostReadings = 5;
 constexpr int kWrongPronoun = 1;
 
 /// As people use them.
-constexpr std::string_view kTenses[] = {
-    "infinitif",           "indicatifPresent",        "indicatifPasseCompose",
-    "indicatifImparfait",  "indicatifFuturSimple",    "conditionnelPresent",
-    "imperatif",           "participe",               "subjonctifPresent",
-    "indicatifPlusQueParfait", "subjonctifPasse",     "conditionnelPasse1reForme",
-    "indicatifFuturAnterieur", "indicatifPasseSimple", "subjonctifImparfait",
-    "indicatifPasseAnterieur", "conditionnelPasse2eForme", "subjonctifPlusqueParfait"};
+constexpr std::string_view kTenses[] = {"infinitif",
+                                        "indicatifPresent",
+                                        "indicatifPasseCompose",
+                                        "indicatifImparfait",
+                                        "indicatifFuturSimple",
+                                        "conditionnelPresent",
+                                        "imperatif",
+                                        "participe",
+                                        "subjonctifPresent",
+                                        "indicatifPlusQueParfait",
+                                        "subjonctifPasse",
+                                        "conditionnelPasse1reForme",
+                                        "indicatifFuturAnterieur",
+                                        "indicatifPasseSimple",
+                                        "subjonctifImparfait",
+                                        "indicatifPasseAnterieur",
+                                        "conditionnelPasse2eForme",
+                                        "subjonctifPlusqueParfait"};
 
 int rankOfTense(const Place& place)
 {
-    return static_cast<int>(
-        std::find(std::begin(kTenses), std::end(kTenses), place.tense) - std::begin(kTenses));
+    return static_cast<int>(std::find(std::begin(kTenses), std::end(kTenses), place.tense) -
+                            std::begin(kTenses));
 }
 
 } // namespace
@@ -91,8 +102,8 @@ void Candidates::addInfinitive(std::uint32_t verb, Way way, int penalty)
         return;
     }
     Candidate candidate;
-    candidate.reading = {name.id, name.headword, name.headword.substr(0, name.headword.find(" (s")),
-                         {}, way};
+    candidate.reading = {
+        name.id, name.headword, name.headword.substr(0, name.headword.find(" (s")), {}, way};
     candidate.penalty = penalty;
     candidate.use = name.use;
     candidate.sameLetters = true;
@@ -151,21 +162,21 @@ std::vector<Reading> Candidates::ranked() &&
             return rankOfTense(left) < rankOfTense(right);
         });
     }
-    std::stable_sort(found_.begin(), found_.end(), [](const Candidate& left, const Candidate& right) {
-        const auto key = [](const Candidate& candidate) {
-            return std::make_tuple(candidate.reading.way, candidate.penalty, candidate.use,
-                                   candidate.tense, candidate.reading.verb);
-        };
-        return key(left) < key(right);
-    });
+    std::stable_sort(
+        found_.begin(), found_.end(), [](const Candidate& left, const Candidate& right) {
+            const auto key = [](const Candidate& candidate) {
+                return std::make_tuple(candidate.reading.way, candidate.penalty, candidate.use,
+                                       candidate.tense, candidate.reading.verb);
+            };
+            return key(left) < key(right);
+        });
     std::vector<Reading> readings;
     for (auto& candidate : found_) {
         const auto& reading = candidate.reading;
-        const bool known =
-            std::any_of(readings.begin(), readings.end(), [&](const Reading& other) {
-                return other.verb == reading.verb &&
-                       (other.way != reading.way || other.form == reading.form);
-            });
+        const bool known = std::any_of(readings.begin(), readings.end(), [&](const Reading& other) {
+            return other.verb == reading.verb &&
+                   (other.way != reading.way || other.form == reading.form);
+        });
         if (!known && readings.size() < kMostReadings) {
             readings.push_back(std::move(candidate.reading));
         }

@@ -63,8 +63,8 @@ platform::Result<Catalogue> Catalogue::read(platform::Database& database)
             catalogue.auxiliaries_.push_back(number);
         }
     }
-    auto forms = verbs->failed() ? tl::unexpected(errorOf(database))
-                                 : database.executeQuery(kForms, {});
+    auto forms =
+        verbs->failed() ? tl::unexpected(errorOf(database)) : database.executeQuery(kForms, {});
     if (!forms) {
         return tl::unexpected(forms.error());
     }
@@ -94,9 +94,9 @@ platform::Result<Catalogue> Catalogue::read(platform::Database& database)
 
 std::uint32_t Catalogue::numberOf(std::int64_t id) const
 {
-    const auto found =
-        std::lower_bound(verbs_.begin(), verbs_.end(), id,
-                         [](const VerbName& verb, std::int64_t wanted) { return verb.id < wanted; });
+    const auto found = std::lower_bound(
+        verbs_.begin(), verbs_.end(), id,
+        [](const VerbName& verb, std::int64_t wanted) { return verb.id < wanted; });
     return static_cast<std::uint32_t>(
         found != verbs_.end() && found->id == id ? found - verbs_.begin() : verbs_.size());
 }

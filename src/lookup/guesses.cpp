@@ -62,7 +62,8 @@ void addOneSlip(const Phrase& phrase, const std::string& word, Candidates& candi
             }
             const bool infinitive = std::any_of(matches.begin(), matches.end(), isInfinitive);
             const int pronoun = rows->differsInPronoun(phrase) ? 1 : 0;
-            candidates.add(verb, matches, Way::Slip, 4 * slip.cost + (infinitive ? 0 : 2) + pronoun);
+            candidates.add(verb, matches, Way::Slip,
+                           4 * slip.cost + (infinitive ? 0 : 2) + pronoun);
         }
     }
 }

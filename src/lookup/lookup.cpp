@@ -73,9 +73,8 @@ void addMeanings(const Meanings& meanings, std::string_view tidy, bool whole,
                                             (whole && match.rank >= kPartOfSense);
                                  }),
                   matches.end());
-    std::stable_sort(matches.begin(), matches.end(), [&](const auto& left, const auto& right) {
-        return key(left) < key(right);
-    });
+    std::stable_sort(matches.begin(), matches.end(),
+                     [&](const auto& left, const auto& right) { return key(left) < key(right); });
     matches.resize(std::min(matches.size(), kMost));
     int penalty = 0;
     for (const auto& match : matches) {

@@ -40,10 +40,10 @@ std::string_view statementOf(TranslationColumn language)
 
 /// Words that a longer sense has by chance.
 constexpr std::string_view kSmallWords[] = {
-    "the", "and", "with", "for",  "from", "into", "one's", "sth", "der", "die", "das", "den",
-    "mit", "von", "het", "een", "van", "met", "los", "las",  "una", "con", "del", "gli",
-    "che", "nel", "alla", "uma", "com", "dos", "para", "que", "por",   "out", "off",
-    "ein", "eine", "auf", "aus", "not", "etwas"};
+    "the", "and", "with", "for",  "from", "into", "one's", "sth",  "der",  "die", "das",
+    "den", "mit", "von",  "het",  "een",  "van",  "met",   "los",  "las",  "una", "con",
+    "del", "gli", "che",  "nel",  "alla", "uma",  "com",   "dos",  "para", "que", "por",
+    "out", "off", "ein",  "eine", "auf",  "aus",  "not",   "etwas"};
 constexpr std::size_t kShortestPart = 3;
 
 /// Whether a sense that has these words among others is meant by them.

@@ -41,8 +41,8 @@ std::optional<Phrase> leadOf(const Tokens& tokens, std::size_t end)
     Phrase phrase;
     std::size_t at = 0;
     const auto is = [&](auto&& test) { return at < end && test(std::string_view{tokens[at]}); };
-    if (is(isConjunction) ||
-        (is([](auto token) { return token == "s'"; }) && at + 1 < end && tokens[1].substr(0, 2) == "il")) {
+    if (is(isConjunction) || (is([](auto token) { return token == "s'"; }) && at + 1 < end &&
+                              tokens[1].substr(0, 2) == "il")) {
         phrase.conjunction = true;
         ++at;
     }

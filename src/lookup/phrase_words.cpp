@@ -20,42 +20,48 @@ struct Pronoun {
 };
 
 constexpr Pronoun kSubjects[] = {
-    {"je", person(1)}, {"j'", person(1)},   {"tu", person(2)},   {"il", person(3)},
-    {"elle", person(3)}, {"on", person(3)}, {"ce", person(3)},   {"c'", person(3)},
-    {"ça", person(3)}, {"cela", person(3)}, {"nous", person(4)}, {"vous", person(5)},
-    {"ils", person(6)}, {"elles", person(6)},
+    {"je", person(1)},   {"j'", person(1)},    {"tu", person(2)},   {"il", person(3)},
+    {"elle", person(3)}, {"on", person(3)},    {"ce", person(3)},   {"c'", person(3)},
+    {"ça", person(3)},   {"cela", person(3)},  {"nous", person(4)}, {"vous", person(5)},
+    {"ils", person(6)},  {"elles", person(6)},
 };
 
 constexpr Pronoun kReflexives[] = {
-    {"me", person(1)}, {"m'", person(1)}, {"te", person(2)}, {"t'", person(2)},
-    {"se", person(3) | person(6)}, {"s'", person(3) | person(6)},
-    {"nous", person(4)}, {"vous", person(5)},
+    {"me", person(1)},
+    {"m'", person(1)},
+    {"te", person(2)},
+    {"t'", person(2)},
+    {"se", person(3) | person(6)},
+    {"s'", person(3) | person(6)},
+    {"nous", person(4)},
+    {"vous", person(5)},
 };
 
-constexpr std::string_view kConjunctions[] = {"que",      "qu'",      "si",     "lorsque",
-                                              "lorsqu'",  "puisque",  "puisqu'", "quand",
-                                              "quoique",  "quoiqu'"};
-constexpr std::string_view kElided[] = {"j'", "t'", "m'", "s'", "n'", "l'", "d'", "c'",
-                                        "qu'", "lorsqu'", "puisqu'", "quoiqu'", "jusqu'"};
-constexpr std::string_view kJoined[] = {"je",  "tu",  "il",  "elle", "on",  "ce", "nous",
-                                        "vous", "ils", "elles", "toi", "moi", "le", "la",
-                                        "les", "lui", "leur", "y",    "en",  "t",  "se"};
+constexpr std::string_view kConjunctions[] = {"que",     "qu'",     "si",    "lorsque", "lorsqu'",
+                                              "puisque", "puisqu'", "quand", "quoique", "quoiqu'"};
+constexpr std::string_view kElided[] = {"j'", "t'",  "m'",      "s'",      "n'",      "l'",    "d'",
+                                        "c'", "qu'", "lorsqu'", "puisqu'", "quoiqu'", "jusqu'"};
+constexpr std::string_view kJoined[] = {"je",   "tu",  "il",    "elle", "on",  "ce", "nous",
+                                        "vous", "ils", "elles", "toi",  "moi", "le", "la",
+                                        "les",  "lui", "leur",  "y",    "en",  "t",  "se"};
 constexpr std::string_view kAdverbs[] = {
-    "pas",   "jamais",   "plus", "rien", "point", "guère", "personne", "déjà",     "bien",
-    "mal",   "toujours", "trop", "tout", "encore", "souvent", "beaucoup", "vraiment", "peu"};
-constexpr std::string_view kObjects[] = {"me", "m'", "te", "t'", "se", "s'",  "nous", "vous",
-                                         "le", "la", "l'", "les", "lui", "leur", "y", "en"};
+    "pas", "jamais",   "plus", "rien", "point",  "guère",   "personne", "déjà",     "bien",
+    "mal", "toujours", "trop", "tout", "encore", "souvent", "beaucoup", "vraiment", "peu"};
+constexpr std::string_view kObjects[] = {"me", "m'", "te", "t'",  "se",  "s'",   "nous", "vous",
+                                         "le", "la", "l'", "les", "lui", "leur", "y",    "en"};
 constexpr std::string_view kStressed[] = {"toi", "moi"};
 constexpr std::string_view kDeterminers[] = {
-    "le",  "la",  "l'",  "les", "un",  "une", "des", "du",  "de",  "d'",  "au",    "aux",
-    "mon", "ma",  "mes", "ton", "ta",  "tes", "son", "sa",  "ses", "ce",  "cet",   "cette",
-    "ces", "nos", "vos", "notre", "votre", "leur", "leurs", "quel", "quelle", "chaque"};
+    "le",    "la",    "l'",   "les",   "un",   "une",    "des",   "du",  "de",
+    "d'",    "au",    "aux",  "mon",   "ma",   "mes",    "ton",   "ta",  "tes",
+    "son",   "sa",    "ses",  "ce",    "cet",  "cette",  "ces",   "nos", "vos",
+    "notre", "votre", "leur", "leurs", "quel", "quelle", "chaque"};
 constexpr std::string_view kGrammarWords[] = {
-    "tu",   "lui",   "plus", "pas",  "point", "en",   "y",    "sur",  "sous", "tout", "tous",
-    "mais", "ou",    "où",   "et",   "donc",  "or",   "ni",   "car",  "dans", "par",  "pour",
-    "avec", "sans",  "vers", "dont", "moins", "bien", "mal",  "entre", "contre", "pendant",
-    "selon", "outre", "hors", "mis",  "vu",   "fi",   "rien", "pu",   "avant", "devant",
-    "durant", "suivant", "cependant", "maintenant", "force", "on", "sous", "lu", "dit"};
+    "tu",         "lui",   "plus",  "pas",    "point",   "en",     "y",      "sur",     "sous",
+    "tout",       "tous",  "mais",  "ou",     "où",      "et",     "donc",   "or",      "ni",
+    "car",        "dans",  "par",   "pour",   "avec",    "sans",   "vers",   "dont",    "moins",
+    "bien",       "mal",   "entre", "contre", "pendant", "selon",  "outre",  "hors",    "mis",
+    "vu",         "fi",    "rien",  "pu",     "avant",   "devant", "durant", "suivant", "cependant",
+    "maintenant", "force", "on",    "sous",   "lu",      "dit"};
 
 template <typename Words>
 bool contains(const Words& words, std::string_view token)
@@ -77,7 +83,8 @@ std::string withoutBrackets(std::string_view word)
 {
     if (word.size() > 2 && word.front() == '(') {
         const auto close = word.find(')');
-        return std::string{word.substr(1, (close == std::string_view::npos ? word.size() : close) - 1)};
+        return std::string{
+            word.substr(1, (close == std::string_view::npos ? word.size() : close) - 1)};
     }
     return withoutAgreement(word);
 }
@@ -129,7 +136,8 @@ std::vector<std::string> tokensOf(std::string_view tidy)
     while (!tidy.empty()) {
         const auto blank = tidy.find(' ');
         auto word = withoutBrackets(tidy.substr(0, blank));
-        while (!word.empty() && std::string_view{".,;:!?\""}.find(word.back()) != std::string::npos) {
+        while (!word.empty() &&
+               std::string_view{".,;:!?\""}.find(word.back()) != std::string::npos) {
             word.pop_back();
         }
         if (!word.empty() && word != "-") {

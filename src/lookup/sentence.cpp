@@ -45,7 +45,8 @@ bool addPart(const std::vector<std::string>& tokens, std::size_t begin, std::siz
              Candidates& candidates)
 {
     const std::vector<std::string> part(tokens.begin() + static_cast<std::ptrdiff_t>(begin),
-                                        tokens.begin() + static_cast<std::ptrdiff_t>(begin + length));
+                                        tokens.begin() +
+                                            static_cast<std::ptrdiff_t>(begin + length));
     const auto& catalogue = candidates.catalogue();
     const auto phrases =
         phrasesOf(part, [&](std::string_view word) { return catalogue.isAuxiliary(word); });
@@ -66,7 +67,8 @@ bool addPart(const std::vector<std::string>& tokens, std::size_t begin, std::siz
             matches.erase(std::remove_if(matches.begin(), matches.end(),
                                          [](const RowMatch& match) { return !match.sameLetters; }),
                           matches.end());
-            if (matches.empty() || (rows->differsInPronoun(phrase) && !phrase.reflexive && !phrase.bare)) {
+            if (matches.empty() ||
+                (rows->differsInPronoun(phrase) && !phrase.reflexive && !phrase.bare)) {
                 continue;
             }
             any = true;

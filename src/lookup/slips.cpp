@@ -34,9 +34,9 @@ int slipCost(std::string_view typed, std::string_view meant, int most)
         row[0] = last[0] + extraCost(typed, i);
         int least = row[0];
         for (std::size_t j = 0; j < meant.size(); ++j) {
-            row[j + 1] = std::min({last[j] + (typed[i] == meant[j] ? 0 : kOneSlip),
-                                   last[j + 1] + extraCost(typed, i),
-                                   row[j] + extraCost(meant, j)});
+            row[j + 1] =
+                std::min({last[j] + (typed[i] == meant[j] ? 0 : kOneSlip),
+                          last[j + 1] + extraCost(typed, i), row[j] + extraCost(meant, j)});
             if (i > 0 && j > 0 && typed[i] == meant[j - 1] && typed[i - 1] == meant[j]) {
                 row[j + 1] = std::min(row[j + 1], beforeLast[j - 1] + kSwap);
             }

@@ -114,7 +114,8 @@ std::string withoutPronouns(std::string_view form)
             break;
         }
     }
-    for (const std::string_view tail : {"-t'en", "-nous-en", "-vous-en", "-toi", "-nous", "-vous"}) {
+    for (const std::string_view tail :
+         {"-t'en", "-nous-en", "-vous-en", "-toi", "-nous", "-vous"}) {
         if (form.size() > tail.size() && form.substr(form.size() - tail.size()) == tail) {
             form.remove_suffix(tail.size());
             break;

@@ -152,7 +152,8 @@ std::vector<RowMatch> VerbRows::matches(const Phrase& phrase) const
                 continue;
             }
             const auto lead = auxiliary.empty() ? std::string{} : phrase.auxiliary + " ";
-            result.push_back({&row, lead + (same && auxiliary.empty() ? spelling.word : phrase.word),
+            result.push_back({&row,
+                              lead + (same && auxiliary.empty() ? spelling.word : phrase.word),
                               spelling.word == phrase.word || (!same && participle)});
             break;
         }

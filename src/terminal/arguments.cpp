@@ -130,18 +130,12 @@ constexpr std::string_view kInput = "-";
 constexpr std::string_view kLanguages[] = {"en", "fr", "de", "es", "pt", "it", "nl"};
 
 constexpr std::pair<std::string_view, Command> kCommands[] = {
-    {"conjugate", Command::Conjugate},
-    {"about", Command::About},
-    {"lookup", Command::Lookup},
-    {"search", Command::Search},
-    {"export", Command::Export},
-    {"backup", Command::Backup},
-    {"restore", Command::Restore},
-    {"help", Command::Help},
-    {"--help", Command::Help},
-    {"-h", Command::Help},
-    {"version", Command::Version},
-    {"--version", Command::Version},
+    {"conjugate", Command::Conjugate}, {"about", Command::About},
+    {"lookup", Command::Lookup},       {"search", Command::Search},
+    {"export", Command::Export},       {"backup", Command::Backup},
+    {"restore", Command::Restore},     {"help", Command::Help},
+    {"--help", Command::Help},         {"-h", Command::Help},
+    {"version", Command::Version},     {"--version", Command::Version},
     {"-v", Command::Version},
 };
 

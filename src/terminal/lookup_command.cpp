@@ -117,6 +117,14 @@ std::string_view verbOf(std::string_view headword)
     return headword.substr(0, headword.find(" (s"));
 }
 
+/// An infinitive names its verb; who asks for a pronominal verb that is none is
+/// not served with another.
+bool isName(const lookup::Reading& reading)
+{
+    return reading.form.find(' ') == std::string::npos &&
+           (reading.places.empty() || reading.places.front().tense == "infinitif");
+}
+
 } // namespace
 
 TextReader::TextReader(Session& session)
@@ -152,7 +160,7 @@ platform::Result<std::vector<lookup::Reading>> TextReader::verbsOfForm(std::stri
                 std::any_of(verbs.begin(), verbs.end(), [&](const lookup::Reading& other) {
                     return verbOf(other.headword) == verbOf(reading.headword);
                 });
-            if (!known && reading.way <= lookup::Way::Phrase) {
+            if (!known && reading.way <= lookup::Way::Phrase && !isName(reading)) {
                 verbs.push_back(std::move(reading));
             }
         }

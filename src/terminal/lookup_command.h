@@ -25,7 +25,8 @@ public:
     read(std::string_view text, lookup::Guesses guesses = lookup::Guesses::Allowed);
 
     /// The verbs that the text is a form of, a reading a name: one for verbs that
-    /// differ in their meaning or their pronoun only. No guesses.
+    /// differ in their meaning or their pronoun only. No guesses, and no infinitives:
+    /// these are names.
     platform::Result<std::vector<lookup::Reading>> verbsOfForm(std::string_view text);
 
 private:

@@ -20,8 +20,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     world.queue->inDatabase([&](platform::Database& database) {
         static auto lookup = lookup::Lookup::build(database);
         fuzz::require(lookup.has_value(), "the database can be read");
-        const auto readings =
-            lookup->read(database, text, settings::TranslationColumn::English);
+        const auto readings = lookup->read(database, text, settings::TranslationColumn::English);
         const auto again = lookup->read(database, text, settings::TranslationColumn::English);
         fuzz::require(readings && again, "a text is no error");
         fuzz::require(readings->size() <= 5 && readings->size() == again->size(),

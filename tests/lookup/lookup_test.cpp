@@ -168,9 +168,8 @@ TEST(LookupOfADamagedDatabase, IsAnErrorWithoutTheTables)
 {
     const support::TemporaryFolder folder;
     const auto queue = platform::DatabaseQueue::open(platform::fileUrl(folder / "empty.db"));
-    queue->inDatabase([](platform::Database& database) {
-        EXPECT_FALSE(Lookup::build(database).has_value());
-    });
+    queue->inDatabase(
+        [](platform::Database& database) { EXPECT_FALSE(Lookup::build(database).has_value()); });
 }
 
 } // namespace

@@ -139,8 +139,7 @@ TEST_F(TerminalTest, LeadsFromAFormToItsVerb)
                                "display) VALUES(8, 'je', 'aime', 'indicatifPresent', 1, 1)");
     const auto several = program.run({"conjugate", "j'aime"});
     EXPECT_EQ(several.out + std::to_string(several.status), "1");
-    EXPECT_EQ(several.err,
-              "lumora-cli: \"j'aime\" is a form of aimer and pécher; which verb?\n");
+    EXPECT_EQ(several.err, "lumora-cli: \"j'aime\" is a form of pécher and aimer; which verb?\n");
 
     const auto searched = program.run({"search", "aimons"});
     EXPECT_EQ(searched.status, 1);
