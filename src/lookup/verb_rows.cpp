@@ -38,7 +38,7 @@ RowSpelling spellingOf(const std::string& form)
 {
     auto tidy = withoutAgreement(form);
     // "ai crevé, je suis crevé(e)" behind "j'".
-    for (const std::string_view own : {"que ", "je "}) {
+    for (const std::string_view own : {"que ", "je ", "j'"}) {
         if (std::string_view{tidy}.substr(0, own.size()) == own) {
             tidy.erase(0, own.size());
         }
@@ -146,16 +146,22 @@ std::vector<RowMatch> VerbRows::matches(const Phrase& phrase) const
         if (!agrees(phrase, row)) {
             continue;
         }
+        // Of "assénera, assènera" the one that was typed.
+        RowMatch best;
         for (const auto& spelling : row.spellings) {
             const bool same = isSameWord(phrase, row, word, spelling);
             if (spelling.auxiliary != auxiliary || (!same && !participle)) {
                 continue;
             }
-            const auto lead = auxiliary.empty() ? std::string{} : phrase.auxiliary + " ";
-            result.push_back({&row,
-                              lead + (same && auxiliary.empty() ? spelling.word : phrase.word),
-                              spelling.word == phrase.word || (!same && participle)});
-            break;
+            const bool sameLetters = spelling.word == phrase.word || (!same && participle);
+            if (best.row == nullptr || (sameLetters && !best.sameLetters)) {
+                const auto lead = auxiliary.empty() ? std::string{} : phrase.auxiliary + " ";
+                const bool own = same && auxiliary.empty();
+                best = {&row, lead + (own ? spelling.word : phrase.word), sameLetters};
+            }
+        }
+        if (best.row != nullptr) {
+            result.push_back(std::move(best));
         }
     }
     keepMood(phrase, result);

@@ -67,7 +67,7 @@ std::string spokenPronoun(const std::string& pronoun)
 std::string spoken(const std::string& pronoun, const std::string& form)
 {
     // "ai crevé, je suis crevé(e)" behind "j'" has the other pronoun in it.
-    for (const std::string_view own : {"je ", "que je "}) {
+    for (const std::string_view own : {"je ", "j'", "que je ", "que j'"}) {
         if (form.substr(0, own.size()) == own) {
             return form;
         }
