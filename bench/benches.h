@@ -30,6 +30,9 @@ struct SearchFigures {
 SearchFigures searchFigures(const std::filesystem::path& database, int rounds, std::size_t stride);
 void measureSearch(Report& report, const std::filesystem::path& database);
 
+/// What a typed text may mean, against the search for the same text.
+void measureLookup(Report& report, const std::filesystem::path& database);
+
 /// Reading a verb's forms against the same statement in a bare SQLite loop.
 Figure formsFigure(const std::filesystem::path& database, int verbs);
 /// From the tap on a row to the frame with the grid, in the real window,

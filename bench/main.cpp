@@ -42,6 +42,7 @@ int run(const std::string& program, const std::vector<std::string>& asked)
     const std::vector<Section> sections{
         {"list", "Verb list", [&](auto& report) { measureList(report, database); }},
         {"search", "Search", [&](auto& report) { measureSearch(report, database); }},
+        {"lookup", "Reading a text", [&](auto& report) { measureLookup(report, database); }},
         {"open", "Opening a verb", [&](auto& report) { measureOpening(report, database); }},
         {"export", "Export", [&](auto& report) { measureExport(report, database); }},
         {"speech", "Pronunciation", [&](auto& report) { bench::measureSpeech(report); }},

@@ -23,6 +23,7 @@ French verbs and all their forms.
 Commands:
   conjugate VERB     print every mood and tense of a verb
   about VERB         print a verb's group, model and auxiliary
+  lookup TEXT        print what verb and form a text may mean
   search TEXT        print the verbs that begin with TEXT
   export VERB        print a verb's conjugations as a document
   backup FILE        save favourites and history to a file
@@ -57,6 +58,20 @@ and the verb that it is conjugated like, its auxiliaries, its traits, and how
 common it is, from 1 (the 100 commonest verbs) to 5 (rare, old or of a trade).
 
 In a pipe each line holds a name and a value.
+)help";
+
+constexpr const char* kLookupHelp =
+    R"help(Usage: lumora-cli lookup [--language CODE] TEXT|-
+
+Print which verbs and forms a text may mean, the likeliest first: a form with or
+without its pronoun ("irions", "que j'aille", "va-t'en"), a translation ("to
+go"), a word that is misspelt or written as it sounds, the verbs of a sentence.
+For "-" the texts are read from standard input, one a line, and each is printed
+before what it may mean.
+
+In a pipe each line holds verb, form, mood, tense, pronoun and how the text was
+understood: exact, folded (but for case and accents), phrase, meaning, slip,
+sound or inside.
 )help";
 
 constexpr const char* kSearchHelp =
@@ -108,8 +123,9 @@ Common options:
 
 constexpr std::pair<Command, const char*> kHelpTexts[] = {
     {Command::Conjugate, kConjugateHelp}, {Command::About, kAboutHelp},
-    {Command::Search, kSearchHelp},       {Command::Export, kExportHelp},
-    {Command::Backup, kBackupHelp},       {Command::Restore, kRestoreHelp},
+    {Command::Lookup, kLookupHelp},       {Command::Search, kSearchHelp},
+    {Command::Export, kExportHelp},       {Command::Backup, kBackupHelp},
+    {Command::Restore, kRestoreHelp},
 };
 
 /// In the place of a verb: the verbs are read from standard input.
@@ -118,17 +134,12 @@ constexpr std::string_view kInput = "-";
 constexpr std::string_view kLanguages[] = {"en", "fr", "de", "es", "pt", "it", "nl"};
 
 constexpr std::pair<std::string_view, Command> kCommands[] = {
-    {"conjugate", Command::Conjugate},
-    {"about", Command::About},
-    {"search", Command::Search},
-    {"export", Command::Export},
-    {"backup", Command::Backup},
-    {"restore", Command::Restore},
-    {"help", Command::Help},
-    {"--help", Command::Help},
-    {"-h", Command::Help},
-    {"version", Command::Version},
-    {"--version", Command::Version},
+    {"conjugate", Command::Conjugate}, {"about", Command::About},
+    {"lookup", Command::Lookup},       {"search", Command::Search},
+    {"export", Command::Export},       {"backup", Command::Backup},
+    {"restore", Command::Restore},     {"help", Command::Help},
+    {"--help", Command::Help},         {"-h", Command::Help},
+    {"version", Command::Version},     {"--version", Command::Version},
     {"-v", Command::Version},
 };
 
@@ -170,6 +181,11 @@ bool takesFile(std::optional<Command> command)
     return command == Command::Backup || command == Command::Restore;
 }
 
+bool takesInput(Command command)
+{
+    return command == Command::Conjugate || command == Command::Lookup;
+}
+
 platform::Result<void> addText(Arguments& arguments, std::string_view word)
 {
     if (takesFile(arguments.command)) {
@@ -179,7 +195,7 @@ platform::Result<void> addText(Arguments& arguments, std::string_view word)
         arguments.text = word;
         return {};
     }
-    if (arguments.command == Command::Conjugate && word == kInput) {
+    if (takesInput(arguments.command) && word == kInput) {
         arguments.verbsFromInput = true;
         return {};
     }
@@ -277,12 +293,16 @@ platform::Result<void> setValued(const ValuedOption& option, Arguments& argument
 platform::Result<void> checkComplete(const Arguments& arguments)
 {
     if (arguments.verbsFromInput && !arguments.text.empty()) {
-        return refusal("either a verb or \"-\" for those of standard input");
+        return refusal(arguments.command == Command::Lookup
+                           ? "either a text or \"-\" for those of standard input"
+                           : "either a verb or \"-\" for those of standard input");
     }
     if (arguments.text.empty() && !arguments.verbsFromInput) {
-        return refusal(takesFile(arguments.command)           ? "which file?"
-                       : arguments.command == Command::Search ? "which text?"
-                                                              : "which verb?");
+        const bool text =
+            arguments.command == Command::Search || arguments.command == Command::Lookup;
+        return refusal(takesFile(arguments.command) ? "which file?"
+                       : text                       ? "which text?"
+                                                    : "which verb?");
     }
     if (arguments.command == Command::Export && !arguments.format) {
         return refusal("export needs --html or --text");
@@ -295,7 +315,7 @@ platform::Result<void> readWords(Arguments& arguments, const Words& words)
     bool optionsEnded = false;
     for (auto word = words.begin() + 1; word != words.end(); ++word) {
         platform::Result<void> read;
-        const bool input = *word == kInput && arguments.command == Command::Conjugate;
+        const bool input = *word == kInput && takesInput(arguments.command);
         if (optionsEnded || input || !word->starts_with('-')) {
             read = addText(arguments, *word);
         } else if (*word == "--") {

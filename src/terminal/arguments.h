@@ -12,7 +12,7 @@
 
 namespace lumora::terminal {
 
-enum class Command { Conjugate, About, Search, Export, Backup, Restore, Help, Version };
+enum class Command { Conjugate, About, Lookup, Search, Export, Backup, Restore, Help, Version };
 enum class Format { Html, Text };
 
 /// What the user asked for, understood.
@@ -20,7 +20,7 @@ struct Arguments {
     Command command = Command::Help;
     /// The verb, the text to search for, or the file, byte for byte.
     std::string text;
-    /// Read the verbs from standard input, one a line, instead.
+    /// Read the verbs or texts from standard input, one a line, instead.
     bool verbsFromInput = false;
     bool stems = false;
     bool ipa = false;

@@ -18,6 +18,7 @@ class Session;
 platform::Result<void> conjugate(Session& session, const Arguments& arguments,
                                  const Output& output);
 platform::Result<void> about(Session& session, const Arguments& arguments, const Output& output);
+platform::Result<void> lookUp(Session& session, const Arguments& arguments, const Output& output);
 platform::Result<void> search(Session& session, const Arguments& arguments, const Output& output);
 platform::Result<void> exportDocument(Session& session, const Arguments& arguments,
                                       const Output& output);

@@ -7,6 +7,7 @@
 #include "terminal/arguments.h"
 #include "terminal/commands.h"
 #include "terminal/loaded_verbs.h"
+#include "terminal/lookup_command.h"
 #include "terminal/output.h"
 #include "terminal/session.h"
 #include "text/pronoun.h"
@@ -190,9 +191,42 @@ private:
     bool first_ = true;
 };
 
+/// Finds the verb that a person asks for: by its name, else by one of its forms.
+class VerbFinder {
+public:
+    VerbFinder(Session& session, const VerbDirectory& directory, const Output& output)
+        : directory_{directory}, reader_{session}, output_{output}
+    {}
+
+    /// Tells when it was a form that named the verb. A form of several verbs is an
+    /// error that names them.
+    platform::Result<std::vector<data::VerbPtr>> find(const std::string& typed)
+    {
+        auto named = directory_.named(typed);
+        if (named) {
+            return named;
+        }
+        const auto readings = reader_.verbsOfForm(typed);
+        if (!readings || readings->empty()) {
+            return readings ? named : tl::unexpected(readings.error());
+        }
+        if (readings->size() > 1) {
+            return tl::unexpected(platform::Error{
+                "\"" + typed + "\" is a form of " + namesOf(*readings) + "; which verb?", EINVAL});
+        }
+        tell("\"" + typed + "\" is a form of " + readings->front().headword, output_.errors);
+        return directory_.named(readings->front().headword);
+    }
+
+private:
+    const VerbDirectory& directory_;
+    TextReader reader_;
+    const Output& output_;
+};
+
 /// Every verb of the stream, one a line; unknown ones are told.
-platform::Result<void> printLines(std::istream& input, const VerbDirectory& directory,
-                                  Printer& printer, const Output& output)
+platform::Result<void> printLines(std::istream& input, VerbFinder& finder, Printer& printer,
+                                  const Output& output)
 {
     constexpr auto kBlanks = " \t\r";
 
@@ -202,7 +236,7 @@ platform::Result<void> printLines(std::istream& input, const VerbDirectory& dire
             continue;
         }
         line.erase(line.find_last_not_of(kBlanks) + 1);
-        const auto verbs = directory.named(text::wellFormed(line));
+        const auto verbs = finder.find(text::wellFormed(line));
         if (!verbs) {
             tell(verbs.error().message, output.errors);
             allKnown = false;
@@ -225,10 +259,11 @@ platform::Result<void> conjugate(Session& session, const Arguments& arguments, c
         return tl::unexpected(directory.error());
     }
     Printer printer{session, arguments, output};
+    VerbFinder finder{session, *directory, output};
     if (arguments.verbsFromInput) {
-        return printLines(std::cin, *directory, printer, output);
+        return printLines(std::cin, finder, printer, output);
     }
-    return directory->named(arguments.text).and_then([&](const auto& verbs) {
+    return finder.find(arguments.text).and_then([&](const auto& verbs) {
         return printer.print(verbs);
     });
 }

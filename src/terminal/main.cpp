@@ -77,6 +77,8 @@ platform::Result<void> run(terminal::Session& session, const Arguments& argument
         return terminal::conjugate(session, arguments, output);
     case Command::About:
         return terminal::about(session, arguments, output);
+    case Command::Lookup:
+        return terminal::lookUp(session, arguments, output);
     case Command::Search:
         return terminal::search(session, arguments, output);
     default:

@@ -4,6 +4,7 @@
 #include "lists/search_results_table_view_controller.h"
 #include "terminal/arguments.h"
 #include "terminal/commands.h"
+#include "terminal/lookup_command.h"
 #include "terminal/output.h"
 #include "terminal/session.h"
 #include "text/text.h"
@@ -31,6 +32,18 @@ void printRows(const std::vector<TextRow>& rows, const Output& output)
     }
 }
 
+/// Tells of a verb that the text is surely a form of, when the list does not
+/// begin with it. A hint may fail: the list is what was asked for.
+void hint(Session& session, const std::string& text, const std::vector<data::VerbPtr>& verbs,
+          const Output& output)
+{
+    const auto readings = TextReader{session}.verbsOfForm(text);
+    if (readings && !readings->empty() &&
+        (verbs.empty() || verbs.front()->id != readings->front().verb)) {
+        tell("\"" + text + "\" is a form of " + namesOf(*readings), output.errors);
+    }
+}
+
 } // namespace
 
 platform::Result<void> search(Session& session, const Arguments& arguments, const Output& output)
@@ -41,6 +54,7 @@ platform::Result<void> search(Session& session, const Arguments& arguments, cons
     if (auto checked = session.check(); !checked) {
         return checked;
     }
+    hint(session, arguments.text, results.verbs, output);
     if (results.verbs.empty()) {
         return tl::unexpected(
             platform::Error{"nothing found for \"" + arguments.text + "\"", ENOENT});

@@ -113,6 +113,45 @@ TEST_F(TerminalTest, ConjugatesTheVerbsOfStandardInput)
     EXPECT_EQ(known.out, "");
 }
 
+TEST_F(TerminalTest, TellsWhatATextMayMean)
+{
+    const auto one = program.run({"lookup", "que", "nous", "aimions"});
+    EXPECT_EQ(one.out, "aimer\taimions\tIndicative\tImperfect\tnous\tphrase\n");
+    EXPECT_EQ(program.run({"lookup", "--language", "de", "qwx"}).err,
+              "lumora-cli: \"qwx\" is no form of a verb\n");
+    EXPECT_EQ(program.run({"lookup", "qwx"}).status, 1);
+    EXPECT_EQ(program.run({"lookup"}).err, "lumora-cli: which text?\n");
+
+    const auto list = program.home() / "texts";
+    support::writeContent(list, "AIMONS \r\nqwx\n\nto love\n");
+    const auto lines = program.run({"lookup", "-"}, {}, "<'" + list.string() + "'");
+    EXPECT_EQ(lines.status, 0);
+    EXPECT_EQ(lines.out, "AIMONS \taimer\taimons\tIndicative\tPresent\tnous\tfolded\n"
+                         "to love\taimer\taimer\t\t\t\tmeaning\n");
+    EXPECT_EQ(lines.err, "");
+}
+
+TEST_F(TerminalTest, LeadsFromAFormToItsVerb)
+{
+    const auto conjugated = program.run({"conjugate", "aimions"});
+    EXPECT_EQ(conjugated.status, 0);
+    EXPECT_EQ(conjugated.err, "lumora-cli: \"aimions\" is a form of aimer\n");
+    EXPECT_EQ(conjugated.out, program.run({"conjugate", "aimer"}).out);
+
+    const auto queue = platform::DatabaseQueue::open(platform::fileUrl(database()));
+    support::executeOn(*queue, "INSERT INTO conjugation(verbid, pronoun, verb, type, conj_order, "
+                               "display) VALUES(8, 'je', 'aime', 'indicatifPresent', 1, 1)");
+    const auto several = program.run({"conjugate", "j'aime"});
+    EXPECT_EQ(several.out + std::to_string(several.status), "1");
+    EXPECT_EQ(several.err, "lumora-cli: \"j'aime\" is a form of pécher and aimer; which verb?\n");
+
+    const auto searched = program.run({"search", "aimons"});
+    EXPECT_EQ(searched.status, 1);
+    EXPECT_EQ(searched.err, "lumora-cli: \"aimons\" is a form of aimer\n"
+                            "lumora-cli: nothing found for \"aimons\"\n");
+    EXPECT_EQ(program.run({"search", "aimer"}).err, "");
+}
+
 TEST_F(TerminalTest, FindsAVerbAsItIsTyped)
 {
     struct {

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "lookup/catalogue.h"
+#include "lookup/phrase.h"
+#include "lookup/reading.h"
+
+#include <string_view>
+#include <vector>
+
+namespace lumora::lookup {
+
+/// A reading, and what its rank depends on besides its way.
+struct Candidate {
+    Reading reading;
+    /// Within the way, before the verb's use counts: less is better.
+    int penalty = 0;
+    int use = 0;
+    /// How common the tense of its likeliest place is; less is more common.
+    int tense = 0;
+    bool sameLetters = false;
+};
+
+/// Collects what a text may mean. A failure of the database ends the collecting
+/// and is kept.
+class Candidates {
+public:
+    Candidates(Catalogue& catalogue, platform::Database& database)
+        : catalogue_{catalogue}, database_{database}
+    {}
+
+    /// Adds a reading a form of the matches, in one way.
+    void add(std::uint32_t verb, const std::vector<RowMatch>& matches, Way way, int penalty);
+    /// Adds the infinitive of a verb.
+    void addInfinitive(std::uint32_t verb, Way way, int penalty);
+    /// Adds what the phrase is, letter by letter or folded.
+    void addForms(const Phrase& phrase, Way way, int penalty);
+
+    /// Leaves laver (se) out of "je lave", and laver of "je me lave".
+    void dropWrongPronouns();
+
+    /// The rows of a verb; null after a failure.
+    Catalogue::Rows rows(std::uint32_t verb);
+    Catalogue& catalogue() { return catalogue_; }
+
+    bool empty() const { return found_.empty(); }
+    std::vector<Candidate>& found() { return found_; }
+    const platform::Result<void>& state() const { return state_; }
+
+    /// The best, one a verb and form, a handful at most.
+    std::vector<Reading> ranked() &&;
+
+private:
+    Catalogue& catalogue_;
+    platform::Database& database_;
+    std::vector<Candidate> found_;
+    platform::Result<void> state_;
+};
+
+/// What the tokens may mean with a letter or two wrong, or by their sound. Of a
+/// word that stands alone only infinitives may be meant where a chance likeness
+/// would be too easy.
+void addSlips(const std::vector<Phrase>& phrases, Candidates& candidates);
+/// `sounds` has looseSound of each word of the index.
+void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::uint32_t>& sounds,
+                    Candidates& candidates);
+
+/// The verbs in a longer text, those with a subject first.
+void addInside(const std::vector<std::string>& tokens, Candidates& candidates);
+
+} // namespace lumora::lookup

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "lookup/verb_rows.h"
+#include "lookup/word_index.h"
+#include "platform/base/error.h"
+
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace lumora::lookup {
+
+/// A verb, as a text may name it.
+struct VerbName {
+    std::int64_t id = -1;
+    /// "évanouir (s')".
+    std::string headword;
+    /// Folded, without its pronoun.
+    std::string folded;
+    /// From 1, among the commonest, to 5.
+    int use = 0;
+    bool pronominal = false;
+    /// As in s'en aller.
+    bool en = false;
+};
+
+/// What is known of all verbs, read once, and the rows of those that were asked
+/// for last.
+class Catalogue {
+public:
+    /// An error when the database cannot be asked.
+    static platform::Result<Catalogue> read(platform::Database& database);
+
+    /// All verbs by id.
+    const std::vector<VerbName>& verbs() const { return verbs_; }
+    /// All forms that are one word, and the names of the verbs.
+    const WordIndex& words() const { return words_; }
+    const VerbName& verb(std::uint32_t number) const { return verbs_[number]; }
+    /// The number of a verb in the index of words; verbs().size() for none.
+    std::uint32_t numberOf(std::int64_t id) const;
+
+    /// The verbs of a folded word, the commonest first, a few at most.
+    std::vector<std::uint32_t> verbsOf(std::string_view folded) const;
+    /// A form of avoir or être.
+    bool isAuxiliary(std::string_view folded) const;
+
+    using Rows = std::shared_ptr<const VerbRows>;
+    platform::Result<Rows> rows(platform::Database& database, std::uint32_t number);
+
+private:
+    std::vector<VerbName> verbs_;
+    WordIndex words_;
+    std::vector<std::uint32_t> auxiliaries_;
+    std::deque<std::pair<std::uint32_t, Rows>> lastRows_;
+};
+
+} // namespace lumora::lookup

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "lookup/word_index.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lumora::lookup {
+
+/// A word that may have been meant.
+struct Slip {
+    std::string word;
+    /// Small where fingers or ears slip easily, as over a double letter.
+    int cost = 0;
+};
+
+/// How far two folded words are apart in cost: letters put in, left out, changed,
+/// or swapped with a neighbour. At most `most` + 1.
+int slipCost(std::string_view typed, std::string_view meant, int most);
+
+inline constexpr int kSlipOfDouble = 2;
+inline constexpr int kOneSlip = 4;
+inline constexpr int kTwoSlips = 8;
+
+/// The words of the index that differ from a folded word by one slip.
+std::vector<Slip> wordsOneSlipAway(std::string_view typed, const WordIndex& words);
+
+} // namespace lumora::lookup
