@@ -97,8 +97,8 @@ std::uint32_t Catalogue::numberOf(std::int64_t id) const
     const auto found = std::lower_bound(
         verbs_.begin(), verbs_.end(), id,
         [](const VerbName& verb, std::int64_t wanted) { return verb.id < wanted; });
-    return static_cast<std::uint32_t>(
-        found != verbs_.end() && found->id == id ? found - verbs_.begin() : verbs_.size());
+    const bool known = found != verbs_.end() && found->id == id;
+    return static_cast<std::uint32_t>((known ? found : verbs_.end()) - verbs_.begin());
 }
 
 std::vector<std::uint32_t> Catalogue::verbsOf(std::string_view folded) const

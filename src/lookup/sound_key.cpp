@@ -183,8 +183,8 @@ bool fits(Next next, std::string_view rest)
 std::string_view soundOfE(std::string_view rest)
 {
     const bool closed = rest.size() > 1 && !beginsWithOneOf(rest, kVowels) &&
-                        !beginsWithOneOf(rest.substr(1), kVowels) &&
-                        !(rest[1] == 'r' || rest[1] == 'l' || rest[1] == 'h');
+                        !beginsWithOneOf(rest.substr(1), kVowels) && rest[1] != 'r' &&
+                        rest[1] != 'l' && rest[1] != 'h';
     const bool doubled = rest.size() > 1 && rest[0] == rest[1];
     return closed || doubled ? "E" : "";
 }
