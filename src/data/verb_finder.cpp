@@ -121,7 +121,7 @@ std::vector<std::string> namesNear(std::string_view typed, const std::vector<Ver
     std::vector<std::pair<std::size_t, std::string>> near;
     for (const auto& verb : verbs) {
         const auto candidate = text::characters(text::folded(nameOf(verb->french).verb));
-        const auto [shorter, longer] = std::minmax(candidate.size(), plain.size());
+        const auto [shorter, longer] = std::minmax({candidate.size(), plain.size()});
         if (longer - shorter > limit) {
             continue;
         }
