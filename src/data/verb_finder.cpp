@@ -97,7 +97,7 @@ std::vector<VerbPtr> verbsNamed(std::string_view typed, const std::vector<VerbPt
     const auto plain = folded(name);
 
     auto found = selected(verbs, [&](const Name& verb) { return verb == name; });
-    // Who asks for the pronominal verb is not served with another.
+    // A name with "se" must not find a verb that has no reflexive pronoun.
     if (found.empty() && !name.pronominal) {
         found = selected(verbs, [&](const Name& verb) { return verb.verb == name.verb; });
     }

@@ -32,7 +32,7 @@ public:
     virtual void fillPath(const Color& color) = 0;
 };
 
-/// Something drawn whose one number can be animated by the toolkit.
+/// A drawing that depends on one number, which the toolkit can animate.
 class AnimatedLayer {
 public:
     virtual ~AnimatedLayer() = default;
@@ -58,7 +58,7 @@ class AnimatedView {
 public:
     virtual ~AnimatedView() = default;
     virtual const AnimatedLayer& layer() const = 0;
-    /// Whether something goes on that the number shows.
+    /// Whether the process that the number shows is still running.
     virtual bool isRunning() const = 0;
     virtual void setHost(LayerHost* host) = 0;
 };

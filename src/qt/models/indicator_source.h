@@ -44,7 +44,7 @@ public:
 
 signals:
     void displayNeeded();
-    /// Perhaps.
+    /// It may have changed.
     void runningChanged();
     void animationAdded(float from, float to, double duration);
 

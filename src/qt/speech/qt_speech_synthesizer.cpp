@@ -73,7 +73,7 @@ void QtSpeechSynthesizer::proceed()
     const auto& speech = now.speech;
     const std::chrono::milliseconds elapsed{now.clock.elapsed()};
     const bool hasWord = now.nextWord < speech.words.size();
-    const auto end = speech.duration() + now.sink->afterlife();
+    const auto end = speech.duration() + now.sink->latency();
     const auto due = hasWord ? speech.timeOf(speech.words[now.nextWord].sample) : end;
     if (elapsed < due) {
         timer_.start(due - elapsed);

@@ -62,7 +62,7 @@ void SpeechSink::pour()
     }
 }
 
-std::chrono::milliseconds SpeechSink::afterlife() const
+std::chrono::milliseconds SpeechSink::latency() const
 {
     return sink_ ? kLatency : std::chrono::milliseconds{0};
 }

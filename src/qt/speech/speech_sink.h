@@ -14,15 +14,15 @@
 
 namespace lumora::qt {
 
-/// Plays one speech on the default output device, silently where there is none.
-/// Gone, it is silent at once.
+/// Plays one speech on the default output device; does nothing where there is
+/// none. Its destruction ends the sound at once.
 class SpeechSink {
 public:
     explicit SpeechSink(const Speech& speech);
     ~SpeechSink();
 
-    /// How long after its last sample the speech may still be sounding.
-    std::chrono::milliseconds afterlife() const;
+    /// How long the output may still sound after the speech's last sample.
+    std::chrono::milliseconds latency() const;
 
 private:
     void pour();

@@ -15,7 +15,7 @@ T.Control {
     property alias delegate: list.delegate
     property alias list: list
     property bool stickyHeaders: true
-    // For who cannot see what the rows are about.
+    // What a screen reader calls the table.
     property string name
     readonly property int indexWidth: index.visible ? index.width : 0
     // The row that is swiped open, if one is.
@@ -50,7 +50,7 @@ T.Control {
     function movePage(direction) {
         move(direction * Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1));
     }
-    // Only now is there a menu: few ever ask for it.
+    // The menu is made when it is first asked for: most people never do.
     function showMenu(row, point) {
         if (menu.status === Loader.Null)
             menu.setSource("qrc:/Lumora/RowMenu.qml", {
