@@ -196,7 +196,8 @@ bool agreesWithDictionary(const std::vector<SpokenVerb>& verbs,
                           const std::filesystem::path& disagreements, std::ostream& output)
 {
     const auto forms = formsOf(verbs);
-    const auto listed = TextTable::read(disagreements, {"infinitive", "form", "ours", "theirs", "reason"});
+    const auto listed =
+        TextTable::read(disagreements, {"infinitive", "form", "ours", "theirs", "reason"});
     const auto entries = dictionaryEntries(dictionary);
     Count count;
     Count listedCount;
