@@ -121,7 +121,8 @@ bool keepsE(const Sounds& before, const Sounds& sounds, std::size_t at)
     if (consonants == before.size() || consonants >= 2) {
         return true;
     }
-    if (before[before.size() - 1 - consonants] == U'ə') {
+    const auto vowel = before[before.size() - 1 - consonants];
+    if (vowel == U'ə') {
         return true;
     }
     const auto next = nextVowel(sounds, at + 1);
@@ -129,7 +130,9 @@ bool keepsE(const Sounds& before, const Sounds& sounds, std::size_t at)
         return true;
     }
     const auto last = before.back();
-    return last == U'ɲ' || (last == U'ʁ' && sounds[at + 1] == U'ʁ') ||
+    // enregistrer: re- after a nasal vowel.
+    const bool keepsAfterR = sounds[at + 1] == U'ʁ' || isOneOf(vowel, U"ãẽõũ");
+    return last == U'ɲ' || (last == U'ʁ' && keepsAfterR) ||
            (isOneOf(last, U"kɡ") && sounds[at + 1] == U't');
 }
 

@@ -69,7 +69,7 @@ constexpr auto kRules = std::to_array<Rule>({
     {U"", U"ey", U"", U"E"},
     {U"", U"euill", U"", U"œj"},
     {U"", U"euil", U"$", U"œj"},
-    {U"#", U"eu", U"r", U"ø"},  // européaniser
+    {U"#", U"eu", U"", U"ø"},  // européaniser
     {U"", U"eu", U"", U"Ø"},
     {U"", U"eû", U"", U"ø"},
     {U"i", U"en", U"$", U"ẽ"},

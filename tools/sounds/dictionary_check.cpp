@@ -10,6 +10,7 @@
 #include <fstream>
 #include <iomanip>
 #include <map>
+#include <optional>
 #include <ostream>
 #include <set>
 #include <string>
@@ -114,12 +115,64 @@ bool matches(const std::string& pattern, const std::string& text)
     return fnmatch(pattern.c_str(), text.c_str(), 0) == 0;
 }
 
-bool isListed(const TextTable& disagreements, const std::vector<std::string>& fields)
+using Heard = std::vector<std::string>;
+
+/// Whether the test holds for one pronunciation of ours and one of theirs.
+template <typename Test>
+bool anyPair(const std::set<std::string>& ours, const Heard& theirs, Test test)
+{
+    return std::any_of(ours.begin(), ours.end(), [&](const std::string& our) {
+        return std::any_of(theirs.begin(), theirs.end(), [&](const std::string& their) {
+            return test(plain(our), plain(their));
+        });
+    });
+}
+
+template <typename Normal>
+bool meet(const std::set<std::string>& ours, const Heard& theirs, Normal normal)
+{
+    return anyPair(ours, theirs, [&](const std::string& our, const std::string& their) {
+        return normal(our) == normal(their);
+    });
+}
+
+struct Difference {
+    std::string infinitive;
+    std::string form;
+    std::set<std::string> ours;
+    Heard theirs;
+};
+
+/// What is left of a text before the ending that "*ending" asks for.
+std::optional<std::string> stemBefore(const std::string& ending, const std::string& text)
+{
+    const auto bare = ending.substr(1);
+    return text.ends_with(bare) ? std::optional(text.substr(0, text.size() - bare.size()))
+                                : std::nullopt;
+}
+
+/// Where theirs is given, only the two endings may differ: what stands before them
+/// is the same, so that no stem hides behind an ending.
+bool excuses(const std::vector<std::string>& record, const Difference& difference)
+{
+    const auto& [infinitive, form, heard, theirs] = difference;
+    if (!matches(record[0], infinitive) || !matches(record[1], form)) {
+        return false;
+    }
+    if (record[3] == "-") {
+        return matches(record[2], joined(heard));
+    }
+    return anyPair(heard, theirs, [&](const std::string& our, const std::string& their) {
+        const auto stem = stemBefore(record[2], our);
+        return stem && stem == stemBefore(record[3], their);
+    });
+}
+
+bool isListed(const TextTable& disagreements, const Difference& difference)
 {
     const auto& records = disagreements.records();
     return std::any_of(records.begin(), records.end(), [&](const TextTable::Record& record) {
-        return matches(record.fields[0], fields[0]) && matches(record.fields[1], fields[1]) &&
-               matches(record.fields[2], fields[2]);
+        return excuses(record.fields, difference);
     });
 }
 
@@ -130,16 +183,6 @@ struct Count {
     int strict = 0;
     int loose = 0;
 };
-
-template <typename Normal>
-bool meet(const std::set<std::string>& ours, const std::vector<std::string>& theirs, Normal normal)
-{
-    return std::any_of(ours.begin(), ours.end(), [&](const std::string& our) {
-        return std::any_of(theirs.begin(), theirs.end(), [&](const std::string& their) {
-            return normal(plain(our)) == normal(plain(their));
-        });
-    });
-}
 
 double share(int part, const Count& count)
 {
@@ -153,7 +196,8 @@ bool agreesWithDictionary(const std::vector<SpokenVerb>& verbs,
                           const std::filesystem::path& disagreements, std::ostream& output)
 {
     const auto forms = formsOf(verbs);
-    const auto listed = TextTable::read(disagreements, {"infinitive", "form", "ours", "reason"});
+    const auto listed =
+        TextTable::read(disagreements, {"infinitive", "form", "ours", "theirs", "reason"});
     const auto entries = dictionaryEntries(dictionary);
     Count count;
     Count listedCount;
@@ -175,7 +219,7 @@ bool agreesWithDictionary(const std::vector<SpokenVerb>& verbs,
             continue;
         }
         const auto ours = joined(found->second);
-        if (isListed(listed, {infinitive, form, ours})) {
+        if (isListed(listed, {infinitive, form, found->second, theirs})) {
             ++listedCount.strict;
             listedCount.loose += !close;
             continue;

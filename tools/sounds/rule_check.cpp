@@ -58,6 +58,7 @@ public:
         endings();
         alike();
         firstGroup();
+        oneStem();
         contacts();
         return broken_;
     }
@@ -153,6 +154,47 @@ private:
                            vous.end())) {
             breakRule("alike", "vous and infinitive", *vous.begin());
         }
+    }
+
+    /// Before every vowel a stem is said as in the infinitive: fourmillé, courrouçons.
+    void oneStem()
+    {
+        const auto infinitive = said_.find({Tense::Infinitif, Person::Nobody});
+        if (!entry().infinitive.ends_with("er") || infinitive == said_.end()) {
+            return;
+        }
+        const auto hasStem = [&](const std::string& ipa) {
+            return std::any_of(infinitive->second.begin(), infinitive->second.end(),
+                               [&](const std::string& whole) {
+                                   return ipa.starts_with(whole.substr(0, whole.size() - 1));
+                               });
+        };
+        for (const auto& form : verb_.forms) {
+            if (opensWithVowel(endingOf(form.form)) && !hasStem(form.ipa)) {
+                breakRule("stem", form.form, form.ipa);
+            }
+        }
+    }
+
+    /// What stands after the stem of the infinitive; empty where another stem does.
+    std::string_view endingOf(std::string_view form) const
+    {
+        const auto stem = entry().infinitive.substr(0, entry().infinitive.size() - 2);
+        const bool soft = stem.ends_with('c');
+        for (const auto& before : {stem, soft ? stem.substr(0, stem.size() - 1) + "ç" : stem}) {
+            if (form.starts_with(before)) {
+                return form.substr(before.size());
+            }
+        }
+        return {};
+    }
+
+    static bool opensWithVowel(std::string_view ending)
+    {
+        constexpr std::array<std::string_view, 6> kVowels{"a", "â", "é", "ez", "ea", "eo"};
+        return ending.starts_with("ons") ||
+               std::any_of(kVowels.begin(), kVowels.end(),
+                           [&](std::string_view vowel) { return ending.starts_with(vowel); });
     }
 
     /// j' and nous‿ before a vowel, neither before a consonant or h aspiré.
