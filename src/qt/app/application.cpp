@@ -4,6 +4,7 @@
 #include "qt/app/application.h"
 
 #include "platform/files/atomic_file.h"
+#include "qt/app/back_keys.h"
 #include "qt/base/text_conversion.h"
 #include "qt/screens/icon_provider.h"
 
@@ -94,6 +95,7 @@ bool Application::show()
     // right colours.
     settingsPortal_.takeAnswer();
     shareSheet_.setWindow(window_);
+    new BackKeys{window_};
     connect(window_, &QQuickWindow::frameSwapped, this, &Application::launch,
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     // A window that starts out hidden draws no frame.

@@ -8,6 +8,7 @@
 #include "qt/screens/screen_registry.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace lumora::qt {
@@ -30,9 +31,9 @@ HomeScreen::~HomeScreen()
 void HomeScreen::update()
 {
     const auto& current = home_->currentChild();
-    const bool isNew = current && std::find(lists_.begin(), lists_.end(), current) == lists_.end();
-    if (isNew) {
-        lists_.push_back(current);
+    auto& list = lists_.at(static_cast<std::size_t>(selectedTab()));
+    if (current != list) {
+        list = current;
         emit listsChanged();
     }
     emit outletsChanged();
@@ -61,7 +62,7 @@ QList<QObject*> HomeScreen::lists() const
 {
     QList<QObject*> screens;
     for (const auto& list : lists_) {
-        screens.append(registry_.screenFor(list));
+        screens.append(list ? registry_.screenFor(list) : nullptr);
     }
     return screens;
 }
@@ -126,7 +127,9 @@ std::vector<std::shared_ptr<platform::ViewController>> HomeScreen::visibleChildr
 
 std::vector<std::shared_ptr<platform::ViewController>> HomeScreen::keptChildren() const
 {
-    auto children = lists_;
+    std::vector<std::shared_ptr<platform::ViewController>> children;
+    std::copy_if(lists_.begin(), lists_.end(), std::back_inserter(children),
+                 [](const auto& list) { return list != nullptr; });
     if (home_->searchResultsController()) {
         children.push_back(home_->searchResultsController());
     }

@@ -7,6 +7,8 @@
 #include "qt/screens/screen.h"
 #include "qt/screens/table_screen.h"
 
+#include <array>
+
 namespace lumora::qt {
 
 class ScreenRegistry;
@@ -49,7 +51,8 @@ public:
     /// Of HomeTab.
     QVariantList tabs() const;
     int selectedTab() const { return static_cast<int>(home_->tabBar.selectedItem); }
-    /// The lists shown so far, which keep their place behind the others.
+    /// By the tags of their tabs; null before a list is first shown. Behind the
+    /// others a list keeps its place.
     QList<QObject*> lists() const;
     TableScreen* currentList() const;
     /// Null before the screen is built.
@@ -60,6 +63,7 @@ public:
     bool searchFocus() const { return home_->searchBar.isFirstResponder; }
 
     Q_INVOKABLE void selectTab(int tag);
+    Q_INVOKABLE void showOptions() { home_->showOptions(); }
     Q_INVOKABLE void focusSearch() { home_->focusSearchBar(); }
     Q_INVOKABLE void changeSearchText(const QString& text);
     /// The search field has got the keyboard or lost it.
@@ -80,7 +84,7 @@ private:
 
     std::shared_ptr<navigation::HomeViewController> home_;
     ScreenRegistry& registry_;
-    std::vector<std::shared_ptr<platform::ViewController>> lists_;
+    std::array<std::shared_ptr<platform::ViewController>, 3> lists_;
     std::vector<std::shared_ptr<platform::ViewController>> shown_;
 };
 

@@ -39,6 +39,18 @@ Item {
         // What is measured changes with the font, which is read for that.
         return metrics.font.pixelSize > 0 ? texts.reduce((width, text) => Math.max(width, Math.ceil(metrics.advanceWidth(text)) + 1), 1) : 1;
     }
+    // To the chosen one.
+    function takeKeyboard() {
+        segments.itemAt(selected)?.forceActiveFocus(Qt.TabFocusReason);
+    }
+    // By the arrows.
+    function step(steps) {
+        const next = selected + steps;
+        if (next < 0 || next >= titles.length)
+            return;
+        choose(next);
+        takeKeyboard();
+    }
     function choose(segment) {
         if (segment >= 0 && segment < titles.length && segment !== selected)
             chosen(segment);
@@ -67,6 +79,7 @@ Item {
         anchors.fill: parent
 
         Repeater {
+            id: segments
             model: root.titles
 
             T.RadioButton {
@@ -85,11 +98,14 @@ Item {
                 checked: index === root.selected
                 topInset: root.inset
                 bottomInset: root.inset
-                focusPolicy: root.inTabOrder ? Qt.TabFocus : Qt.NoFocus
+                focusPolicy: root.inTabOrder && checked ? Qt.TabFocus : Qt.NoFocus
                 Accessible.name: text
                 Accessible.checked: checked
+                Accessible.onPressAction: root.choose(index)
+                Accessible.onToggleAction: root.choose(index)
                 onClicked: root.choose(index)
-                Keys.onReturnPressed: root.choose(index)
+                Keys.onLeftPressed: root.step(-1)
+                Keys.onRightPressed: root.step(1)
 
                 background: Rectangle {
                     radius: ground.radius

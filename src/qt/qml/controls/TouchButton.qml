@@ -18,6 +18,7 @@ T.AbstractButton {
     implicitHeight: Math.max(Theme.touch, implicitContentHeight + topPadding + bottomPadding)
     focusPolicy: Qt.TabFocus
     Accessible.name: text
+    Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 

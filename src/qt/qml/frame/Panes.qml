@@ -22,6 +22,17 @@ FocusScope {
             primary.forceActiveFocus();
     }
 
+    // To the next part of the screens in sight, or the one before.
+    function changePart(steps) {
+        const pages = [primary, secondary.item as ScreenStack].filter(pane => pane !== null && pane.visible).map(pane => pane.currentItem as ScreenPage);
+        let parts = [];
+        for (const page of pages)
+            parts = parts.concat(Array.from(page?.parts ?? []));
+        const now = parts.findIndex(part => part.activeFocus);
+        if (parts.length > 0)
+            parts[(Math.max(now, steps < 0 ? 0 : -1) + steps + parts.length) % parts.length].forceActiveFocus(Qt.TabFocusReason);
+    }
+
     onTwoPanesChanged: Qt.callLater(keepKeyboard) // qmllint disable
 
     ScreenStack {
@@ -53,6 +64,7 @@ FocusScope {
         color: Theme.separator
     }
     Loader {
+        id: secondary
         active: root.twoPanes
         anchors.left: divider.right
         anchors.right: parent.right
@@ -75,6 +87,21 @@ FocusScope {
             root.split.backToHome();
             root.split.home.focusSearch();
         }
+    }
+    Shortcut {
+        sequence: "F6"
+        enabled: root.enabled
+        onActivated: root.changePart(1)
+    }
+    Shortcut {
+        sequence: "Shift+F6"
+        enabled: root.enabled
+        onActivated: root.changePart(-1)
+    }
+    Shortcut {
+        sequence: "Ctrl+,"
+        enabled: root.enabled
+        onActivated: root.split.home.showOptions()
     }
     Shortcut {
         sequence: "F10"

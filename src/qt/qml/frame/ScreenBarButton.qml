@@ -20,6 +20,7 @@ BarButton {
     checkable: modelData.identifier === "favourite"
     checked: on
     Accessible.name: modelData.title !== "" ? modelData.title : qsTrId("button." + modelData.identifier)
+    Accessible.onToggleAction: clicked()
     onClicked: {
         checked = Qt.binding(() => on);
         root.screen.press(modelData.identifier);

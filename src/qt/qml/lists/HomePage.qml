@@ -12,11 +12,20 @@ ScreenPage {
     readonly property HomeScreen home: screen as HomeScreen
     readonly property bool searching: home.searchText !== ""
 
+    function openFirst() {
+        const model = root.home.searchResults?.table.model ?? null;
+        if (searching && model !== null)
+            model.tap(model.cellAway(-1, 1));
+        else
+            area.takeKeyboard();
+    }
+
     SearchField {
         id: search
         width: parent.width
         home: root.home
         onListWanted: area.takeKeyboard()
+        onAccepted: root.openFirst()
         onEnded: area.forceActiveFocus()
     }
     FocusScope {
@@ -47,7 +56,7 @@ ScreenPage {
                 focus: visible
 
                 sourceComponent: VerbTable {
-                    name: root.home.tabs[place.index]?.title ?? ""
+                    name: root.home.tabs.find(tab => tab.tag === place.index)?.title ?? ""
                     screen: place.list
                 }
             }

@@ -12,6 +12,8 @@ Rectangle {
 
     // To what was found, by keyboard.
     signal listWanted
+    // What was found first is to open.
+    signal accepted
     // The search was ended elsewhere while the cursor was in the field.
     signal ended
 
@@ -77,8 +79,8 @@ Rectangle {
             }
             onActiveFocusChanged: root.home.searchFocusChanged(activeFocus)
             Keys.onDownPressed: root.listWanted()
-            Keys.onReturnPressed: root.listWanted()
-            Keys.onEnterPressed: root.listWanted()
+            Keys.onReturnPressed: root.accepted()
+            Keys.onEnterPressed: root.accepted()
             Keys.onEscapePressed: event => {
                 event.accepted = text !== "";
                 text = "";

@@ -44,6 +44,7 @@ Rectangle {
                 focusPolicy: Qt.TabFocus
                 Accessible.name: text
                 Accessible.selected: checked
+                Accessible.onPressAction: clicked()
                 onClicked: root.home.selectTab(modelData.tag)
                 Keys.onReturnPressed: clicked()
                 Keys.onEnterPressed: clicked()

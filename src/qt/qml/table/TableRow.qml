@@ -52,6 +52,11 @@ T.SwipeDelegate {
     Accessible.selected: selected
     Accessible.focusable: isCell
     Accessible.focused: isCurrent
+    Accessible.onPressAction: if (isCell)
+        activate()
+    // Only assistive technology gives a row the keyboard, which is the table's.
+    onActiveFocusChanged: if (activeFocus && isCell)
+        (ListView.view.parent as TableContent).goTo(index)
     onClicked: {
         if (swiped)
             swipe.close();

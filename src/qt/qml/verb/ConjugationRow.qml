@@ -38,6 +38,8 @@ Rectangle {
     Accessible.role: isCell ? Accessible.ListItem : Accessible.Heading
     Accessible.focusable: isCell
     Accessible.focused: isCurrent
+    Accessible.onPressAction: if (isForm)
+        activate()
     Accessible.name: isCell ? accessibleName : title
 
     Text {
