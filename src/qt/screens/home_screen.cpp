@@ -94,6 +94,13 @@ QString HomeScreen::searchIdentifier() const
     return toQString(home_->searchBar.accessibilityIdentifier);
 }
 
+void HomeScreen::setOpenVerb(qint64 id)
+{
+    if (std::exchange(openVerb_, id) != id) {
+        emit openVerbChanged();
+    }
+}
+
 void HomeScreen::selectTab(int tag)
 {
     home_->didSelectItem(static_cast<navigation::Tab>(tag));

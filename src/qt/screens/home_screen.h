@@ -40,6 +40,8 @@ class HomeScreen final : public lumora::qt::Screen {
     Q_PROPERTY(QString searchPlaceholder READ searchPlaceholder NOTIFY outletsChanged)
     Q_PROPERTY(QString searchText READ searchText NOTIFY outletsChanged)
     Q_PROPERTY(QString searchIdentifier READ searchIdentifier NOTIFY outletsChanged)
+    // The verb that is open beside the lists; 0 for none.
+    Q_PROPERTY(qint64 openVerb READ openVerb NOTIFY openVerbChanged)
     Q_PROPERTY(bool searchFocus READ searchFocus NOTIFY outletsChanged)
 
 public:
@@ -62,6 +64,9 @@ public:
     QString searchIdentifier() const;
     bool searchFocus() const { return home_->searchBar.isFirstResponder; }
 
+    qint64 openVerb() const { return openVerb_; }
+    void setOpenVerb(qint64 id);
+
     Q_INVOKABLE void selectTab(int tag);
     Q_INVOKABLE void showOptions() { home_->showOptions(); }
     Q_INVOKABLE void focusSearch() { home_->focusSearchBar(); }
@@ -75,6 +80,7 @@ public:
 signals:
     void outletsChanged();
     void listsChanged();
+    void openVerbChanged();
     /// Another text is searched for.
     void searchChanged();
 
@@ -86,6 +92,7 @@ private:
     ScreenRegistry& registry_;
     std::array<std::shared_ptr<platform::ViewController>, 3> lists_;
     std::vector<std::shared_ptr<platform::ViewController>> shown_;
+    qint64 openVerb_ = 0;
 };
 
 } // namespace lumora::qt

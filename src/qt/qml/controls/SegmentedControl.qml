@@ -109,7 +109,7 @@ Item {
 
                 background: Rectangle {
                     radius: ground.radius
-                    color: segment.checked ? root.chosenColor : segment.down ? Theme.pressed : "transparent"
+                    color: segment.checked ? root.chosenColor : segment.down || segment.hovered ? Theme.pressed : "transparent"
                     border.width: segment.visualFocus ? 2 : 0
                     border.color: Theme.accentText
                 }

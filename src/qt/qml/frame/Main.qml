@@ -140,4 +140,15 @@ Window {
             })
         grabsKeyboard: true
     }
+    NoticeBar {
+        id: notice
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: parent.height - height - Theme.barHeight - 2 * Theme.margin
+    }
+    Connections {
+        target: root.share
+        function onTold(sentence) {
+            notice.tell(sentence);
+        }
+    }
 }

@@ -12,7 +12,7 @@ FocusScope {
     readonly property SplitScreen split: presenter.panes
     readonly property bool twoPanes: !split.collapsed
     readonly property bool homeOnTop: split.primary.length === 1 && !split.primaryHidden
-    readonly property int listWidth: Math.max(320, Math.min(360, Math.round(width * 0.34)))
+    readonly property int listWidth: Math.round(Math.max(320, Math.min(360, width * 0.34), Math.min(480, width * 0.19)))
 
     // A pane that goes takes the keyboard with it.
     function keepKeyboard() {

@@ -58,6 +58,10 @@ ScreenPage {
                 sourceComponent: VerbTable {
                     name: root.home.tabs.find(tab => tab.tag === place.index)?.title ?? ""
                     screen: place.list
+                    openVerb: root.home.openVerb
+                    // Rows made ahead complain of a list that grows shorter
+                    // meanwhile; only that of all verbs never does.
+                    list.cacheBuffer: place.index === 0 ? 600 : 0
                 }
             }
         }
@@ -72,6 +76,8 @@ ScreenPage {
                 objectName: "searchResults"
                 name: root.home.searchPlaceholder
                 screen: root.home.searchResults
+                openVerb: root.home.openVerb
+                list.cacheBuffer: 0
 
                 Text {
                     objectName: "nothingFound"
@@ -102,5 +108,6 @@ ScreenPage {
         anchors.bottom: parent.bottom
         width: parent.width
         home: root.home
+        compact: root.height < 460
     }
 }

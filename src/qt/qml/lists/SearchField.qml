@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import QtQuick.Controls.Basic
 import Lumora
 
 // The field in which a verb is looked for.
@@ -95,6 +96,9 @@ Rectangle {
             height: parent.height
             visible: input.text !== ""
             text: qsTrId("search.clear")
+            ToolTip.visible: hovered
+            ToolTip.delay: Theme.tipDelay
+            ToolTip.text: text
             onClicked: input.text = ""
 
             contentItem: Item {
