@@ -58,6 +58,15 @@ QVariantList HomeScreen::tabs() const
     return tabs;
 }
 
+QString HomeScreen::titleOfTab(int tag) const
+{
+    const auto& items = home_->tabBar.items;
+    const auto found = std::find_if(items.begin(), items.end(), [tag](const auto& item) {
+        return static_cast<int>(item.tag) == tag;
+    });
+    return found == items.end() ? QString{} : toQString(found->title);
+}
+
 QList<QObject*> HomeScreen::lists() const
 {
     QList<QObject*> screens;
@@ -94,7 +103,7 @@ QString HomeScreen::searchIdentifier() const
     return toQString(home_->searchBar.accessibilityIdentifier);
 }
 
-void HomeScreen::setOpenVerb(qint64 id)
+void HomeScreen::setOpenVerb(int id)
 {
     if (std::exchange(openVerb_, id) != id) {
         emit openVerbChanged();

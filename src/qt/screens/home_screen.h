@@ -41,7 +41,7 @@ class HomeScreen final : public lumora::qt::Screen {
     Q_PROPERTY(QString searchText READ searchText NOTIFY outletsChanged)
     Q_PROPERTY(QString searchIdentifier READ searchIdentifier NOTIFY outletsChanged)
     // The verb that is open beside the lists; 0 for none.
-    Q_PROPERTY(qint64 openVerb READ openVerb NOTIFY openVerbChanged)
+    Q_PROPERTY(int openVerb READ openVerb NOTIFY openVerbChanged)
     Q_PROPERTY(bool searchFocus READ searchFocus NOTIFY outletsChanged)
 
 public:
@@ -64,9 +64,11 @@ public:
     QString searchIdentifier() const;
     bool searchFocus() const { return home_->searchBar.isFirstResponder; }
 
-    qint64 openVerb() const { return openVerb_; }
-    void setOpenVerb(qint64 id);
+    int openVerb() const { return openVerb_; }
+    void setOpenVerb(int id);
 
+    /// Empty where there is no such tab.
+    Q_INVOKABLE QString titleOfTab(int tag) const;
     Q_INVOKABLE void selectTab(int tag);
     Q_INVOKABLE void showOptions() { home_->showOptions(); }
     Q_INVOKABLE void focusSearch() { home_->focusSearchBar(); }
@@ -92,7 +94,7 @@ private:
     ScreenRegistry& registry_;
     std::array<std::shared_ptr<platform::ViewController>, 3> lists_;
     std::vector<std::shared_ptr<platform::ViewController>> shown_;
-    qint64 openVerb_ = 0;
+    int openVerb_ = 0;
 };
 
 } // namespace lumora::qt

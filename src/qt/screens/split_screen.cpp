@@ -192,7 +192,7 @@ void SplitScreen::synchronize()
     if (auto* const lists = home()) {
         const auto* beside =
             secondary_.isEmpty() ? nullptr : qobject_cast<VerbDetailScreen*>(secondary_.last());
-        lists->setOpenVerb(beside == nullptr ? 0 : beside->verbId());
+        lists->setOpenVerb(beside == nullptr ? 0 : static_cast<int>(beside->verbId()));
     }
     preview_.setScreen(previewed ? registry_.screenFor(previewed) : nullptr);
     emit changed();

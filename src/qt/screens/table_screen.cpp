@@ -15,7 +15,7 @@ TableScreen::TableScreen(const std::shared_ptr<platform::TableViewController>& c
     : Screen{controller, pageName}, table_{dynamic_cast<QtTableView&>(controller->tableView())}
 {}
 
-int TableScreen::rowOfVerb(qint64 id) const
+int TableScreen::rowOfVerb(int id) const
 {
     std::optional<platform::IndexPath> path;
     if (auto* const list =

@@ -22,12 +22,13 @@ FocusScope {
             primary.forceActiveFocus();
     }
 
+    function partsOf(pane) {
+        const page = pane?.visible ? pane.currentItem : null;
+        return Array.from(page?.parts ?? []);
+    }
     // To the next part of the screens in sight, or the one before.
     function changePart(steps) {
-        const pages = [primary, secondary.item as ScreenStack].filter(pane => pane !== null && pane.visible).map(pane => pane.currentItem as ScreenPage);
-        let parts = [];
-        for (const page of pages)
-            parts = parts.concat(Array.from(page?.parts ?? []));
+        const parts = partsOf(primary).concat(partsOf(secondary.item));
         const now = parts.findIndex(part => part.activeFocus);
         if (parts.length > 0)
             parts[(Math.max(now, steps < 0 ? 0 : -1) + steps + parts.length) % parts.length].forceActiveFocus(Qt.TabFocusReason);

@@ -56,7 +56,7 @@ ScreenPage {
                 focus: visible
 
                 sourceComponent: VerbTable {
-                    name: root.home.tabs.find(tab => tab.tag === place.index)?.title ?? ""
+                    name: root.home.titleOfTab(place.index)
                     screen: place.list
                     openVerb: root.home.openVerb
                     // Rows made ahead complain of a list that grows shorter

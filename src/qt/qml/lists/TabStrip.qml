@@ -67,12 +67,11 @@ Rectangle {
                         verticalItemAlignment: Grid.AlignVCenter
 
                         Icon {
-                            id: picture
                             name: tab.modelData.image
                             color: tab.ink
                         }
                         Text {
-                            width: Math.min(implicitWidth, tab.width - 4 - (root.compact ? picture.width + Theme.gap : 0))
+                            width: Math.min(implicitWidth, tab.width - 4 - (root.compact ? 24 + Theme.gap : 0))
                             text: tab.text
                             color: tab.ink
                             font.pixelSize: Math.round(13 * Theme.barScale)

@@ -23,7 +23,7 @@ TouchButton {
 
     contentItem: Text {
         // As much room on the other side keeps the text in the middle.
-        leftPadding: mark.visible ? mark.size + Theme.gap : 0
+        leftPadding: root.modelData.chosen ? 20 + Theme.gap : 0
         rightPadding: leftPadding
         text: root.text
         color: root.modelData.destructive ? Theme.danger : Theme.accentText
@@ -32,15 +32,15 @@ TouchButton {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.WordWrap
+    }
 
-        Icon {
-            id: mark
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            visible: root.modelData.chosen
-            name: visible ? "chosen" : ""
-            size: 20
-            color: Theme.accentText
-        }
+    Icon {
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.margin
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.modelData.chosen
+        name: visible ? "chosen" : ""
+        size: 20
+        color: Theme.accentText
     }
 }

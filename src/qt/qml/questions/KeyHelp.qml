@@ -13,7 +13,7 @@ Question {
     readonly property string enter: qsTrId("keys.enter")
     readonly property var rows: [
         [ctrl + "F", qsTrId("keys.find")],
-        [ctrl + "1, 2, 3", [qsTrId("tabs.list"), qsTrId("tabs.favourites"), qsTrId("tabs.history")].join(", ")],
+        [ctrl + "1, 2, 3", qsTrId("tabs.list") + ", " + qsTrId("tabs.favourites") + ", " + qsTrId("tabs.history")],
         [enter, qsTrId("keys.open")],
         ["← →", qsTrId("keys.value")],
         [qsTrId("keys.shift") + "+F10", qsTrId("keys.row")],

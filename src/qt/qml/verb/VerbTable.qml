@@ -11,7 +11,7 @@ TableContent {
 
     required property TableScreen screen
     // The verb that is open beside the list; 0 for none.
-    property real openVerb: 0
+    property int openVerb: 0
     property int openVerbRow: -1
 
     function findOpenVerb() {
