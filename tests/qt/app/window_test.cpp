@@ -293,7 +293,9 @@ TEST_F(WindowTest, OpensAsLargeAsItWasLeft)
     application->window()->resize(left);
     ASSERT_TRUE(until([&] { return application->window()->size() == left; }));
     application->enterBackground();
-    open(std::nullopt);
+    application.reset();
+    application = std::make_unique<Application>(options);
+    ASSERT_TRUE(application->show());
     EXPECT_EQ(application->window()->size(), left);
 }
 

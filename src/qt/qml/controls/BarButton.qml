@@ -20,6 +20,7 @@ TouchButton {
     rightPadding: Theme.gap
     ToolTip.visible: hovered && image !== "" && tip !== ""
     ToolTip.delay: Theme.tipDelay
+    ToolTip.timeout: Theme.tipTime
     ToolTip.text: tip
 
     contentItem: Item {

@@ -49,11 +49,15 @@ Item {
         if (next < 0 || next >= titles.length)
             return;
         choose(next);
-        takeKeyboard();
     }
     function choose(segment) {
-        if (segment >= 0 && segment < titles.length && segment !== selected)
-            chosen(segment);
+        if (segment < 0 || segment >= titles.length || segment === selected)
+            return;
+        // The one that can be tabbed to changes, and had better have the
+        // keyboard before.
+        if (segments.itemAt(selected)?.activeFocus)
+            segments.itemAt(segment).forceActiveFocus(Qt.TabFocusReason);
+        chosen(segment);
     }
 
     implicitWidth: wishedWidth

@@ -77,6 +77,7 @@ QtObject {
     readonly property int sheetRadius: 14
     readonly property int quick: reducedMotion ? 0 : 180
     readonly property int tipDelay: 700
+    readonly property int tipTime: 4000
     readonly property int slow: Math.round(quick * 1.4)
 
     // A form that is too long goes on below at a space only.

@@ -98,6 +98,7 @@ Rectangle {
             text: qsTrId("search.clear")
             ToolTip.visible: hovered
             ToolTip.delay: Theme.tipDelay
+            ToolTip.timeout: Theme.tipTime
             ToolTip.text: text
             onClicked: input.text = ""
 

@@ -56,7 +56,7 @@ Column {
 
         width: parent.width
         visible: version !== ""
-        text: qsTrId("settings.version").arg(version)
+        text: visible ? qsTrId("settings.version").arg(version) : ""
         color: Theme.textSecondary
         font.pixelSize: Theme.small
         horizontalAlignment: Text.AlignHCenter

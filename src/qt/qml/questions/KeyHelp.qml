@@ -49,6 +49,8 @@ Question {
             width: parent.width
             topPadding: Theme.margin
             bottomPadding: Theme.gap
+            // Its rows break into lines only when they have their width.
+            onContentHeightChanged: contentY = 0
 
             SheetHeading {
                 width: parent.width

@@ -70,7 +70,12 @@ T.SwipeDelegate {
     onSwipedChanged: if (swiped)
         (ListView.view.parent as TableContent).rowSwiped(root)
 
-    ListView.onPooled: swipe.close()
+    // Laid aside it would still be in the tree that a screen reader sees.
+    ListView.onPooled: {
+        swipe.close();
+        visible = false;
+    }
+    ListView.onReused: visible = true
 
     background: Rectangle {
         color: !root.isCell || !root.selectable ? root.color : root.down || root.selected ? root.pressedColor : root.hovered || root.open ? root.hoverColor : root.color
