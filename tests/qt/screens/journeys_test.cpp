@@ -224,6 +224,7 @@ TEST_F(Journey, GoFromPartToPartAndBackByKeys)
     ASSERT_TRUE(until([&] { return find("keyHelp") == nullptr; }));
     keys("Alt+Left");
     ASSERT_TRUE(until([&] { return split().primary().size() == 1; }));
+    ASSERT_TRUE(settled("aller"));
     keys("Ctrl+F");
     type("av");
     ASSERT_TRUE(until([&] { return verbs() == QStringList{"avoir"}; }))
@@ -234,6 +235,7 @@ TEST_F(Journey, GoFromPartToPartAndBackByKeys)
     QTest::mouseClick(application->window(), Qt::BackButton, {}, {200, 300});
     ASSERT_TRUE(until([&] { return split().primary().size() == 1; }));
 
+    ASSERT_TRUE(settled("avoir"));
     // From the links above the options down to them, in sight.
     keys("Ctrl+,");
     ASSERT_TRUE(settled("website"));
