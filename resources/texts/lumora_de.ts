@@ -153,6 +153,50 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Sie haben noch keine Verben angesehen. Die Verben, die Sie öffnen, erscheinen hier.</translation>
     </message>
+    <message id="keys.ctrl">
+        <source></source>
+        <translation>Strg</translation>
+    </message>
+    <message id="keys.enter">
+        <source></source>
+        <translation>Eingabe</translation>
+    </message>
+    <message id="keys.escape">
+        <source></source>
+        <translation>Esc</translation>
+    </message>
+    <message id="keys.find">
+        <source></source>
+        <translation>Suchen; Eingabe öffnet den ersten Treffer</translation>
+    </message>
+    <message id="keys.open">
+        <source></source>
+        <translation>Ein Verb öffnen, eine Form hören</translation>
+    </message>
+    <message id="keys.part">
+        <source></source>
+        <translation>Nächster Teil des Fensters</translation>
+    </message>
+    <message id="keys.quit">
+        <source></source>
+        <translation>Beenden</translation>
+    </message>
+    <message id="keys.row">
+        <source></source>
+        <translation>Was eine Zeile anbietet</translation>
+    </message>
+    <message id="keys.shift">
+        <source></source>
+        <translation>Umschalt</translation>
+    </message>
+    <message id="keys.title">
+        <source></source>
+        <translation>Tasten</translation>
+    </message>
+    <message id="keys.value">
+        <source></source>
+        <translation>Anderer Modus, anderer Wert</translation>
+    </message>
     <message id="link.homographs">
         <source></source>
         <translation>Lumora kennt noch ein Verb dieses Namens:</translation>
@@ -172,6 +216,14 @@ Verben im Verlauf: %d</translation>
     <message id="navigation.back">
         <source></source>
         <translation>Zurück</translation>
+    </message>
+    <message id="notice.copied">
+        <source></source>
+        <translation>Kopiert</translation>
+    </message>
+    <message id="notice.saved">
+        <source></source>
+        <translation>Gespeichert als %1</translation>
     </message>
     <message id="options.button">
         <source></source>
@@ -336,6 +388,10 @@ Verben im Verlauf: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Türkisch</translation>
+    </message>
+    <message id="settings.version">
+        <source></source>
+        <translation>Version %1</translation>
     </message>
     <message id="share.copy">
         <source></source>

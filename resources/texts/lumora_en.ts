@@ -153,6 +153,50 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>You have not looked at any verbs yet. The verbs you open will be listed here.</translation>
     </message>
+    <message id="keys.ctrl">
+        <source></source>
+        <translation>Ctrl</translation>
+    </message>
+    <message id="keys.enter">
+        <source></source>
+        <translation>Enter</translation>
+    </message>
+    <message id="keys.escape">
+        <source></source>
+        <translation>Esc</translation>
+    </message>
+    <message id="keys.find">
+        <source></source>
+        <translation>Search; Enter opens the first result</translation>
+    </message>
+    <message id="keys.open">
+        <source></source>
+        <translation>Open a verb, hear a form</translation>
+    </message>
+    <message id="keys.part">
+        <source></source>
+        <translation>Next part of the window</translation>
+    </message>
+    <message id="keys.quit">
+        <source></source>
+        <translation>Quit</translation>
+    </message>
+    <message id="keys.row">
+        <source></source>
+        <translation>What can be done with a row</translation>
+    </message>
+    <message id="keys.shift">
+        <source></source>
+        <translation>Shift</translation>
+    </message>
+    <message id="keys.title">
+        <source></source>
+        <translation>Keys</translation>
+    </message>
+    <message id="keys.value">
+        <source></source>
+        <translation>Another mood, another value</translation>
+    </message>
     <message id="link.homographs">
         <source></source>
         <translation>Lumora has another verb of this name:</translation>
@@ -172,6 +216,14 @@ Verbs in the history: %d</translation>
     <message id="navigation.back">
         <source></source>
         <translation>Back</translation>
+    </message>
+    <message id="notice.copied">
+        <source></source>
+        <translation>Copied</translation>
+    </message>
+    <message id="notice.saved">
+        <source></source>
+        <translation>Saved as %1</translation>
     </message>
     <message id="options.button">
         <source></source>
@@ -336,6 +388,10 @@ Verbs in the history: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turkish</translation>
+    </message>
+    <message id="settings.version">
+        <source></source>
+        <translation>Version %1</translation>
     </message>
     <message id="share.copy">
         <source></source>

@@ -153,6 +153,50 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Aún no has consultado ningún verbo. Los verbos que abras aparecerán aquí.</translation>
     </message>
+    <message id="keys.ctrl">
+        <source></source>
+        <translation>Ctrl</translation>
+    </message>
+    <message id="keys.enter">
+        <source></source>
+        <translation>Intro</translation>
+    </message>
+    <message id="keys.escape">
+        <source></source>
+        <translation>Esc</translation>
+    </message>
+    <message id="keys.find">
+        <source></source>
+        <translation>Buscar; Intro abre el primer resultado</translation>
+    </message>
+    <message id="keys.open">
+        <source></source>
+        <translation>Abrir un verbo, oír una forma</translation>
+    </message>
+    <message id="keys.part">
+        <source></source>
+        <translation>Parte siguiente de la ventana</translation>
+    </message>
+    <message id="keys.quit">
+        <source></source>
+        <translation>Salir</translation>
+    </message>
+    <message id="keys.row">
+        <source></source>
+        <translation>Lo que ofrece una fila</translation>
+    </message>
+    <message id="keys.shift">
+        <source></source>
+        <translation>Mayús</translation>
+    </message>
+    <message id="keys.title">
+        <source></source>
+        <translation>Teclas</translation>
+    </message>
+    <message id="keys.value">
+        <source></source>
+        <translation>Otro modo, otro valor</translation>
+    </message>
     <message id="link.homographs">
         <source></source>
         <translation>Lumora tiene otro verbo con este nombre:</translation>
@@ -172,6 +216,14 @@ Verbos en el historial: %d</translation>
     <message id="navigation.back">
         <source></source>
         <translation>Atrás</translation>
+    </message>
+    <message id="notice.copied">
+        <source></source>
+        <translation>Copiado</translation>
+    </message>
+    <message id="notice.saved">
+        <source></source>
+        <translation>Guardado como %1</translation>
     </message>
     <message id="options.button">
         <source></source>
@@ -336,6 +388,10 @@ Verbos en el historial: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turco</translation>
+    </message>
+    <message id="settings.version">
+        <source></source>
+        <translation>Versión %1</translation>
     </message>
     <message id="share.copy">
         <source></source>

@@ -153,6 +153,50 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Vous n’avez encore consulté aucun verbe. Les verbes que vous ouvrez apparaîtront ici.</translation>
     </message>
+    <message id="keys.ctrl">
+        <source></source>
+        <translation>Ctrl</translation>
+    </message>
+    <message id="keys.enter">
+        <source></source>
+        <translation>Entrée</translation>
+    </message>
+    <message id="keys.escape">
+        <source></source>
+        <translation>Échap</translation>
+    </message>
+    <message id="keys.find">
+        <source></source>
+        <translation>Rechercher ; Entrée ouvre le premier résultat</translation>
+    </message>
+    <message id="keys.open">
+        <source></source>
+        <translation>Ouvrir un verbe, écouter une forme</translation>
+    </message>
+    <message id="keys.part">
+        <source></source>
+        <translation>Partie suivante de la fenêtre</translation>
+    </message>
+    <message id="keys.quit">
+        <source></source>
+        <translation>Quitter</translation>
+    </message>
+    <message id="keys.row">
+        <source></source>
+        <translation>Ce que permet une ligne</translation>
+    </message>
+    <message id="keys.shift">
+        <source></source>
+        <translation>Maj</translation>
+    </message>
+    <message id="keys.title">
+        <source></source>
+        <translation>Touches</translation>
+    </message>
+    <message id="keys.value">
+        <source></source>
+        <translation>Autre mode, autre valeur</translation>
+    </message>
     <message id="link.homographs">
         <source></source>
         <translation>Lumora connaît un autre verbe de ce nom :</translation>
@@ -172,6 +216,14 @@ Verbes dans l’historique : %d</translation>
     <message id="navigation.back">
         <source></source>
         <translation>Retour</translation>
+    </message>
+    <message id="notice.copied">
+        <source></source>
+        <translation>Copié</translation>
+    </message>
+    <message id="notice.saved">
+        <source></source>
+        <translation>Enregistré sous %1</translation>
     </message>
     <message id="options.button">
         <source></source>
@@ -336,6 +388,10 @@ Verbes dans l’historique : %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turc</translation>
+    </message>
+    <message id="settings.version">
+        <source></source>
+        <translation>Version %1</translation>
     </message>
     <message id="share.copy">
         <source></source>

@@ -153,6 +153,50 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Non hai ancora consultato nessun verbo. I verbi che apri compariranno qui.</translation>
     </message>
+    <message id="keys.ctrl">
+        <source></source>
+        <translation>Ctrl</translation>
+    </message>
+    <message id="keys.enter">
+        <source></source>
+        <translation>Invio</translation>
+    </message>
+    <message id="keys.escape">
+        <source></source>
+        <translation>Esc</translation>
+    </message>
+    <message id="keys.find">
+        <source></source>
+        <translation>Cerca; Invio apre il primo risultato</translation>
+    </message>
+    <message id="keys.open">
+        <source></source>
+        <translation>Apri un verbo, ascolta una forma</translation>
+    </message>
+    <message id="keys.part">
+        <source></source>
+        <translation>Parte successiva della finestra</translation>
+    </message>
+    <message id="keys.quit">
+        <source></source>
+        <translation>Esci</translation>
+    </message>
+    <message id="keys.row">
+        <source></source>
+        <translation>Cosa offre una riga</translation>
+    </message>
+    <message id="keys.shift">
+        <source></source>
+        <translation>Maiusc</translation>
+    </message>
+    <message id="keys.title">
+        <source></source>
+        <translation>Tasti</translation>
+    </message>
+    <message id="keys.value">
+        <source></source>
+        <translation>Altro modo, altro valore</translation>
+    </message>
     <message id="link.homographs">
         <source></source>
         <translation>Lumora ha un altro verbo con questo nome:</translation>
@@ -172,6 +216,14 @@ Verbi nella cronologia: %d</translation>
     <message id="navigation.back">
         <source></source>
         <translation>Indietro</translation>
+    </message>
+    <message id="notice.copied">
+        <source></source>
+        <translation>Copiato</translation>
+    </message>
+    <message id="notice.saved">
+        <source></source>
+        <translation>Salvato come %1</translation>
     </message>
     <message id="options.button">
         <source></source>
@@ -336,6 +388,10 @@ Verbi nella cronologia: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turco</translation>
+    </message>
+    <message id="settings.version">
+        <source></source>
+        <translation>Versione %1</translation>
     </message>
     <message id="share.copy">
         <source></source>

@@ -153,6 +153,50 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Je hebt nog geen werkwoorden bekeken. De werkwoorden die je opent, verschijnen hier.</translation>
     </message>
+    <message id="keys.ctrl">
+        <source></source>
+        <translation>Ctrl</translation>
+    </message>
+    <message id="keys.enter">
+        <source></source>
+        <translation>Enter</translation>
+    </message>
+    <message id="keys.escape">
+        <source></source>
+        <translation>Esc</translation>
+    </message>
+    <message id="keys.find">
+        <source></source>
+        <translation>Zoeken; Enter opent het eerste resultaat</translation>
+    </message>
+    <message id="keys.open">
+        <source></source>
+        <translation>Een werkwoord openen, een vorm horen</translation>
+    </message>
+    <message id="keys.part">
+        <source></source>
+        <translation>Volgende deel van het venster</translation>
+    </message>
+    <message id="keys.quit">
+        <source></source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message id="keys.row">
+        <source></source>
+        <translation>Wat een rij biedt</translation>
+    </message>
+    <message id="keys.shift">
+        <source></source>
+        <translation>Shift</translation>
+    </message>
+    <message id="keys.title">
+        <source></source>
+        <translation>Toetsen</translation>
+    </message>
+    <message id="keys.value">
+        <source></source>
+        <translation>Andere wijs, andere waarde</translation>
+    </message>
     <message id="link.homographs">
         <source></source>
         <translation>Lumora heeft nog een werkwoord met deze naam:</translation>
@@ -172,6 +216,14 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="navigation.back">
         <source></source>
         <translation>Terug</translation>
+    </message>
+    <message id="notice.copied">
+        <source></source>
+        <translation>Gekopieerd</translation>
+    </message>
+    <message id="notice.saved">
+        <source></source>
+        <translation>Opgeslagen als %1</translation>
     </message>
     <message id="options.button">
         <source></source>
@@ -336,6 +388,10 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turks</translation>
+    </message>
+    <message id="settings.version">
+        <source></source>
+        <translation>Versie %1</translation>
     </message>
     <message id="share.copy">
         <source></source>

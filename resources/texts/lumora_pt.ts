@@ -153,6 +153,50 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Ainda não consultou nenhum verbo. Os verbos que abrir aparecem aqui.</translation>
     </message>
+    <message id="keys.ctrl">
+        <source></source>
+        <translation>Ctrl</translation>
+    </message>
+    <message id="keys.enter">
+        <source></source>
+        <translation>Enter</translation>
+    </message>
+    <message id="keys.escape">
+        <source></source>
+        <translation>Esc</translation>
+    </message>
+    <message id="keys.find">
+        <source></source>
+        <translation>Pesquisar; Enter abre o primeiro resultado</translation>
+    </message>
+    <message id="keys.open">
+        <source></source>
+        <translation>Abrir um verbo, ouvir uma forma</translation>
+    </message>
+    <message id="keys.part">
+        <source></source>
+        <translation>Parte seguinte da janela</translation>
+    </message>
+    <message id="keys.quit">
+        <source></source>
+        <translation>Sair</translation>
+    </message>
+    <message id="keys.row">
+        <source></source>
+        <translation>O que uma linha oferece</translation>
+    </message>
+    <message id="keys.shift">
+        <source></source>
+        <translation>Shift</translation>
+    </message>
+    <message id="keys.title">
+        <source></source>
+        <translation>Teclas</translation>
+    </message>
+    <message id="keys.value">
+        <source></source>
+        <translation>Outro modo, outro valor</translation>
+    </message>
     <message id="link.homographs">
         <source></source>
         <translation>O Lumora tem outro verbo com este nome:</translation>
@@ -172,6 +216,14 @@ Verbos no histórico: %d</translation>
     <message id="navigation.back">
         <source></source>
         <translation>Voltar</translation>
+    </message>
+    <message id="notice.copied">
+        <source></source>
+        <translation>Copiado</translation>
+    </message>
+    <message id="notice.saved">
+        <source></source>
+        <translation>Guardado como %1</translation>
     </message>
     <message id="options.button">
         <source></source>
@@ -336,6 +388,10 @@ Verbos no histórico: %d</translation>
     <message id="settings.translations.turkish">
         <source></source>
         <translation>Turco</translation>
+    </message>
+    <message id="settings.version">
+        <source></source>
+        <translation>Versão %1</translation>
     </message>
     <message id="share.copy">
         <source></source>

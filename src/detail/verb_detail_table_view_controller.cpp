@@ -85,6 +85,7 @@ void VerbDetailTableViewController::viewDidLoad()
     for (const auto key : data::kMoodTitleKeys) {
         verbTypeSegmentedControl.titles.push_back(localizedString(services_.bundle, key));
     }
+    verbTypeSegmentedControl.selected = settings::ViewMemory{services_.viewMemory}.mood();
     selectVerbLabel.text = localizedString(services_.bundle, "select");
     defaultToolbarHeight = toolbarHeightConstaint;
 
@@ -227,6 +228,9 @@ void VerbDetailTableViewController::refreshConjugations() const
 void VerbDetailTableViewController::selectVerbTypes(int segment)
 {
     verbTypeSegmentedControl.selected = segment;
+    if (const auto kept = settings::ViewMemory{services_.viewMemory}.setMood(segment); !kept) {
+        services_.console << "Unable to keep the mood: " << kept.error().message << std::endl;
+    }
     refreshConjugations();
     services_.analytics.logEvent("conjugation_tab",
                                  {{"name", std::string{data::analyticsNameOfSegment(segment)}}});

@@ -202,25 +202,30 @@ void OptionsTableViewController::didSelectRow(platform::IndexPath path)
     tableView().deselectRow(path);
     const auto* row = optionRowAt(path);
     if (row != nullptr && row->chooser != nullptr) {
-        offer(row->chooser(services().bundle), path);
+        offer(row->chooser(services().bundle), row->detail(services().settings, services().bundle),
+              path);
     } else if (row != nullptr && row->clearsHistory) {
         confirmClearingHistory(path);
     }
 }
 
-void OptionsTableViewController::offer(OptionChooser chooser, platform::IndexPath path)
+void OptionsTableViewController::offer(OptionChooser chooser, std::string_view present,
+                                       platform::IndexPath path)
 {
     platform::ActionSheet sheet;
     sheet.title = std::move(chooser.title);
     for (auto& choice : chooser.choices) {
+        const bool chosen = choice.title == present;
         sheet.actions.push_back({.title = std::move(choice.title),
                                  .style = platform::ActionStyle::Normal,
-                                 .handler = [this, write = std::move(choice.write)] {
-                                     write(services().settings);
-                                     flush();
-                                     tableView().reloadData();
-                                     fieldsChanged = true;
-                                 }});
+                                 .handler =
+                                     [this, write = std::move(choice.write)] {
+                                         write(services().settings);
+                                         flush();
+                                         tableView().reloadData();
+                                         fieldsChanged = true;
+                                     },
+                                 .chosen = chosen});
     }
     sheet.actions.push_back({text("export.cancel"), platform::ActionStyle::Cancel, nullptr});
     services().presenter.presentActionSheet(*this, sheet, path);

@@ -102,7 +102,8 @@ private:
     std::string labelOf(const OptionRow& row) const;
     void change(platform::IndexPath path, OptionRow::Kind kind, bool on);
     /// The chosen value is stored at once.
-    void offer(OptionChooser chooser, platform::IndexPath path);
+    /// `present` is the title of the choice that holds now.
+    void offer(OptionChooser chooser, std::string_view present, platform::IndexPath path);
     void confirmClearingHistory(platform::IndexPath path);
     void clearHistory();
     void flush() const;

@@ -5,6 +5,7 @@
 
 #include "platform/storage/settings_store.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -16,6 +17,13 @@ namespace {
 constexpr std::string_view kVoice = "voice";
 constexpr std::string_view kWoman = "woman";
 constexpr std::string_view kMan = "man";
+constexpr std::string_view kMood = "mood";
+constexpr int kMoods = 4;
+constexpr std::string_view kWidth = "window_width";
+constexpr std::string_view kHeight = "window_height";
+constexpr std::string_view kMaximized = "window_maximized";
+/// Beyond it nobody had a window.
+constexpr std::int64_t kLongestSide = 20000;
 
 } // namespace
 
@@ -29,6 +37,43 @@ platform::Voice ViewMemory::voice() const
 platform::Result<void> ViewMemory::setVoice(platform::Voice voice)
 {
     store_.setValue(std::string{voice == platform::Voice::Man ? kMan : kWoman}, kVoice);
+    return store_.synchronize();
+}
+
+int ViewMemory::mood() const
+{
+    const auto mood = store_.integerForKey(kMood);
+    return mood > 0 && mood < kMoods ? static_cast<int>(mood) : 0;
+}
+
+platform::Result<void> ViewMemory::setMood(int mood)
+{
+    store_.setValue(std::int64_t{mood}, kMood);
+    return store_.synchronize();
+}
+
+std::optional<WindowSize> ViewMemory::windowSize() const
+{
+    const auto width = store_.integerForKey(kWidth);
+    const auto height = store_.integerForKey(kHeight);
+    if (width <= 0 || height <= 0 || width > kLongestSide || height > kLongestSide) {
+        return std::nullopt;
+    }
+    return WindowSize{static_cast<int>(width), static_cast<int>(height)};
+}
+
+bool ViewMemory::windowMaximized() const
+{
+    return store_.boolForKey(kMaximized);
+}
+
+platform::Result<void> ViewMemory::setWindow(std::optional<WindowSize> size, bool maximized)
+{
+    if (size) {
+        store_.setValue(std::int64_t{size->width}, kWidth);
+        store_.setValue(std::int64_t{size->height}, kHeight);
+    }
+    store_.setValue(maximized, kMaximized);
     return store_.synchronize();
 }
 

@@ -10,7 +10,17 @@ namespace lumora::platform {
 class SettingsStore;
 }
 
+#include <optional>
+
 namespace lumora::settings {
+
+/// In device-independent pixels.
+struct WindowSize {
+    int width = 0;
+    int height = 0;
+
+    friend bool operator==(const WindowSize&, const WindowSize&) = default;
+};
 
 /// What the program remembers of how a person likes its screens, in a file
 /// beside the settings, whose keys belong to the options screen. What is
@@ -24,6 +34,15 @@ public:
     platform::Voice voice() const;
     /// Written at once; an error when the file cannot be written.
     platform::Result<void> setVoice(platform::Voice voice);
+
+    /// The segment of the mood last chosen, at first the leftmost.
+    int mood() const;
+    platform::Result<void> setMood(int mood);
+
+    /// Of the window before it was maximized; none at first.
+    std::optional<WindowSize> windowSize() const;
+    bool windowMaximized() const;
+    platform::Result<void> setWindow(std::optional<WindowSize> size, bool maximized);
 
 private:
     platform::SettingsStore& store_;

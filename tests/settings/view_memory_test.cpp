@@ -30,6 +30,31 @@ TEST(ViewMemory, KeepsTheVoiceInItsFileAtOnce)
     EXPECT_FALSE(ViewMemory{lost}.setVoice(Voice::Man));
 }
 
+TEST(ViewMemory, KeepsMoodAndWindow)
+{
+    const support::TemporaryFolder folder;
+    const auto file = folder / "view.json";
+    FileSettingsStore store{file};
+    ViewMemory memory{store};
+    EXPECT_EQ(memory.mood(), 0);
+    EXPECT_EQ(memory.windowSize(), std::nullopt);
+    ASSERT_TRUE(memory.setMood(3) && memory.setWindow(WindowSize{800, 600}, true));
+    ASSERT_TRUE(memory.setWindow(std::nullopt, true)) << "maximized from the start";
+    FileSettingsStore read{file};
+    EXPECT_EQ(ViewMemory{read}.mood(), 3);
+    EXPECT_EQ(ViewMemory{read}.windowSize(), (WindowSize{800, 600}));
+    EXPECT_TRUE(ViewMemory{read}.windowMaximized());
+    for (const char* content :
+         {R"({"mood": 4, "window_width": 800})", R"({"mood": -1, "window_width": 0,
+            "window_height": 5})",
+          R"({"mood": "x", "window_width": 100000, "window_height": 600})"}) {
+        support::writeContent(file, content);
+        FileSettingsStore odd{file};
+        EXPECT_EQ(ViewMemory{odd}.mood(), 0) << content;
+        EXPECT_EQ(ViewMemory{odd}.windowSize(), std::nullopt) << content;
+    }
+}
+
 TEST(ViewMemory, ReadsWhatIsUnknownAsAtTheFirstStart)
 {
     const support::TemporaryFolder folder;

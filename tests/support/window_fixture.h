@@ -36,7 +36,7 @@ struct WindowFixture : testing::Test {
     std::unique_ptr<Application> application;
 
     /// A window of that size that is not launched yet.
-    void open(const QSize& size)
+    void open(std::optional<QSize> size)
     {
         const auto share = folder / "share";
         std::filesystem::create_directories(share);

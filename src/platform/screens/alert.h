@@ -18,6 +18,8 @@ struct AlertAction {
     ActionStyle style = ActionStyle::Normal;
     /// May be empty: the action only dismisses.
     std::function<void()> handler;
+    /// In a chooser: how it is now.
+    bool chosen = false;
 };
 
 /// A message that waits for an answer.

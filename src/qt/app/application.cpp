@@ -4,13 +4,18 @@
 #include "qt/app/application.h"
 
 #include "platform/files/atomic_file.h"
+#include "qt/app/back_keys.h"
+#include "qt/app/window_size.h"
 #include "qt/base/text_conversion.h"
 #include "qt/screens/icon_provider.h"
+#include "settings/view_memory.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <QScreen>
 #include <QTimer>
 
 #include <chrono>
@@ -47,6 +52,7 @@ Application::Application(ApplicationOptions options)
       bundle_{options_.shareFolder},
       device_{options_.launchArguments},
       appearance_{kAccentPrimary},
+      openingSize_{openingSize()},
       presenter_{storyboard_},
       mail_{options_.desktop},
       urlOpener_{options_.desktop},
@@ -63,7 +69,7 @@ Application::Application(ApplicationOptions options)
     // Whether it could be made shows when the database is opened.
     static_cast<void>(platform::makePrivateFolder(options_.folders.data));
     // Screens ask for the kind of device while they are built.
-    device_.setWindowWidth(options_.windowSize.width());
+    device_.setWindowWidth(openingSize_.width());
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             &Application::applicationStateChanged);
     connect(&settingsPortal_, &SettingsPortal::appearanceChanged, this,
@@ -80,8 +86,8 @@ bool Application::show()
                                   {QStringLiteral("files"), QVariant::fromValue(&fileChooser_)},
                                   {QStringLiteral("share"), QVariant::fromValue(&shareSheet_)},
                                   {QStringLiteral("appearance"), QVariant::fromValue(&appearance_)},
-                                  {QStringLiteral("width"), options_.windowSize.width()},
-                                  {QStringLiteral("height"), options_.windowSize.height()}});
+                                  {QStringLiteral("width"), openingSize_.width()},
+                                  {QStringLiteral("height"), openingSize_.height()}});
     engine_.load(QUrl{QStringLiteral("qrc:/Lumora/Main.qml")});
     if (engine_.rootObjects().isEmpty()) {
         return false;
@@ -93,7 +99,11 @@ bool Application::show()
     // While the window was built the answer has come: its first frame has the
     // right colours.
     settingsPortal_.takeAnswer();
+    if (!options_.windowSize && settings::ViewMemory{viewMemory_}.windowMaximized()) {
+        window_->showMaximized();
+    }
     shareSheet_.setWindow(window_);
+    new BackKeys{window_};
     connect(window_, &QQuickWindow::frameSwapped, this, &Application::launch,
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     // A window that starts out hidden draws no frame.
@@ -204,6 +214,37 @@ void Application::enterBackground()
 {
     if (const auto written = settings_.synchronize(); !written) {
         std::cerr << "Unable to write the settings: " << written.error().message << '\n';
+    }
+    rememberWindow();
+}
+
+QSize Application::openingSize()
+{
+    if (options_.windowSize) {
+        return *options_.windowSize;
+    }
+    // Where a desktop puts what is opened: most take the pointer's screen.
+    const auto* pointed = QGuiApplication::screenAt(QCursor::pos());
+    const auto* screen = pointed == nullptr ? QGuiApplication::primaryScreen() : pointed;
+    const auto remembered = settings::ViewMemory{viewMemory_}.windowSize();
+    return firstWindowSize(screen->availableSize(),
+                           remembered ? std::optional{QSize{remembered->width, remembered->height}}
+                                      : std::nullopt);
+}
+
+void Application::rememberWindow()
+{
+    if (window_ == nullptr || options_.windowSize) {
+        return;
+    }
+    settings::ViewMemory memory{viewMemory_};
+    const bool maximized = window_->windowStates() & (Qt::WindowMaximized | Qt::WindowFullScreen);
+    // The size that it goes back to is the one from before.
+    const auto size =
+        maximized ? memory.windowSize()
+                  : std::optional{settings::WindowSize{window_->width(), window_->height()}};
+    if (const auto kept = memory.setWindow(size, maximized); !kept) {
+        std::cerr << "Unable to remember the window: " << kept.error().message << '\n';
     }
 }
 

@@ -50,7 +50,9 @@ struct ApplicationOptions {
     /// Links to open after the launch, not yet checked.
     std::vector<std::string> links;
     Desktop desktop;
-    QSize windowSize{390, 844};
+    /// As the last time, or what suits the screen, when it is not given; only
+    /// then is it remembered.
+    std::optional<QSize> windowSize;
 };
 
 /// The whole program but its entry point: every platform object, the logic
@@ -85,6 +87,8 @@ public:
     void enterBackground();
 
 private:
+    QSize openingSize();
+    void rememberWindow();
     void applicationStateChanged(Qt::ApplicationState state);
     void raise(const QString& activationToken);
     void clearTheWay();
@@ -102,6 +106,7 @@ private:
     QtViewFactory views_;
     app::MainStoryboard storyboard_;
     WindowAppearance appearance_;
+    QSize openingSize_;
     QtPresenter presenter_;
     QtSpeech speech_;
     PulseAudioSession audioSession_;

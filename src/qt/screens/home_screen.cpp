@@ -8,6 +8,7 @@
 #include "qt/screens/screen_registry.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace lumora::qt {
@@ -30,9 +31,9 @@ HomeScreen::~HomeScreen()
 void HomeScreen::update()
 {
     const auto& current = home_->currentChild();
-    const bool isNew = current && std::find(lists_.begin(), lists_.end(), current) == lists_.end();
-    if (isNew) {
-        lists_.push_back(current);
+    auto& list = lists_.at(static_cast<std::size_t>(selectedTab()));
+    if (current != list) {
+        list = current;
         emit listsChanged();
     }
     emit outletsChanged();
@@ -57,11 +58,20 @@ QVariantList HomeScreen::tabs() const
     return tabs;
 }
 
+QString HomeScreen::titleOfTab(int tag) const
+{
+    const auto& items = home_->tabBar.items;
+    const auto found = std::find_if(items.begin(), items.end(), [tag](const auto& item) {
+        return static_cast<int>(item.tag) == tag;
+    });
+    return found == items.end() ? QString{} : toQString(found->title);
+}
+
 QList<QObject*> HomeScreen::lists() const
 {
     QList<QObject*> screens;
     for (const auto& list : lists_) {
-        screens.append(registry_.screenFor(list));
+        screens.append(list ? registry_.screenFor(list) : nullptr);
     }
     return screens;
 }
@@ -91,6 +101,13 @@ QString HomeScreen::searchText() const
 QString HomeScreen::searchIdentifier() const
 {
     return toQString(home_->searchBar.accessibilityIdentifier);
+}
+
+void HomeScreen::setOpenVerb(int id)
+{
+    if (std::exchange(openVerb_, id) != id) {
+        emit openVerbChanged();
+    }
 }
 
 void HomeScreen::selectTab(int tag)
@@ -126,7 +143,9 @@ std::vector<std::shared_ptr<platform::ViewController>> HomeScreen::visibleChildr
 
 std::vector<std::shared_ptr<platform::ViewController>> HomeScreen::keptChildren() const
 {
-    auto children = lists_;
+    std::vector<std::shared_ptr<platform::ViewController>> children;
+    std::copy_if(lists_.begin(), lists_.end(), std::back_inserter(children),
+                 [](const auto& list) { return list != nullptr; });
     if (home_->searchResultsController()) {
         children.push_back(home_->searchResultsController());
     }

@@ -7,6 +7,8 @@
 #include "qt/screens/screen.h"
 #include "qt/screens/table_screen.h"
 
+#include <array>
+
 namespace lumora::qt {
 
 class ScreenRegistry;
@@ -38,6 +40,8 @@ class HomeScreen final : public lumora::qt::Screen {
     Q_PROPERTY(QString searchPlaceholder READ searchPlaceholder NOTIFY outletsChanged)
     Q_PROPERTY(QString searchText READ searchText NOTIFY outletsChanged)
     Q_PROPERTY(QString searchIdentifier READ searchIdentifier NOTIFY outletsChanged)
+    // The verb that is open beside the lists; 0 for none.
+    Q_PROPERTY(int openVerb READ openVerb NOTIFY openVerbChanged)
     Q_PROPERTY(bool searchFocus READ searchFocus NOTIFY outletsChanged)
 
 public:
@@ -49,7 +53,8 @@ public:
     /// Of HomeTab.
     QVariantList tabs() const;
     int selectedTab() const { return static_cast<int>(home_->tabBar.selectedItem); }
-    /// The lists shown so far, which keep their place behind the others.
+    /// By the tags of their tabs; null before a list is first shown. Behind the
+    /// others a list keeps its place.
     QList<QObject*> lists() const;
     TableScreen* currentList() const;
     /// Null before the screen is built.
@@ -59,7 +64,13 @@ public:
     QString searchIdentifier() const;
     bool searchFocus() const { return home_->searchBar.isFirstResponder; }
 
+    int openVerb() const { return openVerb_; }
+    void setOpenVerb(int id);
+
+    /// Empty where there is no such tab.
+    Q_INVOKABLE QString titleOfTab(int tag) const;
     Q_INVOKABLE void selectTab(int tag);
+    Q_INVOKABLE void showOptions() { home_->showOptions(); }
     Q_INVOKABLE void focusSearch() { home_->focusSearchBar(); }
     Q_INVOKABLE void changeSearchText(const QString& text);
     /// The search field has got the keyboard or lost it.
@@ -71,6 +82,7 @@ public:
 signals:
     void outletsChanged();
     void listsChanged();
+    void openVerbChanged();
     /// Another text is searched for.
     void searchChanged();
 
@@ -80,8 +92,9 @@ private:
 
     std::shared_ptr<navigation::HomeViewController> home_;
     ScreenRegistry& registry_;
-    std::vector<std::shared_ptr<platform::ViewController>> lists_;
+    std::array<std::shared_ptr<platform::ViewController>, 3> lists_;
     std::vector<std::shared_ptr<platform::ViewController>> shown_;
+    int openVerb_ = 0;
 };
 
 } // namespace lumora::qt

@@ -145,7 +145,7 @@ QVariantList QtPresenter::answers() const
     for (const auto& action : questions_.front().actions) {
         list.append(QVariant::fromValue(QuestionAnswer{
             toQString(action.title), action.style == platform::ActionStyle::Destructive,
-            action.style == platform::ActionStyle::Cancel}));
+            action.style == platform::ActionStyle::Cancel, action.chosen}));
     }
     return list;
 }

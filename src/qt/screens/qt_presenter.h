@@ -33,12 +33,15 @@ struct QuestionAnswer {
     Q_PROPERTY(QString title MEMBER title FINAL)
     Q_PROPERTY(bool destructive MEMBER destructive FINAL)
     Q_PROPERTY(bool cancel MEMBER cancel FINAL)
+    Q_PROPERTY(bool chosen MEMBER chosen FINAL)
 
 public:
     QString title;
     bool destructive = false;
     /// Leaves everything as it is.
     bool cancel = false;
+    /// How it is now.
+    bool chosen = false;
 };
 
 /// Takes the steps between screens, keeps those that lie over the others, and

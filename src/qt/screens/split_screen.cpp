@@ -8,6 +8,7 @@
 #include "qt/screens/home_screen.h"
 #include "qt/screens/modal_stack.h"
 #include "qt/screens/qt_preview.h"
+#include "qt/screens/verb_detail_screen.h"
 
 #include <algorithm>
 #include <ranges>
@@ -188,6 +189,11 @@ void SplitScreen::synchronize()
 
     primary_ = screens[0];
     secondary_ = screens[1];
+    if (auto* const lists = home()) {
+        const auto* beside =
+            secondary_.isEmpty() ? nullptr : qobject_cast<VerbDetailScreen*>(secondary_.last());
+        lists->setOpenVerb(beside == nullptr ? 0 : static_cast<int>(beside->verbId()));
+    }
     preview_.setScreen(previewed ? registry_.screenFor(previewed) : nullptr);
     emit changed();
     // The pages that go say so first.

@@ -26,6 +26,8 @@ public:
     QtTableView* table() const { return &table_; }
     /// The page is about to draw the table.
     Q_INVOKABLE void prepare() { table_.model()->loadIfNeeded(); }
+    /// Where the verb stands in a table of verbs; -1 where it does not.
+    Q_INVOKABLE int rowOfVerb(int id) const;
 
 private:
     QtTableView& table_;

@@ -9,6 +9,8 @@
 
 #include <QColor>
 
+#include <cstdint>
+
 namespace lumora::qt {
 
 /// The verb detail screen: one verb as a table or as a collection.
@@ -50,6 +52,8 @@ public:
     double selectRadius() const { return detail_->selectVerbLabel.cornerRadius; }
     double selectBorderWidth() const { return detail_->selectVerbLabel.borderWidth; }
 
+    /// As in the database; 0 without a verb.
+    std::int64_t verbId() const { return detail_->selectedVerb ? detail_->selectedVerb->id : 0; }
     int voice() const { return static_cast<int>(detail_->voice()); }
 
     Q_INVOKABLE void chooseVoice(int voice)

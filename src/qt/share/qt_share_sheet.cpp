@@ -136,6 +136,7 @@ void QtShareSheet::copy()
 {
     QGuiApplication::clipboard()->setText(text_);
     cancel();
+    emit told(qtTrId("notice.copied"));
 }
 
 void QtShareSheet::askWhere(const Document& document)
@@ -158,7 +159,9 @@ void QtShareSheet::save(const QString& file, const Document& document)
     const auto content = document.content();
     if (content.isEmpty() || !saveFile(file, content)) {
         saySaveFailed(QFileInfo{file}.fileName());
+        return;
     }
+    emit told(qtTrId("notice.saved").arg(QFileInfo{file}.fileName()));
 }
 
 void QtShareSheet::lookForPrinters()

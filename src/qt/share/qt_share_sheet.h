@@ -83,6 +83,8 @@ public:
 
 signals:
     void changed();
+    /// Something was done that shows nowhere else.
+    void told(const QString& sentence);
 
 private:
     enum class Stage { Closed, Offers, Printers };

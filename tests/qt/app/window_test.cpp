@@ -4,6 +4,7 @@
 #include "support/window_fixture.h"
 
 #include "detail/ce_round_progress_layer.h"
+#include "qt/app/window_size.h"
 #include "qt/models/indicator_source.h"
 #include "qt/screens/round_progress_item.h"
 #include "qt/screens/table_screen.h"
@@ -262,6 +263,40 @@ TEST_F(WindowTest, ARequestFromOutsideWithdrawsWhatWaitsForTheUser)
     EXPECT_EQ(cancelled, 2);
     EXPECT_TRUE(until([&] { return presenter.modals()->count() == 0; }));
     EXPECT_TRUE(settled("tab1")->property("checked").toBool());
+}
+
+TEST(WindowSize, FitsTheScreenAndHasTwoPanesWhereThereIsRoom)
+{
+    struct Case {
+        QSize available;
+        std::optional<QSize> remembered;
+        QSize expected;
+    };
+    for (const auto& [available, remembered, expected] :
+         std::initializer_list<Case>{{{1920, 1050}, {}, {1100, 760}},
+                                     {{1366, 740}, {}, {1100, 696}},
+                                     {{800, 600}, {}, {390, 556}},
+                                     {{360, 640}, {}, {352, 596}},
+                                     {{1366, 740}, QSize{390, 844}, {390, 696}},
+                                     {{2560, 1400}, QSize{2000, 1200}, {2000, 1200}},
+                                     {{1024, 768}, QSize{2000, 100}, {1016, 360}}}) {
+        EXPECT_EQ(firstWindowSize(available, remembered), expected) << available.width();
+    }
+}
+
+TEST_F(WindowTest, OpensAsLargeAsItWasLeft)
+{
+    open(std::nullopt);
+    application->launch();
+    const QSize left{640, 500};
+    ASSERT_NE(application->window()->size(), left);
+    application->window()->resize(left);
+    ASSERT_TRUE(until([&] { return application->window()->size() == left; }));
+    application->enterBackground();
+    application.reset();
+    application = std::make_unique<Application>(options);
+    ASSERT_TRUE(application->show());
+    EXPECT_EQ(application->window()->size(), left);
 }
 
 } // namespace

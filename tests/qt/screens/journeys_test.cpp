@@ -16,6 +16,11 @@ constexpr QSize kTablet{1024, 768};
 struct Journey : WindowFixture {
     int modals() const { return application->presenter().modals()->count(); }
 
+    static QString topTitle(const QList<QObject*>& screens)
+    {
+        return screens.isEmpty() ? QString{} : qobject_cast<Screen*>(screens.last())->title();
+    }
+
     /// The rows of the list on top.
     QList<QQuickItem*> rows() const
     {
@@ -189,6 +194,59 @@ TEST_F(Journey, WithTheKeyboardAlone)
     EXPECT_TRUE(until([&] { return modals() == 0; }));
     keys("Ctrl+1");
     EXPECT_TRUE(until([&] { return verbs().size() == 6; }));
+}
+
+TEST_F(Journey, GoFromPartToPartAndBackByKeys)
+{
+    start(kTablet);
+    touch("aller");
+    ASSERT_TRUE(settled("tenses"));
+    const auto leadsTo = [&](const char* key, const char* name) {
+        keys(key);
+        return until([&] { return find(name) != nullptr && find(name)->hasActiveFocus(); });
+    };
+    keys("Ctrl+1");
+    EXPECT_TRUE(leadsTo("F6", "tenses"));
+    EXPECT_TRUE(leadsTo("F6", "mood0"));
+    EXPECT_TRUE(leadsTo("Right", "mood1"));
+    EXPECT_TRUE(find("mood1")->property("checked").toBool());
+    EXPECT_TRUE(leadsTo("Shift+F6", "tenses"));
+    touch("avoir");
+    ASSERT_TRUE(until([&] { return topTitle(split().secondary()) == QLatin1String("avoir"); }));
+    EXPECT_TRUE(settled("mood1")->property("checked").toBool())
+        << "the next verb opens in the same mood";
+
+    // By keys alone every layer can be left.
+    turn(kPhone);
+    keys("F1");
+    ASSERT_TRUE(settled("keyHelp"));
+    keys("Return");
+    ASSERT_TRUE(until([&] { return find("keyHelp") == nullptr; }));
+    keys("Alt+Left");
+    ASSERT_TRUE(until([&] { return split().primary().size() == 1; }));
+    ASSERT_TRUE(settled("aller"));
+    keys("Ctrl+F");
+    type("av");
+    ASSERT_TRUE(until([&] { return verbs() == QStringList{"avoir"}; }))
+        << verbs().join(' ').toStdString()
+        << find("Search")->property("text").toString().toStdString();
+    keys("Return");
+    ASSERT_TRUE(until([&] { return split().primary().size() == 2; }));
+    QTest::mouseClick(application->window(), Qt::BackButton, {}, {200, 300});
+    ASSERT_TRUE(until([&] { return split().primary().size() == 1; }));
+
+    ASSERT_TRUE(settled("avoir"));
+    // From the links above the options down to them, in sight.
+    keys("Ctrl+,");
+    ASSERT_TRUE(settled("website"));
+    find("website")->forceActiveFocus(Qt::TabFocusReason);
+    keys("Down");
+    const auto* first = find("list")->property("currentItem").value<QQuickItem*>();
+    ASSERT_NE(first, nullptr);
+    EXPECT_TRUE(first->property("isCurrent").toBool()) << "its ring shows";
+    const bool before = application->settings().boolForKey("IncludeEnglish");
+    keys("Space");
+    EXPECT_NE(application->settings().boolForKey("IncludeEnglish"), before);
 }
 
 TEST_F(Journey, TurnTheDeviceAndFindEverythingAsItWas)

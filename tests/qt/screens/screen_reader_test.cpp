@@ -3,6 +3,7 @@
 
 #include "qt/base/text_conversion.h"
 #include "qt/base/translations.h"
+#include "qt/screens/home_screen.h"
 #include "support/window_fixture.h"
 
 #include <QAccessible>
@@ -72,6 +73,43 @@ struct ScreenReaderTest : WindowFixture {
         }
     }
 
+    /// What is heard of that kind and by that name; null where nothing is.
+    static QAccessibleInterface* findHeard(QAccessibleInterface& object, QAccessible::Role role,
+                                           const QString& name)
+    {
+        if (object.state().invisible) {
+            return nullptr;
+        }
+        if (object.role() == role && object.text(QAccessible::Name) == name) {
+            return &object;
+        }
+        for (int child = 0; child < object.childCount(); ++child) {
+            auto* const inside = object.child(child);
+            if (auto* found = inside == nullptr ? nullptr : findHeard(*inside, role, name)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+
+    /// Does as assistive technology does, and says what it was done to.
+    QAccessibleInterface*
+    press(QAccessible::Role role, const char* name,
+          const QString& action = QAccessibleActionInterface::pressAction()) const
+    {
+        QAccessibleInterface* found = nullptr;
+        EXPECT_TRUE(until([&] {
+            found = findHeard(*QAccessible::queryAccessibleInterface(application->window()), role,
+                              QString::fromUtf8(name));
+            return found != nullptr;
+        })) << name;
+        if (found != nullptr) {
+            EXPECT_TRUE(found->actionInterface()->actionNames().contains(action)) << name;
+            found->actionInterface()->doAction(action);
+        }
+        return found;
+    }
+
     static void expectUsable(const QAccessibleInterface& object)
     {
         static const std::set<QAccessible::Role> kGeneral{QAccessible::NoRole, QAccessible::Client,
@@ -131,22 +169,85 @@ TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
     expectHeard("more programs", {"Heading: More apps", "Button: Done", "List: More apps",
                                   "ListItem: English Verbs"});
     tap("bar.done", "bar.menu", "IconSettings");
-    expectHeard("options", {"Heading: Settings", "List: Settings", "Heading: Lumora",
-                            "Button: https://www.brindle.example", "Heading: Search",
-                            "CheckBox: Search translations (English) (checked)", "ListItem: Search",
-                            "RadioButton: Start of word (checked)",
-                            "CheckBox: Search conjugated forms", "ListItem: Speech rate, 100%"});
+    expectHeard("options",
+                {"Heading: Settings", "List: Settings", "Heading: Lumora",
+                 "Button: https://www.brindle.example", "Heading: Search",
+                 "CheckBox: Search translations (English) (checked)",
+                 "ListItem: Search, Start of word", "RadioButton: Start of word (checked)",
+                 "CheckBox: Search conjugated forms", "ListItem: Speech rate, 100%"});
     tap("bar.backup");
     expectHeard("a question", {"Dialog: Lumora", "Button: Restore…", "Button: Cancel"});
+}
+
+TEST_F(ScreenReaderTest, PressesOneOfEveryKind)
+{
+    start({390, 844});
+    settled("aller");
+    press(QAccessible::PageTab, "Favourites");
+    EXPECT_EQ(split().home()->selectedTab(), 1);
+    press(QAccessible::PageTab, "Verbs");
+    EXPECT_EQ(split().home()->selectedTab(), 0);
+
+    press(QAccessible::Button, "Menu");
+    settled("IconSettings");
+    press(QAccessible::ListItem, "Settings");
+    settled("bar.done");
+    EXPECT_TRUE(until([&] { return find("tab0") == nullptr; })) << "what lies below is covered";
+    const auto& settings = application->settings();
+    for (const auto& action :
+         {QAccessibleActionInterface::pressAction(), QAccessibleActionInterface::toggleAction()}) {
+        const bool before = settings.boolForKey("IncludeEnglish");
+        const auto* box = press(QAccessible::CheckBox, "Search translations (English)", action);
+        EXPECT_NE(settings.boolForKey("IncludeEnglish"), before);
+        EXPECT_EQ(box->state().checked, settings.boolForKey("IncludeEnglish"));
+    }
+    press(QAccessible::ListItem, "Search translations (English)");
+    EXPECT_FALSE(settings.boolForKey("IncludeEnglish"));
+    press(QAccessible::RadioButton, "Anywhere");
+    EXPECT_EQ(settings.stringForKey("SearchFrom"), "W");
+    press(QAccessible::ListItem, "Search, Anywhere", QAccessibleActionInterface::setFocusAction());
+    keys("Left");
+    EXPECT_EQ(settings.stringForKey("SearchFrom"), "S") << "the table has the keyboard";
+    press(QAccessible::Button, "Done");
+    settled("aller");
+
+    press(QAccessible::ListItem, "aller, go");
+    settled("mood2");
+    press(QAccessible::CheckBox, "Favourite");
+    press(QAccessible::RadioButton, "Subjunctive");
+    expectHeard("pressed", {"CheckBox: Favourite (checked)", "RadioButton: Subjunctive (checked)",
+                            "ListItem: que j'aille"});
+    press(QAccessible::RadioButton, "Indicative");
+    expectHeard("back again", {"ListItem: je vais"});
+    EXPECT_TRUE(press(QAccessible::Button, "Play je vais")->object()->property("running").toBool());
+    press(QAccessible::Button, "Share");
+    settled("share0");
+    press(QAccessible::Button, "Copy text");
+    expectHeard("copied", {"AlertMessage: Copied"});
+    press(QAccessible::Button, "Back");
+    click("aller", Qt::RightButton);
+    settled("menuAction0");
+    press(QAccessible::MenuItem, "Remove");
+    expectHeard("no favourite", {"ListItem: aller, go"});
+}
+
+TEST_F(ScreenReaderTest, CallsTheListsByTheirTabs)
+{
+    start({390, 844});
+    tap("tab2");
+    expectHeard("history", {"List: History"});
+    tap("tab1");
+    expectHeard("favourites", {"List: Favourites"});
 }
 
 TEST_F(ScreenReaderTest, HearsOfBothPanesOfATablet)
 {
     start({1024, 768});
     tap("aller");
-    expectHeard("verb", {"List: Verbs", "ListItem: aller, go", "Button: Verbs", "Heading: aller",
-                         "CheckBox: Favourite", "RadioButton: Indicative (checked)",
-                         "Heading: Present", "StaticText: je vais", "Button: Play je vais"});
+    expectHeard("verb",
+                {"List: Verbs", "ListItem: aller, go (selected)", "Button: Verbs", "Heading: aller",
+                 "CheckBox: Favourite", "RadioButton: Indicative (checked)", "Heading: Present",
+                 "StaticText: je vais", "Button: Play je vais"});
     click("aller", Qt::RightButton);
     expectHeard("menu of a row", {"MenuItem: Open"});
 }

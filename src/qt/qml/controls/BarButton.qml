@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import QtQuick.Controls.Basic
 import Lumora
 
 // A button of the bar above a screen: an image, a title or both.
@@ -9,11 +10,18 @@ TouchButton {
     id: root
 
     property string image
+    // Of what shows no text.
+    property string tip: text
 
     pressedColor: "#33ffffff"
+    hoverColor: "#1affffff"
     focusColor: Theme.navigationBarTint
     leftPadding: Theme.gap
     rightPadding: Theme.gap
+    ToolTip.visible: hovered && image !== "" && tip !== ""
+    ToolTip.delay: Theme.tipDelay
+    ToolTip.timeout: Theme.tipTime
+    ToolTip.text: tip
 
     contentItem: Item {
         implicitWidth: children[0]?.implicitWidth ?? 0

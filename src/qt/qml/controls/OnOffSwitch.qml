@@ -21,6 +21,9 @@ T.Switch {
     focusPolicy: Qt.NoFocus
     checked: on
     Accessible.name: label
+    // Left to itself the toolkit would only change what is drawn.
+    Accessible.onPressAction: changed(!on)
+    Accessible.onToggleAction: changed(!on)
     onToggled: {
         changed(checked);
         checked = Qt.binding(() => on);

@@ -39,9 +39,25 @@ Item {
         // What is measured changes with the font, which is read for that.
         return metrics.font.pixelSize > 0 ? texts.reduce((width, text) => Math.max(width, Math.ceil(metrics.advanceWidth(text)) + 1), 1) : 1;
     }
+    // To the chosen one.
+    function takeKeyboard() {
+        segments.itemAt(selected)?.forceActiveFocus(Qt.TabFocusReason);
+    }
+    // By the arrows.
+    function step(steps) {
+        const next = selected + steps;
+        if (next < 0 || next >= titles.length)
+            return;
+        choose(next);
+    }
     function choose(segment) {
-        if (segment >= 0 && segment < titles.length && segment !== selected)
-            chosen(segment);
+        if (segment < 0 || segment >= titles.length || segment === selected)
+            return;
+        // The one that can be tabbed to changes, and had better have the
+        // keyboard before.
+        if (segments.itemAt(selected)?.activeFocus)
+            segments.itemAt(segment).forceActiveFocus(Qt.TabFocusReason);
+        chosen(segment);
     }
 
     implicitWidth: wishedWidth
@@ -67,6 +83,7 @@ Item {
         anchors.fill: parent
 
         Repeater {
+            id: segments
             model: root.titles
 
             T.RadioButton {
@@ -85,15 +102,18 @@ Item {
                 checked: index === root.selected
                 topInset: root.inset
                 bottomInset: root.inset
-                focusPolicy: root.inTabOrder ? Qt.TabFocus : Qt.NoFocus
+                focusPolicy: root.inTabOrder && checked ? Qt.TabFocus : Qt.NoFocus
                 Accessible.name: text
                 Accessible.checked: checked
+                Accessible.onPressAction: root.choose(index)
+                Accessible.onToggleAction: root.choose(index)
                 onClicked: root.choose(index)
-                Keys.onReturnPressed: root.choose(index)
+                Keys.onLeftPressed: root.step(-1)
+                Keys.onRightPressed: root.step(1)
 
                 background: Rectangle {
                     radius: ground.radius
-                    color: segment.checked ? root.chosenColor : segment.down ? Theme.pressed : "transparent"
+                    color: segment.checked ? root.chosenColor : segment.down || segment.hovered ? Theme.pressed : "transparent"
                     border.width: segment.visualFocus ? 2 : 0
                     border.color: Theme.accentText
                 }

@@ -44,6 +44,9 @@ QtObject {
     readonly property color segmentOn: dark ? "#c3cad3" : segmentedControlTint
     readonly property color segmentInk: dark ? "#16191d" : "#ffffff"
     readonly property color pressed: dark ? "#2a3038" : "#e3eaf4"
+    readonly property color hover: dark ? "#1b2026" : "#f2f6fb"
+    readonly property color notice: dark ? "#e4e8ee" : "#2b3138"
+    readonly property color noticeText: dark ? "#16191d" : "#ffffff"
     readonly property color field: dark ? "#0b1c33" : "#ffffff"
     readonly property color switchOn: dark ? "#3d7fd6" : accentPrimary
     readonly property color switchOff: dark ? "#6e7884" : "#858f9d"
@@ -73,6 +76,8 @@ QtObject {
     readonly property int radius: 10
     readonly property int sheetRadius: 14
     readonly property int quick: reducedMotion ? 0 : 180
+    readonly property int tipDelay: 700
+    readonly property int tipTime: 4000
     readonly property int slow: Math.round(quick * 1.4)
 
     // A form that is too long goes on below at a space only.

@@ -10,6 +10,7 @@ T.AbstractButton {
     id: root
 
     property color pressedColor: Theme.pressed
+    property color hoverColor: Theme.hover
     property color focusColor: Theme.accentText
     // Shows that the keyboard is here though a list holds it.
     property bool marked: false
@@ -18,12 +19,13 @@ T.AbstractButton {
     implicitHeight: Math.max(Theme.touch, implicitContentHeight + topPadding + bottomPadding)
     focusPolicy: Qt.TabFocus
     Accessible.name: text
+    Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
     background: Rectangle {
         radius: Theme.radius
-        color: root.down ? root.pressedColor : "transparent"
+        color: root.down ? root.pressedColor : root.hovered ? root.hoverColor : "transparent"
         border.width: root.visualFocus || root.marked ? 2 : 0
         border.color: root.focusColor
     }

@@ -16,12 +16,15 @@ Window {
     // Null until the launch is through; until then the window shows its colours.
     readonly property SplitScreen split: presenter.panes
     readonly property ModalStack modals: presenter.modals
+    // Of a type that is not loaded before it is wanted.
+    readonly property var modalPages: modalLayer.item
+    property bool keysShown: false
 
     // What goes while it has the keyboard leaves it with nobody.
     function giveKeyboard() {
         if (activeFocusItem !== contentItem)
             return;
-        for (const layer of [questionLayer, fileLayer, shareLayer, previewLayer, modalLayer]) {
+        for (const layer of [keysLayer, questionLayer, fileLayer, shareLayer, previewLayer, modalLayer]) {
             if (layer.wanted) {
                 layer.takeKeyboard();
                 return;
@@ -61,8 +64,19 @@ Window {
         given: ({
                 presenter: root.presenter
             })
-        enabled: !root.presenter.asking && root.modals.count === 0 && !previewLayer.wanted && !shareLayer.wanted && !fileLayer.wanted
+        enabled: !root.keysShown && !root.presenter.asking && root.modals.count === 0 && !previewLayer.wanted && !shareLayer.wanted && !fileLayer.wanted
         focus: enabled
+        // Out of a screen reader's sight too.
+        visible: !(root.modalPages?.covers ?? false)
+    }
+    Shortcut {
+        sequences: ["Ctrl+Q", "Ctrl+W"]
+        onActivated: root.close()
+    }
+    Shortcut {
+        sequence: "F1"
+        enabled: root.split !== null
+        onActivated: root.keysShown = !root.keysShown
     }
     EdgePull {
         id: pull
@@ -78,7 +92,7 @@ Window {
                 stack: root.modals,
                 pull: pull
             })
-        enabled: wanted && !root.presenter.asking && !fileLayer.wanted
+        enabled: wanted && !root.keysShown && !root.presenter.asking && !fileLayer.wanted
         focus: enabled
     }
     PageLayer {
@@ -87,7 +101,7 @@ Window {
         given: ({
                 preview: root.presenter.preview
             })
-        enabled: !root.presenter.asking
+        enabled: !root.keysShown && !root.presenter.asking
         grabsKeyboard: true
     }
     PageLayer {
@@ -97,7 +111,7 @@ Window {
                 share: root.share,
                 modals: root.modals
             })
-        enabled: !root.presenter.asking
+        enabled: !root.keysShown && !root.presenter.asking
         grabsKeyboard: true
     }
     PageLayer {
@@ -106,7 +120,7 @@ Window {
         given: ({
                 chooser: root.files
             })
-        enabled: !root.presenter.asking
+        enabled: !root.keysShown && !root.presenter.asking
         grabsKeyboard: true
     }
     PageLayer {
@@ -115,6 +129,26 @@ Window {
         given: ({
                 presenter: root.presenter
             })
+        enabled: !root.keysShown
         grabsKeyboard: true
+    }
+    PageLayer {
+        id: keysLayer
+        page: root.keysShown ? "KeyHelp" : ""
+        given: ({
+                window: root
+            })
+        grabsKeyboard: true
+    }
+    NoticeBar {
+        id: notice
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: parent.height - height - Theme.barHeight - 2 * Theme.margin
+    }
+    Connections {
+        target: root.share
+        function onTold(sentence) {
+            notice.tell(sentence);
+        }
     }
 }

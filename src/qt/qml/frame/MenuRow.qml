@@ -14,6 +14,7 @@ TableRow {
     cellHeight: Math.round(52 * Math.max(1, Theme.textScale))
     color: "transparent"
     pressedColor: "#33ffffff"
+    hoverColor: "#1affffff"
     separatorColor: "transparent"
     focusColor: Theme.barText
     objectName: image

@@ -12,8 +12,11 @@ FocusScope {
     required property ModalStack stack
     // The finger that pulls the side menu in.
     required property EdgePull pull
+    // The topmost hides all that is below it.
+    readonly property bool covers: (places.count > 0 && (places.itemAt(places.count - 1) as ModalPlace)?.covers) ?? false
 
     Repeater {
+        id: places
         model: root.stack
 
         ModalPlace {

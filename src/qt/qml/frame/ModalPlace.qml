@@ -12,6 +12,7 @@ FocusScope {
     required property int index
     required property ModalStack stack
     required property EdgePull pull
+    readonly property bool covers: (place.item as ModalSheet)?.covers ?? false
     readonly property bool topmost: index === stack.count - 1
 
     enabled: topmost && !modal.leaving
@@ -21,6 +22,7 @@ FocusScope {
     Component.onCompleted: modal.attach()
 
     Loader {
+        id: place
         anchors.fill: parent
         focus: true
         sourceComponent: root.modal.sideMenu ? menu : sheet

@@ -11,6 +11,8 @@ FocusScope {
 
     required property Modal modal
     required property bool fullScreen
+    // Nothing below it shows.
+    readonly property bool covers: fullScreen && presence.value === 1
     readonly property real restY: (height - sheet.height) / 2
 
     ModalPresence {

@@ -12,7 +12,7 @@ FocusScope {
     readonly property SplitScreen split: presenter.panes
     readonly property bool twoPanes: !split.collapsed
     readonly property bool homeOnTop: split.primary.length === 1 && !split.primaryHidden
-    readonly property int listWidth: Math.max(320, Math.min(360, Math.round(width * 0.34)))
+    readonly property int listWidth: Math.round(Math.max(320, Math.min(360, width * 0.34), Math.min(480, width * 0.19)))
 
     // A pane that goes takes the keyboard with it.
     function keepKeyboard() {
@@ -20,6 +20,18 @@ FocusScope {
             primary.focus = true;
         else if (!activeFocus || !primary.activeFocus && !twoPanes)
             primary.forceActiveFocus();
+    }
+
+    function partsOf(pane) {
+        const page = pane?.visible ? pane.currentItem : null;
+        return Array.from(page?.parts ?? []);
+    }
+    // To the next part of the screens in sight, or the one before.
+    function changePart(steps) {
+        const parts = partsOf(primary).concat(partsOf(secondary.item));
+        const now = parts.findIndex(part => part.activeFocus);
+        if (parts.length > 0)
+            parts[(Math.max(now, steps < 0 ? 0 : -1) + steps + parts.length) % parts.length].forceActiveFocus(Qt.TabFocusReason);
     }
 
     onTwoPanesChanged: Qt.callLater(keepKeyboard) // qmllint disable
@@ -53,6 +65,7 @@ FocusScope {
         color: Theme.separator
     }
     Loader {
+        id: secondary
         active: root.twoPanes
         anchors.left: divider.right
         anchors.right: parent.right
@@ -75,6 +88,21 @@ FocusScope {
             root.split.backToHome();
             root.split.home.focusSearch();
         }
+    }
+    Shortcut {
+        sequence: "F6"
+        enabled: root.enabled
+        onActivated: root.changePart(1)
+    }
+    Shortcut {
+        sequence: "Shift+F6"
+        enabled: root.enabled
+        onActivated: root.changePart(-1)
+    }
+    Shortcut {
+        sequence: "Ctrl+,"
+        enabled: root.enabled
+        onActivated: root.split.home.showOptions()
     }
     Shortcut {
         sequence: "F10"

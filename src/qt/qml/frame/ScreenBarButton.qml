@@ -19,7 +19,9 @@ BarButton {
     // On or off as the screen has it, whatever a press would make of it.
     checkable: modelData.identifier === "favourite"
     checked: on
-    Accessible.name: modelData.title !== "" ? modelData.title : qsTrId("button." + modelData.identifier)
+    tip: modelData.title !== "" ? modelData.title : qsTrId("button." + modelData.identifier)
+    Accessible.name: tip
+    Accessible.onToggleAction: clicked()
     onClicked: {
         checked = Qt.binding(() => on);
         root.screen.press(modelData.identifier);

@@ -19,6 +19,8 @@ FocusScope {
     property bool preview: false
     // Of the bar, beside the screen's buttons.
     property Component barMenu: null
+    // Between which a key moves: each takes the keyboard.
+    property list<Item> parts: [area]
     default property alias content: area.data
 
     signal backRequested

@@ -12,11 +12,20 @@ ScreenPage {
     readonly property HomeScreen home: screen as HomeScreen
     readonly property bool searching: home.searchText !== ""
 
+    function openFirst() {
+        const model = root.home.searchResults?.table.model ?? null;
+        if (searching && model !== null)
+            model.tap(model.cellAway(-1, 1));
+        else
+            area.takeKeyboard();
+    }
+
     SearchField {
         id: search
         width: parent.width
         home: root.home
         onListWanted: area.takeKeyboard()
+        onAccepted: root.openFirst()
         onEnded: area.forceActiveFocus()
     }
     FocusScope {
@@ -47,8 +56,12 @@ ScreenPage {
                 focus: visible
 
                 sourceComponent: VerbTable {
-                    name: root.home.tabs[place.index]?.title ?? ""
+                    name: root.home.titleOfTab(place.index)
                     screen: place.list
+                    openVerb: root.home.openVerb
+                    // Rows made ahead complain of a list that grows shorter
+                    // meanwhile; only that of all verbs never does.
+                    list.cacheBuffer: place.index === 0 ? 600 : 0
                 }
             }
         }
@@ -63,6 +76,8 @@ ScreenPage {
                 objectName: "searchResults"
                 name: root.home.searchPlaceholder
                 screen: root.home.searchResults
+                openVerb: root.home.openVerb
+                list.cacheBuffer: 0
 
                 Text {
                     objectName: "nothingFound"
@@ -93,5 +108,6 @@ ScreenPage {
         anchors.bottom: parent.bottom
         width: parent.width
         home: root.home
+        compact: root.height < 460
     }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import QtQuick.Controls.Basic
 import Lumora
 
 // The field in which a verb is looked for.
@@ -12,6 +13,8 @@ Rectangle {
 
     // To what was found, by keyboard.
     signal listWanted
+    // What was found first is to open.
+    signal accepted
     // The search was ended elsewhere while the cursor was in the field.
     signal ended
 
@@ -77,8 +80,8 @@ Rectangle {
             }
             onActiveFocusChanged: root.home.searchFocusChanged(activeFocus)
             Keys.onDownPressed: root.listWanted()
-            Keys.onReturnPressed: root.listWanted()
-            Keys.onEnterPressed: root.listWanted()
+            Keys.onReturnPressed: root.accepted()
+            Keys.onEnterPressed: root.accepted()
             Keys.onEscapePressed: event => {
                 event.accepted = text !== "";
                 text = "";
@@ -93,6 +96,10 @@ Rectangle {
             height: parent.height
             visible: input.text !== ""
             text: qsTrId("search.clear")
+            ToolTip.visible: hovered
+            ToolTip.delay: Theme.tipDelay
+            ToolTip.timeout: Theme.tipTime
+            ToolTip.text: text
             onClicked: input.text = ""
 
             contentItem: Item {

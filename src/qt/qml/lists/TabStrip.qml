@@ -12,7 +12,10 @@ Rectangle {
 
     required property HomeScreen home
 
-    implicitHeight: Math.round(56 * Math.max(1, (Theme.barScale + 1) / 2))
+    // Text beside the icon, where the window is low.
+    property bool compact: false
+
+    implicitHeight: compact ? Theme.touch : Math.round(56 * Math.max(1, (Theme.barScale + 1) / 2))
     color: Theme.raised
     Accessible.role: Accessible.PageTabList
 
@@ -44,28 +47,31 @@ Rectangle {
                 focusPolicy: Qt.TabFocus
                 Accessible.name: text
                 Accessible.selected: checked
+                Accessible.onPressAction: clicked()
                 onClicked: root.home.selectTab(modelData.tag)
                 Keys.onReturnPressed: clicked()
                 Keys.onEnterPressed: clicked()
 
                 background: Rectangle {
-                    color: tab.down ? Theme.pressed : "transparent"
+                    color: tab.down ? Theme.pressed : tab.hovered ? Theme.hover : "transparent"
                     border.width: tab.visualFocus ? 2 : 0
                     border.color: Theme.accentText
                 }
                 contentItem: Item {
-                    Column {
+                    Grid {
                         anchors.centerIn: parent
-                        spacing: 2
+                        columns: root.compact ? 2 : 1
+                        rowSpacing: 2
+                        columnSpacing: Theme.gap
+                        horizontalItemAlignment: Grid.AlignHCenter
+                        verticalItemAlignment: Grid.AlignVCenter
 
                         Icon {
-                            anchors.horizontalCenter: parent.horizontalCenter
                             name: tab.modelData.image
                             color: tab.ink
                         }
                         Text {
-                            anchors.horizontalCenter: parent.horizontalCenter
-                            width: Math.min(implicitWidth, tab.width - 4)
+                            width: Math.min(implicitWidth, tab.width - 4 - (root.compact ? 24 + Theme.gap : 0))
                             text: tab.text
                             color: tab.ink
                             font.pixelSize: Math.round(13 * Theme.barScale)

@@ -67,6 +67,23 @@ FocusScope {
                     "cornerRadius": card.radius
                 })
             }
+            Rectangle {
+                // What goes on below fades out rather than ends in a cut row.
+                anchors.bottom: parent.bottom
+                anchors.bottomMargin: card.radius
+                width: parent.width
+                height: 36
+                gradient: Gradient {
+                    GradientStop {
+                        position: 0
+                        color: Qt.alpha(card.color, 0)
+                    }
+                    GradientStop {
+                        position: 1
+                        color: card.color
+                    }
+                }
+            }
             MouseArea {
                 anchors.fill: parent
                 Accessible.role: Accessible.Button

@@ -51,6 +51,18 @@ Column {
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.WordWrap
     }
+    Text {
+        readonly property string version: Qt.application.version
+
+        width: parent.width
+        visible: version !== ""
+        text: visible ? qsTrId("settings.version").arg(version) : ""
+        color: Theme.textSecondary
+        font.pixelSize: Theme.small
+        horizontalAlignment: Text.AlignHCenter
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
     LinkButton {
         objectName: "website"
         anchors.horizontalCenter: parent.horizontalCenter

@@ -16,13 +16,14 @@ GroupedRow {
     required property bool switchOn
     required property var segmentTitles
     required property int selectedSegment
+    readonly property string value: control === TableItemModel.Segments ? segmentTitles[selectedSegment] ?? "" : detailText
     // A finger may touch these also above and below what is drawn.
     readonly property int overlap: control === TableItemModel.Switch ? 6 : control === TableItemModel.Segments ? 4 : 0
     readonly property real space: width - 4 * Theme.margin
-    readonly property real wishedWidth: (value.item as Item)?.implicitWidth ?? 0
+    readonly property real wishedWidth: (shown.item as Item)?.implicitWidth ?? 0
     readonly property bool stacked: (control === TableItemModel.Segments || detailText !== "") && label.implicitWidth + Theme.margin + wishedWidth > space
     readonly property real valueWidth: stacked ? space : Math.min(wishedWidth, space)
-    readonly property real drawnHeight: value.height - 2 * overlap
+    readonly property real drawnHeight: shown.height - 2 * overlap
 
     function activate() {
         if (control === TableItemModel.Switch)
@@ -42,7 +43,9 @@ GroupedRow {
 
     cellHeight: Math.max(Theme.touch + 4, (stacked ? label.height + Theme.gap + drawnHeight : Math.max(label.height, drawnHeight)) + 2 * Theme.gap)
     objectName: text
-    Accessible.name: detailText === "" ? text : text + ", " + detailText
+    Accessible.name: value === "" ? text : text + ", " + value
+    Accessible.checkable: control === TableItemModel.Switch
+    Accessible.checked: switchOn
 
     Text {
         id: label
@@ -55,7 +58,7 @@ GroupedRow {
         wrapMode: Text.Wrap
     }
     Loader {
-        id: value
+        id: shown
         x: root.stacked ? 2 * Theme.margin : root.width - 2 * Theme.margin - width
         y: root.stacked ? label.y + label.height + Theme.gap - root.overlap : (root.height - height) / 2
         width: root.valueWidth

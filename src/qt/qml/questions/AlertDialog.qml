@@ -12,6 +12,8 @@ Question {
 
     heading: list.heading
     onDismissed: presenter.cancel()
+    onConfirmed: if (presenter.answers.length === 1)
+        presenter.answer(0)
 
     Rectangle {
         objectName: "question"

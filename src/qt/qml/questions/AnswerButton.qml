@@ -18,8 +18,13 @@ TouchButton {
     leftPadding: Theme.margin
     rightPadding: Theme.margin
     text: modelData.title
+    Accessible.checkable: modelData.chosen
+    Accessible.checked: modelData.chosen
 
     contentItem: Text {
+        // As much room on the other side keeps the text in the middle.
+        leftPadding: root.modelData.chosen ? 20 + Theme.gap : 0
+        rightPadding: leftPadding
         text: root.text
         color: root.modelData.destructive ? Theme.danger : Theme.accentText
         font.pixelSize: Theme.body
@@ -27,5 +32,15 @@ TouchButton {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.WordWrap
+    }
+
+    Icon {
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.margin
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.modelData.chosen
+        name: visible ? "chosen" : ""
+        size: 20
+        color: Theme.accentText
     }
 }

@@ -17,6 +17,8 @@ FocusScope {
     // Without an answer: by a key, or by a tap beside it.
     signal dismissed
     signal tappedBeside
+    // By a key, while no answer has the keyboard.
+    signal confirmed
 
     function moveFocus(forward) {
         (Window.activeFocusItem ?? root).nextItemInFocusChain(forward).forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
@@ -27,6 +29,9 @@ FocusScope {
     Accessible.name: heading
     Keys.onEscapePressed: dismissed()
     Keys.onBackPressed: dismissed()
+    Keys.onReturnPressed: confirmed()
+    Keys.onEnterPressed: confirmed()
+    Keys.onSpacePressed: confirmed()
     Keys.onDownPressed: moveFocus(true)
     Keys.onUpPressed: moveFocus(false)
     Component.onCompleted: presence = 1

@@ -14,6 +14,7 @@ TableRow {
 
     color: "transparent"
     pressedColor: "transparent"
+    hoverColor: "transparent"
     separatorColor: "transparent"
     focusInset: Theme.margin
     headerText: groupTitle
@@ -25,7 +26,7 @@ TableRow {
         anchors.leftMargin: Theme.margin
         anchors.rightMargin: Theme.margin
         radius: root.first || root.lastInSection ? Theme.radius : 0
-        color: root.selectable && root.down ? Theme.pressed : Theme.raised
+        color: !root.selectable ? Theme.raised : root.down ? Theme.pressed : root.hovered ? Theme.hover : Theme.raised
 
         // Squares the corners that lie inside the card.
         Rectangle {

@@ -20,6 +20,7 @@ MenuItem {
     arrow: null
     indicator: null
     Accessible.name: text
+    Accessible.onPressAction: triggered()
 
     contentItem: Row {
         spacing: 12

@@ -36,16 +36,25 @@ T.Control {
         // With the outermost cells comes what is above or below them.
         if (table.model.cellAway(row, -1) < 0)
             list.positionViewAtBeginning();
-        else if (table.model.cellAway(row, 1) < 0)
+        if (table.model.cellAway(row, 1) < 0)
             list.positionViewAtEnd();
-        else
-            list.positionViewAtIndex(row, ListView.Contain);
+        list.positionViewAtIndex(row, ListView.Contain);
         const hidden = stickyHeaders && list.currentItem ? list.contentY + Theme.headerHeight - list.currentItem.y : 0;
         if (hidden > 0)
             list.contentY = Math.max(list.originY, list.contentY - hidden);
     }
     function move(steps) {
+        if (!activeFocus) {
+            // From what stands above the rows.
+            forceActiveFocus(Qt.TabFocusReason);
+            moveTo(table.model.cellAway(-1, 1));
+            return;
+        }
         moveTo(table.model.cellAway(list.currentIndex, steps));
+    }
+    function goTo(row) {
+        moveTo(row);
+        forceActiveFocus(Qt.TabFocusReason);
     }
     function movePage(direction) {
         move(direction * Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1));
@@ -69,10 +78,10 @@ T.Control {
     // A control has a role of its own; the list inside speaks for it.
     Accessible.ignored: true
     onVisualFocusChanged: if (visualFocus && list.currentIndex < 0)
-        moveTo(table.model.cellAway(list.indexAt(0, list.contentY + (stickyHeaders ? Theme.headerHeight : 0)) - 1, 1))
+        moveTo(table.model.cellAway(Math.max(-1, list.indexAt(0, list.contentY + (stickyHeaders ? Theme.headerHeight : 0)) - 1), 1))
 
     Keys.onPressed: event => {
-        const row = list.currentItem;
+        const row = activeFocus ? list.currentItem : null;
         event.accepted = true;
         if (event.key === Qt.Key_Down)
             move(1);

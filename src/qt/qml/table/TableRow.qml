@@ -23,6 +23,9 @@ T.SwipeDelegate {
     property int trailingSpace: 0
     property color color: Theme.background
     property color pressedColor: Theme.pressed
+    property color hoverColor: Theme.hover
+    // Stands for what is open beside the list.
+    property bool open: false
     property color separatorColor: Theme.separator
     property color focusColor: Theme.accentText
     property int focusInset: 0
@@ -49,9 +52,14 @@ T.SwipeDelegate {
     // A list item by itself; headers and footers have texts that speak.
     Accessible.ignored: !isCell
     Accessible.name: text
-    Accessible.selected: selected
+    Accessible.selected: selected || open
     Accessible.focusable: isCell
     Accessible.focused: isCurrent
+    Accessible.onPressAction: if (isCell)
+        activate()
+    // Only assistive technology gives a row the keyboard, which is the table's.
+    onActiveFocusChanged: if (activeFocus && isCell)
+        (ListView.view.parent as TableContent).goTo(index)
     onClicked: {
         if (swiped)
             swipe.close();
@@ -62,15 +70,27 @@ T.SwipeDelegate {
     onSwipedChanged: if (swiped)
         (ListView.view.parent as TableContent).rowSwiped(root)
 
-    ListView.onPooled: swipe.close()
+    // Laid aside it would still be in the tree that a screen reader sees.
+    ListView.onPooled: {
+        swipe.close();
+        visible = false;
+    }
+    ListView.onReused: visible = true
 
     background: Rectangle {
-        color: root.isCell && root.selectable && (root.down || root.selected) ? root.pressedColor : root.color
+        color: !root.isCell || !root.selectable ? root.color : root.down || root.selected ? root.pressedColor : root.hovered || root.open ? root.hoverColor : root.color
+
+        Rectangle {
+            visible: root.open && root.isCell
+            width: 4
+            height: parent.height
+            color: Theme.accentText
+        }
 
         Rectangle {
             visible: root.isCell && root.table !== null && root.table.separators
             anchors.bottom: parent.bottom
-            width: parent.width
+            width: parent.width - root.trailingSpace
             height: 1
             color: root.separatorColor
         }

@@ -31,6 +31,10 @@ Rectangle {
         return false;
     }
 
+    // Laid aside it would still be in the tree that a screen reader sees.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+
     implicitHeight: isCell ? Theme.touch + 4 : Theme.headerHeight
     color: isCell ? Theme.background : Theme.header
     border.width: isCurrent ? 2 : 0
@@ -38,6 +42,8 @@ Rectangle {
     Accessible.role: isCell ? Accessible.ListItem : Accessible.Heading
     Accessible.focusable: isCell
     Accessible.focused: isCurrent
+    Accessible.onPressAction: if (isForm)
+        activate()
     Accessible.name: isCell ? accessibleName : title
 
     Text {

@@ -5,14 +5,20 @@ import QtQuick
 import Lumora
 
 // The moods as segments, of which one is chosen.
-Rectangle {
+FocusScope {
     id: root
 
     required property VerbDetailScreen screen
 
-    color: Theme.header
+    onActiveFocusChanged: if (activeFocus)
+        moods.takeKeyboard()
 
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.header
+    }
     SegmentedControl {
+        id: moods
         anchors.fill: parent
         anchors.leftMargin: Theme.gap
         anchors.rightMargin: Theme.gap

@@ -20,6 +20,7 @@ T.AbstractButton {
     focusPolicy: Qt.TabFocus
     opacity: down ? 0.6 : 1
     Accessible.name: qsTrId("action.play") + " " + spoken
+    Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 

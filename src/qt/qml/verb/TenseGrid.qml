@@ -12,7 +12,9 @@ Item {
     required property CollectionItemModel collection
     readonly property real inset: collection.sectionInset
     readonly property real spacing: collection.lineSpacing
-    readonly property int columns: Math.max(1, Math.floor((width - 2 * inset + spacing) / grid.cellWidth))
+    readonly property int fitting: Math.floor((width - 2 * inset + spacing) / grid.cellWidth)
+    // A simple tense stands beside its compound one.
+    readonly property int columns: fitting >= 4 ? 4 : fitting >= 2 ? 2 : 1
     readonly property real usedWidth: columns * grid.cellWidth - spacing
     // The cards stay as they are however large texts become.
     readonly property int textSize: Math.min(Theme.body, 22) - 1

@@ -11,6 +11,7 @@ ScreenPage {
 
     readonly property VerbDetailScreen verb: screen as VerbDetailScreen
 
+    parts: verb.selectTextHidden ? moods.visible && !verb.moodsHidden ? [tenses, moods] : [tenses] : []
     barMenu: verb.selectTextHidden ? menu : null
 
     MoodBar {
@@ -21,6 +22,7 @@ ScreenPage {
         screen: root.verb
     }
     Loader {
+        id: tenses
         anchors.top: moods.bottom
         anchors.bottom: parent.bottom
         width: parent.width

@@ -36,6 +36,8 @@ Menu {
         checkable: true
         checked: root.screen.voice === voice
         Accessible.name: text
+        Accessible.onPressAction: triggered()
+        Accessible.onToggleAction: triggered()
         onTriggered: {
             // One of the two is on, whatever a second press would make of it.
             checked = Qt.binding(() => root.screen.voice === item.voice);

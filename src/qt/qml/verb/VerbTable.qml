@@ -10,6 +10,15 @@ TableContent {
     id: root
 
     required property TableScreen screen
+    // The verb that is open beside the list; 0 for none.
+    property int openVerb: 0
+    property int openVerbRow: -1
+
+    function findOpenVerb() {
+        openVerbRow = openVerb === 0 ? -1 : screen.rowOfVerb(openVerb);
+    }
+
+    onOpenVerbChanged: findOpenVerb()
 
     table: screen.table
     name: screen.title
@@ -17,9 +26,21 @@ TableContent {
         width: ListView.view.width
         table: root.table
         trailingSpace: root.indexWidth
+        open: index === root.openVerbRow
     }
     Component.onCompleted: {
         screen.attach(root);
         screen.prepare();
+        findOpenVerb();
+    }
+
+    Connections {
+        target: root.table.model
+        function onReloaded() {
+            root.findOpenVerb();
+        }
+        function onRowsRemoved() {
+            root.findOpenVerb();
+        }
     }
 }
