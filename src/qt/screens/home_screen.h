@@ -25,6 +25,21 @@ public:
     QString image;
 };
 
+/// A verb that the text of the search may mean, as its card shows it.
+struct SearchReading {
+    Q_GADGET
+    QML_VALUE_TYPE(searchReading)
+    Q_PROPERTY(QString headword MEMBER headword FINAL)
+    Q_PROPERTY(QString detail MEMBER detail FINAL)
+    Q_PROPERTY(QString way MEMBER way FINAL)
+
+public:
+    QString headword;
+    QString detail;
+    QString way;
+    bool operator==(const SearchReading&) const = default;
+};
+
 /// The home screen: its tabs, the lists behind them and the search over them.
 class HomeScreen final : public lumora::qt::Screen {
     Q_OBJECT
@@ -38,6 +53,9 @@ class HomeScreen final : public lumora::qt::Screen {
     Q_PROPERTY(QString searchPlaceholder READ searchPlaceholder NOTIFY outletsChanged)
     Q_PROPERTY(QString searchText READ searchText NOTIFY outletsChanged)
     Q_PROPERTY(QString searchIdentifier READ searchIdentifier NOTIFY outletsChanged)
+    Q_PROPERTY(QVariantList readings READ readings NOTIFY readingsChanged)
+    Q_PROPERTY(bool nothingFound READ nothingFound NOTIFY outletsChanged)
+    Q_PROPERTY(bool formsOffered READ formsOffered NOTIFY outletsChanged)
     Q_PROPERTY(bool searchFocus READ searchFocus NOTIFY outletsChanged)
 
 public:
@@ -59,6 +77,19 @@ public:
     QString searchIdentifier() const;
     bool searchFocus() const { return home_->searchBar.isFirstResponder; }
 
+    /// Of SearchReading.
+    QVariantList readings() const;
+    /// The readings stand in place of the results.
+    bool nothingFound() const { return home_->readings().areAllThereIs(); }
+    bool formsOffered() const { return home_->readings().offersForms(); }
+
+    Q_INVOKABLE void openReading(int card)
+    {
+        home_->didSelectReading(static_cast<std::size_t>(card));
+    }
+    /// The first reading, else the first result.
+    Q_INVOKABLE void openFirst() { home_->searchBarSearchButtonClicked(); }
+    Q_INVOKABLE void showFormsOption() { home_->showFormsOption(); }
     Q_INVOKABLE void selectTab(int tag);
     Q_INVOKABLE void focusSearch() { home_->focusSearchBar(); }
     Q_INVOKABLE void changeSearchText(const QString& text);
@@ -71,6 +102,7 @@ public:
 signals:
     void outletsChanged();
     void listsChanged();
+    void readingsChanged();
     /// Another text is searched for.
     void searchChanged();
 
@@ -82,6 +114,7 @@ private:
     ScreenRegistry& registry_;
     std::vector<std::shared_ptr<platform::ViewController>> lists_;
     std::vector<std::shared_ptr<platform::ViewController>> shown_;
+    std::vector<SearchReading> readings_;
 };
 
 } // namespace lumora::qt

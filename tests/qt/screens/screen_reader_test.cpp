@@ -110,6 +110,14 @@ TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
     tap("tab1");
     expectHeard("no favourites", {"List: Favourites", "PageTab: Favourites (selected)"});
     tap("Search");
+    type("vas");
+    expectHeard("a reading", {"StaticText: No verb found as typed. Did you mean \u2026",
+                              "Button: aller, Present \u2013 tu vas",
+                              "Button: Search the conjugated forms too"});
+    tap("reading0");
+    expectHeard("its form",
+                {"ListItem: je vais", "ListItem: tu vas, the form that was searched for"});
+    tap("backButton", "searchClear", "Search");
     type("a");
     expectHeard("search", {"Button: Clear the search", "ListItem: aller, go"});
     tap("aller", "bar.favourite");

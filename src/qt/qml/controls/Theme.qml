@@ -44,6 +44,7 @@ QtObject {
     readonly property color segmentOn: dark ? "#c3cad3" : segmentedControlTint
     readonly property color segmentInk: dark ? "#16191d" : "#ffffff"
     readonly property color pressed: dark ? "#2a3038" : "#e3eaf4"
+    readonly property color marked: dark ? "#3a3018" : "#fdf1d8"
     readonly property color field: dark ? "#0b1c33" : "#ffffff"
     readonly property color switchOn: dark ? "#3d7fd6" : accentPrimary
     readonly property color switchOff: dark ? "#6e7884" : "#858f9d"

@@ -12,11 +12,19 @@ ScreenPage {
     readonly property HomeScreen home: screen as HomeScreen
     readonly property bool searching: home.searchText !== ""
 
+    function openFirst() {
+        if (searching)
+            home.openFirst();
+        else
+            area.takeKeyboard();
+    }
+
     SearchField {
         id: search
         width: parent.width
         home: root.home
         onListWanted: area.takeKeyboard()
+        onAccepted: root.openFirst()
         onEnded: area.forceActiveFocus()
     }
     FocusScope {
@@ -28,7 +36,11 @@ ScreenPage {
         clip: true
 
         function takeKeyboard() {
-            forceActiveFocus(Qt.TabFocusReason);
+            const cards = ((found.item as VerbTable)?.list.headerItem ?? null) as ReadingCards;
+            if (cards !== null && cards.count > 0)
+                cards.takeKeyboard(0);
+            else
+                forceActiveFocus(Qt.TabFocusReason);
         }
 
         // Each list keeps its place once it was there.
@@ -53,6 +65,7 @@ ScreenPage {
             }
         }
         Loader {
+            id: found
             anchors.fill: parent
             active: root.searching && root.home.searchResults !== null
             focus: active
@@ -64,20 +77,11 @@ ScreenPage {
                 name: root.home.searchPlaceholder
                 screen: root.home.searchResults
 
-                Text {
-                    objectName: "nothingFound"
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    y: Theme.touch
-                    width: Math.min(300, parent.width - 2 * Theme.margin)
-                    visible: results.list.count === 0
-                    text: qsTrId("search.empty")
-                    Accessible.role: Accessible.StaticText
-                    Accessible.name: text
-                    color: Theme.textSecondary
-                    font.pixelSize: Theme.title
-                    font.bold: true
-                    wrapMode: Text.WordWrap
-                    horizontalAlignment: Text.AlignHCenter
+                list.header: ReadingCards {
+                    width: ListView.view.width
+                    home: root.home
+                    onLeft: search.takeKeyboard()
+                    onHeightChanged: results.list.positionViewAtBeginning()
                 }
                 Connections {
                     target: root.home

@@ -12,11 +12,18 @@ Rectangle {
 
     // To what was found, by keyboard.
     signal listWanted
+    // What was found first is to open.
+    signal accepted
     // The search was ended elsewhere while the cursor was in the field.
     signal ended
 
     implicitHeight: Math.max(Theme.touch, Theme.body + 27) + Theme.gap
     color: Theme.barBackground
+
+    // Back from what was found.
+    function takeKeyboard() {
+        input.forceActiveFocus(Qt.BacktabFocusReason);
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -77,8 +84,8 @@ Rectangle {
             }
             onActiveFocusChanged: root.home.searchFocusChanged(activeFocus)
             Keys.onDownPressed: root.listWanted()
-            Keys.onReturnPressed: root.listWanted()
-            Keys.onEnterPressed: root.listWanted()
+            Keys.onReturnPressed: root.accepted()
+            Keys.onEnterPressed: root.accepted()
             Keys.onEscapePressed: event => {
                 event.accepted = text !== "";
                 text = "";
