@@ -219,7 +219,7 @@ Verben im Verlauf: %d</translation>
     </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Verb suchen</translation>
+        <translation>Verb, Bedeutung oder Form</translation>
     </message>
     <message id="select">
         <source></source>

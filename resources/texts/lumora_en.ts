@@ -219,7 +219,7 @@ Verbs in the history: %d</translation>
     </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Search for a verb</translation>
+        <translation>Verb, meaning or form</translation>
     </message>
     <message id="select">
         <source></source>

@@ -219,7 +219,7 @@ Verbos en el historial: %d</translation>
     </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Buscar un verbo</translation>
+        <translation>Verbo, significado o forma</translation>
     </message>
     <message id="select">
         <source></source>

@@ -219,7 +219,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Rechercher un verbe</translation>
+        <translation>Verbe, sens ou forme</translation>
     </message>
     <message id="select">
         <source></source>

@@ -219,7 +219,7 @@ Verbi nella cronologia: %d</translation>
     </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Cerca un verbo</translation>
+        <translation>Verbo, significato o forma</translation>
     </message>
     <message id="select">
         <source></source>

@@ -219,7 +219,7 @@ Werkwoorden in de geschiedenis: %d</translation>
     </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Zoek een werkwoord</translation>
+        <translation>Werkwoord, betekenis of vorm</translation>
     </message>
     <message id="select">
         <source></source>

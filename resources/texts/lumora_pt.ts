@@ -219,7 +219,7 @@ Verbos no histórico: %d</translation>
     </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Pesquisar um verbo</translation>
+        <translation>Verbo, significado ou forma</translation>
     </message>
     <message id="select">
         <source></source>

@@ -292,7 +292,7 @@ void writeWords(const std::filesystem::path& path)
     }
     platform::Result<void> written;
     queue->inDatabase([&](platform::Database& database) {
-        written = lookup::Catalogue::read(database).and_then([&](lookup::Catalogue& catalogue) {
+        written = lookup::Catalogue::read(database).and_then([&](lookup::Catalogue catalogue) {
             const auto sounds = lookup::packedSounds(catalogue.sounds(database));
             return database
                 .executeUpdate(kInsertWords, {lookup::kStoredWords, catalogue.words().packed()})

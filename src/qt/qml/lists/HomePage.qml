@@ -74,13 +74,13 @@ ScreenPage {
                 id: results
 
                 objectName: "searchResults"
-                name: root.home.searchPlaceholder
+                name: qsTrId("settings.search")
                 screen: root.home.searchResults
 
                 list.header: ReadingCards {
                     width: ListView.view.width
                     home: root.home
-                    onLeft: search.takeKeyboard()
+                    onFieldWanted: search.takeKeyboard()
                     onHeightChanged: results.list.positionViewAtBeginning()
                 }
                 Connections {

@@ -10,7 +10,7 @@ TouchButton {
 
     required property searchReading modelData
 
-    text: [modelData.headword, modelData.detail, modelData.way].filter(part => part !== "").join(", ")
+    text: modelData.headword + (modelData.detail === "" ? "" : ", " + modelData.detail) + (modelData.way === "" ? "" : ", " + modelData.way)
     padding: 0
 
     background: Rectangle {
@@ -19,7 +19,7 @@ TouchButton {
         border.width: root.visualFocus ? 2 : 1
         border.color: root.visualFocus ? root.focusColor : Theme.star
     }
-    contentItem: Item {
+    contentItem: Item { // qmllint disable deferred-property-id
         Column {
             id: texts
             anchors.left: parent.left

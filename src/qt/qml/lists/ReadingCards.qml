@@ -16,7 +16,7 @@ FocusScope {
     readonly property real cardsBottom: cardsTop + count * (Theme.rowHeight + Theme.gap)
 
     // Upwards, by keyboard.
-    signal left
+    signal fieldWanted
 
     function takeKeyboard(card) {
         cards.itemAt(card)?.forceActiveFocus(Qt.TabFocusReason);
@@ -57,7 +57,7 @@ FocusScope {
                 if (index > 0)
                     root.takeKeyboard(index - 1);
                 else
-                    root.left();
+                    root.fieldWanted();
             }
             // Behind the last one the list goes on.
             Keys.onDownPressed: event => {

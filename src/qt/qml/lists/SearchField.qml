@@ -73,6 +73,7 @@ Rectangle {
             activeFocusOnTab: true
             inputMethodHints: Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
             Accessible.role: Accessible.EditableText
+            Accessible.searchEdit: true
             Accessible.name: root.home.searchPlaceholder
             onTextChanged: {
                 // A line break comes with a pasted text, and shows as a space.

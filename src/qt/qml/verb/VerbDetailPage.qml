@@ -65,7 +65,7 @@ ScreenPage {
             id: content
 
             // Of the form that was searched for, below its tense's header.
-            readonly property int openedRow: root.verb.openedTense < 0 ? -1 : table.model.firstRow(root.verb.openedTense + 1) + 1 + root.verb.openedLine
+            readonly property int openedRow: root.verb.openedTense < 0 ? -1 : content.table.model.firstRow(root.verb.openedTense + 1) + 1 + root.verb.openedLine
 
             table: root.verb.table
             name: root.verb.title
