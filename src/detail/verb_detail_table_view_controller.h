@@ -127,7 +127,7 @@ private:
     void logReadingError(const platform::Database& database);
     void play(const PlayableRow& row);
 
-    platform::Services services_;
+    const platform::Services& services_;
     ConjugationGrid grid_;
     ViewRecord record_;
     VolumeWarning volumeWarning_;

@@ -154,7 +154,7 @@ private:
     void showSearchResult(const data::VerbPtr& verb, const std::optional<data::FormPlace>& place);
     void outletsChanged();
 
-    platform::Services services_;
+    const platform::Services& services_;
     /// Work for later holds it weakly.
     std::shared_ptr<SearchReadings> readings_;
     /// What the next screen is to begin with.

@@ -36,6 +36,7 @@ struct ReadingCard {
 /// only.
 class SearchReadings {
 public:
+    /// The services must outlive the object.
     explicit SearchReadings(const platform::Services& services) : services_{services} {}
 
     /// The shared queue. Not owned; null when there is no database.
@@ -60,7 +61,7 @@ private:
     std::string wayOf(const lookup::Reading& reading) const;
     void log(const platform::Database& database);
 
-    platform::Services services_;
+    const platform::Services& services_;
     lookup::Lookup lookup_;
     std::vector<ReadingCard> cards_;
     bool allThereIs_ = false;

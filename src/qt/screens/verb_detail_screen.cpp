@@ -12,7 +12,8 @@ namespace lumora::qt {
 
 VerbDetailScreen::VerbDetailScreen(
     std::shared_ptr<detail::VerbDetailTableViewController> controller)
-    : Screen{controller, QStringLiteral("VerbDetailPage")}, detail_{std::move(controller)}
+    : TableScreen{controller, *controller->tableView, QStringLiteral("VerbDetailPage")},
+      detail_{std::move(controller)}
 {
     detail_->setOutletListener([this] { emit outletsChanged(); });
 }
@@ -20,11 +21,6 @@ VerbDetailScreen::VerbDetailScreen(
 VerbDetailScreen::~VerbDetailScreen()
 {
     detail_->setOutletListener({});
-}
-
-QtTableView* VerbDetailScreen::table() const
-{
-    return &dynamic_cast<QtTableView&>(*detail_->tableView);
 }
 
 CollectionItemModel* VerbDetailScreen::collection() const
