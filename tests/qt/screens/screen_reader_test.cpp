@@ -104,9 +104,10 @@ struct ScreenReaderTest : WindowFixture {
 TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
 {
     start({390, 844});
-    expectHeard("home", {"Button: Menu", "Heading: French verbs", "EditableText: Verb, meaning or form",
-                         "List: Verbs", "Heading: A", "ListItem: aller, go",
-                         "PageTabList: ", "PageTab: Verbs (selected)", "PageTab: History"});
+    expectHeard("home",
+                {"Button: Menu", "Heading: French verbs", "EditableText: Verb, meaning or form",
+                 "List: Verbs", "Heading: A", "ListItem: aller, go",
+                 "PageTabList: ", "PageTab: Verbs (selected)", "PageTab: History"});
     tap("tab1");
     expectHeard("no favourites", {"List: Favourites", "PageTab: Favourites (selected)"});
     tap("Search");

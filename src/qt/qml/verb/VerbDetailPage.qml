@@ -79,10 +79,10 @@ ScreenPage {
                 // The first section is not a tense.
                 if (root.verb.topTense > 0)
                     list.positionViewAtIndex(content.table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
-                if (openedRow >= 0) {
-                    list.positionViewAtIndex(openedRow, ListView.Contain);
-                    list.currentIndex = openedRow;
-                }
+                // In sight even where its tense is higher than the page, which has no
+                // height yet.
+                if (openedRow >= 0)
+                    Qt.callLater(moveTo, openedRow);
             }
 
             Connections {
