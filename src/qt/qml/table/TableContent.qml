@@ -36,10 +36,9 @@ T.Control {
         // With the outermost cells comes what is above or below them.
         if (table.model.cellAway(row, -1) < 0)
             list.positionViewAtBeginning();
-        else if (table.model.cellAway(row, 1) < 0)
+        if (table.model.cellAway(row, 1) < 0)
             list.positionViewAtEnd();
-        else
-            list.positionViewAtIndex(row, ListView.Contain);
+        list.positionViewAtIndex(row, ListView.Contain);
         const hidden = stickyHeaders && list.currentItem ? list.contentY + Theme.headerHeight - list.currentItem.y : 0;
         if (hidden > 0)
             list.contentY = Math.max(list.originY, list.contentY - hidden);
