@@ -17,15 +17,13 @@ constexpr std::string_view kLanguage = "en";
 /// The part of the time for a key press that a reading may add.
 constexpr double kPart = 1.0 / 3;
 
-lookup::Lookup built(platform::DatabaseQueue& queue)
+void prepare(lookup::Lookup& lookup, platform::DatabaseQueue& queue)
 {
-    platform::Result<lookup::Lookup> lookup = tl::unexpected(platform::Error{});
-    queue.inDatabase(
-        [&](platform::Database& database) { lookup = lookup::Lookup::build(database); });
-    if (!lookup) {
-        throw std::runtime_error(lookup.error().message);
-    }
-    return *std::move(lookup);
+    queue.inDatabase([&](platform::Database& database) {
+        if (const auto ready = lookup.prepare(database); !ready) {
+            throw std::runtime_error(ready.error().message);
+        }
+    });
 }
 
 } // namespace
@@ -41,8 +39,8 @@ void measureLookup(Report& report, const std::filesystem::path& database)
     results.queue = &world.queue();
     results.search("parl");
     Figure making{"the index, once", {}, "a key", {}, {}, {}};
-    auto lookup = built(world.queue());
-    making.own.add(millisecondsOf([&] { lookup = built(world.queue()); }));
+    lookup::Lookup lookup;
+    making.own.add(millisecondsOf([&] { prepare(lookup, world.queue()); }));
     Figure key{"a key that is read", {}, "its search alone", {}, {}, {}};
     Figure guess{"a guess", {}, "its search alone", {}, {}, {}};
     const auto read = [&](const std::string& text, lookup::Guesses guesses) {

@@ -16,11 +16,11 @@ _lumora_cli() {
     local current=${COMP_WORDS[COMP_CWORD]} words=
     COMPREPLY=()
     case "$COMP_CWORD ${COMP_WORDS[1]} ${COMP_WORDS[COMP_CWORD - 1]}" in
-        1\ *) words="conjugate about search export backup restore help version --help --version" ;;
-        2\ help\ *) words="conjugate about search export backup restore help version" ;;
+        1\ *) words="conjugate about lookup search export backup restore help version --help --version" ;;
+        2\ help\ *) words="conjugate about lookup search export backup restore help version" ;;
         *\ --language) words="en fr de es pt it nl" ;;
         *\ conjugate\ *) words="--stems --ipa --language --help" ;;
-        *\ about\ *) words="--language --help" ;;
+        *\ about\ * | *\ lookup\ *) words="--language --help" ;;
         *\ search\ *) words="--anywhere --conjugations --translations --language --help" ;;
         *\ export\ *) words="--html --text --number --language --help" ;;
         *\ backup\ * | *\ restore\ *) words="--help" ;;

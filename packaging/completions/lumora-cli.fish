@@ -7,9 +7,10 @@ function __lumora_cli_verbs
 end
 
 complete -c lumora-cli -f
-set -l commands conjugate about search export backup restore help version
+set -l commands conjugate about lookup search export backup restore help version
 complete -c lumora-cli -n __fish_use_subcommand -a conjugate -d 'Print every mood and tense'
 complete -c lumora-cli -n __fish_use_subcommand -a about -d 'Print group, model and auxiliary'
+complete -c lumora-cli -n __fish_use_subcommand -a lookup -d 'Print what a text may mean'
 complete -c lumora-cli -n __fish_use_subcommand -a search -d 'Print the verbs that begin with a text'
 complete -c lumora-cli -n __fish_use_subcommand -a export -d 'Print the conjugations as a document'
 complete -c lumora-cli -n __fish_use_subcommand -a backup -d 'Save favourites and history to a file'
@@ -27,7 +28,7 @@ complete -c lumora-cli -n '__fish_seen_subcommand_from search' -l translations -
 complete -c lumora-cli -n '__fish_seen_subcommand_from export' -l html -d 'A page to print or to show'
 complete -c lumora-cli -n '__fish_seen_subcommand_from export' -l text -d 'Plain text for an e-mail'
 complete -c lumora-cli -n '__fish_seen_subcommand_from export' -l number -x -d 'Which of the verbs of the name'
-complete -c lumora-cli -n '__fish_seen_subcommand_from conjugate about search export' \
+complete -c lumora-cli -n '__fish_seen_subcommand_from conjugate about lookup search export' \
     -l language -x -a 'en fr de es pt it nl' -d 'Translate into'
 complete -c lumora-cli -s h -l help -d 'Print the options'
 complete -c lumora-cli -n __fish_use_subcommand -s v -l version -d 'Print the version'

@@ -237,17 +237,41 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
+    <message id="search.by_meaning">
+        <source></source>
+        <translation>nach der Bedeutung</translation>
+    </message>
+    <message id="search.by_sentence">
+        <source></source>
+        <translation>in Ihrem Text</translation>
+    </message>
+    <message id="search.by_sound">
+        <source></source>
+        <translation>klingt so</translation>
+    </message>
+    <message id="search.by_spelling">
+        <source></source>
+        <translation>ähnlich geschrieben</translation>
+    </message>
     <message id="search.clear">
         <source></source>
         <translation>Suche löschen</translation>
+    </message>
+    <message id="search.did_you_mean">
+        <source></source>
+        <translation>Kein Verb in dieser Schreibweise gefunden. Meinten Sie …</translation>
     </message>
     <message id="search.empty">
         <source></source>
         <translation>Kein Verb gefunden.</translation>
     </message>
+    <message id="search.in_forms">
+        <source></source>
+        <translation>Auch in den konjugierten Formen suchen</translation>
+    </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Verb suchen</translation>
+        <translation>Verb, Bedeutung oder Form</translation>
     </message>
     <message id="select">
         <source></source>
@@ -672,6 +696,10 @@ Verben im Verlauf: %d</translation>
     <message id="verb.moods">
         <source></source>
         <translation>Modus</translation>
+    </message>
+    <message id="verb.searched">
+        <source></source>
+        <translation>die gesuchte Form</translation>
     </message>
     <message id="verb.voice.man">
         <source></source>

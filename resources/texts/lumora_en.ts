@@ -237,17 +237,41 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
+    <message id="search.by_meaning">
+        <source></source>
+        <translation>by its meaning</translation>
+    </message>
+    <message id="search.by_sentence">
+        <source></source>
+        <translation>in your text</translation>
+    </message>
+    <message id="search.by_sound">
+        <source></source>
+        <translation>sounds alike</translation>
+    </message>
+    <message id="search.by_spelling">
+        <source></source>
+        <translation>similar spelling</translation>
+    </message>
     <message id="search.clear">
         <source></source>
         <translation>Clear the search</translation>
+    </message>
+    <message id="search.did_you_mean">
+        <source></source>
+        <translation>No verb found as typed. Did you mean …</translation>
     </message>
     <message id="search.empty">
         <source></source>
         <translation>No verb found.</translation>
     </message>
+    <message id="search.in_forms">
+        <source></source>
+        <translation>Search the conjugated forms too</translation>
+    </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Search for a verb</translation>
+        <translation>Verb, meaning or form</translation>
     </message>
     <message id="select">
         <source></source>
@@ -672,6 +696,10 @@ Verbs in the history: %d</translation>
     <message id="verb.moods">
         <source></source>
         <translation>Mood</translation>
+    </message>
+    <message id="verb.searched">
+        <source></source>
+        <translation>the form that was searched for</translation>
     </message>
     <message id="verb.voice.man">
         <source></source>

@@ -237,17 +237,41 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
+    <message id="search.by_meaning">
+        <source></source>
+        <translation>por su significado</translation>
+    </message>
+    <message id="search.by_sentence">
+        <source></source>
+        <translation>en tu texto</translation>
+    </message>
+    <message id="search.by_sound">
+        <source></source>
+        <translation>suena igual</translation>
+    </message>
+    <message id="search.by_spelling">
+        <source></source>
+        <translation>se escribe parecido</translation>
+    </message>
     <message id="search.clear">
         <source></source>
         <translation>Borrar la búsqueda</translation>
+    </message>
+    <message id="search.did_you_mean">
+        <source></source>
+        <translation>Ningún verbo encontrado tal como está escrito. ¿Querías decir…?</translation>
     </message>
     <message id="search.empty">
         <source></source>
         <translation>No se ha encontrado ningún verbo.</translation>
     </message>
+    <message id="search.in_forms">
+        <source></source>
+        <translation>Buscar también en las formas conjugadas</translation>
+    </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Buscar un verbo</translation>
+        <translation>Verbo, significado o forma</translation>
     </message>
     <message id="select">
         <source></source>
@@ -672,6 +696,10 @@ Verbos en el historial: %d</translation>
     <message id="verb.moods">
         <source></source>
         <translation>Modo</translation>
+    </message>
+    <message id="verb.searched">
+        <source></source>
+        <translation>la forma buscada</translation>
     </message>
     <message id="verb.voice.man">
         <source></source>

@@ -237,17 +237,41 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
+    <message id="search.by_meaning">
+        <source></source>
+        <translation>par son sens</translation>
+    </message>
+    <message id="search.by_sentence">
+        <source></source>
+        <translation>dans votre texte</translation>
+    </message>
+    <message id="search.by_sound">
+        <source></source>
+        <translation>se prononce pareil</translation>
+    </message>
+    <message id="search.by_spelling">
+        <source></source>
+        <translation>orthographe proche</translation>
+    </message>
     <message id="search.clear">
         <source></source>
         <translation>Effacer la recherche</translation>
+    </message>
+    <message id="search.did_you_mean">
+        <source></source>
+        <translation>Aucun verbe trouvé tel quel. Vouliez-vous dire…</translation>
     </message>
     <message id="search.empty">
         <source></source>
         <translation>Aucun verbe trouvé.</translation>
     </message>
+    <message id="search.in_forms">
+        <source></source>
+        <translation>Chercher aussi dans les formes conjuguées</translation>
+    </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Rechercher un verbe</translation>
+        <translation>Verbe, sens ou forme</translation>
     </message>
     <message id="select">
         <source></source>
@@ -672,6 +696,10 @@ Verbes dans l’historique : %d</translation>
     <message id="verb.moods">
         <source></source>
         <translation>Mode</translation>
+    </message>
+    <message id="verb.searched">
+        <source></source>
+        <translation>la forme recherchée</translation>
     </message>
     <message id="verb.voice.man">
         <source></source>

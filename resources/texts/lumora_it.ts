@@ -237,17 +237,41 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
+    <message id="search.by_meaning">
+        <source></source>
+        <translation>per significato</translation>
+    </message>
+    <message id="search.by_sentence">
+        <source></source>
+        <translation>nel testo</translation>
+    </message>
+    <message id="search.by_sound">
+        <source></source>
+        <translation>suona uguale</translation>
+    </message>
+    <message id="search.by_spelling">
+        <source></source>
+        <translation>grafia simile</translation>
+    </message>
     <message id="search.clear">
         <source></source>
         <translation>Cancella la ricerca</translation>
+    </message>
+    <message id="search.did_you_mean">
+        <source></source>
+        <translation>Nessun verbo trovato così come scritto. Forse intendevi…</translation>
     </message>
     <message id="search.empty">
         <source></source>
         <translation>Nessun verbo trovato.</translation>
     </message>
+    <message id="search.in_forms">
+        <source></source>
+        <translation>Cerca anche nelle forme coniugate</translation>
+    </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Cerca un verbo</translation>
+        <translation>Verbo, significato o forma</translation>
     </message>
     <message id="select">
         <source></source>
@@ -672,6 +696,10 @@ Verbi nella cronologia: %d</translation>
     <message id="verb.moods">
         <source></source>
         <translation>Modo</translation>
+    </message>
+    <message id="verb.searched">
+        <source></source>
+        <translation>la forma cercata</translation>
     </message>
     <message id="verb.voice.man">
         <source></source>

@@ -237,17 +237,41 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
+    <message id="search.by_meaning">
+        <source></source>
+        <translation>naar betekenis</translation>
+    </message>
+    <message id="search.by_sentence">
+        <source></source>
+        <translation>in je tekst</translation>
+    </message>
+    <message id="search.by_sound">
+        <source></source>
+        <translation>klinkt zo</translation>
+    </message>
+    <message id="search.by_spelling">
+        <source></source>
+        <translation>lijkt erop</translation>
+    </message>
     <message id="search.clear">
         <source></source>
         <translation>Zoekopdracht wissen</translation>
+    </message>
+    <message id="search.did_you_mean">
+        <source></source>
+        <translation>Geen werkwoord gevonden zoals getypt. Bedoelde je …</translation>
     </message>
     <message id="search.empty">
         <source></source>
         <translation>Geen werkwoord gevonden.</translation>
     </message>
+    <message id="search.in_forms">
+        <source></source>
+        <translation>Ook in de vervoegde vormen zoeken</translation>
+    </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Zoek een werkwoord</translation>
+        <translation>Werkwoord, betekenis of vorm</translation>
     </message>
     <message id="select">
         <source></source>
@@ -672,6 +696,10 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="verb.moods">
         <source></source>
         <translation>Wijs</translation>
+    </message>
+    <message id="verb.searched">
+        <source></source>
+        <translation>de gezochte vorm</translation>
     </message>
     <message id="verb.voice.man">
         <source></source>

@@ -237,17 +237,41 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>https://www.brindle.example/lumora/privacy</translation>
     </message>
+    <message id="search.by_meaning">
+        <source></source>
+        <translation>pelo significado</translation>
+    </message>
+    <message id="search.by_sentence">
+        <source></source>
+        <translation>no seu texto</translation>
+    </message>
+    <message id="search.by_sound">
+        <source></source>
+        <translation>soa igual</translation>
+    </message>
+    <message id="search.by_spelling">
+        <source></source>
+        <translation>grafia parecida</translation>
+    </message>
     <message id="search.clear">
         <source></source>
         <translation>Limpar a pesquisa</translation>
+    </message>
+    <message id="search.did_you_mean">
+        <source></source>
+        <translation>Nenhum verbo encontrado tal como escrito. Será que quis dizer…</translation>
     </message>
     <message id="search.empty">
         <source></source>
         <translation>Nenhum verbo encontrado.</translation>
     </message>
+    <message id="search.in_forms">
+        <source></source>
+        <translation>Procurar também nas formas conjugadas</translation>
+    </message>
     <message id="search.placeholder">
         <source></source>
-        <translation>Pesquisar um verbo</translation>
+        <translation>Verbo, significado ou forma</translation>
     </message>
     <message id="select">
         <source></source>
@@ -672,6 +696,10 @@ Verbos no histórico: %d</translation>
     <message id="verb.moods">
         <source></source>
         <translation>Modo</translation>
+    </message>
+    <message id="verb.searched">
+        <source></source>
+        <translation>a forma procurada</translation>
     </message>
     <message id="verb.voice.man">
         <source></source>

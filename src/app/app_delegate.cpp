@@ -8,7 +8,6 @@
 #include "app/old_settings_file.h"
 #include "data/homographs.h"
 #include "data/news.h"
-#include "data/verb_finder.h"
 #include "data/verb_reader.h"
 #include "detail/verb_detail_table_view_controller.h"
 #include "navigation/home_view_controller.h"
@@ -41,12 +40,6 @@ constexpr std::pair<std::string_view, std::string_view> kTabShortcuts[] = {
     {"com.brindle.shortcut.history", data::TabOpenEvent::kHistory},
     {"com.brindle.shortcut.list", data::TabOpenEvent::kList},
 };
-
-constexpr std::string_view kEveryVerb =
-    "SELECT verb._id, english, italian, portuguese, german, spanish, french, dutch, "
-    "favourite._id as favourite_available\n"
-    "FROM verb LEFT OUTER JOIN favourite ON verb._id = favourite.verbid\n"
-    "ORDER BY verb._id";
 
 [[noreturn]] void stop(const char* why)
 {
@@ -250,15 +243,17 @@ std::vector<data::VerbPtr> AppDelegate::verbsNamed(std::string_view infinitive)
         return found;
     }
     queue->inDatabase([&](platform::Database& database) {
-        std::vector<data::VerbPtr> verbs;
-        auto rows = database.executeQuery(kEveryVerb, {});
-        bool read = data::readVerbs(rows, data::VerbReader::Spellings::Plain, verbs);
-        found = data::verbsNamed(infinitive, verbs);
+        const auto ids = homeScreen().lookup().verbsNamed(database, infinitive);
+        bool read = ids.has_value();
+        for (std::size_t i = 0; read && i < ids->size(); ++i) {
+            read = data::readVerbOfId(database, (*ids)[i], found);
+        }
         if (read && found.size() > 1) {
             read = data::putCommonestFirst(database, found) &&
                    data::distinguishHomographs(database, found);
         }
         if (!read) {
+            found.clear();
             services_.crashReporter.logWithFormat(
                 "An error occurred when looking up a link: %@ (%d)",
                 {database.lastErrorMessage(), database.lastErrorCode()});

@@ -92,6 +92,19 @@ std::span<const TenseBlock> blocksOfSegment(int segment)
     }
 }
 
+std::optional<TensePosition> positionOfTense(std::string_view identifier)
+{
+    for (int segment = 0; segment < kMoodCount; ++segment) {
+        const auto blocks = blocksOfSegment(segment);
+        for (std::size_t block = 0; block < blocks.size(); ++block) {
+            if (blocks[block].tense.identifier == identifier) {
+                return TensePosition{segment, block};
+            }
+        }
+    }
+    return std::nullopt;
+}
+
 std::string_view analyticsNameOfSegment(int segment)
 {
     static constexpr std::string_view kNames[] = {"CONJUGATIONS_IND", "CONJUGATIONS_SUB",

@@ -7,6 +7,8 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -36,6 +38,23 @@ struct TenseBlock {
 
 /// All eighteen tenses, by identifier.
 extern const std::array<TenseField, 18> kTenses;
+
+/// A form of a verb: a tense as the database names it, and the row within the verb.
+struct FormPlace {
+    std::string tense;
+    std::int64_t order = 0;
+
+    bool operator==(const FormPlace&) const = default;
+};
+
+/// Where a tense stands: the segment of its mood, and its number among the blocks.
+struct TensePosition {
+    int segment = 0;
+    std::size_t block = 0;
+};
+
+/// None for a tense that no mood shows, which is the infinitive.
+std::optional<TensePosition> positionOfTense(std::string_view identifier);
 
 /// The blocks of a mood in their order; none for a segment that is not a mood.
 /// The infinitive has no block.

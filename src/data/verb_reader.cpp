@@ -21,6 +21,12 @@ constexpr std::string_view kConjugationsOfVerb =
     "SELECT _id, pronoun, verb, type, conj_order as pid FROM conjugation WHERE verbid = ? AND "
     "display=1 ORDER BY conj_order";
 
+constexpr std::string_view kVerbOfId =
+    "SELECT verb._id, english, italian, portuguese, german, spanish, french, dutch, "
+    "favourite._id as favourite_available\n"
+    "FROM verb LEFT OUTER JOIN favourite ON verb._id = favourite.verbid\n"
+    "WHERE verb._id = ?";
+
 ConjugationList readForms(platform::ResultSet& rows)
 {
     const int pronoun = rows.columnIndex("pronoun");
@@ -83,6 +89,12 @@ bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spelling
     return forEachVerb(
         rows, spellings,
         [&](const VerbPtr& verb, const platform::ResultSet& /*rows*/) { verbs.push_back(verb); });
+}
+
+bool readVerbOfId(platform::Database& database, std::int64_t id, std::vector<VerbPtr>& verbs)
+{
+    auto rows = database.executeQuery(kVerbOfId, {id});
+    return readVerbs(rows, VerbReader::Spellings::Plain, verbs);
 }
 
 bool loadConjugations(platform::Database& database, Verb& verb)

@@ -6,6 +6,7 @@
 #include "data/verb.h"
 #include "platform/base/error.h"
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -49,6 +50,9 @@ bool forEachVerb(platform::Result<platform::ResultSet>& rows, VerbReader::Spelli
 /// on the way; what was read before stays.
 bool readVerbs(platform::Result<platform::ResultSet>& rows, VerbReader::Spellings spellings,
                std::vector<VerbPtr>& verbs);
+
+/// Appends the verb of the id, if there is one. False when the statement failed.
+bool readVerbOfId(platform::Database& database, std::int64_t id, std::vector<VerbPtr>& verbs);
 
 /// Reads the forms that are shown into the verb's lists, by tense. False when
 /// the statement failed: at once, and the lists are as before, or on the way,

@@ -156,6 +156,24 @@ std::shared_ptr<CERoundProgressView> ConjugationGrid::indicatorFor(int segment,
     return indicators[row];
 }
 
+std::optional<platform::IndexPath> ConjugationGrid::pathOf(ShownMood shown,
+                                                           const data::FormPlace& form)
+{
+    const auto position = data::positionOfTense(form.tense);
+    if (!position || position->segment != shown.segment) {
+        return std::nullopt;
+    }
+    const auto& forms = formsAt(shown, static_cast<int>(position->block));
+    const auto found = std::find_if(forms.begin(), forms.end(), [&](const auto& candidate) {
+        return candidate->order == form.order;
+    });
+    if (found == forms.end()) {
+        return std::nullopt;
+    }
+    return platform::IndexPath{static_cast<int>(position->block) + 1,
+                               static_cast<int>(found - forms.begin())};
+}
+
 int ConjugationGrid::numberOfItems(ShownMood shown)
 {
     return countFor(kCollectionItems, shown);

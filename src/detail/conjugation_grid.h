@@ -58,6 +58,9 @@ public:
     platform::TableCell cellForRow(ShownMood shown, platform::IndexPath path);
     std::optional<PlayableRow> playableRow(ShownMood shown, platform::IndexPath path);
 
+    /// The row of the table with a form; none where the mood does not show it.
+    static std::optional<platform::IndexPath> pathOf(ShownMood shown, const data::FormPlace& form);
+
     static int numberOfItems(ShownMood shown);
     platform::CollectionCell cellForItem(ShownMood shown, int item);
     VerbCollectionViewHeader header(ShownMood shown) const;

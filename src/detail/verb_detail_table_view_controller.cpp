@@ -89,6 +89,9 @@ void VerbDetailTableViewController::viewDidLoad()
     selectVerbLabel.text = localizedString(services_.bundle, "select");
     defaultToolbarHeight = toolbarHeightConstaint;
 
+    if (const auto opened = openedForm ? data::positionOfTense(openedForm->tense) : std::nullopt) {
+        verbTypeSegmentedControl.selected = opened->segment;
+    }
     showVerb();
 
     refresh_ = data::observe<data::RefreshConjugations>(
@@ -240,6 +243,11 @@ void VerbDetailTableViewController::selectVerbTypes(int segment)
 ShownMood VerbDetailTableViewController::shown() const
 {
     return {selectedVerb.get(), verbTypeSegmentedControl.selected};
+}
+
+std::optional<platform::IndexPath> VerbDetailTableViewController::openedPath() const
+{
+    return openedForm ? ConjugationGrid::pathOf(shown(), *openedForm) : std::nullopt;
 }
 
 void VerbDetailTableViewController::updateEmptyState(double toolbarHeight)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "data/news.h"
+#include "data/tense_table.h"
 #include "data/verb.h"
 #include "detail/conjugation_grid.h"
 #include "detail/playback.h"
@@ -69,6 +70,8 @@ public:
     /// References to the members of the playback.
     std::function<void()>& audioTimer = playback_.audioTimer;
     std::shared_ptr<CERoundProgressView>& currentAudioProgress = playback_.currentAudioProgress;
+    /// The form that was asked for: the screen opens at it and marks it.
+    std::optional<data::FormPlace> openedForm;
     /// Whether the screen is shown as a preview.
     bool isPeeking = false;
 
@@ -79,6 +82,9 @@ public:
 
     void viewWillAppear() override;
     void viewDidAppear() override;
+
+    /// Where the chosen mood shows the form that was asked for.
+    std::optional<platform::IndexPath> openedPath() const;
 
     void toggleFavourite();
     /// Renders the verb and opens the share sheet with it.

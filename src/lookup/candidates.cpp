@@ -134,10 +134,19 @@ void Candidates::addForms(const Phrase& phrase, Way way, int penalty)
     }
 }
 
-void Candidates::dropWrongPronouns()
+void Candidates::dropWrongPronouns(bool alone)
 {
     const auto nameOf = [&](const Candidate& candidate) {
         return catalogue_.verb(catalogue_.numberOf(candidate.reading.verb)).folded;
+    };
+    // A form alone may be that of the pronominal verb in the rows that are shown
+    // without a pronoun.
+    const auto shownSo = [](const Candidate& candidate) {
+        const auto& places = candidate.reading.places;
+        return std::any_of(places.begin(), places.end(), [&](const Place& place) {
+            return place.pronoun.empty() &&
+                   withoutAgreement(place.form) == withoutPronouns(withoutAgreement(place.form));
+        });
     };
     std::vector<std::string> right;
     for (const auto& candidate : found_) {
@@ -148,6 +157,7 @@ void Candidates::dropWrongPronouns()
     found_.erase(std::remove_if(found_.begin(), found_.end(),
                                 [&](const Candidate& candidate) {
                                     return candidate.penalty > 0 &&
+                                           !(alone && shownSo(candidate)) &&
                                            std::find(right.begin(), right.end(),
                                                      nameOf(candidate)) != right.end();
                                 }),

@@ -38,8 +38,9 @@ public:
     /// Adds what the phrase is, letter by letter or folded.
     void addForms(const Phrase& phrase, Way way, int penalty);
 
-    /// Leaves laver (se) out of "je lave", and laver of "je me lave".
-    void dropWrongPronouns();
+    /// Leaves laver (se) out of "je lave", and laver of "je me lave". Of a form alone,
+    /// without a subject, the pronominal verb is left in where it is shown so.
+    void dropWrongPronouns(bool alone);
 
     /// The rows of a verb; null after a failure.
     Catalogue::Rows rows(std::uint32_t verb);
@@ -64,7 +65,7 @@ private:
 /// would be too easy.
 void addSlips(const std::vector<Phrase>& phrases, Candidates& candidates);
 /// `sounds` has looseSound of each word of the index.
-void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::uint32_t>& sounds,
+void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::uint16_t>& sounds,
                     Candidates& candidates);
 
 /// The verbs in a longer text, those with a subject first.

@@ -22,7 +22,8 @@ struct VerbName {
     std::int64_t id = -1;
     /// "évanouir (s')".
     std::string headword;
-    /// Folded, without its pronoun.
+    /// Without its pronoun: "évanouir"; and the same folded.
+    std::string infinitive;
     std::string folded;
     /// From 1, among the commonest, to 5.
     int use = 0;
@@ -31,11 +32,18 @@ struct VerbName {
     bool en = false;
 };
 
+/// The rows of the table in which a file keeps what would take long to make of all
+/// forms: the words, and how they sound, two bytes each, the lower one first.
+inline constexpr std::int64_t kStoredWords = 1;
+inline constexpr std::int64_t kStoredSounds = 2;
+std::string packedSounds(const std::vector<std::uint16_t>& sounds);
+
 /// What is known of all verbs, read once, and the rows of those that were asked
 /// for last.
 class Catalogue {
 public:
-    /// An error when the database cannot be asked.
+    /// Takes the index of words from the file where it is there, else makes it of
+    /// the forms. An error when the database cannot be asked.
     static platform::Result<Catalogue> read(platform::Database& database);
 
     /// All verbs by id.
@@ -48,6 +56,10 @@ public:
 
     /// The verbs of a folded word, the commonest first, a few at most.
     std::vector<std::uint32_t> verbsOf(std::string_view folded) const;
+    /// The ids of the verbs that a tidied text names, as Lookup::verbsNamed has it.
+    std::vector<std::int64_t> verbsNamed(std::string_view tidy) const;
+    /// looseSound of each word of the index, read or made when first asked for.
+    const std::vector<std::uint16_t>& sounds(platform::Database& database);
     /// A form of avoir or être.
     bool isAuxiliary(std::string_view folded) const;
 
@@ -55,8 +67,14 @@ public:
     platform::Result<Rows> rows(platform::Database& database, std::uint32_t number);
 
 private:
+    platform::Result<void> readVerbs(platform::Database& database);
+    bool takeStoredWords(platform::Database& database);
+    bool takeStoredSounds(platform::Database& database);
+    platform::Result<void> readWords(platform::Database& database);
+
     std::vector<VerbName> verbs_;
     WordIndex words_;
+    std::vector<std::uint16_t> sounds_;
     std::vector<std::uint32_t> auxiliaries_;
     std::deque<std::pair<std::uint32_t, Rows>> lastRows_;
 };

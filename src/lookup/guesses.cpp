@@ -101,7 +101,7 @@ void addSlips(const std::vector<Phrase>& phrases, Candidates& candidates)
     }
 }
 
-void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::uint32_t>& sounds,
+void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::uint16_t>& sounds,
                     Candidates& candidates)
 {
     const auto& catalogue = candidates.catalogue();

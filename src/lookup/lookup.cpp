@@ -4,7 +4,6 @@
 #include "lookup/lookup.h"
 
 #include "lookup/candidates.h"
-#include "lookup/sound_key.h"
 #include "lookup/spelling.h"
 #include "text/text.h"
 
@@ -85,16 +84,25 @@ void addMeanings(const Meanings& meanings, std::string_view tidy, bool whole,
 
 } // namespace
 
-platform::Result<Lookup> Lookup::build(platform::Database& database)
+platform::Result<void> Lookup::prepare(platform::Database& database)
 {
-    return Catalogue::read(database).map(
-        [](Catalogue&& catalogue) { return Lookup{std::move(catalogue)}; });
+    if (!catalogue_) {
+        auto read = Catalogue::read(database);
+        if (!read) {
+            return tl::unexpected(read.error());
+        }
+        catalogue_ = *std::move(read);
+    }
+    return {};
 }
 
 platform::Result<std::vector<Reading>> Lookup::read(platform::Database& database,
                                                     std::string_view text,
                                                     std::string_view language, Guesses guesses)
 {
+    if (auto ready = prepare(database); !ready) {
+        return tl::unexpected(ready.error());
+    }
     if (text.size() > kLongestText) {
         return {};
     }
@@ -102,28 +110,25 @@ platform::Result<std::vector<Reading>> Lookup::read(platform::Database& database
     const auto tidy = tidied(typed);
     const auto tokens = tokensOf(tidy);
     const auto phrases =
-        phrasesOf(tokens, [&](std::string_view word) { return catalogue_.isAuxiliary(word); });
-    Candidates candidates{catalogue_, database};
+        phrasesOf(tokens, [&](std::string_view word) { return catalogue_->isAuxiliary(word); });
+    Candidates candidates{*catalogue_, database};
     for (const auto& phrase : phrases) {
         candidates.addForms(phrase, Way::Phrase, 0);
     }
-    // A form alone may be that of the pronominal verb, which is shown without its
-    // pronoun in some rows.
-    const bool withSubject = std::any_of(phrases.begin(), phrases.end(), [](const Phrase& phrase) {
-        return phrase.persons != kAnyPerson || phrase.reflexive;
-    });
-    if (withSubject) {
-        candidates.dropWrongPronouns();
-    }
+    candidates.dropWrongPronouns(
+        std::none_of(phrases.begin(), phrases.end(), [](const Phrase& phrase) {
+            return phrase.persons != kAnyPerson || phrase.reflexive;
+        }));
     tellWays(typed, tidy, candidates);
     const auto known = meanings(database, language);
     if (!known) {
         return tl::unexpected(known.error());
     }
-    addMeanings(**known, tidy, !candidates.empty(), candidates);
+    const bool whole = guesses == Guesses::None || !candidates.empty();
+    addMeanings(**known, tidy, whole, candidates);
     if (candidates.empty() && guesses == Guesses::Allowed) {
         addSlips(phrases, candidates);
-        addSoundAlikes(phrases, sounds(), candidates);
+        addSoundAlikes(phrases, catalogue_->sounds(database), candidates);
         if (candidates.empty()) {
             addInside(tokens, candidates);
         }
@@ -132,6 +137,16 @@ platform::Result<std::vector<Reading>> Lookup::read(platform::Database& database
         return tl::unexpected(candidates.state().error());
     }
     return std::move(candidates).ranked();
+}
+
+platform::Result<std::vector<std::int64_t>> Lookup::verbsNamed(platform::Database& database,
+                                                               std::string_view text)
+{
+    return prepare(database).map([&] {
+        const auto typed = text::composed(text::wellFormed(text));
+        return typed.size() > kLongestText ? std::vector<std::int64_t>{}
+                                           : catalogue_->verbsNamed(tidied(typed));
+    });
 }
 
 platform::Result<const Meanings*> Lookup::meanings(platform::Database& database,
@@ -145,16 +160,6 @@ platform::Result<const Meanings*> Lookup::meanings(platform::Database& database,
         meanings_ = *std::move(read);
     }
     return &*meanings_;
-}
-
-const std::vector<std::uint32_t>& Lookup::sounds()
-{
-    if (sounds_.empty()) {
-        sounds_.resize(catalogue_.words().size());
-        catalogue_.words().forEach(
-            [&](std::size_t number, std::string_view word) { sounds_[number] = looseSound(word); });
-    }
-    return sounds_;
 }
 
 } // namespace lumora::lookup

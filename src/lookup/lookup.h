@@ -21,38 +21,44 @@ namespace lumora::lookup {
 
 /// What may be read from a text.
 enum class Guesses {
-    /// Only what the text says.
+    /// Only what the text says: forms, and whole senses of a meaning.
     None,
-    /// Slips, sounds and parts of a sentence too, where it says nothing.
+    /// Words of a longer sense, and where the text says nothing slips, sounds and
+    /// parts of a sentence too.
     Allowed,
 };
 
 /// Says what a typed text may mean: which verbs, which of their forms.
 ///
-/// Made once, in some tenths of a second, it keeps about 6 MB. Not to be used by
-/// two threads at once.
+/// Takes its index from the database when it is first asked, and keeps about 6 MB
+/// from then on: one object for one database. Not to be used by two threads at once.
 class Lookup {
 public:
-    /// An error when the database cannot be read.
-    static platform::Result<Lookup> build(platform::Database& database);
+    /// Takes the index now, so that no text has to wait for it. An error when the
+    /// database cannot be read; the next call tries again.
+    platform::Result<void> prepare(platform::Database& database);
 
     /// What `text`, any bytes, may mean, the best first, a handful at most; none
-    /// when it is no verb in any way. `database` is the one that this was built of;
-    /// `language` that of the meanings. An error when the database cannot be read.
+    /// when it is no verb in any way. `language` is that of the meanings. An error
+    /// when the database cannot be read.
     platform::Result<std::vector<Reading>> read(platform::Database& database, std::string_view text,
                                                 std::string_view language,
                                                 Guesses guesses = Guesses::Allowed);
 
+    /// The verbs that the text names by their infinitive, homographs all, by id. The
+    /// closest likeness that finds any wins: the name as it stands, then "évanouir"
+    /// for "évanouir (s')", then both without accents. Who names a pronominal verb
+    /// is given no other.
+    platform::Result<std::vector<std::int64_t>> verbsNamed(platform::Database& database,
+                                                           std::string_view text);
+
 private:
-    explicit Lookup(Catalogue catalogue) : catalogue_{std::move(catalogue)} {}
     platform::Result<const Meanings*> meanings(platform::Database& database,
                                                std::string_view language);
-    const std::vector<std::uint32_t>& sounds();
 
-    Catalogue catalogue_;
-    /// Made when they are first asked for.
+    // Made when they are first asked for.
+    std::optional<Catalogue> catalogue_;
     std::optional<Meanings> meanings_;
-    std::vector<std::uint32_t> sounds_;
 };
 
 } // namespace lumora::lookup

@@ -243,7 +243,7 @@ std::string soundKey(std::string_view tidy)
     return keyOf(tidy);
 }
 
-std::uint32_t looseSound(std::string_view folded)
+std::uint16_t looseSound(std::string_view folded)
 {
     auto key = keyOf(folded);
     // Without accents nothing tells é from e, before a consonant as little as at
@@ -253,7 +253,7 @@ std::uint32_t looseSound(std::string_view folded)
     for (const char c : key) {
         hash = (hash ^ static_cast<unsigned char>(c)) * kHashFactor;
     }
-    return hash;
+    return static_cast<std::uint16_t>(hash ^ (hash >> 16U));
 }
 
 } // namespace lumora::lookup

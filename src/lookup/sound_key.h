@@ -16,6 +16,6 @@ std::string soundKey(std::string_view tidy);
 
 /// The same of a folded word, where an e at the end may be é: a number that two
 /// words have in common when they may sound alike.
-std::uint32_t looseSound(std::string_view folded);
+std::uint16_t looseSound(std::string_view folded);
 
 } // namespace lumora::lookup

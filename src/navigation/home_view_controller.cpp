@@ -9,18 +9,20 @@
 #include "lists/history_table_view_controller.h"
 #include "lists/interstitial_table_view_controller.h"
 #include "lists/verb_list_table_view_controller.h"
+#include "navigation/crash_report_values.h"
+#include "navigation/option_rows.h"
 #include "platform/machine/bundle.h"
-#include "platform/machine/crash_reporter.h"
+#include "platform/machine/clock.h"
 #include "platform/machine/device.h"
 #include "platform/screens/navigation_controller.h"
 #include "platform/screens/presenter.h"
 #include "platform/screens/split_view_controller.h"
 #include "platform/screens/storyboard.h"
 #include "platform/storage/settings_store.h"
-#include "settings/search_from.h"
 #include "settings/setting_keys.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <optional>
 #include <utility>
@@ -36,13 +38,18 @@ Controller& topOf(platform::ViewController& stack)
         *dynamic_cast<platform::NavigationController&>(stack).topViewController());
 }
 
+/// By then the first list is drawn.
+constexpr std::chrono::milliseconds kBehindFirstList{400};
+
 constexpr std::string_view kScreenOfTab[] = {platform::kVerbListScreen, platform::kFavouritesScreen,
                                              platform::kHistoryScreen};
 
 } // namespace
 
 HomeViewController::HomeViewController(const platform::Services& services)
-    : services_{services}, children_(std::size(kScreenOfTab))
+    : services_{services},
+      readings_{std::make_shared<SearchReadings>(services)},
+      children_(std::size(kScreenOfTab))
 {}
 
 HomeViewController::~HomeViewController()
@@ -93,6 +100,13 @@ void HomeViewController::viewDidLoad()
     findDetailViewController();
     showTab(Tab::List);
     buildTabBarItems();
+    readings_->queue = queue;
+    services_.clock.runLater(kBehindFirstList,
+                             [readings = std::weak_ptr<SearchReadings>{readings_}] {
+                                 if (const auto alive = readings.lock()) {
+                                     alive->prepare();
+                                 }
+                             });
 }
 
 void HomeViewController::makeSearchResultsController()
@@ -128,7 +142,7 @@ void HomeViewController::findDetailViewController()
 
 void HomeViewController::viewWillAppear()
 {
-    sendCrashReportValues();
+    sendCrashReportValues(services_);
 }
 
 void HomeViewController::setSplitViewController(platform::SplitViewController* splitView)
@@ -220,14 +234,17 @@ void HomeViewController::searchTextChanged(std::string text)
 {
     searchBar.text = std::move(text);
     updateSearchResults();
-    outletsChanged();
 }
 
 void HomeViewController::updateSearchResults()
 {
     if (searchResultsController_ && !searchBar.text.empty()) {
         searchResultsController_->search(searchBar.text);
+        readings_->read(searchBar.text, searchResultsController_->verbs);
+    } else {
+        readings_->clear();
     }
+    outletsChanged();
 }
 
 void HomeViewController::selectedScopeButtonIndexDidChange(int /*scope*/)
@@ -237,6 +254,18 @@ void HomeViewController::selectedScopeButtonIndexDidChange(int /*scope*/)
 
 void HomeViewController::searchBarCancelButtonClicked() {}
 
+void HomeViewController::searchBarSearchButtonClicked()
+{
+    if (!searchResultsController_ || searchBar.text.empty()) {
+        return;
+    }
+    if (!readings_->cards().empty()) {
+        didSelectReading(0);
+    } else if (!searchResultsController_->verbs.empty()) {
+        searchResultsController_->rowTapped({0, 0});
+    }
+}
+
 void HomeViewController::focusSearchBar()
 {
     searchBar.isFirstResponder = true;
@@ -245,12 +274,35 @@ void HomeViewController::focusSearchBar()
 
 void HomeViewController::didSelectSearchResult(const data::VerbPtr& verb)
 {
+    showSearchResult(verb, std::nullopt);
+}
+
+void HomeViewController::didSelectReading(std::size_t card)
+{
+    if (card < readings_->cards().size()) {
+        const auto chosen = readings_->cards()[card];
+        showSearchResult(chosen.verb, chosen.place);
+    }
+}
+
+void HomeViewController::showSearchResult(const data::VerbPtr& verb,
+                                          const std::optional<data::FormPlace>& place)
+{
     selectedSearchResult = verb;
+    openedForm_ = place;
     performSegue(platform::kShowSearchResultSegue);
+    openedForm_.reset();
     if (services_.device.isTablet()) {
         searchBar.isFirstResponder = false;
         outletsChanged();
     }
+}
+
+void HomeViewController::showFormsOption()
+{
+    firstOption_ = pathOfOption(settings::kIncludeConjugations);
+    performSegue(platform::kOptionsSegue);
+    firstOption_.reset();
 }
 
 void HomeViewController::performSegue(std::string_view identifier)
@@ -271,6 +323,7 @@ void HomeViewController::prepareForSegue(const platform::Segue& segue)
         detail.selectedVerb = selectedSearchResult;
         detail.queue = queue;
         detail.isPeeking = false;
+        detail.openedForm = openedForm_;
         detail.offerDisplayModeButton(splitViewController());
     } else if (segue.identifier == platform::kNavigationSegue) {
         topOf<NavigationDrawerTableTableViewController>(segue.destination).delegate = this;
@@ -278,6 +331,7 @@ void HomeViewController::prepareForSegue(const platform::Segue& segue)
         auto& options = topOf<OptionsTableViewController>(segue.destination);
         options.delegate = this;
         options.queue = queue;
+        options.firstRow = firstOption_;
     }
 }
 
@@ -308,30 +362,12 @@ void HomeViewController::optionsClosed(bool fieldsChanged)
     dynamic_cast<lists::VerbListTableViewController&>(*listFor(Tab::List)).reloadVerbs();
     dynamic_cast<lists::HistoryTableViewController&>(*listFor(Tab::History)).reloadHistory();
     data::post(services_.notifications, data::RefreshConjugations{});
-    sendCrashReportValues();
+    sendCrashReportValues(services_);
     // One that was never shown reads its favourites when it is.
     if (const auto& favourites = children_.at(static_cast<std::size_t>(Tab::Favourites))) {
         dynamic_cast<lists::FavouritesTableViewController&>(*favourites).reloadFavourites();
     }
     updateSearchResults();
-}
-
-void HomeViewController::sendCrashReportValues()
-{
-    const auto& settings = services_.settings;
-    auto& report = services_.crashReporter;
-    const auto orTrue = [&](std::string_view key) {
-        return platform::boolObjectForKey(settings, key).value_or(true);
-    };
-    report.setCustomValue(settings.boolForKey(settings::kIncludeEnglish), "IncludeEnglish");
-    report.setCustomValue(settings::searchesFromStart(settings), "SearchFromStart");
-    report.setCustomValue(orTrue(settings::kShowTranslated), "ShowTranslated");
-    report.setCustomValue(orTrue(settings::kSortByLang), "SortByLang");
-    report.setCustomValue(settings.stringForKey(settings::kTranslationLanguage).value_or(""),
-                          "TranslationLanguage");
-    if (const auto preferred = services_.device.preferredLanguages(); !preferred.empty()) {
-        report.setCustomValue(preferred.front(), "Locale");
-    }
 }
 
 } // namespace lumora::navigation

@@ -8,12 +8,15 @@
 #include "lists/search_results_table_view_controller.h"
 #include "navigation/navigation_drawer_table_table_view_controller.h"
 #include "navigation/options_table_view_controller.h"
+#include "navigation/search_readings.h"
 #include "platform/base/notification_center.h"
 #include "platform/screens/services.h"
 #include "platform/screens/view_controller.h"
 
+#include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -94,6 +97,10 @@ public:
         return searchResultsController_;
     }
 
+    /// What the text of the search may mean besides what it finds.
+    const SearchReadings& readings() const { return *readings_; }
+    lookup::Lookup& lookup() { return readings_->lookup(); }
+
     /// The view's wish to hear of a changed tab bar, search bar or child; one
     /// listener.
     void setOutletListener(std::function<void()> listener);
@@ -106,8 +113,16 @@ public:
     /// The search runs again: a scope may change what is found.
     void selectedScopeButtonIndexDidChange(int scope);
     void searchBarCancelButtonClicked();
+    /// Enter was pressed in the field: opens the first reading, else the first
+    /// result.
+    void searchBarSearchButtonClicked();
     /// Puts the cursor into the search field.
     void focusSearchBar();
+
+    /// Opens the verb of a card, at the form where it names one.
+    void didSelectReading(std::size_t card);
+    /// Opens the options at the one that searches the conjugated forms.
+    void showFormsOption();
 
     void didSelectSearchResult(const data::VerbPtr& verb) override;
     void didHoldSearchResult(const data::VerbPtr& verb) override;
@@ -136,10 +151,15 @@ private:
     void showTab(Tab tab);
     void buildTabBarItems();
     std::shared_ptr<lists::InterstitialTableViewController> listFor(Tab tab);
-    void sendCrashReportValues();
+    void showSearchResult(const data::VerbPtr& verb, const std::optional<data::FormPlace>& place);
     void outletsChanged();
 
     const platform::Services& services_;
+    /// Work for later holds it weakly.
+    std::shared_ptr<SearchReadings> readings_;
+    /// What the next screen is to begin with.
+    std::optional<data::FormPlace> openedForm_;
+    std::optional<platform::IndexPath> firstOption_;
     TabBarItem listTabBarItem_;
     TabBarItem favouritesTabBarItem_;
     TabBarItem historyTabBarItem_;

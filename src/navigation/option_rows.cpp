@@ -209,6 +209,18 @@ std::span<const OptionRow> optionRows()
     return kRows;
 }
 
+std::optional<platform::IndexPath> pathOfOption(std::string_view key)
+{
+    platform::IndexPath path{0, -1};
+    for (const auto& row : kRows) {
+        path = {row.section, row.section == path.section ? path.row + 1 : 0};
+        if (row.key == key) {
+            return path;
+        }
+    }
+    return std::nullopt;
+}
+
 const OptionRow* optionRowAt(platform::IndexPath path)
 {
     int row = path.row;

@@ -69,6 +69,9 @@ std::span<const OptionSection> optionSections();
 /// From top to bottom, through all sections.
 std::span<const OptionRow> optionRows();
 
+/// The row that reads and writes a key of the store; none when there is no such row.
+std::optional<platform::IndexPath> pathOfOption(std::string_view key);
+
 /// Null where there is no such row.
 const OptionRow* optionRowAt(platform::IndexPath path);
 

@@ -69,6 +69,8 @@ public:
     /// Not owned; may be null.
     OptionsTableViewControllerDelegate* delegate = nullptr;
     std::shared_ptr<exporting::SupportEmailSender> supportEmailSender;
+    /// The row that the screen opens at; none for its beginning.
+    std::optional<platform::IndexPath> firstRow;
     /// The shared queue. Not owned; null when there is no database.
     platform::DatabaseQueue* queue = nullptr;
     /// Of the last time its button was pressed.

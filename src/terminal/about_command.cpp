@@ -79,7 +79,7 @@ void print(const Lines& lines, const Output& output)
 platform::Result<void> about(Session& session, const Arguments& arguments, const Output& output)
 {
     const auto verbs = VerbDirectory::read(session).and_then(
-        [&](const VerbDirectory& directory) { return directory.named(arguments.text); });
+        [&](VerbDirectory directory) { return directory.named(arguments.text); });
     if (!verbs) {
         return tl::unexpected(verbs.error());
     }

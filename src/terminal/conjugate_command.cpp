@@ -194,8 +194,8 @@ private:
 /// Finds the verb that a person asks for: by its name, else by one of its forms.
 class VerbFinder {
 public:
-    VerbFinder(Session& session, const VerbDirectory& directory, const Output& output)
-        : directory_{directory}, reader_{session}, output_{output}
+    VerbFinder(VerbDirectory& directory, const Output& output)
+        : directory_{directory}, output_{output}
     {}
 
     /// Tells when it was a form that named the verb. A form of several verbs is an
@@ -206,7 +206,7 @@ public:
         if (named) {
             return named;
         }
-        const auto readings = reader_.verbsOfForm(typed);
+        const auto readings = directory_.reader().verbsOfForm(typed);
         if (!readings || readings->empty()) {
             return readings ? named : tl::unexpected(readings.error());
         }
@@ -219,8 +219,7 @@ public:
     }
 
 private:
-    const VerbDirectory& directory_;
-    TextReader reader_;
+    VerbDirectory& directory_;
     const Output& output_;
 };
 
@@ -254,12 +253,12 @@ platform::Result<void> printLines(std::istream& input, VerbFinder& finder, Print
 
 platform::Result<void> conjugate(Session& session, const Arguments& arguments, const Output& output)
 {
-    const auto directory = VerbDirectory::read(session);
+    auto directory = VerbDirectory::read(session);
     if (!directory) {
         return tl::unexpected(directory.error());
     }
     Printer printer{session, arguments, output};
-    VerbFinder finder{session, *directory, output};
+    VerbFinder finder{*directory, output};
     if (arguments.verbsFromInput) {
         return printLines(std::cin, finder, printer, output);
     }

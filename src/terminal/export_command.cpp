@@ -73,7 +73,7 @@ platform::Result<void> exportDocument(Session& session, const Arguments& argumen
                                       const Output& output)
 {
     auto verbs = VerbDirectory::read(session).and_then(
-        [&](const VerbDirectory& directory) { return directory.named(arguments.text); });
+        [&](VerbDirectory directory) { return directory.named(arguments.text); });
     if (!verbs) {
         return tl::unexpected(verbs.error());
     }

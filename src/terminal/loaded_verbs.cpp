@@ -3,11 +3,12 @@
 
 #include "terminal/loaded_verbs.h"
 
-#include "data/verb_finder.h"
 #include "lists/verb_list_table_view_controller.h"
 #include "terminal/session.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <string>
 
 namespace lumora::terminal {
@@ -34,18 +35,27 @@ platform::Result<VerbDirectory> VerbDirectory::read(Session& session)
     if (auto checked = session.check(); !checked) {
         return tl::unexpected(checked.error());
     }
-    VerbDirectory directory;
+    VerbDirectory directory{session};
     for (const auto& [letter, section] : list.verbs) {
         directory.verbs_.insert(directory.verbs_.end(), section.begin(), section.end());
     }
     return directory;
 }
 
-platform::Result<std::vector<data::VerbPtr>> VerbDirectory::named(std::string_view name) const
+platform::Result<std::vector<data::VerbPtr>> VerbDirectory::named(std::string_view name)
 {
-    auto found = data::verbsNamed(name, verbs_);
+    const auto ids = reader_.verbsNamed(name);
+    if (!ids) {
+        return tl::unexpected(ids.error());
+    }
+    std::vector<data::VerbPtr> found;
+    std::copy_if(verbs_.begin(), verbs_.end(), std::back_inserter(found),
+                 [&](const data::VerbPtr& verb) {
+                     return std::find(ids->begin(), ids->end(), verb->id) != ids->end();
+                 });
     if (found.empty()) {
-        return tl::unexpected(unknownVerb(name, data::namesNear(name, verbs_)));
+        return tl::unexpected(
+            unknownVerb(name, reader_.namesNear(name).value_or(std::vector<std::string>{})));
     }
     return found;
 }

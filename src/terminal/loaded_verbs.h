@@ -6,6 +6,7 @@
 #include "data/verb.h"
 #include "detail/verb_detail_table_view_controller.h"
 #include "platform/base/error.h"
+#include "terminal/lookup_command.h"
 
 #include <memory>
 #include <string_view>
@@ -24,10 +25,15 @@ public:
 
     /// The verbs that the name means, one at least. A name that means none is an
     /// error that tells what it may have been meant for.
-    platform::Result<std::vector<data::VerbPtr>> named(std::string_view name) const;
+    platform::Result<std::vector<data::VerbPtr>> named(std::string_view name);
+
+    TextReader& reader() { return reader_; }
 
 private:
+    explicit VerbDirectory(Session& session) : reader_{session} {}
+
     std::vector<data::VerbPtr> verbs_;
+    TextReader reader_;
 };
 
 /// A detail screen, built.

@@ -28,17 +28,15 @@ using Fields = std::vector<std::string>;
 /// infinitive, which has none.
 std::pair<std::string, std::string> titlesOf(std::string_view tense, Session& session)
 {
-    const auto& services = session.services();
-    for (int mood = 0; mood < data::kMoodCount; ++mood) {
-        for (const auto& block : data::blocksOfSegment(mood)) {
-            if (block.tense.identifier == tense) {
-                const auto key = data::kMoodTitleKeys[static_cast<std::size_t>(mood)];
-                return {platform::localizedString(services.bundle, key),
-                        data::tenseTitle(block.titleKey, services.bundle, services.settings)};
-            }
-        }
+    const auto position = data::positionOfTense(tense);
+    if (!position) {
+        return {};
     }
-    return {};
+    const auto& services = session.services();
+    const auto moodKey = data::kMoodTitleKeys.at(static_cast<std::size_t>(position->segment));
+    const auto& block = data::blocksOfSegment(position->segment)[position->block];
+    return {platform::localizedString(services.bundle, moodKey),
+            data::tenseTitle(block.titleKey, services.bundle, services.settings)};
 }
 
 /// A line a place, one for a reading without.
@@ -139,17 +137,34 @@ platform::Result<std::vector<lookup::Reading>> TextReader::read(std::string_view
 {
     platform::Result<std::vector<lookup::Reading>> readings;
     session_.queue().inDatabase([&](platform::Database& database) {
-        if (!lookup_) {
-            auto built = lookup::Lookup::build(database);
-            if (!built) {
-                readings = tl::unexpected(built.error());
-                return;
-            }
-            lookup_ = *std::move(built);
-        }
-        readings = lookup_->read(database, text, language_, guesses);
+        readings = lookup_.read(database, text, language_, guesses);
     });
     return readings;
+}
+
+platform::Result<std::vector<std::int64_t>> TextReader::verbsNamed(std::string_view name)
+{
+    platform::Result<std::vector<std::int64_t>> named;
+    session_.queue().inDatabase(
+        [&](platform::Database& database) { named = lookup_.verbsNamed(database, name); });
+    return named;
+}
+
+platform::Result<std::vector<std::string>> TextReader::namesNear(std::string_view name)
+{
+    constexpr std::size_t kMostNames = 3;
+
+    return read(name).map([](const std::vector<lookup::Reading>& readings) {
+        std::vector<std::string> names;
+        for (const auto& reading : readings) {
+            const bool known =
+                std::find(names.begin(), names.end(), reading.headword) != names.end();
+            if (reading.way == lookup::Way::Slip && !known && names.size() < kMostNames) {
+                names.push_back(reading.headword);
+            }
+        }
+        return names;
+    });
 }
 
 platform::Result<std::vector<lookup::Reading>> TextReader::verbsOfForm(std::string_view text)

@@ -6,7 +6,7 @@
 #include "lookup/lookup.h"
 #include "platform/base/error.h"
 
-#include <optional>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,10 +28,15 @@ public:
     /// these are names.
     platform::Result<std::vector<lookup::Reading>> verbsOfForm(std::string_view text);
 
+    /// The ids of the verbs of that name.
+    platform::Result<std::vector<std::int64_t>> verbsNamed(std::string_view name);
+    /// A few headwords that differ from it by a slip or two, the nearest first.
+    platform::Result<std::vector<std::string>> namesNear(std::string_view name);
+
 private:
     Session& session_;
     std::string language_;
-    std::optional<lookup::Lookup> lookup_;
+    lookup::Lookup lookup_;
 };
 
 /// "être, suivre and suivre (se)": the readings' verbs, for a person.

@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/deep_link.h"
-#include "data/verb_finder.h"
 #include "fuzz/fuzz.h"
-#include "support/world.h"
 #include "text/text.h"
 
 #include <algorithm>
@@ -12,11 +10,9 @@
 using namespace lumora;
 
 /// Any text as a link from outside: what it names is a text without control
-/// characters, and verbs are looked for by it.
+/// characters.
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static support::World world;
-    static const std::vector<data::VerbPtr> verbs{world.verb(1), world.verb(3), world.verb(6)};
     const fuzz::TimeLimit limit;
     const auto text = fuzz::textOf(data, size);
     const auto link = app::DeepLink::parse(text);
@@ -29,7 +25,5 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     fuzz::require(std::none_of(name.begin(), name.end(),
                                [](char c) { return static_cast<unsigned char>(c) < ' '; }),
                   "a name has no control characters");
-    data::verbsNamed(name, verbs);
-    data::namesNear(name, verbs);
     return 0;
 }

@@ -23,9 +23,7 @@ protected:
     static void SetUpTestSuite()
     {
         queue = platform::DatabaseQueue::open(LUMORA_VERBS_DB);
-        queue->inDatabase([](platform::Database& database) {
-            lookup = std::make_unique<Lookup>(Lookup::build(database).value());
-        });
+        lookup = std::make_unique<Lookup>();
     }
     static void TearDownTestSuite()
     {
@@ -119,10 +117,12 @@ TEST_F(LookupTest, PutsTheCommonVerbFirst)
         const char* text;
         std::vector<std::string> verbs;
     } cases[] = {
-        {"suis", {"être", "suivre", "suivre (se)"}},
+        {"suis", {"être", "suivre"}},
+        {"irions", {"aller"}},
+        {"lavé", {"laver", "laver (se)"}},
         {"fut", {"être"}},
-        {"vis", {"vivre", "voir", "voir (se)"}},
-        {"peut", {"pouvoir", "pouvoir (se)"}},
+        {"vis", {"vivre", "voir"}},
+        {"peut", {"pouvoir"}},
         {"a", {"avoir"}},
         {"je lave", {"laver"}},
         {"pêcher", {"pêcher"}},
@@ -162,12 +162,59 @@ TEST_F(LookupTest, KnowsARowAsOneSaysItAndAVerbBehindASlip)
     });
 }
 
+TEST_F(LookupTest, FindsTheStoredWordsAndThoseOfTheFormsAlike)
+{
+    queue->inDatabase([](platform::Database& database) {
+        auto stored = Catalogue::read(database).value();
+        stored.sounds(database);
+        // Before the file's own table.
+        ASSERT_TRUE(database.executeUpdate("CREATE TEMP TABLE word_index (_id, words)", {}));
+        auto made = Catalogue::read(database).value();
+        made.sounds(database);
+        ASSERT_TRUE(database.executeUpdate("DROP TABLE temp.word_index", {}));
+        EXPECT_TRUE(stored.words().packed() == made.words().packed());
+        EXPECT_TRUE(stored.sounds(database) == made.sounds(database));
+        EXPECT_GT(stored.words().size(), 200000U);
+    });
+}
+
+TEST_F(LookupTest, KnowsAVerbByItsName)
+{
+    const struct {
+        const char* name;
+        std::vector<std::string> verbs;
+    } cases[] = {
+        {"aller", {"aller"}},
+        {"s'en aller", {"aller (s'en)"}},
+        {"Evanouir", {"évanouir (s')"}},
+        {"se laver", {"laver (se)"}},
+        {"laver", {"laver"}},
+        {"s'aller", {}},
+        {"irions", {}},
+        {"", {}},
+    };
+    platform::Result<Catalogue> catalogue;
+    queue->inDatabase([&](platform::Database& database) { catalogue = Catalogue::read(database); });
+    for (const auto& c : cases) {
+        std::vector<std::string> verbs;
+        queue->inDatabase([&](platform::Database& database) {
+            const auto ids = lookup->verbsNamed(database, c.name).value();
+            for (const auto id : ids) {
+                verbs.push_back(catalogue->verb(catalogue->numberOf(id)).headword);
+            }
+        });
+        EXPECT_THAT(verbs, ElementsAreArray(c.verbs)) << c.name;
+    }
+}
+
 TEST(LookupOfADamagedDatabase, IsAnErrorWithoutTheTables)
 {
     const support::TemporaryFolder folder;
     const auto queue = platform::DatabaseQueue::open(platform::fileUrl(folder / "empty.db"));
-    queue->inDatabase(
-        [](platform::Database& database) { EXPECT_FALSE(Lookup::build(database).has_value()); });
+    queue->inDatabase([](platform::Database& database) {
+        EXPECT_FALSE(Lookup{}.read(database, "va", "en").has_value());
+        EXPECT_FALSE(Lookup{}.verbsNamed(database, "va").has_value());
+    });
 }
 
 } // namespace

@@ -45,6 +45,46 @@ TEST(WordIndex, HoldsWhatWasAddedAndNoMore)
     index.forEach([&](std::size_t, std::string_view word) { EXPECT_EQ(word, next++->first); });
     EXPECT_EQ(next, expected.end());
     EXPECT_TRUE(WordIndex::Builder{}.build().find("a").empty());
+
+    const auto packed = index.packed();
+    const auto again = WordIndex::unpacked(packed, 500);
+    ASSERT_TRUE(again);
+    EXPECT_EQ(again->packed(), packed);
+    for (const auto& [word, verbs] : expected) {
+        const auto found = again->find(word);
+        EXPECT_EQ(std::vector<std::uint32_t>(found.begin(), found.end()),
+                  std::vector<std::uint32_t>(verbs.begin(), verbs.end()))
+            << word;
+    }
+    EXPECT_FALSE(WordIndex::unpacked(packed, 499)) << "a verb that is not there";
+}
+
+TEST(WordIndex, IsNotMadeOfDamagedBytes)
+{
+    WordIndex::Builder builder;
+    for (std::uint32_t i = 0; i < 40; ++i) {
+        builder.add("mange" + std::string(i % 7, 's') + std::to_string(i), i % 9);
+    }
+    const auto packed = std::move(builder).build().packed();
+    for (std::size_t length = 0; length < packed.size(); ++length) {
+        EXPECT_FALSE(WordIndex::unpacked(std::string_view{packed}.substr(0, length), 9)) << length;
+    }
+    EXPECT_FALSE(WordIndex::unpacked(packed + "a", 9));
+    // Whatever else a byte may be: what is taken for an index can be used as one.
+    for (std::size_t at = 0; at < packed.size(); ++at) {
+        for (const char byte : {'\0', '\x7F', '\xFF', static_cast<char>(packed[at] + 1)}) {
+            auto damaged = packed;
+            damaged[at] = byte;
+            if (const auto index = WordIndex::unpacked(damaged, 9)) {
+                index->forEach([&](std::size_t number, std::string_view word) {
+                    for (const auto verb : index->verbsOf(number)) {
+                        EXPECT_LT(verb, 9U) << word;
+                    }
+                    index->find(word);
+                });
+            }
+        }
+    }
 }
 
 } // namespace

@@ -33,16 +33,16 @@ bool tell(const char* what, const lookups::Outcome& outcome, double part)
 bool check(platform::Database& database, std::size_t stride, std::uint32_t seed)
 {
     const auto begin = std::chrono::steady_clock::now();
-    auto lookup = lookup::Lookup::build(database);
-    if (!lookup) {
-        throw std::runtime_error(lookup.error().message);
+    lookup::Lookup lookup;
+    if (const auto ready = lookup.prepare(database); !ready) {
+        throw std::runtime_error(ready.error().message);
     }
     std::cout << "the index: "
               << std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count()
               << " s\n";
-    bool good = tell("other texts", lookups::checkOthers(database, *lookup), 1);
-    good &= tell("slips", lookups::checkSlips(database, *lookup, kSlips, seed), kSlipsFound);
-    good &= tell("rows", lookups::checkRows(database, *lookup, stride), 1);
+    bool good = tell("other texts", lookups::checkOthers(database, lookup), 1);
+    good &= tell("slips", lookups::checkSlips(database, lookup, kSlips, seed), kSlipsFound);
+    good &= tell("rows", lookups::checkRows(database, lookup, stride), 1);
     return good;
 }
 

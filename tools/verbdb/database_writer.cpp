@@ -3,6 +3,8 @@
 
 #include "verbdb/database_writer.h"
 
+#include "lookup/catalogue.h"
+#include "platform/storage/database_queue.h"
 #include "verbdb/simplify.h"
 #include "verbdb/verb_facts.h"
 
@@ -75,6 +77,7 @@ CREATE TABLE verb_facts (
     divisionsid INTEGER NOT NULL REFERENCES form_divisions (_id)
 );
 CREATE TABLE form_divisions (_id INTEGER PRIMARY KEY, divisions BLOB NOT NULL);
+CREATE TABLE word_index (_id INTEGER PRIMARY KEY, words BLOB NOT NULL);
 CREATE TABLE favourite (_id INTEGER PRIMARY KEY, verbid INTEGER);
 CREATE TABLE history (_id INTEGER PRIMARY KEY, verbid INTEGER, timestamp REAL);
 CREATE INDEX favourite_verbid ON favourite (verbid, _id);
@@ -95,6 +98,7 @@ constexpr auto kInsertForm = "INSERT INTO conjugation VALUES (?1, ?2, ?3, ?4, ?5
 // Bound as text, whose NULs SQLite keeps.
 constexpr auto kInsertPacked = "INSERT INTO packed_forms VALUES (?1, CAST(?2 AS BLOB))";
 constexpr auto kInsertFacts = "INSERT INTO verb_facts VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)";
+constexpr auto kInsertWords = "INSERT INTO word_index VALUES (?, CAST(? AS BLOB))";
 constexpr auto kInsertDivisions = "INSERT INTO form_divisions VALUES (?1, CAST(?2 AS BLOB))";
 
 struct Closer {
@@ -278,6 +282,30 @@ void writeRows(const Content& content, Output& output)
     }
 }
 
+/// Keeps the words that the look-up finds verbs by and how they sound, which it
+/// would make of all forms else.
+void writeWords(const std::filesystem::path& path)
+{
+    const auto queue = platform::DatabaseQueue::open(platform::existingFileUrl(path));
+    if (!queue) {
+        throw std::runtime_error("the database cannot be opened");
+    }
+    platform::Result<void> written;
+    queue->inDatabase([&](platform::Database& database) {
+        written = lookup::Catalogue::read(database).and_then([&](lookup::Catalogue catalogue) {
+            const auto sounds = lookup::packedSounds(catalogue.sounds(database));
+            return database
+                .executeUpdate(kInsertWords, {lookup::kStoredWords, catalogue.words().packed()})
+                .and_then([&] {
+                    return database.executeUpdate(kInsertWords, {lookup::kStoredSounds, sounds});
+                });
+        });
+    });
+    if (!written) {
+        throw std::runtime_error(written.error().message);
+    }
+}
+
 } // namespace
 
 void writeDatabase(const Content& content, const std::filesystem::path& path)
@@ -292,6 +320,10 @@ void writeDatabase(const Content& content, const std::filesystem::path& path)
             output.run(kSchema);
             writeRows(content, output);
             output.run("COMMIT");
+        }
+        writeWords(temporary);
+        {
+            Output output(temporary);
             // Growing in key order leaves the pages of a table without a rowid
             // an eighth empty.
             output.run("VACUUM");

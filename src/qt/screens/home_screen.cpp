@@ -13,6 +13,19 @@
 
 namespace lumora::qt {
 
+namespace {
+
+std::vector<SearchReading> readingsOf(const navigation::HomeViewController& home)
+{
+    std::vector<SearchReading> readings;
+    for (const auto& card : home.readings().cards()) {
+        readings.push_back({toQString(card.headword), toQString(card.detail), toQString(card.way)});
+    }
+    return readings;
+}
+
+} // namespace
+
 HomeScreen::HomeScreen(std::shared_ptr<navigation::HomeViewController> controller,
                        ScreenRegistry& registry)
     : Screen{controller, QStringLiteral("HomePage")},
@@ -37,6 +50,11 @@ void HomeScreen::update()
         emit listsChanged();
     }
     emit outletsChanged();
+    // Only then are the cards drawn anew.
+    if (auto readings = readingsOf(*home_); readings != readings_) {
+        readings_ = std::move(readings);
+        emit readingsChanged();
+    }
     if (auto visible = visibleChildren(); visible != shown_) {
         shown_ = std::move(visible);
         emit childrenChanged();
@@ -86,6 +104,15 @@ TableScreen* HomeScreen::searchResults() const
 {
     const auto& results = home_->searchResultsController();
     return results ? qobject_cast<TableScreen*>(registry_.screenFor(results)) : nullptr;
+}
+
+QVariantList HomeScreen::readings() const
+{
+    QVariantList cards;
+    for (const auto& reading : readings_) {
+        cards.append(QVariant::fromValue(reading));
+    }
+    return cards;
 }
 
 QString HomeScreen::searchPlaceholder() const

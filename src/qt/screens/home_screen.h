@@ -27,6 +27,21 @@ public:
     QString image;
 };
 
+/// A verb that the text of the search may mean, as its card shows it.
+struct SearchReading {
+    Q_GADGET
+    QML_VALUE_TYPE(searchReading)
+    Q_PROPERTY(QString headword MEMBER headword FINAL)
+    Q_PROPERTY(QString detail MEMBER detail FINAL)
+    Q_PROPERTY(QString way MEMBER way FINAL)
+
+public:
+    QString headword;
+    QString detail;
+    QString way;
+    bool operator==(const SearchReading&) const = default;
+};
+
 /// The home screen: its tabs, the lists behind them and the search over them.
 class HomeScreen final : public lumora::qt::Screen {
     Q_OBJECT
@@ -42,6 +57,9 @@ class HomeScreen final : public lumora::qt::Screen {
     Q_PROPERTY(QString searchIdentifier READ searchIdentifier NOTIFY outletsChanged)
     // The verb that is open beside the lists; 0 for none.
     Q_PROPERTY(int openVerb READ openVerb NOTIFY openVerbChanged)
+    Q_PROPERTY(QVariantList readings READ readings NOTIFY readingsChanged)
+    Q_PROPERTY(bool nothingFound READ nothingFound NOTIFY outletsChanged)
+    Q_PROPERTY(bool formsOffered READ formsOffered NOTIFY outletsChanged)
     Q_PROPERTY(bool searchFocus READ searchFocus NOTIFY outletsChanged)
 
 public:
@@ -69,6 +87,20 @@ public:
 
     /// Empty where there is no such tab.
     Q_INVOKABLE QString titleOfTab(int tag) const;
+
+    /// Of SearchReading.
+    QVariantList readings() const;
+    /// The readings stand in place of the results.
+    bool nothingFound() const { return home_->readings().areAllThereIs(); }
+    bool formsOffered() const { return home_->readings().offersForms(); }
+
+    Q_INVOKABLE void openReading(int card)
+    {
+        home_->didSelectReading(static_cast<std::size_t>(card));
+    }
+    /// The first reading, else the first result.
+    Q_INVOKABLE void openFirst() { home_->searchBarSearchButtonClicked(); }
+    Q_INVOKABLE void showFormsOption() { home_->showFormsOption(); }
     Q_INVOKABLE void selectTab(int tag);
     Q_INVOKABLE void showOptions() { home_->showOptions(); }
     Q_INVOKABLE void focusSearch() { home_->focusSearchBar(); }
@@ -83,6 +115,7 @@ signals:
     void outletsChanged();
     void listsChanged();
     void openVerbChanged();
+    void readingsChanged();
     /// Another text is searched for.
     void searchChanged();
 
@@ -95,6 +128,7 @@ private:
     std::array<std::shared_ptr<platform::ViewController>, 3> lists_;
     std::vector<std::shared_ptr<platform::ViewController>> shown_;
     int openVerb_ = 0;
+    std::vector<SearchReading> readings_;
 };
 
 } // namespace lumora::qt

@@ -14,6 +14,11 @@ OptionsScreen::OptionsScreen(std::shared_ptr<navigation::OptionsTableViewControl
     : TableScreen{controller, QStringLiteral("OptionsPage")}, options_{std::move(controller)}
 {}
 
+int OptionsScreen::firstRow() const
+{
+    return options_->firstRow ? table()->model()->listRow(*options_->firstRow) : -1;
+}
+
 QString OptionsScreen::icon() const
 {
     return toQString(options_->header.iconImageView.image);

@@ -36,6 +36,8 @@ public:
     QString copyright() const;
     QString websiteTitle() const;
     QString supportTitle() const;
+    /// The row of the table that the screen opens at; -1 for its beginning.
+    Q_INVOKABLE int firstRow() const;
 
     Q_INVOKABLE void openWebsite() { options_->openWebsite(); }
     Q_INVOKABLE void sendSupportEmail() { options_->sendSupportEmail(); }

@@ -33,6 +33,27 @@ QStringList VerbDetailScreen::moods() const
     return toQStringList(detail_->verbTypeSegmentedControl.titles);
 }
 
+int VerbDetailScreen::openedTense() const
+{
+    // The table's first section is not a tense.
+    const auto path = detail_->openedPath();
+    return path ? path->section - 1 : -1;
+}
+
+int VerbDetailScreen::openedLine() const
+{
+    const auto path = detail_->openedPath();
+    return path ? path->row : -1;
+}
+
+void VerbDetailScreen::setTopTense(int tense)
+{
+    if (tense != topTense()) {
+        topTense_ = tense;
+        emit topTenseChanged();
+    }
+}
+
 QString VerbDetailScreen::selectText() const
 {
     return toQString(detail_->selectVerbLabel.text);

@@ -9,7 +9,9 @@
 
 #include <QColor>
 
+#include <algorithm>
 #include <cstdint>
+#include <optional>
 
 namespace lumora::qt {
 
@@ -33,7 +35,11 @@ class VerbDetailScreen final : public lumora::qt::TableScreen {
     // The woman's 0, the man's 1.
     Q_PROPERTY(int voice READ voice NOTIFY outletsChanged)
     // Where the person has scrolled to, from one page to the next.
-    Q_PROPERTY(int topTense MEMBER topTense_ NOTIFY topTenseChanged)
+    Q_PROPERTY(int topTense READ topTense WRITE setTopTense NOTIFY topTenseChanged)
+    // The form that was searched for, by its tense in the chosen mood and its row;
+    // -1 where it is not shown.
+    Q_PROPERTY(int openedTense READ openedTense NOTIFY outletsChanged)
+    Q_PROPERTY(int openedLine READ openedLine NOTIFY outletsChanged)
 
 public:
     explicit VerbDetailScreen(std::shared_ptr<detail::VerbDetailTableViewController> controller);
@@ -56,6 +62,11 @@ public:
     std::int64_t verbId() const { return detail_->selectedVerb ? detail_->selectedVerb->id : 0; }
     int voice() const { return static_cast<int>(detail_->voice()); }
 
+    int openedTense() const;
+    int openedLine() const;
+    int topTense() const { return topTense_.value_or(std::max(0, openedTense())); }
+    void setTopTense(int tense);
+
     Q_INVOKABLE void chooseVoice(int voice)
     {
         detail_->chooseVoice(static_cast<platform::Voice>(voice));
@@ -70,7 +81,7 @@ signals:
 
 private:
     std::shared_ptr<detail::VerbDetailTableViewController> detail_;
-    int topTense_ = 0;
+    std::optional<int> topTense_;
 };
 
 } // namespace lumora::qt

@@ -180,14 +180,29 @@ private:
 
     void search()
     {
-        if (auto* field = item("Search")) {
-            field->setProperty("text", QStringLiteral("qwx"));
-            driver_.settle();
-            picture("search-nothing");
-            field->setProperty("text", QStringLiteral("all"));
-            driver_.settle();
-            picture("search");
+        static constexpr std::pair<const char*, const char*> kTexts[] = {
+            {"qwx", "search-nothing"},
+            {"irions", "search-form"},
+            {"acceuillir", "search-guess"},
+            {"vis", "search-cards"}};
+        auto* field = item("Search");
+        if (field == nullptr) {
+            return;
         }
+        const auto search = [&](const char* text, const char* name) {
+            field->setProperty("text", QString::fromUtf8(text));
+            driver_.settle();
+            picture(name);
+        };
+        for (const auto& [text, name] : kTexts) {
+            search(text, name);
+        }
+        tap("reading0");
+        picture("detail-form");
+        if (!tablet_) {
+            tap("backButton");
+        }
+        search("all", "search");
     }
 
     void moods()

@@ -156,6 +156,56 @@ TEST_F(Journey, PullTheMenuInAndPushItOut)
     EXPECT_TRUE(until([&] { return modals() == 0; }));
 }
 
+TEST_F(Journey, FromATypedFormToItsPlaceInItsVerb)
+{
+    const auto atForm = [&] {
+        return split().primary().back()->property("openedTense").toInt() >= 0;
+    };
+    start(kPhone);
+    ASSERT_TRUE(settled("aller"));
+    keys("Ctrl+F");
+    type("vas");
+    ASSERT_TRUE(settled("reading0"));
+    EXPECT_EQ(find("nothingFound")->property("text"), "search.did_you_mean");
+    keys("Down");
+    EXPECT_TRUE(find("reading0")->hasActiveFocus());
+    keys("Up");
+    EXPECT_TRUE(find("Search")->hasActiveFocus());
+    keys("Down, Return");
+    ASSERT_TRUE(until([&] { return split().primary().size() == 2 && find("list") != nullptr; }));
+    QQuickItem* row = nullptr;
+    ASSERT_TRUE(until([&] {
+        row = find("list")->property("currentItem").value<QQuickItem*>();
+        return row != nullptr && row->property("marked").toBool();
+    }));
+    EXPECT_EQ(row->property("detailText"), "vas");
+
+    // Enter in the field leads there too; twice is once.
+    keys("Esc, Ctrl+F, Return, Return");
+    ASSERT_TRUE(until([&] { return split().primary().size() == 2; }));
+    EXPECT_TRUE(atForm());
+    keys("Esc");
+
+    // The option that finds the form, and what is found then.
+    touch("searchForms");
+    ASSERT_TRUE(settled("bar.done"));
+    ASSERT_TRUE(until([&] {
+        const auto* current = find("list")->property("currentItem").value<QQuickItem*>();
+        return current != nullptr && current->objectName() == "settings.includeconjugations";
+    }));
+    keys("Space");
+    closeOptions();
+    ASSERT_TRUE(until([&] { return verbs() == QStringList{"aller"}; }));
+    ASSERT_TRUE(settled("reading0"));
+    EXPECT_EQ(find("nothingFound"), nullptr);
+    EXPECT_EQ(find("searchForms"), nullptr);
+    const auto* first = rows().front();
+    EXPECT_GE(first->mapToScene({}).y(), find("reading0")->mapToScene({0, 44}).y()) << "below it";
+    keys("Ctrl+F, Down, Down, Return");
+    ASSERT_TRUE(until([&] { return split().primary().size() == 2; }));
+    EXPECT_FALSE(atForm()) << "the row and not the card";
+}
+
 TEST_F(Journey, WithTheKeyboardAlone)
 {
     start(kPhone);

@@ -142,12 +142,21 @@ struct ScreenReaderTest : WindowFixture {
 TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
 {
     start({390, 844});
-    expectHeard("home", {"Button: Menu", "Heading: French verbs", "EditableText: Search for a verb",
-                         "List: Verbs", "Heading: A", "ListItem: aller, go",
-                         "PageTabList: ", "PageTab: Verbs (selected)", "PageTab: History"});
+    expectHeard("home",
+                {"Button: Menu", "Heading: French verbs", "EditableText: Verb, meaning or form",
+                 "List: Verbs", "Heading: A", "ListItem: aller, go",
+                 "PageTabList: ", "PageTab: Verbs (selected)", "PageTab: History"});
     tap("tab1");
     expectHeard("no favourites", {"List: Favourites", "PageTab: Favourites (selected)"});
     tap("Search");
+    type("vas");
+    expectHeard("a reading", {"StaticText: No verb found as typed. Did you mean \u2026",
+                              "Button: aller, Present \u2013 tu vas",
+                              "Button: Search the conjugated forms too"});
+    tap("reading0");
+    expectHeard("its form",
+                {"ListItem: je vais", "ListItem: tu vas, the form that was searched for"});
+    tap("backButton", "searchClear", "Search");
     type("a");
     expectHeard("search", {"Button: Clear the search", "ListItem: aller, go"});
     tap("aller", "bar.favourite");

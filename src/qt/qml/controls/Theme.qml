@@ -47,6 +47,7 @@ QtObject {
     readonly property color hover: dark ? "#1b2026" : "#f2f6fb"
     readonly property color notice: dark ? "#e4e8ee" : "#2b3138"
     readonly property color noticeText: dark ? "#16191d" : "#ffffff"
+    readonly property color marked: dark ? "#3a3018" : "#fdf1d8"
     readonly property color field: dark ? "#0b1c33" : "#ffffff"
     readonly property color switchOn: dark ? "#3d7fd6" : accentPrimary
     readonly property color switchOff: dark ? "#6e7884" : "#858f9d"

@@ -13,9 +13,8 @@ ScreenPage {
     readonly property bool searching: home.searchText !== ""
 
     function openFirst() {
-        const model = root.home.searchResults?.table.model ?? null;
-        if (searching && model !== null)
-            model.tap(model.cellAway(-1, 1));
+        if (searching)
+            home.openFirst();
         else
             area.takeKeyboard();
     }
@@ -37,7 +36,11 @@ ScreenPage {
         clip: true
 
         function takeKeyboard() {
-            forceActiveFocus(Qt.TabFocusReason);
+            const cards = ((found.item as VerbTable)?.list.headerItem ?? null) as ReadingCards;
+            if (cards !== null && cards.count > 0)
+                cards.takeKeyboard(0);
+            else
+                forceActiveFocus(Qt.TabFocusReason);
         }
 
         // Each list keeps its place once it was there.
@@ -66,6 +69,7 @@ ScreenPage {
             }
         }
         Loader {
+            id: found
             anchors.fill: parent
             active: root.searching && root.home.searchResults !== null
             focus: active
@@ -74,25 +78,16 @@ ScreenPage {
                 id: results
 
                 objectName: "searchResults"
-                name: root.home.searchPlaceholder
+                name: qsTrId("settings.search")
                 screen: root.home.searchResults
                 openVerb: root.home.openVerb
                 list.cacheBuffer: 0
 
-                Text {
-                    objectName: "nothingFound"
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    y: Theme.touch
-                    width: Math.min(300, parent.width - 2 * Theme.margin)
-                    visible: results.list.count === 0
-                    text: qsTrId("search.empty")
-                    Accessible.role: Accessible.StaticText
-                    Accessible.name: text
-                    color: Theme.textSecondary
-                    font.pixelSize: Theme.title
-                    font.bold: true
-                    wrapMode: Text.WordWrap
-                    horizontalAlignment: Text.AlignHCenter
+                list.header: ReadingCards {
+                    width: ListView.view.width
+                    home: root.home
+                    onFieldWanted: search.takeKeyboard()
+                    onHeightChanged: results.list.positionViewAtBeginning()
                 }
                 Connections {
                     target: root.home

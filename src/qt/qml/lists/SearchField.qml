@@ -21,6 +21,11 @@ Rectangle {
     implicitHeight: Math.max(Theme.touch, Theme.body + 27) + Theme.gap
     color: Theme.barBackground
 
+    // Back from what was found.
+    function takeKeyboard() {
+        input.forceActiveFocus(Qt.BacktabFocusReason);
+    }
+
     Rectangle {
         anchors.fill: parent
         anchors.leftMargin: 12
@@ -69,6 +74,7 @@ Rectangle {
             activeFocusOnTab: true
             inputMethodHints: Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
             Accessible.role: Accessible.EditableText
+            Accessible.searchEdit: true
             Accessible.name: root.home.searchPlaceholder
             onTextChanged: {
                 // A line break comes with a pasted text, and shows as a space.

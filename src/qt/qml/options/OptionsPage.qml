@@ -35,6 +35,12 @@ ScreenPage {
             width: ListView.view.width
             table: content.table
         }
-        Component.onCompleted: root.options.prepare()
+        Component.onCompleted: {
+            root.options.prepare();
+            // The rows below it have their heights by then.
+            const row = root.options.firstRow();
+            if (row >= 0)
+                Qt.callLater(content.moveTo, row);
+        }
     }
 }

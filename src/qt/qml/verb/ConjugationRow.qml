@@ -19,6 +19,8 @@ Rectangle {
     required property string reuseIdentifier
     required property IndicatorSource indicatorSource
     required property QtTableView table
+    // The form that was searched for.
+    property bool marked: false
     readonly property bool isCell: kind === TableItemModel.Cell
     readonly property bool isForm: reuseIdentifier === "CellConjugation"
     readonly property bool isCurrent: ListView.isCurrentItem && ListView.view !== null && ListView.view.parent.activeFocus
@@ -36,7 +38,7 @@ Rectangle {
     ListView.onReused: visible = true
 
     implicitHeight: isCell ? Theme.touch + 4 : Theme.headerHeight
-    color: isCell ? Theme.background : Theme.header
+    color: marked ? Theme.marked : isCell ? Theme.background : Theme.header
     border.width: isCurrent ? 2 : 0
     border.color: Theme.accentText
     Accessible.role: isCell ? Accessible.ListItem : Accessible.Heading
@@ -44,7 +46,7 @@ Rectangle {
     Accessible.focused: isCurrent
     Accessible.onPressAction: if (isForm)
         activate()
-    Accessible.name: isCell ? accessibleName : title
+    Accessible.name: !isCell ? title : marked ? accessibleName + ", " + qsTrId("verb.searched") : accessibleName
 
     Text {
         id: leading
@@ -89,6 +91,12 @@ Rectangle {
         source: root.indicatorSource
         spoken: root.accessibleName
         onClicked: root.table.model.tapAccessory(root.index)
+    }
+    Loader {
+        active: root.marked
+        height: parent.height
+        sourceComponent: MarkedEdge {
+        }
     }
     Rectangle {
         visible: root.isCell && root.table.separators

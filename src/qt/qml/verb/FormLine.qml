@@ -11,13 +11,29 @@ Item {
     required property collectionLine line
     required property real pronounWidth
     required property int textSize
+    // The form that was searched for.
+    property bool marked: false
 
     signal played
 
     Accessible.ignored: line.accessibleName === ""
     Accessible.role: Accessible.StaticText
-    Accessible.name: line.accessibleName
+    Accessible.name: marked ? line.accessibleName + ", " + qsTrId("verb.searched") : line.accessibleName
 
+    Loader {
+        active: root.marked
+        x: -10
+        width: root.width + 16
+        height: root.height
+        sourceComponent: Rectangle {
+            radius: 4
+            color: Theme.marked
+
+            MarkedEdge {
+                height: parent.height
+            }
+        }
+    }
     Text {
         id: pronoun
         width: root.pronounWidth

@@ -19,6 +19,8 @@ Rectangle {
     // Of the forms; that of the pronouns' font is with it.
     required property int textSize
     required property FontMetrics metrics
+    // The line of the form that was searched for; -1 for none.
+    property int openedLine: -1
     readonly property bool isCurrent: GridView.isCurrentItem && GridView.view.activeFocus
 
     signal played(int line)
@@ -79,31 +81,37 @@ Rectangle {
         Line {
             measures: sizes
             line: root.line0
+            marked: root.openedLine === 0
             onPlayed: root.played(0)
         }
         Line {
             measures: sizes
             line: root.line1
+            marked: root.openedLine === 1
             onPlayed: root.played(1)
         }
         Line {
             measures: sizes
             line: root.line2
+            marked: root.openedLine === 2
             onPlayed: root.played(2)
         }
         Line {
             measures: sizes
             line: root.line3
+            marked: root.openedLine === 3
             onPlayed: root.played(3)
         }
         Line {
             measures: sizes
             line: root.line4
+            marked: root.openedLine === 4
             onPlayed: root.played(4)
         }
         Line {
             measures: sizes
             line: root.line5
+            marked: root.openedLine === 5
             onPlayed: root.played(5)
         }
     }

@@ -10,6 +10,9 @@ Item {
     id: root
 
     required property CollectionItemModel collection
+    // Of the form that was searched for; -1 for none.
+    property int openedTense: -1
+    property int openedLine: -1
     readonly property real inset: collection.sectionInset
     readonly property real spacing: collection.lineSpacing
     readonly property int fitting: Math.floor((width - 2 * inset + spacing) / grid.cellWidth)
@@ -25,6 +28,8 @@ Item {
     function show(tense) {
         if (tense > 0)
             grid.positionViewAtIndex(tense, GridView.Beginning);
+        if (openedTense >= 0)
+            grid.currentIndex = openedTense;
     }
 
     FontMetrics {
@@ -81,6 +86,7 @@ Item {
             Accessible.name: root.collection.headerText
         }
         delegate: TenseCard {
+            openedLine: index === root.openedTense ? root.openedLine : -1
             textSize: root.textSize
             metrics: pronounMetrics
             width: root.collection.itemWidth

@@ -66,17 +66,25 @@ ScreenPage {
         TableContent {
             id: content
 
+            // Of the form that was searched for, below its tense's header.
+            readonly property int openedRow: root.verb.openedTense < 0 ? -1 : content.table.model.firstRow(root.verb.openedTense + 1) + 1 + root.verb.openedLine
+
             table: root.verb.table
             name: root.verb.title
             delegate: ConjugationRow {
                 width: ListView.view.width
                 table: content.table
+                marked: index === content.openedRow
             }
             Component.onCompleted: {
                 root.verb.prepare();
                 // The first section is not a tense.
                 if (root.verb.topTense > 0)
                     list.positionViewAtIndex(content.table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
+                // In sight even where its tense is higher than the page, which has no
+                // height yet.
+                if (openedRow >= 0)
+                    Qt.callLater(moveTo, openedRow);
             }
 
             Connections {
@@ -93,6 +101,8 @@ ScreenPage {
 
         TenseGrid {
             collection: root.verb.collection
+            openedTense: root.verb.openedTense
+            openedLine: root.verb.openedLine
             onMovedTo: tense => root.verb.topTense = tense
             Component.onCompleted: {
                 root.verb.prepareCollection();
