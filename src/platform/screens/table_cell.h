@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/screens/animated_layer.h"
+#include "platform/screens/animated_view.h"
 
 #include <memory>
 #include <optional>

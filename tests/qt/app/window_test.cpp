@@ -3,7 +3,6 @@
 
 #include "support/window_fixture.h"
 
-#include "detail/ce_round_progress_layer.h"
 #include "qt/models/indicator_source.h"
 #include "qt/screens/round_progress_item.h"
 #include "qt/screens/table_screen.h"
@@ -82,9 +81,7 @@ TEST_F(WindowTest, APlayControlSpeaksItsRowOnAPhoneAndItsLineOnATablet)
         ASSERT_NE(control, nullptr);
         auto* const source = control->property("source").value<IndicatorSource*>();
         ASSERT_NE(source, nullptr);
-        const auto progress = [&] {
-            return dynamic_cast<const detail::CERoundProgressLayer&>(source->layer()).progress;
-        };
+        const auto progress = [&] { return source->shownValue(); };
         EXPECT_EQ(progress(), 0);
         tap("play");
         EXPECT_TRUE(until([&] { return progress() > 0.3F; }));
