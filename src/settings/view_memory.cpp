@@ -16,6 +16,7 @@ namespace {
 constexpr std::string_view kVoice = "voice";
 constexpr std::string_view kWoman = "woman";
 constexpr std::string_view kMan = "man";
+constexpr std::string_view kMarks = "marks";
 
 } // namespace
 
@@ -29,6 +30,19 @@ platform::Voice ViewMemory::voice() const
 platform::Result<void> ViewMemory::setVoice(platform::Voice voice)
 {
     store_.setValue(std::string{voice == platform::Voice::Man ? kMan : kWoman}, kVoice);
+    return store_.synchronize();
+}
+
+bool ViewMemory::marksForms() const
+{
+    const auto stored = store_.objectForKey(kMarks);
+    const auto* marks = stored ? std::get_if<bool>(&*stored) : nullptr;
+    return marks == nullptr || *marks;
+}
+
+platform::Result<void> ViewMemory::setMarksForms(bool marks)
+{
+    store_.setValue(marks, kMarks);
     return store_.synchronize();
 }
 

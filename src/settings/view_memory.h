@@ -25,6 +25,10 @@ public:
     /// Written at once; an error when the file cannot be written.
     platform::Result<void> setVoice(platform::Voice voice);
 
+    /// Whether stems and endings are told apart; they are at first.
+    bool marksForms() const;
+    platform::Result<void> setMarksForms(bool marks);
+
 private:
     platform::SettingsStore& store_;
 };

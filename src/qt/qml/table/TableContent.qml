@@ -15,6 +15,8 @@ T.Control {
     property alias delegate: list.delegate
     property alias list: list
     property bool stickyHeaders: true
+    // At the end of the header that stays on top.
+    property alias tools: sticky.tools
     // For who cannot see what the rows are about.
     property string name
     readonly property int indexWidth: index.visible ? index.width : 0
@@ -40,7 +42,7 @@ T.Control {
             list.positionViewAtEnd();
         else
             list.positionViewAtIndex(row, ListView.Contain);
-        const hidden = stickyHeaders && list.currentItem ? list.contentY + Theme.headerHeight - list.currentItem.y : 0;
+        const hidden = stickyHeaders && list.currentItem ? list.contentY + sticky.height - list.currentItem.y : 0;
         if (hidden > 0)
             list.contentY = Math.max(list.originY, list.contentY - hidden);
     }
@@ -145,6 +147,7 @@ T.Control {
         }
     }
     StickyHeader {
+        id: sticky
         width: parent.width
         visible: root.stickyHeaders && title !== ""
         list: list

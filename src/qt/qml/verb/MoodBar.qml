@@ -23,6 +23,7 @@ Rectangle {
         prefix: "mood"
         inTabOrder: true
         chosenColor: Theme.accentSecondary
+        chosenEdge: Theme.accentSecondaryEdge
         chosenInk: Theme.accentSecondaryInk
         titles: root.screen.moods
         selected: root.screen.selectedMood

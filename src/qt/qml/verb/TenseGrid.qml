@@ -9,13 +9,12 @@ import Lumora
 Item {
     id: root
 
-    required property CollectionItemModel collection
+    required property VerbDetailScreen screen
+    readonly property CollectionItemModel collection: screen.collection
     readonly property real inset: collection.sectionInset
     readonly property real spacing: collection.lineSpacing
     readonly property int columns: Math.max(1, Math.floor((width - 2 * inset + spacing) / grid.cellWidth))
     readonly property real usedWidth: columns * grid.cellWidth - spacing
-    // The cards stay as they are however large texts become.
-    readonly property int textSize: Math.min(Theme.body, 22) - 1
 
     // By hand, so that this tense is the first in sight.
     signal movedTo(int tense)
@@ -25,9 +24,19 @@ Item {
             grid.positionViewAtIndex(tense, GridView.Beginning);
     }
 
-    FontMetrics {
-        id: pronounMetrics
-        font.pixelSize: root.textSize - 1
+    TenseFits {
+        id: tenseFits
+        screen: root.screen
+        fullSize: Theme.body - 1
+        // Beside the play control of a line.
+        room: root.collection.itemWidth - 28 - 30 - 8
+        lineHeight: (root.collection.itemHeight - Theme.cardTitleHeight - 8 - 4 - Theme.gap) / 6
+    }
+    Connections {
+        target: root.collection
+        function onReloaded() {
+            ++tenseFits.revision;
+        }
     }
     GridView {
         id: grid
@@ -79,8 +88,8 @@ Item {
             Accessible.name: root.collection.headerText
         }
         delegate: TenseCard {
-            textSize: root.textSize
-            metrics: pronounMetrics
+            screen: root.screen
+            fits: tenseFits
             width: root.collection.itemWidth
             height: root.collection.itemHeight
             onPlayed: line => root.collection.tapAudio(index, line)

@@ -11,6 +11,9 @@ ScreenPage {
 
     readonly property VerbDetailScreen verb: screen as VerbDetailScreen
 
+    // Squares of a fixed size need room, and texts that fit into them.
+    readonly property bool asSquares: wide && !Theme.largeText && height >= 560
+
     barMenu: verb.selectTextHidden ? menu : null
 
     MoodBar {
@@ -23,9 +26,26 @@ ScreenPage {
     Loader {
         anchors.top: moods.bottom
         anchors.bottom: parent.bottom
+        anchors.bottomMargin: speech.height
         width: parent.width
         focus: true
-        sourceComponent: root.wide ? squares : table
+        sourceComponent: root.asSquares ? squares : table
+    }
+    SpeechBar {
+        id: speech
+        anchors.bottom: parent.bottom
+        width: parent.width
+        screen: root.verb
+    }
+    Shortcut {
+        sequences: [StandardKey.Cancel] // qmllint disable unqualified
+        enabled: root.visible && root.enabled && root.verb.spokenText !== ""
+        onActivated: root.verb.stopSpeaking()
+    }
+    Shortcut {
+        sequence: "Ctrl+Space"
+        enabled: root.visible && root.enabled && root.verb.selectTextHidden
+        onActivated: root.verb.playTense(root.verb.topTense)
     }
     Rectangle {
         anchors.centerIn: parent
@@ -69,6 +89,18 @@ ScreenPage {
             delegate: ConjugationRow {
                 width: ListView.view.width
                 table: content.table
+                screen: root.verb
+                fits: tenseFits
+            }
+            tools: PlayControl {
+                readonly property int section: parent.section // qmllint disable
+
+                implicitWidth: 50
+                ofTense: true
+                focusPolicy: Qt.NoFocus
+                // That of the heading below it speaks for both.
+                Accessible.ignored: true
+                onClicked: root.verb.playTense(section - 1)
             }
             Component.onCompleted: {
                 root.verb.prepareTable();
@@ -77,6 +109,18 @@ ScreenPage {
                     list.positionViewAtIndex(content.table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
             }
 
+            TenseFits {
+                id: tenseFits
+                screen: root.verb
+                fullSize: Theme.body + 1
+                room: content.width - Theme.margin - 50 - 2 * Theme.gap
+            }
+            Connections {
+                target: content.table.model
+                function onReloaded() {
+                    ++tenseFits.revision;
+                }
+            }
             Connections {
                 target: content.list
                 function onContentYChanged() {
@@ -90,7 +134,7 @@ ScreenPage {
         id: squares
 
         TenseGrid {
-            collection: root.verb.collection
+            screen: root.verb
             onMovedTo: tense => root.verb.topTense = tense
             Component.onCompleted: {
                 root.verb.prepareCollection();
