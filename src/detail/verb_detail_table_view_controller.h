@@ -141,7 +141,7 @@ private:
     void readDivisions(platform::Database& database);
     void play(const std::vector<PlayableRow>& rows);
 
-    platform::Services services_;
+    const platform::Services& services_;
     ConjugationGrid grid_;
     ViewRecord record_;
     VolumeWarning volumeWarning_;

@@ -37,14 +37,18 @@ Tags tagsOf(platform::RunStyle style)
 QString withBreaks(const std::string& part, bool atSpaces)
 {
     auto text = toQString(part);
-    return !atSpaces ? text : text.replace(u'-', QChar{0x2011}).replace(u")(", QStringLiteral(")\u2060("));
+    return !atSpaces ? text
+                     : text.replace(u'-', QChar{0x2011})
+                           .replace(QStringLiteral(")("), QStringLiteral(")\u2060("));
 }
 
 } // namespace
 
 LineSettingValue toValue(const platform::LineSetting& setting, const std::string& text)
 {
-    LineSettingValue value{{}, toQString(setting.hint), toQString(setting.caption),
+    LineSettingValue value{{},
+                           toQString(setting.hint),
+                           toQString(setting.caption),
                            toQString(setting.accessibilityHint)};
     const bool atSpaces = text.find(' ') != std::string::npos;
     for (const auto& run : setting.runs) {

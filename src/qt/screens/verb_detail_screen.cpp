@@ -12,7 +12,8 @@ namespace lumora::qt {
 
 VerbDetailScreen::VerbDetailScreen(
     std::shared_ptr<detail::VerbDetailTableViewController> controller)
-    : Screen{controller, QStringLiteral("VerbDetailPage")}, detail_{std::move(controller)}
+    : TableScreen{controller, *controller->tableView, QStringLiteral("VerbDetailPage")},
+      detail_{std::move(controller)}
 {
     detail_->setOutletListener([this] { emit outletsChanged(); });
     detail_->setSpeechListener([this] { emit speechChanged(); });
@@ -22,11 +23,6 @@ VerbDetailScreen::~VerbDetailScreen()
 {
     detail_->setOutletListener({});
     detail_->setSpeechListener({});
-}
-
-QtTableView* VerbDetailScreen::table() const
-{
-    return &dynamic_cast<QtTableView&>(*detail_->tableView);
 }
 
 CollectionItemModel* VerbDetailScreen::collection() const

@@ -103,7 +103,7 @@ ScreenPage {
                 onClicked: root.verb.playTense(section - 1)
             }
             Component.onCompleted: {
-                root.verb.prepareTable();
+                root.verb.prepare();
                 // The first section is not a tense.
                 if (root.verb.topTense > 0)
                     list.positionViewAtIndex(content.table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
