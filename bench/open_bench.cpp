@@ -13,6 +13,8 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -185,6 +187,46 @@ Samples openVerbs(const std::filesystem::path& world, const QSize& size)
     return samples;
 }
 
+/// Frames of a verb's tenses that go by, and of the same window at rest.
+Figure scrollVerb(const std::filesystem::path& world)
+{
+    constexpr double kStep = 40;
+    qt::Application application{applicationOptions(world, {1024, 768})};
+    if (!application.show()) {
+        throw std::runtime_error("the window could not be built");
+    }
+    application.launch();
+    auto& window = *application.window();
+    const WindowDriver driver{window};
+    WindowDriver::wait(kSettleMilliseconds);
+    const auto cell = WindowDriver::middleOf(*driver.cells().at(1));
+    driver.press(cell);
+    driver.release(cell);
+    driver.settle();
+    auto* tenses = driver.find(QStringLiteral("tenses"));
+    if (tenses == nullptr) {
+        throw std::runtime_error("there are no tenses to scroll");
+    }
+    const auto length = tenses->property("contentHeight").toDouble() - tenses->height();
+    const auto top = tenses->property("originY").toDouble();
+    const auto frame = [&] {
+        window.update();
+        const Stopwatch watch;
+        driver.waitForFrame();
+        return watch.milliseconds();
+    };
+    Figure figure{"frame of a verb that scrolls", {}, "frame at rest", {}, "95 % in 16.7 ms", {}};
+    for (double way = 0; way < 8 * length; way += kStep) {
+        // Down and up again.
+        const auto place = std::fmod(way, 2 * length);
+        tenses->setProperty("contentY", top + std::min(place, 2 * length - place));
+        figure.own.add(frame());
+        figure.referenceSamples.add(frame());
+    }
+    figure.holds = figure.own.p95() <= 16.7;
+    return figure;
+}
+
 } // namespace
 
 Figure formsFigure(const std::filesystem::path& database, int verbs)
@@ -227,6 +269,7 @@ void measureOpening(Report& report, const std::filesystem::path& database)
                        figure.own.p95() - figure.referenceSamples.p95() <= limit;
         report.add(figure);
     }
+    report.add(scrollVerb(world.path()));
 }
 
 } // namespace lumora::bench

@@ -19,9 +19,17 @@
         <source></source>
         <translation>Anhören</translation>
     </message>
+    <message id="action.play.tense">
+        <source></source>
+        <translation>Diese Zeitform vorlesen</translation>
+    </message>
     <message id="action.remove">
         <source></source>
         <translation>Löschen</translation>
+    </message>
+    <message id="action.stop">
+        <source></source>
+        <translation>Stopp</translation>
     </message>
     <message id="app.title">
         <source></source>
@@ -148,6 +156,70 @@ Verben im Verlauf: %d</translation>
     <message id="file.replace">
         <source></source>
         <translation>Ersetzen</translation>
+    </message>
+    <message id="form.irregular">
+        <source></source>
+        <translation>unregelmäßige Form</translation>
+    </message>
+    <message id="form.stem">
+        <source></source>
+        <translation>der Stamm ändert sich</translation>
+    </message>
+    <message id="hint.compound">
+        <source></source>
+        <translation>zusammengesetzt</translation>
+    </message>
+    <message id="hint.compound_french">
+        <source></source>
+        <translation>composé</translation>
+    </message>
+    <message id="hint.feminine">
+        <source></source>
+        <translation>fem.</translation>
+    </message>
+    <message id="hint.feminine.plural">
+        <source></source>
+        <translation>fem. Pl.</translation>
+    </message>
+    <message id="hint.feminine.plural_french">
+        <source></source>
+        <translation>fém. pl.</translation>
+    </message>
+    <message id="hint.feminine_french">
+        <source></source>
+        <translation>fém.</translation>
+    </message>
+    <message id="hint.masculine">
+        <source></source>
+        <translation>mask.</translation>
+    </message>
+    <message id="hint.masculine.plural">
+        <source></source>
+        <translation>mask. Pl.</translation>
+    </message>
+    <message id="hint.masculine.plural_french">
+        <source></source>
+        <translation>masc. pl.</translation>
+    </message>
+    <message id="hint.masculine_french">
+        <source></source>
+        <translation>masc.</translation>
+    </message>
+    <message id="hint.past">
+        <source></source>
+        <translation>Perfekt</translation>
+    </message>
+    <message id="hint.past_french">
+        <source></source>
+        <translation>passé</translation>
+    </message>
+    <message id="hint.present">
+        <source></source>
+        <translation>Präsens</translation>
+    </message>
+    <message id="hint.present_french">
+        <source></source>
+        <translation>présent</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -665,6 +737,10 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Subjonctif présent</translation>
     </message>
+    <message id="tense.unused">
+        <source></source>
+        <translation>nicht gebräuchlich</translation>
+    </message>
     <message id="type.conditional.full">
         <source></source>
         <translation>Konditional</translation>
@@ -688,6 +764,10 @@ Verben im Verlauf: %d</translation>
     <message id="verb.list.full">
         <source></source>
         <translation>Französische Verben</translation>
+    </message>
+    <message id="verb.marks">
+        <source></source>
+        <translation>Stämme und Endungen hervorheben</translation>
     </message>
     <message id="verb.menu">
         <source></source>

@@ -19,9 +19,17 @@
         <source></source>
         <translation>Escuchar</translation>
     </message>
+    <message id="action.play.tense">
+        <source></source>
+        <translation>Leer este tiempo</translation>
+    </message>
     <message id="action.remove">
         <source></source>
         <translation>Eliminar</translation>
+    </message>
+    <message id="action.stop">
+        <source></source>
+        <translation>Parar</translation>
     </message>
     <message id="app.title">
         <source></source>
@@ -148,6 +156,70 @@ Verbos en el historial: %d</translation>
     <message id="file.replace">
         <source></source>
         <translation>Reemplazar</translation>
+    </message>
+    <message id="form.irregular">
+        <source></source>
+        <translation>forma irregular</translation>
+    </message>
+    <message id="form.stem">
+        <source></source>
+        <translation>la raíz cambia</translation>
+    </message>
+    <message id="hint.compound">
+        <source></source>
+        <translation>compuesto</translation>
+    </message>
+    <message id="hint.compound_french">
+        <source></source>
+        <translation>composé</translation>
+    </message>
+    <message id="hint.feminine">
+        <source></source>
+        <translation>fem.</translation>
+    </message>
+    <message id="hint.feminine.plural">
+        <source></source>
+        <translation>fem. pl.</translation>
+    </message>
+    <message id="hint.feminine.plural_french">
+        <source></source>
+        <translation>fém. pl.</translation>
+    </message>
+    <message id="hint.feminine_french">
+        <source></source>
+        <translation>fém.</translation>
+    </message>
+    <message id="hint.masculine">
+        <source></source>
+        <translation>masc.</translation>
+    </message>
+    <message id="hint.masculine.plural">
+        <source></source>
+        <translation>masc. pl.</translation>
+    </message>
+    <message id="hint.masculine.plural_french">
+        <source></source>
+        <translation>masc. pl.</translation>
+    </message>
+    <message id="hint.masculine_french">
+        <source></source>
+        <translation>masc.</translation>
+    </message>
+    <message id="hint.past">
+        <source></source>
+        <translation>pasado</translation>
+    </message>
+    <message id="hint.past_french">
+        <source></source>
+        <translation>passé</translation>
+    </message>
+    <message id="hint.present">
+        <source></source>
+        <translation>presente</translation>
+    </message>
+    <message id="hint.present_french">
+        <source></source>
+        <translation>présent</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -665,6 +737,10 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Subjonctif présent</translation>
     </message>
+    <message id="tense.unused">
+        <source></source>
+        <translation>no se usa</translation>
+    </message>
     <message id="type.conditional.full">
         <source></source>
         <translation>Condicional</translation>
@@ -688,6 +764,10 @@ Verbos en el historial: %d</translation>
     <message id="verb.list.full">
         <source></source>
         <translation>Verbos franceses</translation>
+    </message>
+    <message id="verb.marks">
+        <source></source>
+        <translation>Marcar raíces y terminaciones</translation>
     </message>
     <message id="verb.menu">
         <source></source>

@@ -19,9 +19,17 @@
         <source></source>
         <translation>Écouter</translation>
     </message>
+    <message id="action.play.tense">
+        <source></source>
+        <translation>Lire ce temps</translation>
+    </message>
     <message id="action.remove">
         <source></source>
         <translation>Supprimer</translation>
+    </message>
+    <message id="action.stop">
+        <source></source>
+        <translation>Arrêter</translation>
     </message>
     <message id="app.title">
         <source></source>
@@ -148,6 +156,70 @@ Verbes dans l’historique : %d</translation>
     <message id="file.replace">
         <source></source>
         <translation>Remplacer</translation>
+    </message>
+    <message id="form.irregular">
+        <source></source>
+        <translation>forme irrégulière</translation>
+    </message>
+    <message id="form.stem">
+        <source></source>
+        <translation>le radical change</translation>
+    </message>
+    <message id="hint.compound">
+        <source></source>
+        <translation>composé</translation>
+    </message>
+    <message id="hint.compound_french">
+        <source></source>
+        <translation>composé</translation>
+    </message>
+    <message id="hint.feminine">
+        <source></source>
+        <translation>fém.</translation>
+    </message>
+    <message id="hint.feminine.plural">
+        <source></source>
+        <translation>fém. pl.</translation>
+    </message>
+    <message id="hint.feminine.plural_french">
+        <source></source>
+        <translation>fém. pl.</translation>
+    </message>
+    <message id="hint.feminine_french">
+        <source></source>
+        <translation>fém.</translation>
+    </message>
+    <message id="hint.masculine">
+        <source></source>
+        <translation>masc.</translation>
+    </message>
+    <message id="hint.masculine.plural">
+        <source></source>
+        <translation>masc. pl.</translation>
+    </message>
+    <message id="hint.masculine.plural_french">
+        <source></source>
+        <translation>masc. pl.</translation>
+    </message>
+    <message id="hint.masculine_french">
+        <source></source>
+        <translation>masc.</translation>
+    </message>
+    <message id="hint.past">
+        <source></source>
+        <translation>passé</translation>
+    </message>
+    <message id="hint.past_french">
+        <source></source>
+        <translation>passé</translation>
+    </message>
+    <message id="hint.present">
+        <source></source>
+        <translation>présent</translation>
+    </message>
+    <message id="hint.present_french">
+        <source></source>
+        <translation>présent</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -665,6 +737,10 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Subjonctif présent</translation>
     </message>
+    <message id="tense.unused">
+        <source></source>
+        <translation>inusité</translation>
+    </message>
     <message id="type.conditional.full">
         <source></source>
         <translation>Conditionnel</translation>
@@ -688,6 +764,10 @@ Verbes dans l’historique : %d</translation>
     <message id="verb.list.full">
         <source></source>
         <translation>Verbes français</translation>
+    </message>
+    <message id="verb.marks">
+        <source></source>
+        <translation>Distinguer radicaux et terminaisons</translation>
     </message>
     <message id="verb.menu">
         <source></source>

@@ -19,9 +19,17 @@
         <source></source>
         <translation>Beluisteren</translation>
     </message>
+    <message id="action.play.tense">
+        <source></source>
+        <translation>Deze tijd voorlezen</translation>
+    </message>
     <message id="action.remove">
         <source></source>
         <translation>Verwijderen</translation>
+    </message>
+    <message id="action.stop">
+        <source></source>
+        <translation>Stoppen</translation>
     </message>
     <message id="app.title">
         <source></source>
@@ -148,6 +156,70 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="file.replace">
         <source></source>
         <translation>Vervangen</translation>
+    </message>
+    <message id="form.irregular">
+        <source></source>
+        <translation>onregelmatige vorm</translation>
+    </message>
+    <message id="form.stem">
+        <source></source>
+        <translation>de stam verandert</translation>
+    </message>
+    <message id="hint.compound">
+        <source></source>
+        <translation>samengesteld</translation>
+    </message>
+    <message id="hint.compound_french">
+        <source></source>
+        <translation>composé</translation>
+    </message>
+    <message id="hint.feminine">
+        <source></source>
+        <translation>vrouw.</translation>
+    </message>
+    <message id="hint.feminine.plural">
+        <source></source>
+        <translation>vrouw. mv.</translation>
+    </message>
+    <message id="hint.feminine.plural_french">
+        <source></source>
+        <translation>fém. pl.</translation>
+    </message>
+    <message id="hint.feminine_french">
+        <source></source>
+        <translation>fém.</translation>
+    </message>
+    <message id="hint.masculine">
+        <source></source>
+        <translation>mann.</translation>
+    </message>
+    <message id="hint.masculine.plural">
+        <source></source>
+        <translation>mann. mv.</translation>
+    </message>
+    <message id="hint.masculine.plural_french">
+        <source></source>
+        <translation>masc. pl.</translation>
+    </message>
+    <message id="hint.masculine_french">
+        <source></source>
+        <translation>masc.</translation>
+    </message>
+    <message id="hint.past">
+        <source></source>
+        <translation>voltooid</translation>
+    </message>
+    <message id="hint.past_french">
+        <source></source>
+        <translation>passé</translation>
+    </message>
+    <message id="hint.present">
+        <source></source>
+        <translation>tegenwoordig</translation>
+    </message>
+    <message id="hint.present_french">
+        <source></source>
+        <translation>présent</translation>
     </message>
     <message id="history.empty">
         <source></source>
@@ -665,6 +737,10 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Subjonctif présent</translation>
     </message>
+    <message id="tense.unused">
+        <source></source>
+        <translation>niet in gebruik</translation>
+    </message>
     <message id="type.conditional.full">
         <source></source>
         <translation>Conditionalis</translation>
@@ -688,6 +764,10 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="verb.list.full">
         <source></source>
         <translation>Franse werkwoorden</translation>
+    </message>
+    <message id="verb.marks">
+        <source></source>
+        <translation>Stammen en uitgangen markeren</translation>
     </message>
     <message id="verb.menu">
         <source></source>

@@ -25,11 +25,4 @@ void CERoundProgressLayer::drawInContext(platform::VectorContext& context,
     context.fillPath(tintColor);
 }
 
-std::unique_ptr<platform::AnimatedLayer> CERoundProgressLayer::presentationCopy(float value) const
-{
-    auto copy = std::make_unique<CERoundProgressLayer>(*this);
-    copy->progress = value;
-    return copy;
-}
-
 } // namespace lumora::detail

@@ -3,13 +3,14 @@
 
 #pragma once
 
-#include "platform/screens/animated_layer.h"
+#include "platform/screens/animated_view.h"
 
 namespace lumora::detail {
 
 /// What a round progress indicator draws: a disc in the track colour and over
-/// it a wedge in the tint colour, clockwise from the start angle.
-class CERoundProgressLayer final : public platform::AnimatedLayer {
+/// it a wedge in the tint colour, clockwise from the start angle. A copy with
+/// another progress is a frame of an animation.
+class CERoundProgressLayer {
 public:
     /// 0 to 1.
     float progress = 0;
@@ -18,8 +19,7 @@ public:
     platform::Color tintColor{0.2, 0.45, 0.8, 1};
     platform::Color trackColor = platform::kWhiteColor;
 
-    void drawInContext(platform::VectorContext& context, platform::Size bounds) const override;
-    std::unique_ptr<platform::AnimatedLayer> presentationCopy(float value) const override;
+    void drawInContext(platform::VectorContext& context, platform::Size bounds) const;
 };
 
 } // namespace lumora::detail

@@ -18,11 +18,7 @@ void CERoundProgressView::setProgress(float progress, bool animated)
     const float target = progress >= 0 ? std::min(progress, 1.0F) : 0.0F;
     const float from = layer_.progress;
     layer_.progress = target;
-    if (animated && host_ != nullptr) {
-        host_->addAnimation(from, target, animationDuration);
-    } else {
-        setNeedsDisplay();
-    }
+    tell({from, target, animated ? animationDuration : 0});
 }
 
 void CERoundProgressView::setTintColor(const platform::Color& color)
@@ -43,11 +39,17 @@ void CERoundProgressView::setStartAngle(float angle)
     setNeedsDisplay();
 }
 
-void CERoundProgressView::setNeedsDisplay()
+void CERoundProgressView::draw(platform::VectorContext& context, platform::Size bounds,
+                               float value) const
 {
-    if (host_ != nullptr) {
-        host_->setNeedsDisplay();
-    }
+    auto presentation = layer_;
+    presentation.progress = value;
+    presentation.drawInContext(context, bounds);
+}
+
+void CERoundProgressView::setNeedsDisplay() const
+{
+    tell({layer_.progress, layer_.progress, 0});
 }
 
 } // namespace lumora::detail

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "detail/ce_round_progress_layer.h"
-#include "platform/screens/animated_layer.h"
+#include "platform/screens/animated_view.h"
 
 namespace lumora::detail {
 
@@ -28,15 +28,13 @@ public:
     float startAngle() const { return layer_.startAngle; }
     void setStartAngle(float angle);
 
-    const platform::AnimatedLayer& layer() const override { return layer_; }
-    bool isRunning() const override { return layer_.progress > 0; }
-    void setHost(platform::LayerHost* host) override { host_ = host; }
+    float value() const override { return layer_.progress; }
+    void draw(platform::VectorContext& context, platform::Size bounds, float value) const override;
 
 private:
-    void setNeedsDisplay();
+    void setNeedsDisplay() const;
 
     CERoundProgressLayer layer_;
-    platform::LayerHost* host_ = nullptr;
 };
 
 } // namespace lumora::detail

@@ -3,6 +3,8 @@
 
 #include "detail/conjugation_grid.h"
 
+#include "detail/form_setting.h"
+#include "platform/machine/bundle.h"
 #include "platform/machine/crash_reporter.h"
 #include "text/pronoun.h"
 
@@ -43,17 +45,10 @@ const data::TenseBlock* blockAt(ShownMood shown, int position)
     return isThere ? &blocks[static_cast<std::size_t>(position)] : nullptr;
 }
 
-const data::ConjugationList& formsAt(ShownMood shown, int position)
-{
-    static const data::ConjugationList kNone;
-    const auto* block = blockAt(shown, position);
-    return block == nullptr ? kNone : shown.verb->*(block->tense.forms);
-}
-
 /// Null where the tense has no such row.
 std::shared_ptr<const data::Conjugation> formAt(ShownMood shown, int position, int row)
 {
-    const auto& forms = formsAt(shown, position);
+    const auto& forms = ConjugationGrid::forms(shown, position);
     const bool isThere = row >= 0 && static_cast<std::size_t>(row) < forms.size();
     return isThere ? forms[static_cast<std::size_t>(row)] : nullptr;
 }
@@ -79,6 +74,13 @@ ConjugationGrid::ConjugationGrid(const platform::Bundle& bundle,
     : bundle_{bundle}, settings_{settings}, device_{device}, crashReporter_{crashReporter}
 {}
 
+const data::ConjugationList& ConjugationGrid::forms(ShownMood shown, int position)
+{
+    static const data::ConjugationList kNone;
+    const auto* block = blockAt(shown, position);
+    return block == nullptr ? kNone : shown.verb->*(block->tense.forms);
+}
+
 int ConjugationGrid::numberOfSections(ShownMood shown)
 {
     return countFor(kTableSections, shown);
@@ -86,7 +88,7 @@ int ConjugationGrid::numberOfSections(ShownMood shown)
 
 int ConjugationGrid::numberOfRowsInSection(ShownMood shown, int section)
 {
-    return section == 0 ? 1 : static_cast<int>(formsAt(shown, section - 1).size());
+    return section == 0 ? 1 : static_cast<int>(forms(shown, section - 1).size());
 }
 
 std::string ConjugationGrid::tenseTitle(const data::TenseBlock& block) const
@@ -104,6 +106,28 @@ std::optional<std::string> ConjugationGrid::titleForHeaderInSection(ShownMood sh
 std::string ConjugationGrid::translation(ShownMood shown) const
 {
     return shown.verb == nullptr ? std::string{} : shown.verb->translation(settings_, device_);
+}
+
+platform::LineSetting ConjugationGrid::setting(ShownMood shown, int position, std::size_t row) const
+{
+    const auto* block = blockAt(shown, position);
+    const auto& rows = forms(shown, position);
+    if (block == nullptr || row >= rows.size()) {
+        return {};
+    }
+    auto hints = hintsOf(block->tense.identifier, rows, [this](std::string_view key) {
+        return data::tenseTitle(key, bundle_, settings_);
+    });
+    auto setting = std::move(hints[row]);
+    if (shown.divisions != nullptr) {
+        auto [runs, noteKey] = markedForm(*rows[row], *shown.divisions);
+        setting.runs = std::move(runs);
+        if (!noteKey.empty()) {
+            setting.accessibilityHint += setting.accessibilityHint.empty() ? "" : ", ";
+            setting.accessibilityHint += platform::localizedString(bundle_, noteKey);
+        }
+    }
+    return setting;
 }
 
 platform::TableCell ConjugationGrid::cellForRow(ShownMood shown, platform::IndexPath path)
@@ -125,35 +149,48 @@ platform::TableCell ConjugationGrid::cellForRow(ShownMood shown, platform::Index
     }
     cell.text = row->form->pronoun;
     cell.detailText = row->form->verb;
+    cell.setting = setting(shown, path.section - 1, static_cast<std::size_t>(path.row));
     cell.accessibilityLabel = spokenName(*row->form);
     cell.control = platform::PlayControl{row->indicator};
     return cell;
 }
 
-std::optional<PlayableRow> ConjugationGrid::playableRow(ShownMood shown, platform::IndexPath path)
+std::optional<PlayableRow> ConjugationGrid::playable(ShownMood shown, int position, int row)
 {
-    auto form = formAt(shown, path.section - 1, path.row);
+    auto form = formAt(shown, position, row);
     if (form == nullptr) {
         return std::nullopt;
     }
-    return PlayableRow{std::move(form), indicatorFor(shown.segment, path)};
+    return PlayableRow{std::move(form), indicatorFor(shown.segment, position, row)};
 }
 
-std::shared_ptr<CERoundProgressView> ConjugationGrid::indicatorFor(int segment,
-                                                                   platform::IndexPath path)
+std::optional<PlayableRow> ConjugationGrid::playableRow(ShownMood shown, platform::IndexPath path)
 {
-    // Kept for the row, so that a redrawn row shows the ring it had.
-    const auto section = static_cast<std::size_t>(path.section);
-    const auto row = static_cast<std::size_t>(path.row);
-    auto& sections = rowIndicators_[moodOf(segment)];
-    if (sections.size() <= section) {
-        sections.resize(section + 1);
+    return playable(shown, path.section - 1, path.row);
+}
+
+std::vector<PlayableRow> ConjugationGrid::playableTense(ShownMood shown, int position)
+{
+    std::vector<PlayableRow> rows;
+    while (auto row = playable(shown, position, static_cast<int>(rows.size()))) {
+        rows.push_back(*std::move(row));
     }
-    auto& indicators = sections[section];
-    while (indicators.size() <= row) {
+    return rows;
+}
+
+std::shared_ptr<CERoundProgressView> ConjugationGrid::indicatorFor(int segment, int position,
+                                                                   int row)
+{
+    const auto at = static_cast<std::size_t>(std::max(position, 0));
+    auto& positions = indicators_[moodOf(segment)];
+    if (positions.size() <= at) {
+        positions.resize(at + 1);
+    }
+    auto& indicators = positions[at];
+    while (indicators.size() <= static_cast<std::size_t>(row)) {
         indicators.push_back(makePlayIndicator());
     }
-    return indicators[row];
+    return indicators[static_cast<std::size_t>(row)];
 }
 
 std::optional<platform::IndexPath> ConjugationGrid::pathOf(ShownMood shown,
@@ -187,9 +224,9 @@ VerbCollectionViewCell& ConjugationGrid::collectionCell(int segment, int item)
         cells.resize(index + 1);
     }
     auto& cell = cells[index];
-    for (auto& indicator : cell.progressView) {
-        if (!indicator) {
-            indicator = makePlayIndicator();
+    for (std::size_t line = 0; line < VerbCollectionViewCell::kLines; ++line) {
+        if (!cell.progressView[line]) {
+            cell.progressView[line] = indicatorFor(segment, item, static_cast<int>(line));
         }
     }
     return cell;
@@ -199,16 +236,17 @@ platform::CollectionCell ConjugationGrid::cellForItem(ShownMood shown, int item)
 {
     auto& cell = collectionCell(shown.segment, item);
     const auto* block = blockAt(shown, item);
-    const auto& forms = formsAt(shown, item);
+    const auto& rows = forms(shown, item);
 
     cell.audioWidthConstraint.fill(0);
     cell.audioPaddingConstraint.fill(0);
     cell.titleLabel = block == nullptr ? std::string{} : tenseTitle(*block);
     for (std::size_t line = 0; line < VerbCollectionViewCell::kLines; ++line) {
-        const bool filled = line < forms.size();
-        cell.pronounLabel[line] = filled ? forms[line]->pronoun : " ";
-        cell.verbLabel[line] = filled ? forms[line]->verb : " ";
-        cell.accessibilityLabel[line] = filled ? spokenName(*forms[line]) : std::string{};
+        const bool filled = line < rows.size();
+        cell.pronounLabel[line] = filled ? rows[line]->pronoun : " ";
+        cell.verbLabel[line] = filled ? rows[line]->verb : " ";
+        cell.setting[line] = setting(shown, item, line);
+        cell.accessibilityLabel[line] = filled ? spokenName(*rows[line]) : std::string{};
         cell.progressViewPlaceholderHidden[line] = !filled;
         if (filled) {
             cell.audioPaddingConstraint[line] = kAudioPadding;
@@ -228,12 +266,10 @@ VerbCollectionViewHeader ConjugationGrid::header(ShownMood shown) const
 
 std::optional<PlayableRow> ConjugationGrid::playableLine(ShownMood shown, int item, int line)
 {
-    auto form = formAt(shown, item, line);
-    if (form == nullptr || static_cast<std::size_t>(line) >= VerbCollectionViewCell::kLines) {
+    if (line < 0 || static_cast<std::size_t>(line) >= VerbCollectionViewCell::kLines) {
         return std::nullopt;
     }
-    const auto& cell = collectionCell(shown.segment, item);
-    return PlayableRow{std::move(form), cell.progressView[static_cast<std::size_t>(line)]};
+    return playable(shown, item, line);
 }
 
 } // namespace lumora::detail

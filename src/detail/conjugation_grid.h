@@ -4,6 +4,7 @@
 #pragma once
 
 #include "data/conjugation.h"
+#include "data/form_parts.h"
 #include "data/tense_table.h"
 #include "detail/verb_collection_view_cell.h"
 #include "detail/verb_collection_view_header.h"
@@ -11,6 +12,7 @@
 #include "platform/screens/table_cell.h"
 
 #include <array>
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,6 +33,8 @@ struct ShownMood {
     /// Not owned; null where no verb is selected.
     const data::Verb* verb = nullptr;
     int segment = 0;
+    /// Not owned; null where stems and endings are not marked.
+    const data::FormDivisions* divisions = nullptr;
 };
 
 /// A form and the ring of its play control.
@@ -44,7 +48,8 @@ struct PlayableRow {
 ///
 /// Section 0 of the table is the translation; the tense at position p is
 /// section p + 1 of the table and item p of the collection. The grid keeps the
-/// rings, by mood, so that a ring stays with its form when the mood changes.
+/// rings, one a form, so that a ring stays with its form when the mood changes
+/// or the table turns into the collection.
 /// What the constructor takes must outlive the object.
 class ConjugationGrid {
 public:
@@ -67,6 +72,12 @@ public:
     /// `line` is one of the six of the square, from 0.
     std::optional<PlayableRow> playableLine(ShownMood shown, int item, int line);
 
+    /// The forms of the tense at a position, in their order; none where there
+    /// is no such tense.
+    static const data::ConjugationList& forms(ShownMood shown, int position);
+    /// All rows of that tense.
+    std::vector<PlayableRow> playableTense(ShownMood shown, int position);
+
 private:
     template <typename Kept>
     using ByMood = std::array<Kept, data::kMoodCount>;
@@ -74,7 +85,9 @@ private:
 
     std::string tenseTitle(const data::TenseBlock& block) const;
     std::string translation(ShownMood shown) const;
-    std::shared_ptr<CERoundProgressView> indicatorFor(int segment, platform::IndexPath path);
+    platform::LineSetting setting(ShownMood shown, int position, std::size_t row) const;
+    std::optional<PlayableRow> playable(ShownMood shown, int position, int row);
+    std::shared_ptr<CERoundProgressView> indicatorFor(int segment, int position, int row);
     VerbCollectionViewCell& collectionCell(int segment, int item);
 
     const platform::Bundle& bundle_;
@@ -82,8 +95,8 @@ private:
     const platform::Device& device_;
     platform::CrashReporter& crashReporter_;
     ByMood<std::vector<VerbCollectionViewCell>> cells_;
-    /// By section and row of the table.
-    ByMood<std::vector<Indicators>> rowIndicators_;
+    /// By position of the tense and row.
+    ByMood<std::vector<Indicators>> indicators_;
 };
 
 } // namespace lumora::detail

@@ -16,17 +16,27 @@ Playback::Playback(platform::SpeechSynthesizerFactory& speech, platform::AudioSe
     : speech_{speech}, audioSession_{audioSession}, console_{console}
 {}
 
-void Playback::play(const platform::Utterance& utterance,
-                    std::shared_ptr<CERoundProgressView> indicator,
-                    platform::SpeechSynthesizerDelegate& delegate)
+void Playback::play(std::deque<SpokenRow> rows, platform::SpeechSynthesizerDelegate& delegate)
 {
     if (speechSynthesizer().isSpeaking()) {
         stop();
     }
-    currentAudioProgress = std::move(indicator);
-    prepareAudioSession();
-    speechSynthesizer().setDelegate(&delegate);
-    speechSynthesizer().speak(utterance);
+    rest_ = std::move(rows);
+    playNext(delegate);
+}
+
+void Playback::playNext(platform::SpeechSynthesizerDelegate& delegate)
+{
+    if (!rest_.empty()) {
+        auto row = std::move(rest_.front());
+        rest_.pop_front();
+        currentAudioProgress = std::move(row.indicator);
+        spokenText_ = row.utterance.text;
+        prepareAudioSession();
+        speechSynthesizer().setDelegate(&delegate);
+        speechSynthesizer().speak(row.utterance);
+    }
+    tellChange();
 }
 
 platform::SpeechSynthesizer& Playback::speechSynthesizer()
@@ -49,12 +59,27 @@ void Playback::prepareAudioSession()
 
 void Playback::stop()
 {
+    rest_.clear();
+    endRow();
+    tellChange();
+}
+
+void Playback::endRow()
+{
     speechSynthesizer().stopSpeaking();
     if (currentAudioProgress) {
         currentAudioProgress->setProgress(0);
     }
     if (const auto invalidate = std::exchange(audioTimer, nullptr)) {
         invalidate();
+    }
+    spokenText_.clear();
+}
+
+void Playback::tellChange() const
+{
+    if (changed) {
+        changed();
     }
 }
 
@@ -65,12 +90,13 @@ void Playback::willSpeakRange(std::size_t location, const platform::Utterance& u
     }
 }
 
-void Playback::didFinish()
+void Playback::didFinish(platform::SpeechSynthesizerDelegate& delegate)
 {
     if (currentAudioProgress) {
         currentAudioProgress->setProgress(1);
     }
-    stop();
+    endRow();
+    playNext(delegate);
 }
 
 } // namespace lumora::detail

@@ -15,7 +15,8 @@ platform::CollectionCell VerbCollectionViewCell::content() const
                              audioPaddingConstraint[line],
                              progressViewPlaceholderHidden[line],
                              {progressView[line]},
-                             accessibilityLabel[line]});
+                             accessibilityLabel[line],
+                             setting[line]});
     }
     return cell;
 }

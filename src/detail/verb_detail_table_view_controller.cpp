@@ -23,6 +23,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <deque>
 #include <ostream>
 #include <utility>
 
@@ -92,6 +93,7 @@ void VerbDetailTableViewController::viewDidLoad()
     if (const auto opened = openedForm ? data::positionOfTense(openedForm->tense) : std::nullopt) {
         verbTypeSegmentedControl.selected = opened->segment;
     }
+    marksForms_ = settings::ViewMemory{services_.viewMemory}.marksForms();
     showVerb();
 
     refresh_ = data::observe<data::RefreshConjugations>(
@@ -150,6 +152,7 @@ void VerbDetailTableViewController::showVerb()
             !record_.recordHistory(database, selectedVerb->id)) {
             logReadingError(database);
         }
+        readDivisions(database);
     });
     data::post(services_.notifications, data::VerbViewed{selectedVerb});
 }
@@ -161,6 +164,16 @@ platform::DatabaseQueue& VerbDetailTableViewController::sharedQueue() const
         std::abort();
     }
     return *queue;
+}
+
+void VerbDetailTableViewController::readDivisions(platform::Database& database)
+{
+    if (auto divisions = data::readFormDivisions(database, selectedVerb->id)) {
+        divisions_ = std::move(*divisions);
+    } else {
+        services_.console << "Unable to read how the forms divide: " << divisions.error().message
+                          << std::endl;
+    }
 }
 
 void VerbDetailTableViewController::logReadingError(const platform::Database& database)
@@ -242,7 +255,8 @@ void VerbDetailTableViewController::selectVerbTypes(int segment)
 
 ShownMood VerbDetailTableViewController::shown() const
 {
-    return {selectedVerb.get(), verbTypeSegmentedControl.selected};
+    return {selectedVerb.get(), verbTypeSegmentedControl.selected,
+            marksForms_ ? &divisions_ : nullptr};
 }
 
 std::optional<platform::IndexPath> VerbDetailTableViewController::openedPath() const
@@ -289,7 +303,7 @@ platform::TableCell VerbDetailTableViewController::cellForRow(platform::IndexPat
 void VerbDetailTableViewController::accessoryButtonTapped(platform::IndexPath path)
 {
     if (const auto row = grid_.playableRow(shown(), path)) {
-        play(*row);
+        play({*row});
     }
 }
 
@@ -322,11 +336,18 @@ void VerbDetailTableViewController::audioTapped(int item, int row)
     constexpr int kSection = 0;
     services_.console << "Row " << item << ", section: " << kSection << std::endl;
     if (const auto line = grid_.playableLine(shown(), item, row)) {
-        play(*line);
+        play({*line});
     }
 }
 
-void VerbDetailTableViewController::play(const PlayableRow& row)
+void VerbDetailTableViewController::playTense(int position)
+{
+    if (const auto rows = grid_.playableTense(shown(), position); !rows.empty()) {
+        play(rows);
+    }
+}
+
+void VerbDetailTableViewController::play(const std::vector<PlayableRow>& rows)
 {
     if (!selectedVerb) {
         services_.console << "It shouldn't be possible for the verb to be null when we reach here."
@@ -334,9 +355,41 @@ void VerbDetailTableViewController::play(const PlayableRow& row)
         return;
     }
     volumeWarning_.showIfDue(*this);
-    playback_.play(AudioUtils::utteranceFor(*row.form, RowSounds{*selectedVerb, queue}, voice(),
-                                            services_.settings),
-                   row.indicator, *this);
+    const RowSounds sounds{*selectedVerb, queue};
+    std::deque<SpokenRow> spoken;
+    for (const auto& row : rows) {
+        spoken.push_back({AudioUtils::utteranceFor(*row.form, sounds, voice(), services_.settings),
+                          row.indicator});
+    }
+    playback_.play(std::move(spoken), *this);
+}
+
+void VerbDetailTableViewController::setSpeechListener(std::function<void()> listener)
+{
+    playback_.changed = std::move(listener);
+}
+
+void VerbDetailTableViewController::setMarksForms(bool marks)
+{
+    marksForms_ = marks;
+    if (const auto kept = settings::ViewMemory{services_.viewMemory}.setMarksForms(marks); !kept) {
+        services_.console << "Unable to keep the marks: " << kept.error().message << std::endl;
+    }
+    refreshConjugations();
+    outletsChanged();
+}
+
+bool VerbDetailTableViewController::hasForms() const
+{
+    return selectedVerb && std::any_of(data::kTenses.begin(), data::kTenses.end(),
+                                       [this](const data::TenseField& tense) {
+                                           return !((*selectedVerb).*(tense.forms)).empty();
+                                       });
+}
+
+const data::ConjugationList& VerbDetailTableViewController::formsOfTense(int position) const
+{
+    return ConjugationGrid::forms(shown(), position);
 }
 
 platform::Voice VerbDetailTableViewController::voice() const
@@ -360,7 +413,7 @@ void VerbDetailTableViewController::willSpeakRange(std::size_t location, std::si
 
 void VerbDetailTableViewController::didFinish(const platform::Utterance& /*utterance*/)
 {
-    playback_.didFinish();
+    playback_.didFinish(*this);
 }
 
 void VerbDetailTableViewController::didCancel(const platform::Utterance& /*utterance*/)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "data/form_parts.h"
 #include "data/news.h"
 #include "data/tense_table.h"
 #include "data/verb.h"
@@ -23,6 +24,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace lumora::platform {
 class Database;
@@ -96,6 +98,23 @@ public:
     platform::Voice voice() const;
     void chooseVoice(platform::Voice voice);
 
+    /// Speaks the rows of a tense of the chosen mood one after another.
+    void playTense(int position);
+    void stopSpeaking() { playback_.stop(); }
+    const std::string& spokenText() const { return playback_.spokenText(); }
+    /// Called when another row is spoken, or none any more.
+    void setSpeechListener(std::function<void()> listener);
+
+    /// Whether stems and endings are told apart; so it is on every verb's screen.
+    bool marksForms() const { return marksForms_; }
+    void setMarksForms(bool marks);
+
+    /// Whether there is anything to say of a tense without forms: nothing is
+    /// known of it after a failed reading.
+    bool hasForms() const;
+    /// Of a tense of the chosen mood.
+    const data::ConjugationList& formsOfTense(int position) const;
+
     int numberOfSections() override;
     int numberOfRowsInSection(int section) override;
     std::optional<std::string> titleForHeaderInSection(int section) override;
@@ -127,13 +146,16 @@ private:
     void outletsChanged();
     platform::DatabaseQueue& sharedQueue() const;
     void logReadingError(const platform::Database& database);
-    void play(const PlayableRow& row);
+    void readDivisions(platform::Database& database);
+    void play(const std::vector<PlayableRow>& rows);
 
     const platform::Services& services_;
     ConjugationGrid grid_;
     ViewRecord record_;
     VolumeWarning volumeWarning_;
     std::function<void()> outletListener_;
+    data::FormDivisions divisions_;
+    bool marksForms_ = true;
     bool buttonsEnabled_ = false;
     platform::NotificationCenter::Subscription refresh_;
     platform::NotificationCenter::Subscription favouriteToggled_;

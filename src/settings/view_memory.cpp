@@ -24,6 +24,7 @@ constexpr std::string_view kHeight = "window_height";
 constexpr std::string_view kMaximized = "window_maximized";
 /// Beyond it nobody had a window.
 constexpr std::int64_t kLongestSide = 20000;
+constexpr std::string_view kMarks = "marks";
 
 } // namespace
 
@@ -74,6 +75,19 @@ platform::Result<void> ViewMemory::setWindow(std::optional<WindowSize> size, boo
         store_.setValue(std::int64_t{size->height}, kHeight);
     }
     store_.setValue(maximized, kMaximized);
+    return store_.synchronize();
+}
+
+bool ViewMemory::marksForms() const
+{
+    const auto stored = store_.objectForKey(kMarks);
+    const auto* marks = stored ? std::get_if<bool>(&*stored) : nullptr;
+    return marks == nullptr || *marks;
+}
+
+platform::Result<void> ViewMemory::setMarksForms(bool marks)
+{
+    store_.setValue(marks, kMarks);
     return store_.synchronize();
 }
 

@@ -43,6 +43,9 @@ public:
     std::optional<WindowSize> windowSize() const;
     bool windowMaximized() const;
     platform::Result<void> setWindow(std::optional<WindowSize> size, bool maximized);
+    /// Whether stems and endings are told apart; they are at first.
+    bool marksForms() const;
+    platform::Result<void> setMarksForms(bool marks);
 
 private:
     platform::SettingsStore& store_;

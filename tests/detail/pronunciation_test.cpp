@@ -243,6 +243,42 @@ TEST_F(Pronunciation, ASecondTapStopsTheFirst)
     EXPECT_FALSE(voice().isSpeaking());
 }
 
+TEST_F(Pronunciation, ATenseIsReadRowByRowUntilSomethingStopsIt)
+{
+    std::string told;
+    detail.setSpeechListener([&] { told += "[" + detail.spokenText() + "]"; });
+
+    detail.playTense(0);
+    voice().reachWord(3, 4);
+    EXPECT_GT(ringOfRow({1, 0}), 0);
+    voice().reachEnd();
+    voice().reachWord(0, 2);
+    EXPECT_EQ(ringOfRow({1, 0}), 0);
+    EXPECT_GT(ringOfRow({1, 1}), 0) << "the row being read is the marked one";
+    voice().reachEnd();
+    EXPECT_EQ(told, "[je vais][tu vas][]");
+    EXPECT_FALSE(voice().isSpeaking());
+
+    detail.playTense(0);
+    detail.stopSpeaking();
+    EXPECT_EQ(ringOfRow({1, 0}), 0);
+    detail.playTense(0);
+    detail.accessoryButtonTapped({1, 1});
+    voice().reachEnd();
+    EXPECT_FALSE(voice().isSpeaking()) << "a tap ends the reading";
+    detail.playTense(1);
+    EXPECT_EQ(voice().spoken.size(), 5U) << "a tense without forms has nothing to read";
+    EXPECT_EQ(detail.spokenText(), "");
+}
+
+TEST_F(Pronunciation, TableAndCollectionShowTheSameRing)
+{
+    detail.accessoryButtonTapped({1, 1});
+    voice().reachWord(3, 3);
+    EXPECT_GT(ringOfLine(0, 1), 0.1F);
+    EXPECT_EQ(ringOfLine(0, 0), 0);
+}
+
 TEST_F(Pronunciation, AnotherMoodNeitherStopsTheSpeechNorShowsItsRing)
 {
     detail.accessoryButtonTapped({1, 0});

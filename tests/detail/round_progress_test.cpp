@@ -13,21 +13,10 @@ namespace {
 
 using detail::CERoundProgressView;
 
-class RecordingHost final : public platform::LayerHost {
+class RecordingListener final : public platform::ViewChangeListener {
 public:
-    struct Animation {
-        float from;
-        float to;
-        double duration;
-        bool operator==(const Animation&) const = default;
-    };
-    void setNeedsDisplay() override { ++redraws; }
-    void addAnimation(float from, float to, double duration) override
-    {
-        animations.push_back({from, to, duration});
-    }
-    int redraws = 0;
-    std::vector<Animation> animations;
+    void viewChanged(const platform::ViewChange& change) override { changes.push_back(change); }
+    std::vector<platform::ViewChange> changes;
 };
 
 TEST(RoundProgress, AnimatesRisingAndJumpsFalling)
@@ -45,15 +34,14 @@ TEST(RoundProgress, AnimatesRisingAndJumpsFalling)
     for (const auto& c : cases) {
         CERoundProgressView view;
         view.setProgress(c.from, false);
-        RecordingHost host;
-        view.setHost(&host);
+        RecordingListener listener;
+        view.addListener(&listener);
 
         view.setProgress(c.to);
 
         EXPECT_EQ(view.progress(), c.stored);
-        EXPECT_EQ(host.redraws, c.animated ? 0 : 1);
-        const std::vector<RecordingHost::Animation> one{{c.from, c.stored, 0.25}};
-        EXPECT_EQ(host.animations, c.animated ? one : std::vector<RecordingHost::Animation>{});
+        const platform::ViewChange change{c.from, c.stored, c.animated ? 0.25 : 0};
+        EXPECT_EQ(listener.changes, std::vector{change});
     }
 }
 

@@ -106,6 +106,37 @@ TEST_F(VerbDetail, ShowsARowAsPronounFormAndPlayControl)
     EXPECT_EQ(world.crashReporter.lines.back(), "Unable to find conjugation for table row [1, 7]");
 }
 
+TEST_F(VerbDetail, MarksStemsAndEndingsUntilTheReaderTurnsItOff)
+{
+    // Of the third row by order, an ending of one byte and a changed stem.
+    world.execute("INSERT INTO form_divisions VALUES(7, x'0000070000')");
+    world.execute("INSERT INTO verb_facts VALUES(3, 3, 'aller', NULL, 'être', '', '', 1, 7)");
+    const auto detail = open(aller);
+    detail->selectVerbTypes(3);
+    using platform::RunStyle;
+    const std::vector<platform::TextRun> marked{{"v", RunStyle::Underlined},
+                                                {"a", RunStyle::Accent}};
+
+    const auto cell = detail->cellForRow({1, 0});
+    EXPECT_EQ(cell.setting.runs, marked);
+    EXPECT_EQ(cell.setting.hint, "tu");
+    EXPECT_EQ(cell.setting.accessibilityHint, "tu, form.stem");
+    EXPECT_EQ(cell.text, "") << "the label of the pronoun stays empty";
+    EXPECT_EQ(detail->cellForItem(0).rows[0].setting.runs, marked);
+
+    detail->setMarksForms(false);
+    EXPECT_TRUE(detail->cellForRow({1, 0}).setting.runs.empty());
+    EXPECT_EQ(detail->cellForRow({1, 0}).setting.accessibilityHint, "tu");
+    EXPECT_FALSE(open(aller)->marksForms()) << "on the next verb's screen";
+}
+
+TEST_F(VerbDetail, KnowsATenseOutOfUseFromAFailedReading)
+{
+    EXPECT_TRUE(open(aller)->hasForms());
+    world.execute("DROP TABLE conjugation");
+    EXPECT_FALSE(open(world.verb(3))->hasForms());
+}
+
 TEST_F(VerbDetail, FillsACollectionCellWithSixLines)
 {
     for (int order = 10; order < 17; ++order) {

@@ -14,7 +14,7 @@ namespace {
 using platform::FileSettingsStore;
 using platform::Voice;
 
-TEST(ViewMemory, KeepsTheVoiceInItsFileAtOnce)
+TEST(ViewMemory, KeepsVoiceAndMarksInItsFileAtOnce)
 {
     const support::TemporaryFolder folder;
     const auto file = folder / "config" / "view.json";
@@ -25,6 +25,10 @@ TEST(ViewMemory, KeepsTheVoiceInItsFileAtOnce)
         FileSettingsStore read{file};
         EXPECT_EQ(ViewMemory{read}.voice(), voice);
     }
+    EXPECT_TRUE(ViewMemory{store}.marksForms()) << "at the first start";
+    ASSERT_TRUE(ViewMemory{store}.setMarksForms(false));
+    FileSettingsStore read{file};
+    EXPECT_FALSE(ViewMemory{read}.marksForms());
     support::writeContent(folder / "nowhere", "");
     FileSettingsStore lost{folder / "nowhere" / "view.json"};
     EXPECT_FALSE(ViewMemory{lost}.setVoice(Voice::Man));
@@ -59,10 +63,12 @@ TEST(ViewMemory, ReadsWhatIsUnknownAsAtTheFirstStart)
 {
     const support::TemporaryFolder folder;
     const auto file = folder / "view.json";
-    for (const char* content : {"", "[]", R"({"voice": "child"})", R"({"voice": 1})"}) {
+    for (const char* content :
+         {"", "[]", R"({"voice": "child"})", R"({"voice": 1, "marks": "no"})"}) {
         support::writeContent(file, content);
         FileSettingsStore store{file};
         EXPECT_EQ(ViewMemory{store}.voice(), Voice::Woman) << content;
+        EXPECT_TRUE(ViewMemory{store}.marksForms()) << content;
     }
     support::writeContent(file, R"({"voice": "man", "of a later version": 3})");
     FileSettingsStore store{file};

@@ -21,6 +21,7 @@ struct CollectionRow {
     PlayControl control;
     /// What a screen reader says; empty where the line is.
     std::string accessibilityLabel;
+    LineSetting setting{};
 };
 
 /// What one square of a collection shows.

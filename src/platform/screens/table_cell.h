@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include "platform/screens/animated_layer.h"
+#include "platform/screens/animated_view.h"
+#include "platform/screens/line_setting.h"
 
 #include <memory>
 #include <optional>
@@ -37,6 +38,7 @@ struct TableCell {
     /// in brackets. Empty for none.
     std::string note;
     std::string detailText;
+    LineSetting setting;
     /// Name of an image of ours; empty for none.
     std::string image;
     std::string accessibilityIdentifier;

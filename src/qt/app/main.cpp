@@ -133,19 +133,19 @@ int runApplication(const CommandLine& commandLine, const InstanceRequest& reques
     return status;
 }
 
-ShownProgram showForTour(const QSize& window, bool dark, const std::filesystem::path& home)
+ShownProgram showForTour(const Look& look, const std::filesystem::path& home)
 {
     ApplicationOptions options;
     options.folders = {home / "data", home / "config", home / "state"};
     options.shareFolder = shareFolder();
     options.launchArguments = {"ui_test"};
-    options.windowSize = window;
+    options.windowSize = look.window;
     auto application = std::make_shared<Application>(options);
     if (!application->show()) {
         return {};
     }
     application->launch();
-    application->appearance().setDesktop({.dark = dark});
+    application->appearance().setDesktop({.dark = look.dark, .textScale = look.textScale});
     return {application, application->window()};
 }
 

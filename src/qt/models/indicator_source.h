@@ -3,53 +3,58 @@
 
 #pragma once
 
-#include "platform/screens/animated_layer.h"
+#include "platform/screens/animated_view.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
+#include <QVariantAnimation>
 
 #include <memory>
 #include <vector>
 
 namespace lumora::qt {
 
-/// A controller's animated view as QML items see it. It is the view's one
-/// host, however many items show it, and keeps the view while it lives.
-class IndicatorSource final : public QObject, public platform::LayerHost {
+/// A controller's animated view as QML items see it, with the animation that
+/// runs. It keeps the view while it lives.
+class IndicatorSource final : public QObject, public platform::ViewChangeListener {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Belongs to a model")
+    /// Something goes on: the view's number is above 0, or still on its way.
     Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
 
 public:
     explicit IndicatorSource(std::shared_ptr<platform::AnimatedView> view);
     ~IndicatorSource() override;
 
-    const platform::AnimatedLayer& layer() const { return view_->layer(); }
-    bool isRunning() const { return view_->isRunning(); }
+    bool isRunning() const { return running_; }
+    /// Where the animation has come to; the view's own number while none runs.
+    float shownValue() const;
+    void draw(platform::VectorContext& context, platform::Size bounds) const
+    {
+        view_->draw(context, bounds, shownValue());
+    }
     /// Whether nobody but this object keeps the view any more.
     bool isOrphaned() const { return view_.use_count() == 1; }
     bool isFor(const platform::AnimatedView* view) const { return view_.get() == view; }
 
-    void setNeedsDisplay() override
-    {
-        emit displayNeeded();
-        emit runningChanged();
-    }
-    void addAnimation(float from, float to, double duration) override
-    {
-        emit animationAdded(from, to, duration);
-        emit runningChanged();
-    }
+    /// A change at once leaves what still runs its time; what it made of the
+    /// number is seen after that.
+    void viewChanged(const platform::ViewChange& change) override;
 
 signals:
     void displayNeeded();
-    /// It may have changed.
     void runningChanged();
-    void animationAdded(float from, float to, double duration);
 
 private:
+    bool isAnimating() const;
+    void animate(const platform::ViewChange& change);
+    void update();
+
     std::shared_ptr<platform::AnimatedView> view_;
+    /// Made for the first change that takes time: most views never see one.
+    std::unique_ptr<QVariantAnimation> animation_;
+    bool running_ = false;
 };
 
 /// The sources of one table or collection, one for each view.

@@ -85,6 +85,12 @@ QVariant TableItemModel::isLastInSection(int row) const
     return path && (!next || next->section != path->section);
 }
 
+QVariant TableItemModel::isAlone(int row) const
+{
+    const bool isHeader = rows_[static_cast<std::size_t>(row)].kind == RowKind::Header;
+    return isHeader && (row + 1 == rowCount() || !cellPath(row + 1));
+}
+
 QVariant TableItemModel::canEdit(int row) const
 {
     const auto path = cellPath(row);

@@ -5,6 +5,7 @@
 
 #include "platform/screens/table_view.h"
 #include "qt/models/indicator_source.h"
+#include "qt/models/line_setting_value.h"
 
 #include <QAbstractListModel>
 #include <QColor>
@@ -76,6 +77,9 @@ public:
         SelectedRole,
         LastInSectionRole,
         AccessibleNameRole,
+        SettingRole,
+        /// Of a header under which there are no cells.
+        AloneRole,
     };
 
     explicit TableItemModel(platform::TableDataSource& source, QObject* parent = nullptr);
@@ -154,6 +158,7 @@ private:
     QVariant isSelected(int row) const;
     QVariant isLastInSection(int row) const;
     QVariant canEdit(int row) const;
+    QVariant isAlone(int row) const;
 
     void load();
     void replaceRows(std::vector<Row> rows, std::vector<Section> sections);

@@ -32,6 +32,11 @@ QVariant accessibleNameOf(const TableCell& cell, IndicatorPool& /*indicators*/)
     return toQString(cell.accessibilityLabel.empty() ? cell.text : cell.accessibilityLabel);
 }
 
+QVariant settingOf(const TableCell& cell, IndicatorPool& /*indicators*/)
+{
+    return QVariant::fromValue(toValue(cell.setting, cell.detailText));
+}
+
 QVariant selectableOf(const TableCell& cell, IndicatorPool& /*indicators*/)
 {
     return cell.selectable;
@@ -89,6 +94,7 @@ std::span<const TableItemModel::RoleEntry> TableItemModel::roles()
         {SelectedRole, "selected", &Model::isSelected, nullptr},
         {LastInSectionRole, "lastInSection", &Model::isLastInSection, nullptr},
         {CanEditRole, "canEdit", &Model::canEdit, nullptr},
+        {AloneRole, "alone", &Model::isAlone, nullptr},
         {TextRole, "text", nullptr, textOf<&TableCell::text>},
         {NoteRole, "note", nullptr, textOf<&TableCell::note>},
         {DetailTextRole, "detailText", nullptr, textOf<&TableCell::detailText>},
@@ -96,6 +102,7 @@ std::span<const TableItemModel::RoleEntry> TableItemModel::roles()
         {IdentifierRole, "identifier", nullptr, textOf<&TableCell::accessibilityIdentifier>},
         {AccessibleNameRole, "accessibleName", nullptr, accessibleNameOf},
         {ReuseIdentifierRole, "reuseIdentifier", nullptr, textOf<&TableCell::reuseIdentifier>},
+        {SettingRole, "setting", nullptr, settingOf},
         {SelectableRole, "selectable", nullptr, selectableOf},
         {DisclosureRole, "disclosure", nullptr, disclosureOf},
         {ControlRole, "control", nullptr, controlKindOf},

@@ -3,17 +3,53 @@
 
 #include "qt/screens/round_progress_item.h"
 
-#include "qt/screens/painter_vector_context.h"
+#include "qt/base/color_conversion.h"
 
 #include <QPainter>
+#include <QPainterPath>
+
+#include <numbers>
 
 namespace lumora::qt {
+
+namespace {
+
+/// Draws a view's paths with a painter, which it does not own.
+class PainterVectorContext final : public platform::VectorContext {
+public:
+    explicit PainterVectorContext(QPainter& painter) : painter_{painter} {}
+
+    void addEllipse(platform::Point topLeft, platform::Size size) override
+    {
+        path_.addEllipse(topLeft.x, topLeft.y, size.width, size.height);
+    }
+    void addArc(platform::Point center, double radius, double startAngle, double endAngle) override
+    {
+        const QRectF circle{center.x - radius, center.y - radius, 2 * radius, 2 * radius};
+        // QPainterPath counts degrees against the clock.
+        const double start = -startAngle * 180 / std::numbers::pi;
+        const double sweep = -(endAngle - startAngle) * 180 / std::numbers::pi;
+        path_.arcMoveTo(circle, start);
+        path_.arcTo(circle, start, sweep);
+    }
+    void addLineTo(platform::Point point) override { path_.lineTo(point.x, point.y); }
+    void closePath() override { path_.closeSubpath(); }
+    void fillPath(const platform::Color& color) override
+    {
+        painter_.fillPath(path_, toQColor(color));
+        path_ = {};
+    }
+
+private:
+    QPainter& painter_;
+    QPainterPath path_;
+};
+
+} // namespace
 
 RoundProgressItem::RoundProgressItem(QQuickItem* parent) : QQuickPaintedItem{parent}
 {
     setAntialiasing(true);
-    connect(&animation_, &QVariantAnimation::valueChanged, this, [this] { update(); });
-    connect(&animation_, &QVariantAnimation::finished, this, [this] { update(); });
 }
 
 void RoundProgressItem::setSource(IndicatorSource* source)
@@ -24,31 +60,13 @@ void RoundProgressItem::setSource(IndicatorSource* source)
     if (source_) {
         source_->disconnect(this);
     }
-    animation_.stop();
     source_ = source;
     if (source_) {
-        connect(source_, &IndicatorSource::displayNeeded, this, [this] {
-            // A value set at once ends what still runs towards another.
-            animation_.stop();
-            update();
-        });
-        connect(source_, &IndicatorSource::animationAdded, this, &RoundProgressItem::animate);
-        connect(source_, &QObject::destroyed, this, [this] {
-            animation_.stop();
-            emit sourceChanged();
-        });
+        connect(source_, &IndicatorSource::displayNeeded, this, [this] { update(); });
+        connect(source_, &QObject::destroyed, this, &RoundProgressItem::sourceChanged);
     }
     update();
     emit sourceChanged();
-}
-
-void RoundProgressItem::animate(float from, float to, double duration)
-{
-    animation_.stop();
-    animation_.setStartValue(from);
-    animation_.setEndValue(to);
-    animation_.setDuration(static_cast<int>(duration * 1000));
-    animation_.start();
 }
 
 void RoundProgressItem::paint(QPainter* painter)
@@ -58,14 +76,7 @@ void RoundProgressItem::paint(QPainter* painter)
     }
     painter->setRenderHint(QPainter::Antialiasing);
     PainterVectorContext context{*painter};
-    const platform::Size bounds{width(), height()};
-    if (animation_.state() == QAbstractAnimation::Running) {
-        source_->layer()
-            .presentationCopy(animation_.currentValue().toFloat())
-            ->drawInContext(context, bounds);
-    } else {
-        source_->layer().drawInContext(context, bounds);
-    }
+    source_->draw(context, {width(), height()});
 }
 
 } // namespace lumora::qt

@@ -7,11 +7,10 @@
 
 #include <QPointer>
 #include <QQuickPaintedItem>
-#include <QVariantAnimation>
 
 namespace lumora::qt {
 
-/// Paints a controller's animated view and runs its animations.
+/// Paints a controller's animated view, frame by frame.
 class RoundProgressItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(RoundProgress)
@@ -29,10 +28,7 @@ signals:
     void sourceChanged();
 
 private:
-    void animate(float from, float to, double duration);
-
     QPointer<IndicatorSource> source_;
-    QVariantAnimation animation_;
 };
 
 } // namespace lumora::qt

@@ -16,11 +16,13 @@ VerbDetailScreen::VerbDetailScreen(
       detail_{std::move(controller)}
 {
     detail_->setOutletListener([this] { emit outletsChanged(); });
+    detail_->setSpeechListener([this] { emit speechChanged(); });
 }
 
 VerbDetailScreen::~VerbDetailScreen()
 {
     detail_->setOutletListener({});
+    detail_->setSpeechListener({});
 }
 
 CollectionItemModel* VerbDetailScreen::collection() const
@@ -67,6 +69,33 @@ QColor VerbDetailScreen::selectBackground() const
 QColor VerbDetailScreen::selectBorder() const
 {
     return toQColor(detail_->selectVerbLabel.borderColor);
+}
+
+QString VerbDetailScreen::spokenText() const
+{
+    return toQString(detail_->spokenText()).trimmed();
+}
+
+QStringList VerbDetailScreen::leadingTextsOf(int tense) const
+{
+    QStringList texts;
+    const int rows = detail_->numberOfRowsInSection(tense + 1);
+    for (int row = 0; row < rows; ++row) {
+        const auto cell = detail_->cellForRow({tense + 1, row});
+        for (const auto& text : {cell.text, cell.setting.hint, cell.setting.caption}) {
+            texts += toQString(text);
+        }
+    }
+    return texts;
+}
+
+QStringList VerbDetailScreen::formsOf(int tense) const
+{
+    QStringList forms;
+    for (const auto& form : detail_->formsOfTense(tense)) {
+        forms += toQString(form->verb);
+    }
+    return forms;
 }
 
 } // namespace lumora::qt

@@ -34,6 +34,11 @@ class VerbDetailScreen final : public lumora::qt::TableScreen {
     Q_PROPERTY(double selectBorderWidth READ selectBorderWidth CONSTANT)
     // The woman's 0, the man's 1.
     Q_PROPERTY(int voice READ voice NOTIFY outletsChanged)
+    Q_PROPERTY(bool marksForms READ marksForms WRITE setMarksForms NOTIFY outletsChanged)
+    // Whether a tense without any is one that is not in use.
+    Q_PROPERTY(bool hasForms READ hasForms NOTIFY outletsChanged)
+    // What is being spoken; empty for nothing.
+    Q_PROPERTY(QString spokenText READ spokenText NOTIFY speechChanged)
     // Where the person has scrolled to, from one page to the next.
     Q_PROPERTY(int topTense READ topTense WRITE setTopTense NOTIFY topTenseChanged)
     // The form that was searched for, by its tense in the chosen mood and its row;
@@ -71,6 +76,15 @@ public:
     {
         detail_->chooseVoice(static_cast<platform::Voice>(voice));
     }
+    bool marksForms() const { return detail_->marksForms(); }
+    void setMarksForms(bool marks) { detail_->setMarksForms(marks); }
+    bool hasForms() const { return detail_->hasForms(); }
+    QString spokenText() const;
+    /// Pronouns, hints and captions of a tense of the chosen mood; its forms.
+    Q_INVOKABLE QStringList leadingTextsOf(int tense) const;
+    Q_INVOKABLE QStringList formsOf(int tense) const;
+    Q_INVOKABLE void playTense(int tense) { detail_->playTense(tense); }
+    Q_INVOKABLE void stopSpeaking() { detail_->stopSpeaking(); }
     Q_INVOKABLE void selectMood(int segment) { detail_->selectVerbTypes(segment); }
     /// The page is about to draw the collection.
     Q_INVOKABLE void prepareCollection() const { collection()->loadIfNeeded(); }
@@ -78,6 +92,7 @@ public:
 signals:
     void outletsChanged();
     void topTenseChanged();
+    void speechChanged();
 
 private:
     std::shared_ptr<detail::VerbDetailTableViewController> detail_;

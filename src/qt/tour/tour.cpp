@@ -27,15 +27,20 @@ constexpr int kHoldMilliseconds = 600;
 constexpr QSize kPhone{390, 844};
 constexpr QSize kTablet{1024, 768};
 
+std::string nameOf(const Look& look)
+{
+    return std::string{look.window == kTablet ? "tablet" : "phone"} +
+           (look.dark ? "-dark" : "-light") + (look.textScale > 1 ? "-large" : "");
+}
+
 class Guide {
 public:
-    Guide(QQuickWindow& window, const QSize& size, bool dark, std::filesystem::path folder)
+    Guide(QQuickWindow& window, const Look& look, std::filesystem::path folder)
         : window_{window},
           driver_{window},
           folder_{std::move(folder)},
-          prefix_{std::string{size == kTablet ? "tablet" : "phone"} +
-                  (dark ? "-dark-" : "-light-")},
-          tablet_{size == kTablet}
+          prefix_{nameOf(look) + "-"},
+          tablet_{look.window == kTablet}
     {}
 
     bool failed() const { return failed_; }
@@ -51,8 +56,10 @@ public:
         swipeOpen();
         preview();
         search();
+        unusedTense();
         tap("aller");
         moods();
+        reading();
         share();
         if (!tablet_) {
             tap("backButton");
@@ -60,6 +67,16 @@ public:
         tabs();
         rowMenu();
         sideMenu();
+    }
+
+    /// Texts of twice their size have the least room here.
+    void goThroughLongVerb()
+    {
+        driver_.settle();
+        picture("list");
+        find("désinstitutionnaliser");
+        tap("désinstitutionnaliser");
+        moods();
     }
 
 private:
@@ -185,24 +202,25 @@ private:
             {"irions", "search-form"},
             {"acceuillir", "search-guess"},
             {"vis", "search-cards"}};
-        auto* field = item("Search");
-        if (field == nullptr) {
-            return;
-        }
-        const auto search = [&](const char* text, const char* name) {
-            field->setProperty("text", QString::fromUtf8(text));
-            driver_.settle();
-            picture(name);
-        };
         for (const auto& [text, name] : kTexts) {
-            search(text, name);
+            find(text);
+            picture(name);
         }
         tap("reading0");
         picture("detail-form");
         if (!tablet_) {
             tap("backButton");
         }
-        search("all", "search");
+        find("all");
+        picture("search");
+    }
+
+    void find(const char* text)
+    {
+        if (auto* field = item("Search")) {
+            field->setProperty("text", QString::fromUtf8(text));
+            driver_.settle();
+        }
     }
 
     void moods()
@@ -219,6 +237,27 @@ private:
             picture("detail-wide");
             tap("bar.displayMode");
         }
+    }
+
+    void unusedTense()
+    {
+        find("gésir");
+        tap("gésir");
+        picture("detail-unused");
+        if (!tablet_) {
+            tap("backButton");
+        }
+        find("all");
+    }
+
+    void reading()
+    {
+        tap("bar.more");
+        picture("detail-menu");
+        press(Qt::Key_Escape);
+        tap("playTense");
+        picture("detail-reading");
+        tap("stopSpeaking");
     }
 
     void tabs()
@@ -288,18 +327,20 @@ int runTour(const std::filesystem::path& folder, const StartProgram& start)
     }
     const std::filesystem::path home{toUtf8(world.path())};
     bool failed = false;
-    for (const auto& size : {kPhone, kTablet}) {
-        for (const bool dark : {false, true}) {
-            const auto shown = start(
-                size, dark, home / (std::to_string(size.width()) + (dark ? "-dark" : "-light")));
-            if (shown.window == nullptr) {
-                std::cerr << "tour: the window could not be built\n";
-                return 1;
-            }
-            Guide guide{*shown.window, size, dark, folder};
-            guide.goThroughScreens();
-            failed = failed || guide.failed();
+    for (const Look& look : {Look{kPhone}, Look{kPhone, true}, Look{kTablet}, Look{kTablet, true},
+                             Look{kPhone, false, 2}, Look{kTablet, false, 2}}) {
+        const auto shown = start(look, home / nameOf(look));
+        if (shown.window == nullptr) {
+            std::cerr << "tour: the window could not be built\n";
+            return 1;
         }
+        Guide guide{*shown.window, look, folder};
+        if (look.textScale > 1) {
+            guide.goThroughLongVerb();
+        } else {
+            guide.goThroughScreens();
+        }
+        failed = failed || guide.failed();
     }
     return failed ? 1 : 0;
 }

@@ -22,15 +22,21 @@ struct ShownProgram {
     QQuickWindow* window = nullptr;
 };
 
-/// Starts the whole program with a window of that size, in dark or light
-/// colours, with all its files below `home`.
+/// What a round of the tour is seen in.
+struct Look {
+    QSize window;
+    bool dark = false;
+    double textScale = 1;
+};
+
+/// Starts the whole program in that look, with all its files below `home`.
 using StartProgram =
-    std::function<ShownProgram(const QSize& window, bool dark, const std::filesystem::path& home)>;
+    std::function<ShownProgram(const Look& look, const std::filesystem::path& home)>;
 
 /// Drives the real program through every screen, in both sizes and both themes,
-/// and writes a picture of each into `folder`. It has files of its own, so
-/// nothing of a person's changes. The exit status: 0 when every picture was
-/// written.
+/// through a long verb's page in large text as well, and writes a picture of each into `folder`. It
+/// has files of its own, so nothing of a person's changes. The exit status: 0 when every picture
+/// was written.
 int runTour(const std::filesystem::path& folder, const StartProgram& start);
 
 } // namespace lumora::qt

@@ -83,9 +83,7 @@ TEST_F(WindowTest, APlayControlSpeaksItsRowOnAPhoneAndItsLineOnATablet)
         ASSERT_NE(control, nullptr);
         auto* const source = control->property("source").value<IndicatorSource*>();
         ASSERT_NE(source, nullptr);
-        const auto progress = [&] {
-            return dynamic_cast<const detail::CERoundProgressLayer&>(source->layer()).progress;
-        };
+        const auto progress = [&] { return source->shownValue(); };
         EXPECT_EQ(progress(), 0);
         tap("play");
         EXPECT_TRUE(until([&] { return progress() > 0.3F; }));

@@ -98,6 +98,39 @@ TEST_F(Journey, ChooseTheVoiceInTheMenuOfAVerb)
     EXPECT_THAT(support::contentOf(file), testing::HasSubstr("woman\""));
 }
 
+TEST_F(Journey, HaveATenseReadAndStopIt)
+{
+    start(kPhone);
+    touch("aller", "playTense");
+    ASSERT_TRUE(settled("stopSpeaking"));
+    keys("Esc");
+    EXPECT_TRUE(until([&] { return find("stopSpeaking") == nullptr; }));
+    EXPECT_NE(find("playTense"), nullptr) << "the page is still there";
+
+    touch("play");
+    touch("stopSpeaking");
+    EXPECT_TRUE(until([&] { return find("stopSpeaking") == nullptr; }));
+
+    // It goes on while the window turns, and ends by itself.
+    keys("Ctrl+Space");
+    ASSERT_TRUE(settled("stopSpeaking"));
+    turn({1024, 768});
+    ASSERT_TRUE(settled("tenses"));
+    EXPECT_TRUE(until([&] { return find("stopSpeaking") == nullptr; }));
+}
+
+TEST_F(Journey, ReadAVerbInLargeText)
+{
+    start({1024, 768});
+    touch("aller");
+    ASSERT_TRUE(settled("tenses"));
+    const auto rowHeight = [&] { return find("play")->height(); };
+    const auto before = rowHeight();
+    application->appearance().setDesktop({.textScale = 2});
+    EXPECT_TRUE(until([&] { return find("tenses") == nullptr && find("play") != nullptr; }));
+    EXPECT_TRUE(until([&] { return rowHeight() > before; }));
+}
+
 TEST_F(Journey, ClearTheHistorySwitchItOffAndItsTabGoes)
 {
     start(kPhone);
@@ -326,15 +359,17 @@ TEST_F(Journey, TurnTheDeviceAndFindEverythingAsItWas)
     closeOptions();
     EXPECT_EQ(find("Search")->property("text").toString(), QLatin1String("a"));
 
-    // A verb's tenses, as squares and as a table.
+    // A verb's tenses, as a table where squares have no room.
     touch("aller");
+    EXPECT_EQ(find("tenses"), nullptr);
+    turn({800, 700});
     ASSERT_TRUE(settled("tenses"));
     drag({600, 330}, {600, 100});
     ASSERT_TRUE(until([&] { return !find("tenses")->property("moving").toBool(); }));
     EXPECT_GT(position("tenses"), 100);
     turn({390, 360});
     EXPECT_TRUE(until([&] { return position() > 50; }));
-    turn({800, 360});
+    turn({800, 700});
     EXPECT_TRUE(until([&] { return position("tenses") > 100; }));
 }
 

@@ -3,11 +3,11 @@
 
 #include "detail/ce_round_progress_view.h"
 #include "qt/models/indicator_source.h"
-#include "qt/screens/painter_vector_context.h"
 #include "qt/screens/round_progress_item.h"
 
 #include <QPainter>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <cmath>
 #include <numbers>
@@ -20,17 +20,15 @@ namespace {
 constexpr platform::Color kBlue{0, 0, 1, 1};
 
 /// The colour at an angle (clockwise from three o'clock) and a part of the radius
-/// of the disc, in a frame of an animation that has come that far.
-QColor colorAt(const detail::CERoundProgressView& view, float progress, double degrees,
-               const QSize& size, double part = 0.7)
+/// of the disc, as it is painted now.
+QColor colorAt(RoundProgressItem& item, double degrees, double part = 0.7)
 {
+    const auto size = item.size().toSize();
     QImage image{size, QImage::Format_ARGB32_Premultiplied};
     image.fill(Qt::transparent);
     {
         QPainter painter{&image};
-        PainterVectorContext context{painter};
-        view.layer().presentationCopy(progress)->drawInContext(
-            context, {static_cast<double>(size.width()), static_cast<double>(size.height())});
+        item.paint(&painter);
     }
     const double angle = degrees * std::numbers::pi / 180;
     const double radius = std::min(size.width(), size.height()) / 2.0 * part;
@@ -58,48 +56,70 @@ TEST(RoundProgress, FillsAWedgeClockwiseFromItsStartAngle)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::to_string(c.progress) + " at " + std::to_string(c.degrees));
-        detail::CERoundProgressView view;
-        view.setTintColor(kBlue);
-        view.setStartAngle(c.startAngle);
-        view.setProgress(1, false);
-        for (const QSize size : {QSize{60, 60}, {100, 60}}) {
-            EXPECT_EQ(colorAt(view, c.progress, c.degrees, size),
-                      c.filled ? QColor{Qt::blue} : QColor{Qt::white});
-            EXPECT_EQ(colorAt(view, c.progress, 45, size, 1.1).alpha(), 0)
-                << "the disc is as large as fits";
+        const auto view = std::make_shared<detail::CERoundProgressView>();
+        view->setTintColor(kBlue);
+        view->setStartAngle(c.startAngle);
+        view->setProgress(c.progress, false);
+        IndicatorSource source{view};
+        RoundProgressItem item;
+        item.setSource(&source);
+        for (const QSizeF size : {QSizeF{60, 60}, {100, 60}}) {
+            item.setSize(size);
+            EXPECT_EQ(colorAt(item, c.degrees), c.filled ? QColor{Qt::blue} : QColor{Qt::white});
+            EXPECT_EQ(colorAt(item, 45, 1.1).alpha(), 0) << "the disc is as large as fits";
         }
     }
 }
 
-TEST(RoundProgress, AnimationsReachEveryItemAndEitherSideMayGoFirst)
+TEST(RoundProgress, AnAnimationIsSeenToItsEndThoughTheNumberFallsMeanwhile)
+{
+    const auto view = std::make_shared<detail::CERoundProgressView>();
+    view->setTintColor(kBlue);
+    IndicatorSource table{view};
+    IndicatorSource cards{view};
+    for (auto* source : {&table, &cards}) {
+        RoundProgressItem item;
+        item.setSize({60, 60});
+        item.setSource(source);
+        view->setProgress(0.6F, false);
+        EXPECT_TRUE(source->isRunning());
+        QSignalSpy frames{source, &IndicatorSource::displayNeeded};
+
+        // As at the end of an utterance.
+        view->setProgress(1);
+        view->setProgress(0);
+
+        EXPECT_EQ(view->progress(), 0);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return source->shownValue() > 0.9F; }));
+        EXPECT_TRUE(source->isRunning());
+        EXPECT_EQ(colorAt(item, 310), QColor{Qt::blue}) << "beyond where it was";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !source->isRunning(); }));
+        EXPECT_EQ(source->shownValue(), 0);
+        EXPECT_EQ(colorAt(item, 310), QColor{Qt::white});
+        EXPECT_GT(frames.count(), 5);
+    }
+}
+
+TEST(RoundProgress, AnItemLosesItsSourceWhenTheControllerDropsTheView)
 {
     auto view = std::make_shared<detail::CERoundProgressView>();
     IndicatorPool pool;
     IndicatorSource* source = pool.sourceFor(view);
     EXPECT_EQ(pool.sourceFor(view), source);
-    QSignalSpy added{source, &IndicatorSource::animationAdded};
-    RoundProgressItem first;
-    first.setSource(source);
-    {
-        RoundProgressItem second;
-        second.setSource(source);
-    }
-
-    view->setProgress(0.5F);
-    ASSERT_EQ(added.count(), 1);
-    EXPECT_EQ(added[0][1].toFloat(), 0.5F);
+    RoundProgressItem item;
+    item.setSource(source);
 
     pool.dropOrphans();
-    EXPECT_EQ(first.source(), source) << "the controller still has the view";
+    EXPECT_EQ(item.source(), source) << "the controller still has the view";
     std::weak_ptr<detail::CERoundProgressView> weak = view;
     view.reset();
     EXPECT_FALSE(weak.expired()) << "kept while it is drawn";
     pool.dropOrphans();
     EXPECT_TRUE(weak.expired());
-    EXPECT_EQ(first.source(), nullptr);
+    EXPECT_EQ(item.source(), nullptr);
 }
 
-TEST(RoundProgress, AViewOutlivesItsHost)
+TEST(RoundProgress, AViewOutlivesItsListeners)
 {
     auto view = std::make_shared<detail::CERoundProgressView>();
     {

@@ -163,7 +163,8 @@ TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
     expectHeard("verb",
                 {"Button: Back", "Heading: aller", "Button: Share", "CheckBox: Favourite (checked)",
                  "RadioButton: Indicative (checked)", "RadioButton: Other", "List: aller",
-                 "ListItem: go", "Heading: Present", "ListItem: je vais", "Button: Play je vais"});
+                 "ListItem: go", "Heading: Present", "Button: Play this tense: Present",
+                 "ListItem: je vais", "Button: Play je vais", "Heading: Imperfect, not in use"});
     tap("bar.export");
     expectHeard("ways out",
                 {"Dialog: aller", "Heading: aller", "Button: Copy text", "Button: Cancel"});

@@ -226,8 +226,8 @@ TEST_P(Shapes, RingsAndSwitchesStandOut)
              {"accentText", "segment"},
              {"navigationBarTint", "barBackground"},
              {"barText", "menu"},
-             {"accentSecondary", "header"},
-             {"accentSecondary", "background"},
+             {"accentSecondaryEdge", "header"},
+             {"accentSecondaryEdge", "segment"},
              {"switchOn", "raised"},
              {"switchOff", "raised"},
              {"segmentOn", "segment"},
@@ -237,6 +237,14 @@ TEST_P(Shapes, RingsAndSwitchesStandOut)
             << shape << " on " << ground << ' ' << toUtf8(color(shape).name()) << ' '
             << toUtf8(color(ground).name());
     }
+    // Endings, the light words of a form and what stands before it, also in the
+    // row that is being read.
+    for (const char* ink : {"accentText", "textSecondary", "text"}) {
+        for (const char* ground : {"background", "raised", "header", "pressed"}) {
+            EXPECT_GE(contrast(color(ink), color(ground)), kForText) << ink << " on " << ground;
+        }
+    }
+    EXPECT_GE(contrast(color("accentSecondaryInk"), color("accentSecondary")), kForText);
 }
 
 INSTANTIATE_TEST_SUITE_P(Themes, Shapes, testing::Bool());

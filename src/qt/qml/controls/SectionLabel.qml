@@ -9,6 +9,8 @@ Rectangle {
     id: root
 
     property alias text: label.text
+    // At its end, for what else stands there.
+    property real room: 0
 
     color: Theme.header
     Accessible.role: Accessible.Heading
@@ -18,13 +20,15 @@ Rectangle {
         id: label
         anchors.fill: parent
         anchors.leftMargin: Theme.margin
-        anchors.rightMargin: Theme.margin
+        anchors.rightMargin: Theme.margin + root.room
         verticalAlignment: Text.AlignVCenter
         color: Theme.accentText
         font.pixelSize: Theme.small + 1
         font.weight: Font.DemiBold
-        fontSizeMode: Text.HorizontalFit
+        fontSizeMode: Text.Fit
         minimumPixelSize: 10
+        wrapMode: Text.WordWrap
+        maximumLineCount: 2
         elide: Text.ElideRight
     }
 }

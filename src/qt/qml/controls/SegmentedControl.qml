@@ -17,6 +17,8 @@ Item {
     property string prefix: "segment"
     property bool inTabOrder: false
     property color chosenColor: Theme.segmentOn
+    // Where the colour alone does not stand out from its ground.
+    property color chosenEdge: chosenColor
     property color chosenInk: Theme.segmentInk
     property int padding: 4
     // How much less than a finger touches is drawn, above and below.
@@ -114,8 +116,8 @@ Item {
                 background: Rectangle {
                     radius: ground.radius
                     color: segment.checked ? root.chosenColor : segment.down || segment.hovered ? Theme.pressed : "transparent"
-                    border.width: segment.visualFocus ? 2 : 0
-                    border.color: Theme.accentText
+                    border.width: segment.visualFocus ? 2 : segment.checked ? 1 : 0
+                    border.color: segment.visualFocus ? Theme.accentText : root.chosenEdge
                 }
                 contentItem: Text {
                     padding: root.padding

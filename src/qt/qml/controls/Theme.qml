@@ -18,8 +18,10 @@ QtObject {
     // The person's wish to see nothing move.
     readonly property bool reducedMotion: appearance?.reducedMotion ?? false
 
-    readonly property color accentSecondary: dark ? "#f2b84b" : "#9a5b00"
-    readonly property color accentSecondaryInk: dark ? "#16191d" : "#ffffff"
+    // The emblem's gold.
+    readonly property color accentSecondary: "#f2b84b"
+    readonly property color accentSecondaryInk: "#16191d"
+    readonly property color accentSecondaryEdge: dark ? accentSecondary : "#9a5b00"
     // Accent on the page rather than behind white text.
     readonly property color accentText: dark ? "#8ab8f5" : accentPrimary
     // What the launch chose, for a light page.
@@ -58,7 +60,8 @@ QtObject {
     readonly property color playInk: "#0155b3"
     readonly property color playBorder: dark ? "#ffffff" : "#0155b3"
     // A play control at rest.
-    readonly property url playPicture: "image://icon/Play/" + String(playBorder).slice(-6)
+    readonly property url playPicture: "image://icon/Play/" + String(textSecondary).slice(-6)
+    readonly property url playTensePicture: "image://icon/PlayTense/" + String(accentText).slice(-6)
     readonly property int playPixels: Math.round(30 * pixelRatio)
 
     readonly property int small: Math.round(13 * textScale)
@@ -74,6 +77,13 @@ QtObject {
     readonly property int barHeight: Math.round(52 * Math.max(1, (barScale + 1) / 2))
     readonly property int rowHeight: Math.round(60 * Math.max(1, textScale))
     readonly property int headerHeight: Math.round(28 * Math.max(1, textScale))
+    // Of a tense, with a control in it.
+    readonly property int headingHeight: Math.max(40, headerHeight)
+    // Of a tense's square, two rows of it.
+    readonly property int cardTitle: Math.min(body, 18) - 1
+    readonly property int cardTitleHeight: 42
+    // Larger than this, texts have no room in squares of a fixed size.
+    readonly property bool largeText: textScale > 1.3
     readonly property int radius: 10
     readonly property int sheetRadius: 14
     readonly property int quick: reducedMotion ? 0 : 180
@@ -81,8 +91,12 @@ QtObject {
     readonly property int tipTime: 4000
     readonly property int slow: Math.round(quick * 1.4)
 
-    // A form that is too long goes on below at a space only.
-    function brokenAtSpaces(form) {
-        return form.includes(" ") ? form.replace(/-/g, "\u2011").replace(/\)\(/g, ")\u2060(") : form;
+    // A name that is too long goes on below at a space only.
+    function brokenAtSpaces(name) {
+        return name.includes(" ") ? name.replace(/-/g, "\u2011") : name;
+    }
+    // The colours of a mark-up that names them by what they are for.
+    function inked(markup) {
+        return markup.replace(/"accent"/g, '"' + accentText + '"').replace(/"light"/g, '"' + textSecondary + '"');
     }
 }

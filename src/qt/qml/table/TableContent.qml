@@ -15,6 +15,8 @@ T.Control {
     property alias delegate: list.delegate
     property alias list: list
     property bool stickyHeaders: true
+    // At the end of the header that stays on top.
+    property alias tools: sticky.tools
     // What a screen reader calls the table.
     property string name
     readonly property int indexWidth: index.visible ? index.width : 0
@@ -39,7 +41,7 @@ T.Control {
         if (table.model.cellAway(row, 1) < 0)
             list.positionViewAtEnd();
         list.positionViewAtIndex(row, ListView.Contain);
-        const hidden = stickyHeaders && list.currentItem ? list.contentY + Theme.headerHeight - list.currentItem.y : 0;
+        const hidden = stickyHeaders && list.currentItem ? list.contentY + sticky.height - list.currentItem.y : 0;
         if (hidden > 0)
             list.contentY = Math.max(list.originY, list.contentY - hidden);
     }
@@ -154,6 +156,7 @@ T.Control {
         }
     }
     StickyHeader {
+        id: sticky
         width: parent.width
         visible: root.stickyHeaders && title !== ""
         list: list

@@ -12,18 +12,27 @@ Rectangle {
 
     required property int index
     required property int kind
+    required property int section
     required property string title
     required property string text
-    required property string detailText
+    required property lineSetting setting
+    required property bool alone
     required property string accessibleName
     required property string reuseIdentifier
     required property IndicatorSource indicatorSource
     required property QtTableView table
+    required property VerbDetailScreen screen
+    required property TenseFits fits
     // The form that was searched for.
-    property bool marked: false
+    property bool opened: false
     readonly property bool isCell: kind === TableItemModel.Cell
     readonly property bool isForm: reuseIdentifier === "CellConjugation"
     readonly property bool isCurrent: ListView.isCurrentItem && ListView.view !== null && ListView.view.parent.activeFocus
+    // The first section is not a tense.
+    readonly property int tense: section - 1
+    readonly property bool unused: alone && title !== "" && screen.hasForms
+    readonly property var fit: isForm ? fits.of(tense) : null
+    readonly property bool stacked: fit?.stacked ?? false
 
     // What the keyboard does to a row.
     function activate() {
@@ -37,8 +46,8 @@ Rectangle {
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
 
-    implicitHeight: isCell ? Theme.touch + 4 : Theme.headerHeight
-    color: marked ? Theme.marked : isCell ? Theme.background : Theme.header
+    implicitHeight: isForm ? Math.max(Theme.touch + 4, leading.captionHeight + (stacked ? leading.height : 0) + form.height + 2 * 6) : Math.max(isCell ? Theme.touch + 4 : Theme.headingHeight, leading.height + 2 * 6)
+    color: play.running ? Theme.pressed : opened ? Theme.marked : isCell ? Theme.background : Theme.header
     border.width: isCurrent ? 2 : 0
     border.color: Theme.accentText
     Accessible.role: isCell ? Accessible.ListItem : Accessible.Heading
@@ -46,39 +55,32 @@ Rectangle {
     Accessible.focused: isCurrent
     Accessible.onPressAction: if (isForm)
         activate()
-    Accessible.name: !isCell ? title : marked ? accessibleName + ", " + qsTrId("verb.searched") : accessibleName
+    Accessible.name: opened ? accessibleName + ", " + qsTrId("verb.searched") : isCell ? accessibleName : unused ? title + ", " + qsTrId("tense.unused") : title
+    Accessible.description: setting.description
 
-    Text {
+    LeadingText {
         id: leading
+        pronoun: root.isCell ? root.text : root.unused ? root.title + " \u2013 " + qsTrId("tense.unused") : root.title
+        setting: root.setting
         x: Theme.margin
-        width: !root.isForm ? root.width - 2 * x : text === "" ? 0 : Math.round(root.width * 0.27)
-        height: parent.height
-        text: root.isCell ? root.text : root.title
+        y: root.fit === null ? (root.height - height) / 2 : root.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
+        width: root.fit === null || root.stacked ? play.x - x : root.fit.pronounWidth
+        horizontalAlignment: root.fit === null || root.stacked ? Text.AlignLeft : Text.AlignRight
         color: !root.isCell ? Theme.accentText : root.isForm ? Theme.textSecondary : Theme.text
-        font.pixelSize: !root.isCell ? Theme.small + 1 : root.isForm ? Theme.body - 1 : Theme.body
+        font.pixelSize: root.fit?.pronounSize ?? (root.isCell ? Theme.body : Theme.small + 1)
         font.weight: root.isCell ? Font.Normal : Font.DemiBold
-        font.italic: root.isCell && !root.isForm
-        fontSizeMode: root.isCell ? Text.Fit : Text.HorizontalFit
-        minimumPixelSize: 11
-        wrapMode: root.isCell ? Text.WordWrap : Text.NoWrap
-        maximumLineCount: root.isCell ? 2 : 1
-        elide: Text.ElideRight
-        verticalAlignment: Text.AlignVCenter
+        font.italic: isHint || root.isCell && !root.isForm
+        wrapMode: root.fit === null || root.stacked ? Text.WordWrap : Text.NoWrap
     }
-    Text {
+    FormText {
+        id: form
         visible: root.isForm
-        x: leading.width > 0 ? leading.x + leading.width + Theme.gap : leading.x
-        width: play.x - Theme.gap - x
-        height: parent.height
-        text: Theme.brokenAtSpaces(root.detailText)
-        color: Theme.text
-        font.pixelSize: Theme.body
-        fontSizeMode: Text.Fit
-        minimumPixelSize: 9
-        wrapMode: Text.WordWrap
-        maximumLineCount: 2
-        lineHeight: lineCount > 1 ? 0.85 : 1
-        verticalAlignment: Text.AlignVCenter
+        x: leading.x + (root.stacked || leading.width === 0 ? 0 : leading.width + (root.text.endsWith("'") ? 0 : root.fit?.blank ?? 0))
+        y: (root.height - height + leading.captionHeight + (root.stacked ? leading.height : 0)) / 2
+        width: play.x - x
+        markup: root.setting.markup
+        marked: root.screen.marksForms
+        font.pixelSize: root.fit?.size ?? Theme.body
     }
     PlayControl {
         id: play
@@ -87,13 +89,22 @@ Rectangle {
         height: parent.height
         width: 50
         focusPolicy: Qt.NoFocus
-        visible: root.isForm
+        visible: root.isForm || !root.isCell && !root.alone
+        ofTense: !root.isForm
         source: root.indicatorSource
-        spoken: root.accessibleName
-        onClicked: root.table.model.tapAccessory(root.index)
+        spoken: root.isForm ? root.accessibleName : root.title
+        onClicked: {
+            if (root.isForm)
+                root.table.model.tapAccessory(root.index);
+            else
+                root.screen.playTense(root.tense);
+        }
+        // Whoever listens to a whole tense sees what is read.
+        onRunningChanged: if (running && !(root.ListView.view?.moving ?? true))
+            root.ListView.view.positionViewAtIndex(root.index, ListView.Contain)
     }
     Loader {
-        active: root.marked
+        active: root.opened
         height: parent.height
         sourceComponent: MarkedEdge {
         }

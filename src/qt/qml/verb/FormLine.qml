@@ -5,23 +5,27 @@ import QtQuick
 import Lumora
 
 // One form of a square: pronoun, form and play control.
-Item {
+Rectangle {
     id: root
 
     required property collectionLine line
-    required property real pronounWidth
-    required property int textSize
+    // How the lines of the square fit.
+    required property var fit
+    required property bool marked
     // The form that was searched for.
-    property bool marked: false
+    property bool opened: false
 
     signal played
 
+    color: play.running ? Theme.pressed : "transparent"
+    radius: 6
     Accessible.ignored: line.accessibleName === ""
     Accessible.role: Accessible.StaticText
-    Accessible.name: marked ? line.accessibleName + ", " + qsTrId("verb.searched") : line.accessibleName
+    Accessible.name: opened ? line.accessibleName + ", " + qsTrId("verb.searched") : line.accessibleName
+    Accessible.description: line.setting.description
 
     Loader {
-        active: root.marked
+        active: root.opened
         x: -10
         width: root.width + 16
         height: root.height
@@ -34,30 +38,23 @@ Item {
             }
         }
     }
-    Text {
-        id: pronoun
-        width: root.pronounWidth
-        height: parent.height
-        text: root.line.leading
-        color: Theme.textSecondary
-        font.pixelSize: root.textSize - 1
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 11
-        verticalAlignment: Text.AlignVCenter
+    LeadingText {
+        id: leading
+        pronoun: root.line.leading
+        setting: root.line.setting
+        y: root.fit.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
+        width: root.fit.stacked ? play.x : root.fit.pronounWidth
+        horizontalAlignment: root.fit.stacked ? Text.AlignLeft : Text.AlignRight
+        font.pixelSize: root.fit.pronounSize
     }
-    Text {
-        x: root.pronounWidth > 0 ? root.pronounWidth + Theme.gap : 0
-        width: play.x - root.line.audioPadding - x
-        height: parent.height
-        text: Theme.brokenAtSpaces(root.line.trailing)
-        color: Theme.text
-        font.pixelSize: root.textSize
-        fontSizeMode: Text.Fit
-        minimumPixelSize: 9
-        wrapMode: Text.WordWrap
-        maximumLineCount: 2
-        lineHeight: lineCount > 1 ? 0.85 : 1
-        verticalAlignment: Text.AlignVCenter
+    FormText {
+        id: form
+        x: root.fit.stacked || leading.width === 0 ? 0 : leading.width + (root.line.leading.endsWith("'") ? 0 : root.fit.blank)
+        y: (root.height - height + leading.captionHeight + (root.fit.stacked ? leading.height : 0)) / 2
+        width: play.x - x
+        markup: root.line.setting.markup
+        marked: root.marked
+        font.pixelSize: root.fit.size
     }
     PlayControl {
         id: play

@@ -29,6 +29,7 @@ FocusScope {
         prefix: "mood"
         inTabOrder: true
         chosenColor: Theme.accentSecondary
+        chosenEdge: Theme.accentSecondaryEdge
         chosenInk: Theme.accentSecondaryInk
         titles: root.screen.moods
         selected: root.screen.selectedMood

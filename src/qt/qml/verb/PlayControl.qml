@@ -6,26 +6,28 @@ import QtQuick.Templates as T
 import Lumora
 
 // A round progress indicator with the play button in it. At rest, as nearly all
-// are, it is one picture.
+// are, it is one quiet picture.
 T.AbstractButton {
     id: root
 
     property IndicatorSource source
     property string spoken
+    // Reads all forms of a tense.
+    property bool ofTense: false
     readonly property bool running: source !== null && source.running
 
     implicitWidth: 30
     implicitHeight: 30
-    objectName: "play"
+    objectName: ofTense ? "playTense" : "play"
     focusPolicy: Qt.TabFocus
     opacity: down ? 0.6 : 1
-    Accessible.name: qsTrId("action.play") + " " + spoken
+    Accessible.name: ofTense ? qsTrId("action.play.tense") + ": " + spoken : qsTrId("action.play") + " " + spoken
     Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
     contentItem: Image {
-        source: Theme.playPicture
+        source: root.running ? "" : root.ofTense ? Theme.playTensePicture : Theme.playPicture
         sourceSize.width: Theme.playPixels
         sourceSize.height: Theme.playPixels
         fillMode: Image.Pad

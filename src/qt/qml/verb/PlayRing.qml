@@ -22,7 +22,7 @@ Item {
     }
     Icon {
         visible: root.running
-        name: "Pause"
+        name: "PlayAgain"
         color: Theme.playInk
         size: 30
     }
@@ -30,7 +30,7 @@ Item {
         anchors.fill: parent
         radius: 15
         color: "transparent"
-        border.width: root.focused ? 3 : 1
-        border.color: root.focused ? Theme.accentSecondary : Theme.playBorder
+        border.width: root.focused ? 3 : root.running ? 1 : 0
+        border.color: root.focused ? Theme.accentText : Theme.playBorder
     }
 }

@@ -16,24 +16,20 @@ Rectangle {
     required property collectionLine line3
     required property collectionLine line4
     required property collectionLine line5
-    // Of the forms; that of the pronouns' font is with it.
-    required property int textSize
-    required property FontMetrics metrics
+    required property VerbDetailScreen screen
+    required property TenseFits fits
     // The line of the form that was searched for; -1 for none.
     property int openedLine: -1
+    readonly property bool empty: line0.controlHidden
     readonly property bool isCurrent: GridView.isCurrentItem && GridView.view.activeFocus
 
     signal played(int line)
 
-    function pronounSpace(line) {
-        return metrics.advanceWidth(line.leading.trim());
-    }
-
     component Measures: QtObject {
         property real width
         property real height
-        property real pronounWidth
-        property int textSize
+        property var fit
+        property bool marked
     }
     // An inline component sees nothing of the card by itself.
     component Line: FormLine {
@@ -41,8 +37,8 @@ Rectangle {
 
         width: measures.width
         height: measures.height
-        pronounWidth: measures.pronounWidth
-        textSize: measures.textSize
+        fit: measures.fit
+        marked: measures.marked
     }
 
     radius: Theme.radius
@@ -53,26 +49,46 @@ Rectangle {
     Text {
         id: label
         x: 14
-        y: 10
-        width: parent.width - 28
-        height: 28
+        y: 8
+        width: play.x - x
+        height: Theme.cardTitleHeight
         text: root.title
         color: Theme.accentText
-        font.pixelSize: Theme.title
+        font.pixelSize: Theme.cardTitle
         font.weight: Font.DemiBold
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 11
+        wrapMode: Text.WordWrap
+        lineHeight: lineCount > 1 ? 0.9 : 1
         verticalAlignment: Text.AlignVCenter
         Accessible.role: Accessible.Heading
-        Accessible.name: text
+        Accessible.name: root.empty && root.screen.hasForms ? text + ", " + qsTrId("tense.unused") : text
+    }
+    PlayControl {
+        id: play
+        x: parent.width - 14 - width
+        y: label.y
+        height: label.height
+        visible: !root.empty
+        ofTense: true
+        spoken: root.title
+        onClicked: root.screen.playTense(root.index)
+    }
+    Loader {
+        anchors.centerIn: parent
+        active: root.empty && root.screen.hasForms
+        sourceComponent: Text {
+            text: qsTrId("tense.unused")
+            color: Theme.textSecondary
+            font.pixelSize: Theme.cardTitle
+            font.italic: true
+            Accessible.ignored: true
+        }
     }
     Measures {
         id: sizes
-        width: label.width
-        height: (root.height - label.y - label.height - 4 - Theme.gap) / 6
-        // As wide as the widest, but the form needs most of the line.
-        pronounWidth: Math.min(0.4 * width, Math.ceil(Math.max(root.pronounSpace(root.line0), root.pronounSpace(root.line1), root.pronounSpace(root.line2), root.pronounSpace(root.line3), root.pronounSpace(root.line4), root.pronounSpace(root.line5))))
-        textSize: root.textSize
+        width: root.width - 28
+        height: root.fits.lineHeight
+        fit: root.fits.of(root.index)
+        marked: root.screen.marksForms
     }
     Column {
         x: label.x
@@ -81,37 +97,37 @@ Rectangle {
         Line {
             measures: sizes
             line: root.line0
-            marked: root.openedLine === 0
+            opened: root.openedLine === 0
             onPlayed: root.played(0)
         }
         Line {
             measures: sizes
             line: root.line1
-            marked: root.openedLine === 1
+            opened: root.openedLine === 1
             onPlayed: root.played(1)
         }
         Line {
             measures: sizes
             line: root.line2
-            marked: root.openedLine === 2
+            opened: root.openedLine === 2
             onPlayed: root.played(2)
         }
         Line {
             measures: sizes
             line: root.line3
-            marked: root.openedLine === 3
+            opened: root.openedLine === 3
             onPlayed: root.played(3)
         }
         Line {
             measures: sizes
             line: root.line4
-            marked: root.openedLine === 4
+            opened: root.openedLine === 4
             onPlayed: root.played(4)
         }
         Line {
             measures: sizes
             line: root.line5
-            marked: root.openedLine === 5
+            opened: root.openedLine === 5
             onPlayed: root.played(5)
         }
     }

@@ -9,7 +9,8 @@ import Lumora
 Item {
     id: root
 
-    required property CollectionItemModel collection
+    required property VerbDetailScreen screen
+    readonly property CollectionItemModel collection: screen.collection
     // Of the form that was searched for; -1 for none.
     property int openedTense: -1
     property int openedLine: -1
@@ -19,8 +20,6 @@ Item {
     // A simple tense stands beside its compound one.
     readonly property int columns: fitting >= 4 ? 4 : fitting >= 2 ? 2 : 1
     readonly property real usedWidth: columns * grid.cellWidth - spacing
-    // The cards stay as they are however large texts become.
-    readonly property int textSize: Math.min(Theme.body, 22) - 1
 
     // By hand, so that this tense is the first in sight.
     signal movedTo(int tense)
@@ -32,9 +31,19 @@ Item {
             grid.currentIndex = openedTense;
     }
 
-    FontMetrics {
-        id: pronounMetrics
-        font.pixelSize: root.textSize - 1
+    TenseFits {
+        id: tenseFits
+        screen: root.screen
+        fullSize: Theme.body - 1
+        // Beside the play control of a line.
+        room: root.collection.itemWidth - 28 - 30 - 8
+        lineHeight: (root.collection.itemHeight - Theme.cardTitleHeight - 8 - 4 - Theme.gap) / 6
+    }
+    Connections {
+        target: root.collection
+        function onReloaded() {
+            ++tenseFits.revision;
+        }
     }
     GridView {
         id: grid
@@ -87,8 +96,8 @@ Item {
         }
         delegate: TenseCard {
             openedLine: index === root.openedTense ? root.openedLine : -1
-            textSize: root.textSize
-            metrics: pronounMetrics
+            screen: root.screen
+            fits: tenseFits
             width: root.collection.itemWidth
             height: root.collection.itemHeight
             onPlayed: line => root.collection.tapAudio(index, line)

@@ -12,6 +12,9 @@ ScreenPage {
     readonly property VerbDetailScreen verb: screen as VerbDetailScreen
 
     parts: verb.selectTextHidden ? moods.visible && !verb.moodsHidden ? [tenses, moods] : [tenses] : []
+    // Squares of a fixed size need room, and texts that fit into them.
+    readonly property bool asSquares: wide && !Theme.largeText && height >= 560
+
     barMenu: verb.selectTextHidden ? menu : null
 
     MoodBar {
@@ -25,9 +28,26 @@ ScreenPage {
         id: tenses
         anchors.top: moods.bottom
         anchors.bottom: parent.bottom
+        anchors.bottomMargin: speech.height
         width: parent.width
         focus: true
-        sourceComponent: root.wide ? squares : table
+        sourceComponent: root.asSquares ? squares : table
+    }
+    SpeechBar {
+        id: speech
+        anchors.bottom: parent.bottom
+        width: parent.width
+        screen: root.verb
+    }
+    Shortcut {
+        sequences: [StandardKey.Cancel] // qmllint disable unqualified
+        enabled: root.visible && root.enabled && root.verb.spokenText !== ""
+        onActivated: root.verb.stopSpeaking()
+    }
+    Shortcut {
+        sequence: "Ctrl+Space"
+        enabled: root.visible && root.enabled && root.verb.selectTextHidden
+        onActivated: root.verb.playTense(root.verb.topTense)
     }
     Rectangle {
         anchors.centerIn: parent
@@ -74,7 +94,19 @@ ScreenPage {
             delegate: ConjugationRow {
                 width: ListView.view.width
                 table: content.table
-                marked: index === content.openedRow
+                opened: index === content.openedRow
+                screen: root.verb
+                fits: tenseFits
+            }
+            tools: PlayControl {
+                readonly property int section: parent.section // qmllint disable
+
+                implicitWidth: 50
+                ofTense: true
+                focusPolicy: Qt.NoFocus
+                // That of the heading below it speaks for both.
+                Accessible.ignored: true
+                onClicked: root.verb.playTense(section - 1)
             }
             Component.onCompleted: {
                 root.verb.prepare();
@@ -87,6 +119,18 @@ ScreenPage {
                     Qt.callLater(moveTo, openedRow);
             }
 
+            TenseFits {
+                id: tenseFits
+                screen: root.verb
+                fullSize: Theme.body + 1
+                room: content.width - Theme.margin - 50 - 2 * Theme.gap
+            }
+            Connections {
+                target: content.table.model
+                function onReloaded() {
+                    ++tenseFits.revision;
+                }
+            }
             Connections {
                 target: content.list
                 function onContentYChanged() {
@@ -100,7 +144,7 @@ ScreenPage {
         id: squares
 
         TenseGrid {
-            collection: root.verb.collection
+            screen: root.verb
             openedTense: root.verb.openedTense
             openedLine: root.verb.openedLine
             onMovedTo: tense => root.verb.topTense = tense

@@ -6,7 +6,8 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Lumora
 
-// What a verb's page offers besides its buttons: whose voice speaks.
+// What a verb's page offers besides its buttons: whose voice speaks, and whether
+// stems and endings are told apart.
 Menu {
     id: root
 
@@ -78,6 +79,61 @@ Menu {
         }
     }
 
+    component MarksItem: MenuItem {
+        id: marks
+
+        implicitWidth: implicitContentWidth + leftPadding + rightPadding
+        implicitHeight: Math.max(Theme.touch, implicitContentHeight + Theme.gap)
+        leftPadding: 12
+        rightPadding: 16
+        arrow: null
+        indicator: null
+        checkable: true
+        checked: root.screen.marksForms
+        text: qsTrId("verb.marks")
+        Accessible.name: text
+        Accessible.onPressAction: triggered()
+        Accessible.onToggleAction: triggered()
+        onTriggered: {
+            root.screen.marksForms = !root.screen.marksForms;
+            checked = Qt.binding(() => root.screen.marksForms);
+        }
+
+        contentItem: Row {
+            spacing: 12
+
+            Rectangle {
+                anchors.verticalCenter: parent.verticalCenter
+                width: 18
+                height: 18
+                radius: 4
+                color: marks.checked ? Theme.accentText : "transparent"
+                border.width: 2
+                border.color: marks.checked ? Theme.accentText : Theme.textSecondary
+
+                Text {
+                    anchors.centerIn: parent
+                    visible: marks.checked
+                    text: "\u2713"
+                    color: Theme.raised
+                    font.pixelSize: 13
+                    font.weight: Font.Bold
+                    Accessible.ignored: true
+                }
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: marks.text
+                color: Theme.text
+                font.pixelSize: Theme.body
+            }
+        }
+        background: Rectangle {
+            radius: 6
+            color: marks.down || marks.highlighted ? Theme.pressed : "transparent"
+        }
+    }
+
     objectName: "verbMenu"
     margins: Theme.gap
     padding: 6
@@ -99,5 +155,8 @@ Menu {
         objectName: "voice1"
         voice: 1
         text: qsTrId("verb.voice.man")
+    }
+    MarksItem {
+        objectName: "marks"
     }
 }

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lumora::platform {
+
+/// How a part of a text stands out from the rest.
+enum class RunStyle { Plain, Light, Strong, Accent, Underlined };
+
+struct TextRun {
+    std::string text;
+    RunStyle style = RunStyle::Plain;
+
+    bool operator==(const TextRun&) const = default;
+};
+
+/// What a view adds to the two texts of a line.
+struct LineSetting {
+    /// The second text in its parts; none where it is all of one kind.
+    std::vector<TextRun> runs;
+    /// Stands in the place of the first text where there is none.
+    std::string hint;
+    /// Stands above the first line of a group.
+    std::string caption;
+    /// What a screen reader says after the line.
+    std::string accessibilityHint;
+};
+
+} // namespace lumora::platform

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/screens/line_setting.h"
+
+#include <QMetaType>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace lumora::qt {
+
+/// How a line is set, as QML sees it.
+struct LineSettingValue {
+    Q_GADGET
+    QML_VALUE_TYPE(lineSetting)
+    /// The line's second text in the toolkit's small mark-up. The colours are
+    /// called "accent" and "light": which they are is the theme's matter.
+    Q_PROPERTY(QString markup MEMBER markup FINAL)
+    Q_PROPERTY(QString hint MEMBER hint FINAL)
+    Q_PROPERTY(QString caption MEMBER caption FINAL)
+    Q_PROPERTY(QString description MEMBER description FINAL)
+
+public:
+    QString markup;
+    QString hint;
+    QString caption;
+    QString description;
+
+    bool operator==(const LineSettingValue&) const = default;
+};
+
+/// `text` is the second text as a whole, for a line without parts.
+LineSettingValue toValue(const platform::LineSetting& setting, const std::string& text);
+
+} // namespace lumora::qt

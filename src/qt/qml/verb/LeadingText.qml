@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import Lumora
+
+// What stands before a form: its pronoun or, where there is none, a hint.
+Text {
+    id: root
+
+    required property string pronoun
+    required property lineSetting setting
+    readonly property bool isHint: pronoun.trim() === ""
+    readonly property bool hasCaption: isHint && setting.caption !== ""
+    // Of the caption above the hint.
+    readonly property real captionHeight: hasCaption ? height / 2 : 0
+
+    text: !isHint ? pronoun : hasCaption ? "<b>" + setting.caption + "</b><br>" + setting.hint : setting.hint
+    textFormat: isHint ? Text.StyledText : Text.PlainText
+    color: Theme.textSecondary
+    font.italic: isHint
+    Accessible.ignored: true
+}
