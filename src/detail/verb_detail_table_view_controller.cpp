@@ -8,6 +8,7 @@
 #include "data/verb_reader.h"
 #include "detail/audio_utils.h"
 #include "detail/row_sounds.h"
+#include "detail/verb_steps.h"
 #include "export/verb_export.h"
 #include "platform/machine/analytics.h"
 #include "platform/machine/bundle.h"
@@ -42,6 +43,11 @@ VerbDetailTableViewController::~VerbDetailTableViewController() = default;
 void VerbDetailTableViewController::setOutletListener(std::function<void()> listener)
 {
     outletListener_ = std::move(listener);
+}
+
+void VerbDetailTableViewController::setWordsListener(std::function<void()> listener)
+{
+    wordsListener_ = std::move(listener);
 }
 
 void VerbDetailTableViewController::outletsChanged()
@@ -89,7 +95,12 @@ void VerbDetailTableViewController::viewDidLoad()
     showVerb();
 
     refresh_ = data::observe<data::RefreshConjugations>(
-        services_.notifications, [this](const auto& /*news*/) { refreshConjugations(); });
+        services_.notifications, [this](const auto& /*news*/) {
+            refreshConjugations();
+            if (wordsListener_) {
+                wordsListener_();
+            }
+        });
     favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
         services_.notifications, [this](const auto& news) { verbFavouriteToggled(news); });
     outletsChanged();
@@ -305,7 +316,7 @@ void VerbDetailTableViewController::audioTapped(int item, int row)
     }
 }
 
-void VerbDetailTableViewController::play(const PlayableRow& row)
+void VerbDetailTableViewController::play(const PlayableRow& row, float pace)
 {
     if (!selectedVerb) {
         services_.console << "It shouldn't be possible for the verb to be null when we reach here."
@@ -313,9 +324,52 @@ void VerbDetailTableViewController::play(const PlayableRow& row)
         return;
     }
     volumeWarning_.showIfDue(*this);
-    playback_.play(AudioUtils::utteranceFor(*row.form, RowSounds{*selectedVerb, queue}, voice(),
-                                            services_.settings),
-                   row.indicator, *this);
+    auto utterance = AudioUtils::utteranceFor(*row.form, RowSounds{*selectedVerb, queue}, voice(),
+                                              services_.settings);
+    utterance.rate *= pace;
+    playback_.play(utterance, row.indicator, *this);
+}
+
+void VerbDetailTableViewController::saySlowly(const FormPlace& place, bool fromCollection)
+{
+    constexpr float kPace = 0.6F;
+
+    const ShownMood mood{selectedVerb.get(), place.segment};
+    // The first section of the table is not a tense.
+    if (const auto row = fromCollection
+                             ? grid_.playableLine(mood, place.tense, place.row)
+                             : grid_.playableRow(mood, {place.tense + 1, place.row})) {
+        play(*row, kPace);
+    }
+}
+
+VerbGuide VerbDetailTableViewController::guide() const
+{
+    return {*selectedVerb, queue, {services_.bundle, services_.settings, services_.device},
+            services_.crashReporter};
+}
+
+bool VerbDetailTableViewController::isCardOpen(bool unlessChosen) const
+{
+    return settings::ViewMemory{services_.viewMemory}.cardOpen().value_or(unlessChosen);
+}
+
+void VerbDetailTableViewController::keepCardOpen(bool open)
+{
+    if (const auto kept = settings::ViewMemory{services_.viewMemory}.setCardOpen(open); !kept) {
+        services_.console << "Unable to keep the card: " << kept.error().message << std::endl;
+    }
+}
+
+void VerbDetailTableViewController::showNeighbour(int places)
+{
+    detail::showVerb(*this, sequence.away(places), sequence.movedBy(places), VerbStep::Replace,
+                     services_.storyboard);
+}
+
+void VerbDetailTableViewController::showRelated(std::int64_t verbId)
+{
+    detail::showVerb(*this, guide().verb(verbId), {}, VerbStep::Cover, services_.storyboard);
 }
 
 platform::Voice VerbDetailTableViewController::voice() const

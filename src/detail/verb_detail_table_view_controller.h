@@ -8,6 +8,8 @@
 #include "detail/conjugation_grid.h"
 #include "detail/playback.h"
 #include "detail/verb_detail_outlets.h"
+#include "detail/verb_guide.h"
+#include "detail/verb_sequence.h"
 #include "detail/view_record.h"
 #include "detail/volume_warning.h"
 #include "platform/base/notification_center.h"
@@ -18,6 +20,7 @@
 #include "platform/screens/view_controller.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -65,6 +68,8 @@ public:
     /// The shared queue. Not owned.
     platform::DatabaseQueue* queue = nullptr;
     data::VerbPtr selectedVerb;
+    /// The list that the verb was opened from, as it stood then.
+    VerbSequence sequence;
     /// Those of the playback.
     std::function<void()>& audioTimer = playback_.audioTimer;
     std::shared_ptr<CERoundProgressView>& currentAudioProgress = playback_.currentAudioProgress;
@@ -72,6 +77,9 @@ public:
     bool isPeeking = false;
 
     void setOutletListener(std::function<void()> listener);
+    /// The view's wish to hear when what `guide` tells is worded anew; one
+    /// listener.
+    void setWordsListener(std::function<void()> listener);
 
     /// Puts the split view's button on the left, beside the way back.
     void offerDisplayModeButton(platform::SplitViewController* splitView);
@@ -88,6 +96,20 @@ public:
     /// The one that speaks from the next row on, on every verb's screen.
     platform::Voice voice() const;
     void chooseVoice(platform::Voice voice);
+
+    /// What is told of the verb besides its tables; there must be one.
+    VerbGuide guide() const;
+    /// Whether its card shows all lines.
+    bool isCardOpen(bool unlessChosen) const;
+    void keepCardOpen(bool open);
+    /// Says a form at a pace to learn it by; `fromCollection` says whose ring
+    /// tells so.
+    void saySlowly(const FormPlace& place, bool fromCollection);
+    /// Goes on to the verb that many places away in the list, in place of this
+    /// one; this screen may be gone then.
+    void showNeighbour(int places);
+    /// Opens another verb over this one.
+    void showRelated(std::int64_t verbId);
 
     int numberOfSections() override;
     int numberOfRowsInSection(int section) override;
@@ -119,13 +141,14 @@ private:
     void updateEmptyState(double toolbarHeight);
     void outletsChanged();
     void logReadingError(const platform::Database& database);
-    void play(const PlayableRow& row);
+    void play(const PlayableRow& row, float pace = 1);
 
     platform::Services services_;
     ConjugationGrid grid_;
     ViewRecord record_;
     VolumeWarning volumeWarning_;
     std::function<void()> outletListener_;
+    std::function<void()> wordsListener_;
     bool buttonsEnabled_ = false;
     platform::NotificationCenter::Subscription refresh_;
     platform::NotificationCenter::Subscription favouriteToggled_;

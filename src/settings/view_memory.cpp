@@ -14,6 +14,7 @@ namespace lumora::settings {
 namespace {
 
 constexpr std::string_view kVoice = "voice";
+constexpr std::string_view kCardOpen = "verb_card_open";
 constexpr std::string_view kWoman = "woman";
 constexpr std::string_view kMan = "man";
 
@@ -29,6 +30,17 @@ platform::Voice ViewMemory::voice() const
 platform::Result<void> ViewMemory::setVoice(platform::Voice voice)
 {
     store_.setValue(std::string{voice == platform::Voice::Man ? kMan : kWoman}, kVoice);
+    return store_.synchronize();
+}
+
+std::optional<bool> ViewMemory::cardOpen() const
+{
+    return platform::boolObjectForKey(store_, kCardOpen);
+}
+
+platform::Result<void> ViewMemory::setCardOpen(bool open)
+{
+    store_.setValue(open, kCardOpen);
     return store_.synchronize();
 }
 

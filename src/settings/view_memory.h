@@ -6,6 +6,8 @@
 #include "platform/base/error.h"
 #include "platform/machine/speech_synthesizer.h"
 
+#include <optional>
+
 namespace lumora::platform {
 class SettingsStore;
 }
@@ -24,6 +26,11 @@ public:
     platform::Voice voice() const;
     /// Written at once; an error when the file cannot be written.
     platform::Result<void> setVoice(platform::Voice voice);
+
+    /// Whether a verb's card shows all its lines; none before anybody chose.
+    std::optional<bool> cardOpen() const;
+    /// As `setVoice`.
+    platform::Result<void> setCardOpen(bool open);
 
 private:
     platform::SettingsStore& store_;

@@ -14,7 +14,7 @@ namespace {
 using platform::FileSettingsStore;
 using platform::Voice;
 
-TEST(ViewMemory, KeepsTheVoiceInItsFileAtOnce)
+TEST(ViewMemory, KeepsWhatWasChosenInItsFileAtOnce)
 {
     const support::TemporaryFolder folder;
     const auto file = folder / "config" / "view.json";
@@ -24,6 +24,12 @@ TEST(ViewMemory, KeepsTheVoiceInItsFileAtOnce)
         ASSERT_TRUE(ViewMemory{store}.setVoice(voice));
         FileSettingsStore read{file};
         EXPECT_EQ(ViewMemory{read}.voice(), voice);
+    }
+    EXPECT_EQ(ViewMemory{store}.cardOpen(), std::nullopt);
+    for (const bool open : {false, true}) {
+        ASSERT_TRUE(ViewMemory{store}.setCardOpen(open));
+        FileSettingsStore read{file};
+        EXPECT_EQ(ViewMemory{read}.cardOpen(), open);
     }
     support::writeContent(folder / "nowhere", "");
     FileSettingsStore lost{folder / "nowhere" / "view.json"};

@@ -7,6 +7,7 @@
 #include "qt/models/qt_collection_view.h"
 #include "qt/models/qt_table_view.h"
 #include "qt/screens/screen.h"
+#include "qt/screens/verb_guide_values.h"
 
 #include <QColor>
 
@@ -32,6 +33,13 @@ class VerbDetailScreen final : public lumora::qt::Screen {
     Q_PROPERTY(double selectBorderWidth READ selectBorderWidth CONSTANT)
     // The woman's 0, the man's 1.
     Q_PROPERTY(int voice READ voice NOTIFY outletsChanged)
+    // The verb at a glance; empty where little is known of it.
+    Q_PROPERTY(QString summary READ summary NOTIFY wordsChanged)
+    // Of VerbCardLineValue.
+    Q_PROPERTY(QVariantList card READ card NOTIFY wordsChanged)
+    // Before and after it in the list; empty for none.
+    Q_PROPERTY(QString previousVerb READ previousVerb CONSTANT)
+    Q_PROPERTY(QString nextVerb READ nextVerb CONSTANT)
     // Where the person has scrolled to, from one page to the next.
     Q_PROPERTY(int topTense MEMBER topTense_ NOTIFY topTenseChanged)
 
@@ -53,12 +61,30 @@ public:
     double selectRadius() const { return detail_->selectVerbLabel.cornerRadius; }
     double selectBorderWidth() const { return detail_->selectVerbLabel.borderWidth; }
 
+    QString summary() const;
+    QVariantList card() const;
+    QString previousVerb() const { return nameAway(-1); }
+    QString nextVerb() const { return nameAway(1); }
+
     int voice() const { return static_cast<int>(detail_->voice()); }
 
     Q_INVOKABLE void chooseVoice(int voice)
     {
         detail_->chooseVoice(static_cast<platform::Voice>(voice));
     }
+    /// Of a form of the mood on show.
+    Q_INVOKABLE lumora::qt::FormSheetValue formSheet(int tense, int line) const;
+    Q_INVOKABLE lumora::qt::TenseNoteValue tenseNote(int tense) const;
+    Q_INVOKABLE void saySlowly(int tense, int line, bool fromCollection);
+    Q_INVOKABLE void copy(const QString& text) const;
+    Q_INVOKABLE void showNeighbour(int places) { detail_->showNeighbour(places); }
+    Q_INVOKABLE void showRelated(qint64 id) { detail_->showRelated(id); }
+    /// As the person left the last one, if ever.
+    Q_INVOKABLE bool isCardOpen(bool unlessChosen) const
+    {
+        return detail_->isCardOpen(unlessChosen);
+    }
+    Q_INVOKABLE void keepCardOpen(bool open) { detail_->keepCardOpen(open); }
     Q_INVOKABLE void selectMood(int segment) { detail_->selectVerbTypes(segment); }
     /// The page is about to draw the collection.
     Q_INVOKABLE void prepareCollection() const { collection()->loadIfNeeded(); }
@@ -66,9 +92,12 @@ public:
 
 signals:
     void outletsChanged();
+    void wordsChanged();
     void topTenseChanged();
 
 private:
+    QString nameAway(int places) const;
+
     std::shared_ptr<detail::VerbDetailTableViewController> detail_;
     int topTense_ = 0;
 };

@@ -53,6 +53,7 @@ public:
         search();
         tap("aller");
         moods();
+        tellings();
         share();
         if (!tablet_) {
             tap("backButton");
@@ -203,6 +204,23 @@ private:
             tap("bar.displayMode");
             picture("detail-wide");
             tap("bar.displayMode");
+        }
+    }
+
+    /// What a verb's page tells besides its tables.
+    void tellings()
+    {
+        if (!tablet_) {
+            tap("verbCard");
+            picture("detail-card");
+            tap("verbCard");
+        }
+        if (const auto* play = item("play")) {
+            click(*play->parentItem(), Qt::RightButton);
+            picture("form");
+            tap("formTense");
+            picture("tense");
+            tap("sheetDone");
         }
     }
 

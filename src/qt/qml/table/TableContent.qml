@@ -20,8 +20,12 @@ T.Control {
     readonly property int indexWidth: index.visible ? index.width : 0
     // The row that is swiped open, if one is.
     property T.SwipeDelegate openRow: null
+    // Whether its rows open the menu; else who shows the table is asked.
+    property bool hasMenu: true
     // The last row was swiped away; its controller does not know yet.
     property bool emptied: false
+
+    signal menuAsked(int row)
 
     function rowSwiped(row) {
         if (openRow !== row)
@@ -52,6 +56,10 @@ T.Control {
     }
     // Only now is there a menu: few ever ask for it.
     function showMenu(row, point) {
+        if (!hasMenu) {
+            menuAsked(row);
+            return;
+        }
         if (menu.status === Loader.Null)
             menu.setSource("qrc:/Lumora/RowMenu.qml", {
                 "table": root.table
@@ -69,7 +77,7 @@ T.Control {
     // A control has a role of its own; the list inside speaks for it.
     Accessible.ignored: true
     onVisualFocusChanged: if (visualFocus && list.currentIndex < 0)
-        moveTo(table.model.cellAway(list.indexAt(0, list.contentY + (stickyHeaders ? Theme.headerHeight : 0)) - 1, 1))
+        moveTo(table.model.cellAway(Math.max(-1, list.indexAt(0, list.contentY + (stickyHeaders ? Theme.headerHeight : 0)) - 1), 1))
 
     Keys.onPressed: event => {
         const row = list.currentItem;
@@ -89,7 +97,7 @@ T.Control {
         else if (event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
             showMenuOfCurrent();
         else if (row !== null && [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key))
-            row.activate();
+            row.activate(event.key);
         else if (row !== null && (event.key === Qt.Key_Left || event.key === Qt.Key_Right))
             event.accepted = row.adjust(event.key === Qt.Key_Left ? -1 : 1);
         else

@@ -23,9 +23,15 @@ Rectangle {
     readonly property bool isForm: reuseIdentifier === "CellConjugation"
     readonly property bool isCurrent: ListView.isCurrentItem && ListView.view !== null && ListView.view.parent.activeFocus
 
+    // For what is to be told of the form, or of the tense.
+    signal asked
+
     // What the keyboard does to a row.
-    function activate() {
-        table.model.tapAccessory(index);
+    function activate(key) {
+        if (key === Qt.Key_Space)
+            table.model.tapAccessory(index);
+        else
+            asked();
     }
     function adjust(step) {
         return false;
@@ -39,6 +45,7 @@ Rectangle {
     Accessible.focusable: isCell
     Accessible.focused: isCurrent
     Accessible.name: isCell ? accessibleName : title
+    Accessible.onPressAction: asked()
 
     Text {
         id: leading

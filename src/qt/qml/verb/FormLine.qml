@@ -13,10 +13,23 @@ Item {
     required property int textSize
 
     signal played
+    // For what is to be told of the form.
+    signal asked
+
+    function takeKeyboard() {
+        play.forceActiveFocus(Qt.TabFocusReason);
+    }
 
     Accessible.ignored: line.accessibleName === ""
     Accessible.role: Accessible.StaticText
     Accessible.name: line.accessibleName
+    Accessible.onPressAction: asked()
+    Keys.onPressed: event => {
+        const menu = event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier;
+        event.accepted = menu || event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
+        if (event.accepted)
+            asked();
+    }
 
     Text {
         id: pronoun

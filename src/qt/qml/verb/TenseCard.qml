@@ -22,6 +22,16 @@ Rectangle {
     readonly property bool isCurrent: GridView.isCurrentItem && GridView.view.activeFocus
 
     signal played(int line)
+    signal formAsked(int line)
+    signal tenseAsked
+
+    // The line at that height; -1 above the first.
+    function lineAt(y) {
+        return Math.floor((y - lines.y) / sizes.height);
+    }
+    function takeKeyboard(line) {
+        (lines.children[line] as FormLine)?.takeKeyboard();
+    }
 
     function pronounSpace(line) {
         return metrics.advanceWidth(line.leading.trim());
@@ -61,8 +71,24 @@ Rectangle {
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 11
         verticalAlignment: Text.AlignVCenter
+        activeFocusOnTab: true
         Accessible.role: Accessible.Heading
         Accessible.name: text
+        Accessible.focusable: true
+        Accessible.onPressAction: root.tenseAsked()
+        Keys.onReturnPressed: root.tenseAsked()
+        Keys.onEnterPressed: root.tenseAsked()
+        Keys.onSpacePressed: root.tenseAsked()
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: -3
+            visible: label.activeFocus
+            radius: 6
+            color: "transparent"
+            border.width: 2
+            border.color: Theme.accentText
+        }
     }
     Measures {
         id: sizes
@@ -73,6 +99,7 @@ Rectangle {
         textSize: root.textSize
     }
     Column {
+        id: lines
         x: label.x
         y: label.y + label.height + 4
 
@@ -80,31 +107,37 @@ Rectangle {
             measures: sizes
             line: root.line0
             onPlayed: root.played(0)
+            onAsked: root.formAsked(0)
         }
         Line {
             measures: sizes
             line: root.line1
             onPlayed: root.played(1)
+            onAsked: root.formAsked(1)
         }
         Line {
             measures: sizes
             line: root.line2
             onPlayed: root.played(2)
+            onAsked: root.formAsked(2)
         }
         Line {
             measures: sizes
             line: root.line3
             onPlayed: root.played(3)
+            onAsked: root.formAsked(3)
         }
         Line {
             measures: sizes
             line: root.line4
             onPlayed: root.played(4)
+            onAsked: root.formAsked(4)
         }
         Line {
             measures: sizes
             line: root.line5
             onPlayed: root.played(5)
+            onAsked: root.formAsked(5)
         }
     }
 }

@@ -11,6 +11,8 @@ ScreenPage {
 
     readonly property VerbDetailScreen verb: screen as VerbDetailScreen
 
+    readonly property bool onTop: StackView.view?.currentItem === root
+
     barMenu: verb.selectTextHidden ? menu : null
 
     MoodBar {
@@ -20,7 +22,24 @@ ScreenPage {
         visible: height > 0
         screen: root.verb
     }
+    Shortcut {
+        sequence: "Ctrl+PgDown"
+        enabled: root.onTop && root.enabled
+        onActivated: root.verb.showNeighbour(1)
+    }
+    Shortcut {
+        sequence: "Ctrl+PgUp"
+        enabled: root.onTop && root.enabled
+        onActivated: root.verb.showNeighbour(-1)
+    }
+    VerbSheets {
+        id: sheets
+        screen: root.verb
+        wide: root.wide
+        onPlaceWanted: (tense, line) => tables.item.showPlace(tense, line) // qmllint disable
+    }
     Loader {
+        id: tables
         anchors.top: moods.bottom
         anchors.bottom: parent.bottom
         width: parent.width
@@ -61,29 +80,11 @@ ScreenPage {
     Component {
         id: table
 
-        TableContent {
-            id: content
-
-            table: root.verb.table
-            name: root.verb.title
-            delegate: ConjugationRow {
-                width: ListView.view.width
-                table: content.table
-            }
-            Component.onCompleted: {
-                root.verb.prepareTable();
-                // The first section is not a tense.
-                if (root.verb.topTense > 0)
-                    list.positionViewAtIndex(content.table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
-            }
-
-            Connections {
-                target: content.list
-                function onContentYChanged() {
-                    if (content.list.moving)
-                        root.verb.topTense = Math.max(0, content.table.model.sectionOf(content.list.indexAt(0, content.list.contentY + Theme.headerHeight)) - 1);
-                }
-            }
+        TenseTable {
+            screen: root.verb
+            withCard: !root.preview
+            onFormAsked: (tense, line) => sheets.askForm(tense, line)
+            onTenseAsked: tense => sheets.askTense(tense)
         }
     }
     Component {
@@ -91,11 +92,22 @@ ScreenPage {
 
         TenseGrid {
             collection: root.verb.collection
+            card: root.preview ? null : card
             onMovedTo: tense => root.verb.topTense = tense
+            onFormAsked: (tense, line) => sheets.askForm(tense, line)
+            onTenseAsked: tense => sheets.askTense(tense)
             Component.onCompleted: {
                 root.verb.prepareCollection();
                 show(root.verb.topTense);
             }
+        }
+    }
+    Component {
+        id: card
+
+        VerbCard {
+            screen: root.verb
+            wide: true
         }
     }
 }

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+import QtQuick
+import QtQuick.Controls.Basic
+import Lumora
+
+// Lies over a verb's page and tells of one thing on it: at the bottom of a narrow
+// window, in the middle of a wide one. It takes the keyboard and gives it back.
+Popup {
+    id: root
+
+    required property string heading
+    property bool wide: false
+    default property alias lines: column.data
+
+    parent: Overlay.overlay
+    x: Math.round((parent.width - width) / 2)
+    y: wide ? Math.round((parent.height - height) / 2) : parent.height - height - Theme.margin
+    width: Math.min(parent.width - 2 * Theme.margin, Math.round(460 * Math.max(1, Theme.textScale)))
+    height: Math.min(column.implicitHeight + topPadding + bottomPadding, parent.height - 2 * Theme.margin)
+    padding: 0
+    topPadding: Theme.margin
+    bottomPadding: Theme.gap
+    modal: true
+    focus: true
+
+    Overlay.modal: Rectangle {
+        color: Theme.shade
+    }
+    background: Rectangle {
+        radius: Theme.sheetRadius
+        color: Theme.raised
+        border.width: Theme.dark ? 1 : 0
+        border.color: Theme.separator
+    }
+    contentItem: Flickable {
+        id: flick
+        clip: true
+        contentHeight: column.implicitHeight
+        boundsBehavior: Flickable.StopAtBounds
+        Accessible.role: Accessible.Dialog
+        Accessible.name: root.heading
+
+        Column {
+            id: column
+            width: flick.width
+        }
+    }
+}
