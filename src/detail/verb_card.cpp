@@ -95,7 +95,7 @@ private:
         }
         const bool never = contains(facts_->participle, "invariable");
         const bool indirect = contains(facts_->participle, "indirect");
-        const auto key = never ? "card.participle.invariable"
+        const auto key = never                           ? "card.participle.invariable"
                          : indirect && verbs.size() == 1 ? "card.participle.indirect"
                          : verbs.size() > 1              ? "card.participle.both"
                          : verbs.front() == "avoir"      ? "card.participle.avoir"

@@ -94,13 +94,13 @@ void VerbDetailTableViewController::viewDidLoad()
 
     showVerb();
 
-    refresh_ = data::observe<data::RefreshConjugations>(
-        services_.notifications, [this](const auto& /*news*/) {
-            refreshConjugations();
-            if (wordsListener_) {
-                wordsListener_();
-            }
-        });
+    refresh_ = data::observe<data::RefreshConjugations>(services_.notifications,
+                                                        [this](const auto& /*news*/) {
+                                                            refreshConjugations();
+                                                            if (wordsListener_) {
+                                                                wordsListener_();
+                                                            }
+                                                        });
     favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
         services_.notifications, [this](const auto& news) { verbFavouriteToggled(news); });
     outletsChanged();
@@ -336,16 +336,17 @@ void VerbDetailTableViewController::saySlowly(const FormPlace& place, bool fromC
 
     const ShownMood mood{selectedVerb.get(), place.segment};
     // The first section of the table is not a tense.
-    if (const auto row = fromCollection
-                             ? grid_.playableLine(mood, place.tense, place.row)
-                             : grid_.playableRow(mood, {place.tense + 1, place.row})) {
+    if (const auto row = fromCollection ? grid_.playableLine(mood, place.tense, place.row)
+                                        : grid_.playableRow(mood, {place.tense + 1, place.row})) {
         play(*row, kPace);
     }
 }
 
 VerbGuide VerbDetailTableViewController::guide() const
 {
-    return {*selectedVerb, queue, {services_.bundle, services_.settings, services_.device},
+    return {*selectedVerb,
+            queue,
+            {services_.bundle, services_.settings, services_.device},
             services_.crashReporter};
 }
 

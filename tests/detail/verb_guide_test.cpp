@@ -29,8 +29,8 @@ struct Guide : testing::Test {
     /// The first of that name, with its forms.
     data::VerbPtr verb(const std::string& french) const
     {
-        const auto ids = support::rowsOf(
-            *queue, "SELECT min(_id) FROM verb WHERE french = '" + french + "'");
+        const auto ids =
+            support::rowsOf(*queue, "SELECT min(_id) FROM verb WHERE french = '" + french + "'");
         data::VerbPtr verb;
         queue->inDatabase([&](platform::Database& database) {
             verb = *data::readVerb(database, std::stoll(ids.at(0)));
@@ -41,10 +41,8 @@ struct Guide : testing::Test {
 
     VerbGuide guide(const data::Verb& verb)
     {
-        return {verb,
-                queue.get(),
-                {world.bundle, world.settings, world.device},
-                world.crashReporter};
+        return {
+            verb, queue.get(), {world.bundle, world.settings, world.device}, world.crashReporter};
     }
 
     /// "label: text", or the names of the verbs that are led to.
@@ -78,7 +76,8 @@ TEST_F(Guide, TheCardTellsWhatIsPeculiarToAVerb)
         {"aller",
          {"card.infinitive.past: être allé(e)(s)", "card.auxiliary: être: card.participle.etre",
           "card.use: card.use.1", "card.pronominal: aller (s'en)"}},
-        {"aller (s''en)", {"card.notes: card.trait.pronominal; card.trait.en", "card.plain: aller"}},
+        {"aller (s''en)",
+         {"card.notes: card.trait.pronominal; card.trait.en", "card.plain: aller"}},
         {"parler", {"card.auxiliary: avoir: card.participle.avoir"}},
         {"plaire (se)", {"card.auxiliary: être: card.participle.invariable"}},
         {"haïr", {"card.notes: card.trait.aspirated"}},
@@ -139,11 +138,10 @@ TEST_F(Guide, TheSheetOfAFormNamesItAndLeadsToItsOtherPlaces)
         EXPECT_EQ(formAt(*parler, place)->verb, "parle");
         others.push_back(row + ", " + tense);
     }
-    EXPECT_THAT(others,
-                ElementsAre("il/elle/on parle, tense.ind.present",
-                            "que je parle, tense.sub.present",
-                            "qu'il/elle/on parle, tense.sub.present",
-                            "parle, tense.other.imperative"));
+    EXPECT_THAT(others, ElementsAre("il/elle/on parle, tense.ind.present",
+                                    "que je parle, tense.sub.present",
+                                    "qu'il/elle/on parle, tense.sub.present",
+                                    "parle, tense.other.imperative"));
 
     const auto payer = verb("payer");
     EXPECT_EQ(guide(*payer).sheet({0, 0, 0})->others.size(), 4U) << "by each of two spellings";

@@ -71,8 +71,7 @@ QVariantList VerbDetailScreen::card() const
     for (const auto& line : detail_->guide().card()) {
         VerbCardLineValue value{toQString(line.label), toQString(line.text), {}};
         for (const auto& link : line.links) {
-            value.links.append(
-                QVariant::fromValue(VerbLinkValue{link.id, toQString(link.title)}));
+            value.links.append(QVariant::fromValue(VerbLinkValue{link.id, toQString(link.title)}));
         }
         lines.append(QVariant::fromValue(value));
     }
@@ -87,9 +86,8 @@ QString VerbDetailScreen::nameAway(int places) const
 
 FormSheetValue VerbDetailScreen::formSheet(int tense, int line) const
 {
-    const auto sheet = detail_->selectedVerb
-                           ? detail_->guide().sheet({selectedMood(), tense, line})
-                           : std::nullopt;
+    const auto sheet = detail_->selectedVerb ? detail_->guide().sheet({selectedMood(), tense, line})
+                                             : std::nullopt;
     if (!sheet) {
         return {};
     }
