@@ -31,9 +31,10 @@ Item {
             grid.positionViewAtIndex(tense, GridView.Beginning);
     }
     function showPlace(tense, line) {
+        grid.forceLayout();
         grid.currentIndex = tense;
         grid.positionViewAtIndex(tense, GridView.Contain);
-        (grid.currentItem as TenseCard)?.takeKeyboard(line);
+        (grid.itemAtIndex(tense) as TenseCard)?.takeKeyboard(line);
     }
     // The card at a point of the grid, and the line there: -1 on its title.
     function askAt(point, forms) {
@@ -104,11 +105,12 @@ Item {
                 Accessible.name: root.collection.headerText
             }
             Loader {
+                id: cardPlace
                 width: parent.width
                 sourceComponent: root.card
 
                 Connections {
-                    target: item as VerbCard
+                    target: cardPlace.item as VerbCard
                     function onFocused() {
                         grid.positionViewAtBeginning();
                     }

@@ -13,6 +13,8 @@ Item {
     // Beside another pane there is room for all of it.
     property bool wide: false
     property bool open: screen.isCardOpen(wide)
+    // Read once: the database is asked for it.
+    readonly property string summary: screen.summary
     readonly property bool anywhere: screen.previousVerb !== "" || screen.nextVerb !== ""
 
     // The keyboard is on one of its buttons, which may be out of sight.
@@ -48,10 +50,10 @@ Item {
                 rightPadding: Theme.gap
                 topPadding: 6
                 bottomPadding: 6
-                text: root.screen.summary === "" ? qsTrId("card.about") : root.screen.summary
+                text: root.summary === "" ? qsTrId("card.about") : root.summary
                 checkable: true
                 checked: root.open
-                Accessible.name: root.screen.summary === "" ? text : qsTrId("card.about") + ": " + text
+                Accessible.name: root.summary === "" ? text : qsTrId("card.about") + ": " + text
                 Accessible.onPressAction: clicked()
                 onClicked: {
                     root.open = checked;

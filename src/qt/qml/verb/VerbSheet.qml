@@ -13,6 +13,19 @@ Popup {
     required property string heading
     property bool wide: false
     default property alias lines: column.data
+    readonly property Item keyboard: flick.Window.activeFocusItem
+
+    function moveFocus(forward) {
+        (keyboard ?? flick).nextItemInFocusChain(forward).forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
+    }
+
+    // What has the keyboard is in sight.
+    onKeyboardChanged: {
+        if (keyboard?.parent !== column)
+            return;
+        const below = keyboard.y + keyboard.height - flick.height;
+        flick.contentY = Math.min(keyboard.y, Math.max(below, flick.contentY));
+    }
 
     parent: Overlay.overlay
     x: Math.round((parent.width - width) / 2)
@@ -39,6 +52,8 @@ Popup {
         clip: true
         contentHeight: column.implicitHeight
         boundsBehavior: Flickable.StopAtBounds
+        Keys.onDownPressed: root.moveFocus(true)
+        Keys.onUpPressed: root.moveFocus(false)
         Accessible.role: Accessible.Dialog
         Accessible.name: root.heading
 
