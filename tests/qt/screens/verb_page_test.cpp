@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "qt/screens/verb_detail_screen.h"
 #include "support/window_fixture.h"
 
 #include <QClipboard>

@@ -114,7 +114,7 @@ Item {
                     function onFocused() {
                         grid.positionViewAtBeginning();
                     }
-                    function onLeft() {
+                    function onPassed() {
                         grid.forceActiveFocus(Qt.TabFocusReason);
                     }
                 }

@@ -76,7 +76,7 @@ TableContent {
         VerbCard {
             screen: root.screen
             onFocused: root.list.positionViewAtBeginning()
-            onLeft: root.forceActiveFocus(Qt.TabFocusReason)
+            onPassed: root.forceActiveFocus(Qt.TabFocusReason)
         }
     }
     Connections {

@@ -20,13 +20,13 @@ Item {
     // The keyboard is on one of its buttons, which may be out of sight.
     signal focused
     // It is leaving the card for what is below it.
-    signal left
+    signal passed
 
     width: parent?.width ?? 0
     implicitHeight: column.height + Theme.gap
     onActiveFocusChanged: if (activeFocus)
         focused()
-    Keys.onDownPressed: left()
+    Keys.onDownPressed: passed()
 
     Column {
         id: column
