@@ -21,7 +21,7 @@ class DatabaseWorld {
 public:
     explicit DatabaseWorld(const std::filesystem::path& file);
 
-    platform::Services services() { return world_.services(); }
+    const platform::Services& services() const { return world_.services(); }
     platform::DatabaseQueue& queue() const { return *world_.queue; }
     platform::SettingsStore& settings() { return world_.settings; }
     support::World& world() { return world_; }

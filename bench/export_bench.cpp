@@ -22,7 +22,8 @@ void measureExport(Report& report, const std::filesystem::path& database)
         world.world().bundle.resources[name] = share / name;
     }
     qt::QtJavaScriptContextFactory contexts;
-    world.world().scriptEngine = &contexts;
+    world.world().setScriptEngine(contexts);
+    const auto& services = world.services();
     const exporting::VerbExport exporter;
     const auto ids = world.verbIds();
 
@@ -44,12 +45,15 @@ void measureExport(Report& report, const std::filesystem::path& database)
 
         std::size_t bytes = 0;
         const auto own = millisecondsOf([&] {
-            const auto renderings = exporter.exportVerb(verb, world.services());
+            const auto renderings =
+                exporter.exportVerb(verb, services.bundle, services.settings, services.device,
+                                    services.scripts, services.console);
             bytes = renderings && *renderings ? (*renderings)->html.size() : 0;
         });
         std::size_t bytesOfCompiled = 0;
         const auto reference = millisecondsOf([&] {
-            const auto json = exporting::exportData(verb, world.services());
+            const auto json =
+                exporting::exportData(verb, services.bundle, services.settings, services.device);
             compiled->evaluateScript("var data = " + json.value_or("{}") + ";");
             bytesOfCompiled = compiled->evaluateScript("Mustache.render(html, data);").size();
             compiled->evaluateScript("Mustache.render(text, data);");

@@ -68,7 +68,7 @@ struct BarAppearance {
 class AppDelegate final : public platform::SplitViewControllerDelegate {
 public:
     /// `crashReporter` and `analytics` of the services run already, so that
-    /// everything from here on may log.
+    /// everything from here on may log. The services must outlive it.
     AppDelegate(const platform::Services& services, UserFolders folders,
                 platform::Color accentPrimary);
 
@@ -110,7 +110,7 @@ private:
     platform::NavigationController& listStack();
     navigation::HomeViewController& homeScreen();
 
-    platform::Services services_;
+    const platform::Services& services_;
     UserFolders folders_;
     platform::Color accentPrimary_;
     BarAppearance appearance_;

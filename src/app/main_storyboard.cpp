@@ -35,7 +35,7 @@ namespace {
 
 void MainStoryboard::setServices(const platform::Services& services)
 {
-    services_ = std::make_unique<platform::Services>(services);
+    services_ = &services;
 }
 
 std::shared_ptr<platform::SplitViewController> MainStoryboard::instantiateInitialViewController()

@@ -18,7 +18,8 @@ namespace lumora::app {
 class MainStoryboard final : public platform::Storyboard {
 public:
     /// The services name this storyboard, so they come after it. Must be
-    /// called before a screen is asked for.
+    /// called before a screen is asked for. They must outlive the storyboard's
+    /// screens.
     void setServices(const platform::Services& services);
 
     /// The window's root: list and detail side by side, the home screen and an
@@ -32,7 +33,7 @@ public:
     platform::SegueStyle segueStyle(std::string_view segueIdentifier) const override;
 
 private:
-    std::unique_ptr<platform::Services> services_;
+    const platform::Services* services_ = nullptr;
 };
 
 } // namespace lumora::app

@@ -38,14 +38,23 @@ constexpr platform::IndexPath kNoRow{-1, -1};
 
 } // namespace
 
-BackupMenu::BackupMenu(const platform::Services& services, platform::ViewController& screen,
-                       platform::DatabaseQueue* queue)
-    : services_{services}, screen_{screen}, queue_{queue}
+BackupMenu::BackupMenu(platform::ViewController& screen, platform::DatabaseQueue* queue,
+                       const platform::Bundle& bundle, const platform::Clock& clock,
+                       platform::Presenter& presenter, platform::FileChooser& fileChooser,
+                       platform::NotificationCenter& notifications, std::ostream& console)
+    : screen_{screen},
+      queue_{queue},
+      bundle_{bundle},
+      clock_{clock},
+      presenter_{presenter},
+      fileChooser_{fileChooser},
+      notifications_{notifications},
+      console_{console}
 {}
 
 std::string BackupMenu::text(std::string_view key) const
 {
-    return localizedString(services_.bundle, key);
+    return localizedString(bundle_, key);
 }
 
 void BackupMenu::show()
@@ -59,7 +68,7 @@ void BackupMenu::show()
             }
         };
     };
-    services_.presenter.presentActionSheet(
+    presenter_.presentActionSheet(
         screen_,
         {std::nullopt,
          {{text("backup.save"), platform::ActionStyle::Normal,
@@ -74,24 +83,22 @@ void BackupMenu::choose(platform::FileQuestion::Purpose purpose,
                         void (BackupMenu::*then)(const std::filesystem::path&))
 {
     const auto kind = text("backup.kind");
-    services_.fileChooser.choose(
-        {.purpose = purpose,
-         .title = kind,
-         .kind = kind,
-         .extension = "json",
-         .suggestedName = "lumora"},
-        [weak = weak_from_this(), then](const std::filesystem::path& file) {
-            if (const auto self = weak.lock()) {
-                (*self.*then)(file);
-            }
-        });
+    fileChooser_.choose({.purpose = purpose,
+                         .title = kind,
+                         .kind = kind,
+                         .extension = "json",
+                         .suggestedName = "lumora"},
+                        [weak = weak_from_this(), then](const std::filesystem::path& file) {
+                            if (const auto self = weak.lock()) {
+                                (*self.*then)(file);
+                            }
+                        });
 }
 
 void BackupMenu::save(const std::filesystem::path& file)
 {
-    const auto saved = queue_ == nullptr
-                           ? tl::make_unexpected(Failure{})
-                           : saveBackup(*queue_, file, services_.clock.secondsSince1970());
+    const auto saved = queue_ == nullptr ? tl::make_unexpected(Failure{})
+                                         : saveBackup(*queue_, file, clock_.secondsSince1970());
     if (!saved) {
         tellFailure("backup.save.failed", saved.error());
         return;
@@ -104,7 +111,7 @@ void BackupMenu::restore(const std::filesystem::path& file)
 {
     const auto restored = queue_ == nullptr
                               ? tl::make_unexpected(Failure{})
-                              : restoreBackup(*queue_, file, services_.clock.secondsSince1970());
+                              : restoreBackup(*queue_, file, clock_.secondsSince1970());
     if (!restored) {
         tellFailure("backup.restore.failed", restored.error());
         return;
@@ -122,22 +129,21 @@ void BackupMenu::restore(const std::filesystem::path& file)
 void BackupMenu::announce(const RestoredCounts& restored)
 {
     if (!restored.favourites.empty()) {
-        data::post(services_.notifications,
-                   data::VerbFavouriteToggled{&screen_, {}, restored.favourites});
+        data::post(notifications_, data::VerbFavouriteToggled{&screen_, {}, restored.favourites});
     }
-    data::post(services_.notifications, data::RefreshHistory{});
+    data::post(notifications_, data::RefreshHistory{});
 }
 
 void BackupMenu::tell(std::string_view titleKey, std::string message)
 {
-    services_.presenter.presentAlert(
+    presenter_.presentAlert(
         screen_, platform::notice(text(titleKey), std::move(message), text("common.ok")));
 }
 
 void BackupMenu::tellFailure(std::string_view titleKey, const Failure& failure)
 {
     if (!failure.detail.empty()) {
-        services_.console << failure.detail << std::endl;
+        console_ << failure.detail << std::endl;
     }
     tell(titleKey, text(explanationKey(failure.problem)));
 }

@@ -5,29 +5,36 @@
 
 #include "backup/backup.h"
 #include "platform/machine/file_chooser.h"
-#include "platform/screens/services.h"
 
 #include <filesystem>
+#include <iosfwd>
 #include <memory>
 #include <string>
 #include <string_view>
 
 namespace lumora::platform {
+class Bundle;
+class Clock;
+class NotificationCenter;
+class Presenter;
 class ViewController;
-}
+} // namespace lumora::platform
 
 namespace lumora::backup {
 
 /// Offers to save favourites and history and to restore them, asks for the
-/// file and tells what came of it. GUI thread only. Screen and queue must
-/// outlive it; without a queue nothing can be done, and it says so.
+/// file and tells what came of it. GUI thread only. What
+/// the constructor takes must outlive it; without a queue nothing can be done,
+/// and it says so.
 ///
 /// A shared object, so that an answer that comes when the screen has gone finds
 /// it gone too.
 class BackupMenu final : public std::enable_shared_from_this<BackupMenu> {
 public:
-    BackupMenu(const platform::Services& services, platform::ViewController& screen,
-               platform::DatabaseQueue* queue);
+    BackupMenu(platform::ViewController& screen, platform::DatabaseQueue* queue,
+               const platform::Bundle& bundle, const platform::Clock& clock,
+               platform::Presenter& presenter, platform::FileChooser& fileChooser,
+               platform::NotificationCenter& notifications, std::ostream& console);
 
     void show();
 
@@ -42,9 +49,14 @@ private:
     void tell(std::string_view titleKey, std::string message);
     void tellFailure(std::string_view titleKey, const Failure& failure);
 
-    platform::Services services_;
     platform::ViewController& screen_;
     platform::DatabaseQueue* queue_;
+    const platform::Bundle& bundle_;
+    const platform::Clock& clock_;
+    platform::Presenter& presenter_;
+    platform::FileChooser& fileChooser_;
+    platform::NotificationCenter& notifications_;
+    std::ostream& console_;
 };
 
 } // namespace lumora::backup

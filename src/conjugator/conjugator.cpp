@@ -7,6 +7,7 @@
 #include "conjugator/row_builder.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <string_view>
 #include <unordered_set>
@@ -45,6 +46,70 @@ std::string withoutLigature(std::string text)
 bool isOneForm(const Row& row)
 {
     return row.verb.find_first_of(",(") == std::string::npos;
+}
+
+void addWithoutLigature(std::vector<Row>& rows)
+{
+    const auto count = rows.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        if (isOneForm(rows[i])) {
+            rows.push_back(
+                {rows[i].tense, rows[i].pronoun, withoutLigature(rows[i].verb), false, {}});
+        }
+    }
+}
+
+/// The forms of a simple tense, or of the auxiliary in a compound one.
+struct PersonTense {
+    PersonForms Paradigm::*forms;
+    bool compound;
+};
+
+/// By Tense; the blocks without persons have no entry.
+constexpr std::array<PersonTense, kTenseNames.size()> kPersonTenses{{
+    {&Paradigm::conditional, true},      // ConditionnelPasse1reForme
+    {&Paradigm::pastSubjunctive, true},  // ConditionnelPasse2eForme
+    {&Paradigm::conditional, false},     // ConditionnelPresent
+    {},                                  // Imperatif
+    {&Paradigm::future, true},           // IndicatifFuturAnterieur
+    {&Paradigm::future, false},          // IndicatifFuturSimple
+    {&Paradigm::imperfect, false},       // IndicatifImparfait
+    {&Paradigm::past, true},             // IndicatifPasseAnterieur
+    {&Paradigm::present, true},          // IndicatifPasseCompose
+    {&Paradigm::past, false},            // IndicatifPasseSimple
+    {&Paradigm::imperfect, true},        // IndicatifPlusQueParfait
+    {&Paradigm::present, false},         // IndicatifPresent
+    {},                                  // Infinitif
+    {},                                  // Participe
+    {&Paradigm::pastSubjunctive, false}, // SubjonctifImparfait
+    {&Paradigm::subjunctive, true},      // SubjonctifPasse
+    {&Paradigm::pastSubjunctive, true},  // SubjonctifPlusqueParfait
+    {&Paradigm::subjunctive, false},     // SubjonctifPresent
+}};
+
+void addBlock(RowBuilder& builder, const Paradigm& verb, Tense tense)
+{
+    switch (tense) {
+    case Tense::Imperatif:
+        builder.imperative();
+        builder.pastImperative();
+        return;
+    case Tense::Infinitif:
+        builder.infinitive();
+        builder.pastOf(tense, &Paradigm::infinitive);
+        return;
+    case Tense::Participe:
+        builder.participles();
+        builder.pastOf(tense, &Paradigm::gerund);
+        return;
+    default:
+        const auto& [forms, compound] = kPersonTenses[static_cast<std::size_t>(tense)];
+        if (compound) {
+            builder.compoundTense(tense, forms);
+        } else {
+            builder.simpleTense(tense, verb.*forms);
+        }
+    }
 }
 
 /// A search needs each form once, whatever the tenses and persons that have it.
@@ -110,91 +175,13 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
 {
     const auto verb = models_.conjugate(entry.model, entry.infinitive);
     RowBuilder builder(entry, verb, auxiliariesOf(entry.auxiliary));
-
-    const auto compound = [&](Tense tense) {
-        switch (tense) {
-        case Tense::ConditionnelPasse1reForme:
-            return builder.compoundTense(tense, &Paradigm::conditional);
-        case Tense::ConditionnelPasse2eForme:
-        case Tense::SubjonctifPlusqueParfait:
-            return builder.compoundTense(tense, &Paradigm::pastSubjunctive);
-        case Tense::Imperatif:
-            return builder.pastImperative();
-        case Tense::IndicatifFuturAnterieur:
-            return builder.compoundTense(tense, &Paradigm::future);
-        case Tense::IndicatifPasseAnterieur:
-            return builder.compoundTense(tense, &Paradigm::past);
-        case Tense::IndicatifPasseCompose:
-            return builder.compoundTense(tense, &Paradigm::present);
-        case Tense::IndicatifPlusQueParfait:
-            return builder.compoundTense(tense, &Paradigm::imperfect);
-        case Tense::Infinitif:
-            return builder.pastOf(tense, &Paradigm::infinitive);
-        case Tense::Participe:
-            return builder.pastOf(tense, &Paradigm::gerund);
-        case Tense::SubjonctifPasse:
-            return builder.compoundTense(tense, &Paradigm::subjunctive);
-        default:
-            return;
-        }
-    };
-    const auto simple = [&](Tense tense) {
-        switch (tense) {
-        case Tense::ConditionnelPresent:
-            return builder.simpleTense(tense, verb.conditional);
-        case Tense::Imperatif:
-            return builder.imperative();
-        case Tense::IndicatifFuturSimple:
-            return builder.simpleTense(tense, verb.future);
-        case Tense::IndicatifImparfait:
-            return builder.simpleTense(tense, verb.imperfect);
-        case Tense::IndicatifPasseSimple:
-            return builder.simpleTense(tense, verb.past);
-        case Tense::IndicatifPresent:
-            return builder.simpleTense(tense, verb.present);
-        case Tense::Infinitif:
-            return builder.infinitive();
-        case Tense::Participe:
-            return builder.participles();
-        case Tense::SubjonctifImparfait:
-            return builder.simpleTense(tense, verb.pastSubjunctive);
-        case Tense::SubjonctifPresent:
-            return builder.simpleTense(tense, verb.subjunctive);
-        default:
-            return;
-        }
-    };
-
     for (std::size_t block = 0; block < kTenseNames.size(); ++block) {
-        const auto tense = static_cast<Tense>(block);
-        simple(tense);
-        compound(tense);
+        addBlock(builder, verb, static_cast<Tense>(block));
     }
     auto rows = builder.take();
-
-    // Where the circumflex stands before the ending, the whole verb has a second
-    // spelling; it is found, but not shown beside every form. A verb in -aître is
-    // no longer of its model then: that one tells the spellings itself.
-    auto modern = entry;
-    modern.infinitive = respelled(entry.infinitive);
-    if (modern.infinitive != entry.infinitive &&
-        models_.misfit(entry.model, modern.infinitive).empty()) {
-        for (auto& row : this->rows(modern)) {
-            if (isOneForm(row)) {
-                row.shown = false;
-                row.divisions.clear();
-                rows.push_back(std::move(row));
-            }
-        }
-    }
+    addRespelled(rows, entry);
     if (withoutLigature(entry.infinitive) != entry.infinitive) {
-        const auto count = rows.size();
-        for (std::size_t i = 0; i < count; ++i) {
-            if (isOneForm(rows[i])) {
-                rows.push_back(
-                    {rows[i].tense, rows[i].pronoun, withoutLigature(rows[i].verb), false, {}});
-            }
-        }
+        addWithoutLigature(rows);
     }
     dropRepeated(rows);
     if (entry.pronominal) {
@@ -205,6 +192,23 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
                         {}});
     }
     return rows;
+}
+
+void Conjugator::addRespelled(std::vector<Row>& rows, const VerbEntry& entry) const
+{
+    auto modern = entry;
+    modern.infinitive = respelled(entry.infinitive);
+    if (modern.infinitive == entry.infinitive ||
+        !models_.misfit(entry.model, modern.infinitive).empty()) {
+        return;
+    }
+    for (auto& row : this->rows(modern)) {
+        if (isOneForm(row)) {
+            row.shown = false;
+            row.divisions.clear();
+            rows.push_back(std::move(row));
+        }
+    }
 }
 
 } // namespace lumora::conjugator

@@ -35,6 +35,10 @@ public:
 
 private:
     std::vector<AuxiliaryUse> auxiliariesOf(Auxiliary auxiliary) const;
+    /// Where the circumflex stands before the ending, the whole verb has a second
+    /// spelling; it is found, but not shown beside every form. A verb in -aître is
+    /// no longer of its model then: that one tells the spellings itself.
+    void addRespelled(std::vector<Row>& rows, const VerbEntry& entry) const;
 
     ModelTable models_;
     Paradigm avoir_;

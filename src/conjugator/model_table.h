@@ -3,11 +3,10 @@
 
 #pragma once
 
+#include "conjugator/conjugation_model.h"
 #include "conjugator/paradigm.h"
 
-#include <cstddef>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,23 +37,10 @@ public:
     Paradigm conjugate(std::string_view model, std::string_view infinitive) const;
 
 private:
-    /// The cells of one line and the ending which they replace.
-    struct Part {
-        std::string ends;
-        std::vector<std::vector<std::string>> cells;
-        bool missing = false;
-    };
-    struct Model {
-        std::size_t line = 0;
-        std::string parent;
-        std::string ends;
-        std::map<std::string, Part, std::less<>> parts;
-    };
-
     void inherit(const std::string& name, const TextTable& table,
                  std::vector<std::string>& descent);
 
-    std::map<std::string, Model, std::less<>> models_;
+    std::map<std::string, ConjugationModel, std::less<>> models_;
 };
 
 } // namespace lumora::conjugator

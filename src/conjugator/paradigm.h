@@ -6,6 +6,7 @@
 #include "conjugator/grammar.h"
 
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace lumora::conjugator {
@@ -15,6 +16,9 @@ constexpr std::string_view withoutMuteE(std::string_view infinitive)
 {
     return infinitive.ends_with('e') ? infinitive.substr(0, infinitive.size() - 1) : infinitive;
 }
+
+/// The persons of the imperative: tu, nous, vous.
+inline constexpr std::array<std::size_t, 3> kCommanded{1, 3, 4};
 
 /// Every simple form of one verb.
 struct Paradigm {
@@ -28,6 +32,7 @@ struct Paradigm {
     PersonForms conditional;
     PersonForms subjunctive;
     PersonForms pastSubjunctive;
+    /// By kCommanded.
     std::array<Forms, 3> imperative;
     Forms gerund;
     /// Masculine and feminine singular, masculine and feminine plural.

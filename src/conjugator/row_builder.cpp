@@ -4,6 +4,7 @@
 #include "conjugator/row_builder.h"
 
 #include "conjugator/elision.h"
+#include "text/pronoun.h"
 
 #include <algorithm>
 #include <array>
@@ -16,8 +17,6 @@ namespace {
 
 constexpr std::size_t kThirdSingular = 2;
 constexpr std::size_t kThirdPlural = 5;
-/// tu, nous, vous.
-constexpr std::array<std::size_t, 3> kCommanded{1, 3, 4};
 
 constexpr std::array<std::string_view, kPersons> kSubjects{"je",   "tu",   "il/elle/on",
                                                            "nous", "vous", "ils/elles"};
@@ -273,7 +272,7 @@ void RowBuilder::addCompound(Tense tense, std::size_t person, Number number,
         // An auxiliary is never aspirated, whatever the verb.
         const auto own = pronoun(tense, person, forms.front().text, false);
         subject = texts.empty() ? own : subject;
-        const auto lead = own == subject ? "" : own + (own.ends_with('\'') ? "" : " ");
+        const auto lead = own == subject ? std::string() : text::beforeForm(own);
         for (const auto& text : compounds(forms, agreement.bracketed(number))) {
             texts.push_back(lead + text);
         }

@@ -187,7 +187,9 @@ void VerbDetailTableViewController::exportOptions()
 {
     platform::Result<std::optional<exporting::VerbRenderings>> renderings;
     if (selectedVerb) {
-        renderings = exporting::VerbExport{}.exportVerb(*selectedVerb, services_);
+        renderings = exporting::VerbExport{}.exportVerb(*selectedVerb, services_.bundle,
+                                                        services_.settings, services_.device,
+                                                        services_.scripts, services_.console);
     }
     if (!renderings) {
         services_.crashReporter.logWithFormat("Unable to export. An error occurred. %@", {});

@@ -143,7 +143,7 @@ private:
     void logReadingError(const platform::Database& database);
     void play(const PlayableRow& row, float pace = 1);
 
-    platform::Services services_;
+    const platform::Services& services_;
     ConjugationGrid grid_;
     ViewRecord record_;
     VolumeWarning volumeWarning_;

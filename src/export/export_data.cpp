@@ -6,7 +6,6 @@
 #include "data/tense_table.h"
 #include "data/verb.h"
 #include "platform/machine/bundle.h"
-#include "platform/screens/services.h"
 #include "text/text.h"
 
 #include <nlohmann/json.hpp>
@@ -82,19 +81,20 @@ std::string escapedForScript(std::string json)
 
 } // namespace
 
-std::optional<std::string> exportData(const data::Verb& verb, const platform::Services& services)
+std::optional<std::string> exportData(const data::Verb& verb, const platform::Bundle& bundle,
+                                      const platform::SettingsStore& settings,
+                                      const platform::Device& device)
 {
     auto data = Json::object();
     for (const auto& [name, text] : kNames) {
         data[name] = verb.*text;
     }
-    data["translated"] = verb.translation(services.settings, services.device);
+    data["translated"] = verb.translation(settings, device);
     for (const auto& [name, key] : kMoodTitles) {
-        data[name] = platform::localizedString(services.bundle, key);
+        data[name] = platform::localizedString(bundle, key);
     }
     forEachBlock([&](const data::TenseBlock& block) {
-        data[titleName(block.titleKey)] =
-            data::tenseTitle(block.titleKey, services.bundle, services.settings);
+        data[titleName(block.titleKey)] = data::tenseTitle(block.titleKey, bundle, settings);
     });
     forEachBlock([&](const data::TenseBlock& block) {
         data[listName(block.tense.identifier)] = listOf(verb.*block.tense.forms);

@@ -17,7 +17,12 @@ namespace lumora::exporting {
 using platform::localizedString;
 using platform::MailComposeResult;
 
-SupportEmailSender::SupportEmailSender(const platform::Services& services) : services_{services} {}
+SupportEmailSender::SupportEmailSender(const platform::Bundle& bundle,
+                                       const platform::Device& device, platform::MailService& mail,
+                                       platform::UrlOpener& urlOpener,
+                                       platform::Presenter& presenter)
+    : bundle_{bundle}, device_{device}, mail_{mail}, urlOpener_{urlOpener}, presenter_{presenter}
+{}
 
 SupportEmailSender::~SupportEmailSender()
 {
@@ -28,39 +33,37 @@ SupportEmailSender::~SupportEmailSender()
 
 void SupportEmailSender::start()
 {
-    if (services_.mail.canSendMail()) {
+    if (mail_.canSendMail()) {
         presentComposer();
         return;
     }
-    auto& opener = services_.urlOpener;
-    if (!opener.canOpen(build::kContactUrl) || !opener.open(build::kContactUrl)) {
+    if (!urlOpener_.canOpen(build::kContactUrl) || !urlOpener_.open(build::kContactUrl)) {
         showError();
     }
 }
 
 void SupportEmailSender::presentComposer()
 {
-    auto composer = services_.mail.makeMailComposer();
+    auto composer = mail_.makeMailComposer();
     composer_ = composer;
     composer->setMailComposeDelegate(this);
-    composer->setToRecipients({localizedString(services_.bundle, "support.email")});
-    composer->setSubject(localizedString(services_.bundle, "app.title"));
+    composer->setToRecipients({localizedString(bundle_, "support.email")});
+    composer->setSubject(localizedString(bundle_, "app.title"));
     composer->setMessageBody(messageBody(), true);
-    services_.presenter.present(presentingScreen(), std::move(composer));
+    presenter_.present(presentingScreen(), std::move(composer));
 }
 
 std::string SupportEmailSender::messageBody() const
 {
-    const auto& device = services_.device;
-    const auto version = services_.bundle.infoValue("CFBundleShortVersionString");
-    const auto build = services_.bundle.infoValue("CFBundleVersion");
+    const auto version = bundle_.infoValue("CFBundleShortVersionString");
+    const auto build = bundle_.infoValue("CFBundleVersion");
 
     // Three empty lines for the user's own words, then a rule.
     std::string body = "<br /><br /><br /><hr />App: ";
-    body += localizedString(services_.bundle, "app.title");
-    body += "<br />Device: " + device.modelName();
-    body += " (" + device.machineIdentifier().value_or("Unknown Platform") + ")<br />iOS: ";
-    body += device.systemVersion();
+    body += localizedString(bundle_, "app.title");
+    body += "<br />Device: " + device_.modelName();
+    body += " (" + device_.machineIdentifier().value_or("Unknown Platform") + ")<br />iOS: ";
+    body += device_.systemVersion();
     body += "<br />App: ";
     if (version && build) {
         body += *version + " (" + *build + ")";
@@ -74,7 +77,7 @@ void SupportEmailSender::mailComposeDidFinish(platform::MailComposer& composer,
     if (result == MailComposeResult::Failed) {
         showError();
     }
-    services_.presenter.dismiss(composer, [weak = weak_from_this(), result] {
+    presenter_.dismiss(composer, [weak = weak_from_this(), result] {
         const auto self = weak.lock();
         if (!self) {
             return;
@@ -98,10 +101,10 @@ platform::ViewController& SupportEmailSender::presentingScreen() const
 
 void SupportEmailSender::showAlert(std::string_view titleKey, std::string_view messageKey) const
 {
-    services_.presenter.presentAlert(
-        presentingScreen(), platform::notice(localizedString(services_.bundle, titleKey),
-                                             localizedString(services_.bundle, messageKey),
-                                             localizedString(services_.bundle, "common.ok")));
+    presenter_.presentAlert(presentingScreen(),
+                            platform::notice(localizedString(bundle_, titleKey),
+                                             localizedString(bundle_, messageKey),
+                                             localizedString(bundle_, "common.ok")));
 }
 
 void SupportEmailSender::showError() const

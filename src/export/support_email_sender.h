@@ -4,11 +4,17 @@
 #pragma once
 
 #include "platform/screens/mail_composer.h"
-#include "platform/screens/services.h"
 
 #include <memory>
 #include <string>
 #include <string_view>
+
+namespace lumora::platform {
+class Bundle;
+class Device;
+class Presenter;
+class UrlOpener;
+} // namespace lumora::platform
 
 namespace lumora::exporting {
 
@@ -21,7 +27,10 @@ namespace lumora::exporting {
 class SupportEmailSender final : public platform::MailComposerDelegate,
                                  public std::enable_shared_from_this<SupportEmailSender> {
 public:
-    explicit SupportEmailSender(const platform::Services& services);
+    /// What it takes must outlive it.
+    SupportEmailSender(const platform::Bundle& bundle, const platform::Device& device,
+                       platform::MailService& mail, platform::UrlOpener& urlOpener,
+                       platform::Presenter& presenter);
     SupportEmailSender(const SupportEmailSender&) = delete;
     SupportEmailSender& operator=(const SupportEmailSender&) = delete;
     ~SupportEmailSender() override;
@@ -41,7 +50,11 @@ private:
     void showAlert(std::string_view titleKey, std::string_view messageKey) const;
     void showError() const;
 
-    platform::Services services_;
+    const platform::Bundle& bundle_;
+    const platform::Device& device_;
+    platform::MailService& mail_;
+    platform::UrlOpener& urlOpener_;
+    platform::Presenter& presenter_;
     /// Told not to call back when this goes first.
     std::weak_ptr<platform::MailComposer> composer_;
 };

@@ -7,7 +7,6 @@
 #include "platform/files/atomic_file.h"
 #include "platform/machine/bundle.h"
 #include "platform/machine/java_script_context.h"
-#include "platform/screens/services.h"
 #include "text/text.h"
 
 #include <cerrno>
@@ -39,13 +38,15 @@ std::string renderingScript(const std::string& mustacheTemplate, const std::stri
 // A class without a state, so that who exports can be handed one.
 // NOLINTNEXTLINE(readability-convert-member-functions-to-static)
 platform::Result<std::optional<VerbRenderings>>
-VerbExport::exportVerb(const data::Verb& verb, const platform::Services& services) const
+VerbExport::exportVerb(const data::Verb& verb, const platform::Bundle& bundle,
+                       const platform::SettingsStore& settings, const platform::Device& device,
+                       platform::JavaScriptContextFactory& scripts, std::ostream& console) const
 {
-    const auto libraryFile = services.bundle.pathForResource("mustache.min", "js");
-    const auto htmlFile = services.bundle.pathForResource("export_html", "mustache");
-    const auto textFile = services.bundle.pathForResource("export_txt", "mustache");
+    const auto libraryFile = bundle.pathForResource("mustache.min", "js");
+    const auto htmlFile = bundle.pathForResource("export_html", "mustache");
+    const auto textFile = bundle.pathForResource("export_txt", "mustache");
     if (!libraryFile || !htmlFile || !textFile) {
-        services.console << "Unable to find mustache JS file" << std::endl;
+        console << "Unable to find mustache JS file" << std::endl;
         return std::nullopt;
     }
     const auto library = readText(*libraryFile);
@@ -60,16 +61,15 @@ VerbExport::exportVerb(const data::Verb& verb, const platform::Services& service
     if (!textTemplate) {
         return tl::unexpected(textTemplate.error());
     }
-    const auto json = exportData(verb, services);
+    const auto json = exportData(verb, bundle, settings, device);
     if (!json) {
-        services.console << "Unable to create json string" << std::endl;
+        console << "Unable to create json string" << std::endl;
         return std::nullopt;
     }
 
-    const auto context = services.scripts.makeJavaScriptContext();
-    context->setExceptionHandler([&services](const std::string& thrown) {
-        services.console << "JS Error: " << thrown << std::endl;
-    });
+    const auto context = scripts.makeJavaScriptContext();
+    context->setExceptionHandler(
+        [&console](const std::string& thrown) { console << "JS Error: " << thrown << std::endl; });
     context->evaluateScript(*library);
     VerbRenderings renderings;
     renderings.html = context->evaluateScript(renderingScript(*htmlTemplate, *json));

@@ -5,6 +5,7 @@
 
 #include "platform/base/error.h"
 
+#include <iosfwd>
 #include <optional>
 #include <string>
 
@@ -12,8 +13,11 @@ namespace lumora::data {
 struct Verb;
 }
 namespace lumora::platform {
-struct Services;
-}
+class Bundle;
+class Device;
+class JavaScriptContextFactory;
+class SettingsStore;
+} // namespace lumora::platform
 
 namespace lumora::exporting {
 
@@ -30,7 +34,9 @@ public:
     /// be read. A template that makes the script fail is rendered as the word
     /// undefined, and the console has the reason.
     platform::Result<std::optional<VerbRenderings>>
-    exportVerb(const data::Verb& verb, const platform::Services& services) const;
+    exportVerb(const data::Verb& verb, const platform::Bundle& bundle,
+               const platform::SettingsStore& settings, const platform::Device& device,
+               platform::JavaScriptContextFactory& scripts, std::ostream& console) const;
 };
 
 } // namespace lumora::exporting

@@ -16,9 +16,9 @@ namespace lumora::lists {
 
 namespace {
 
-void toggleFavourite(platform::TableViewController& list, const platform::Services& services,
-                     platform::DatabaseQueue* queue, const data::VerbPtr& verb,
-                     platform::IndexPath path)
+void toggleFavourite(platform::TableViewController& list, platform::DatabaseQueue* queue,
+                     const data::VerbPtr& verb, platform::IndexPath path,
+                     platform::NotificationCenter& notifications, std::ostream& console)
 {
     verb->isFavourite = !verb->isFavourite;
     list.tableView().reloadRow(path);
@@ -26,28 +26,29 @@ void toggleFavourite(platform::TableViewController& list, const platform::Servic
         std::abort();
     }
     queue->inDatabase([&](platform::Database& connection) {
-        data::updateFavourite(connection, *verb, services.console);
+        data::updateFavourite(connection, *verb, console);
         connection.close();
     });
-    data::post(services.notifications, data::VerbFavouriteToggled{&list, verb, {}});
+    data::post(notifications, data::VerbFavouriteToggled{&list, verb, {}});
 }
 
 } // namespace
 
 platform::SwipeAction favouriteAction(platform::TableViewController& list,
-                                      const platform::Services& services,
                                       platform::DatabaseQueue* queue, const data::VerbPtr& verb,
-                                      platform::IndexPath path)
+                                      platform::IndexPath path, const platform::Bundle& bundle,
+                                      platform::NotificationCenter& notifications,
+                                      std::ostream& console)
 {
     platform::SwipeAction action;
     const bool favourite = verb->isFavourite;
-    action.title = platform::localizedString(services.bundle, favourite ? "action.favourite.remove"
-                                                                        : "action.favourite");
+    action.title = platform::localizedString(bundle, favourite ? "action.favourite.remove"
+                                                               : "action.favourite");
     action.backgroundColor = favourite ? platform::kRedColor : platform::kLightGrayColor;
     action.image = favourite ? "remove" : "favourite";
-    action.handler = [&list, &services, queue, verb,
+    action.handler = [&list, &notifications, &console, queue, verb,
                       path](const std::function<void(bool)>& completed) {
-        toggleFavourite(list, services, queue, verb, path);
+        toggleFavourite(list, queue, verb, path, notifications, console);
         completed(true);
     };
     return action;

@@ -7,10 +7,13 @@
 #include "platform/screens/index_path.h"
 #include "platform/screens/swipe_action.h"
 
+#include <iosfwd>
+
 namespace lumora::platform {
+class Bundle;
 class DatabaseQueue;
+class NotificationCenter;
 class TableViewController;
-struct Services;
 } // namespace lumora::platform
 
 namespace lumora::lists {
@@ -21,8 +24,9 @@ namespace lumora::lists {
 /// "VerbFavouriteToggled" with the list as sender. All that is handed in must
 /// outlive the action. To trigger it without a queue stops the program.
 platform::SwipeAction favouriteAction(platform::TableViewController& list,
-                                      const platform::Services& services,
                                       platform::DatabaseQueue* queue, const data::VerbPtr& verb,
-                                      platform::IndexPath path);
+                                      platform::IndexPath path, const platform::Bundle& bundle,
+                                      platform::NotificationCenter& notifications,
+                                      std::ostream& console);
 
 } // namespace lumora::lists

@@ -36,7 +36,8 @@ void RemovableVerbListController::reload(const std::string& statement)
                 "An error occurred when reading list of verbs: %@ (%d)",
                 {connection.lastErrorMessage(), connection.lastErrorCode()});
         }
-        distinguishHomographs(verbs, connection, services());
+        distinguishHomographs(verbs, connection, services().settings, services().device,
+                              services().crashReporter);
         connection.close();
         tableView().reloadData();
         isReloading = false;
@@ -66,7 +67,7 @@ data::VerbPtr RemovableVerbListController::verbAt(platform::IndexPath path) cons
 
 platform::TableCell RemovableVerbListController::cellForRow(platform::IndexPath path)
 {
-    return verbCell(*verbAt(path), services());
+    return verbCell(*verbAt(path), services().settings, services().device);
 }
 
 bool RemovableVerbListController::canEditRow(platform::IndexPath /*path*/)

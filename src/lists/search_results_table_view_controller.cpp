@@ -39,7 +39,8 @@ void SearchResultsTableViewController::search(std::string_view text)
             auto rows = connection.executeQuery(statement.statement, values);
             read(rows);
         }
-        distinguishHomographs(verbs, connection, services());
+        distinguishHomographs(verbs, connection, services().settings, services().device,
+                              services().crashReporter);
         tableView().reloadData();
     });
 }
@@ -64,7 +65,7 @@ const data::VerbPtr& SearchResultsTableViewController::verbAt(platform::IndexPat
 
 platform::TableCell SearchResultsTableViewController::cellForRow(platform::IndexPath path)
 {
-    return verbCell(*verbAt(path), services());
+    return verbCell(*verbAt(path), services().settings, services().device);
 }
 
 void SearchResultsTableViewController::didSelectRow(platform::IndexPath path)
@@ -93,7 +94,8 @@ bool SearchResultsTableViewController::canEditRow(platform::IndexPath /*path*/)
 std::vector<platform::SwipeAction>
 SearchResultsTableViewController::trailingSwipeActions(platform::IndexPath path)
 {
-    return {favouriteAction(*this, services(), queue, verbAt(path), path)};
+    return {favouriteAction(*this, queue, verbAt(path), path, services().bundle,
+                            services().notifications, services().console)};
 }
 
 std::optional<platform::IndexPath>

@@ -6,27 +6,27 @@
 #include "data/homographs.h"
 #include "data/translation_table.h"
 #include "platform/machine/crash_reporter.h"
-#include "platform/screens/services.h"
 #include "platform/storage/database.h"
 
 namespace lumora::lists {
 
 namespace {
 
-bool translatesIntoFrench(const platform::Services& services)
+bool translatesIntoFrench(const platform::SettingsStore& settings, const platform::Device& device)
 {
-    return data::listLanguage(services.settings, services.device).text == &data::Verb::french;
+    return data::listLanguage(settings, device).text == &data::Verb::french;
 }
 
 } // namespace
 
-platform::TableCell verbCell(const data::Verb& verb, const platform::Services& services)
+platform::TableCell verbCell(const data::Verb& verb, const platform::SettingsStore& settings,
+                             const platform::Device& device)
 {
     platform::TableCell cell;
     cell.reuseIdentifier = "VerbCell";
     cell.text = verb.french;
-    cell.detailText = verb.translation(services.settings, services.device);
-    if (!verb.distinction.empty() && translatesIntoFrench(services)) {
+    cell.detailText = verb.translation(settings, device);
+    if (!verb.distinction.empty() && translatesIntoFrench(settings, device)) {
         cell.note = verb.distinction;
     }
     cell.accessibilityIdentifier = verb.french;
@@ -37,13 +37,14 @@ platform::TableCell verbCell(const data::Verb& verb, const platform::Services& s
 }
 
 void distinguishHomographs(const std::vector<data::VerbPtr>& verbs, platform::Database& database,
-                           const platform::Services& services)
+                           const platform::SettingsStore& settings, const platform::Device& device,
+                           platform::CrashReporter& crashReporter)
 {
-    if (!translatesIntoFrench(services)) {
+    if (!translatesIntoFrench(settings, device)) {
         return;
     }
     if (!data::distinguishHomographs(database, verbs)) {
-        services.crashReporter.logWithFormat(
+        crashReporter.logWithFormat(
             "An error occurred when telling verbs of one name apart: %@ (%d)",
             {database.lastErrorMessage(), database.lastErrorCode()});
     }

@@ -9,8 +9,10 @@
 #include <vector>
 
 namespace lumora::platform {
+class CrashReporter;
 class Database;
-struct Services;
+class Device;
+class SettingsStore;
 } // namespace lumora::platform
 
 namespace lumora::lists {
@@ -18,11 +20,13 @@ namespace lumora::lists {
 /// The "VerbCell" of every list: the French verb over its translation, a star
 /// for a favourite. Its note tells a homograph from the others where the
 /// translation is French itself.
-platform::TableCell verbCell(const data::Verb& verb, const platform::Services& services);
+platform::TableCell verbCell(const data::Verb& verb, const platform::SettingsStore& settings,
+                             const platform::Device& device);
 
 /// Asks what tells homographs apart if the translations will not, and logs
 /// a failure.
 void distinguishHomographs(const std::vector<data::VerbPtr>& verbs, platform::Database& database,
-                           const platform::Services& services);
+                           const platform::SettingsStore& settings, const platform::Device& device,
+                           platform::CrashReporter& crashReporter);
 
 } // namespace lumora::lists

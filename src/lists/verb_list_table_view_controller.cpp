@@ -112,7 +112,8 @@ void VerbListTableViewController::readVerbs(platform::DatabaseQueue& database,
             }
             std::sort(keys.begin(), keys.end(), text::scalarLess);
         }
-        distinguishHomographs(all, connection, services());
+        distinguishHomographs(all, connection, services().settings, services().device,
+                              services().crashReporter);
         tableView().reloadData();
         connection.close();
     });
@@ -166,7 +167,7 @@ data::VerbPtr VerbListTableViewController::verbAt(platform::IndexPath path) cons
 platform::TableCell VerbListTableViewController::cellForRow(platform::IndexPath path)
 {
     const auto verb = verbAt(path);
-    return verb ? verbCell(*verb, services()) : platform::TableCell{};
+    return verb ? verbCell(*verb, services().settings, services().device) : platform::TableCell{};
 }
 
 bool VerbListTableViewController::canEditRow(platform::IndexPath /*path*/)
@@ -181,7 +182,8 @@ VerbListTableViewController::trailingSwipeActions(platform::IndexPath path)
     if (!verb) {
         return {};
     }
-    return {favouriteAction(*this, services(), queue, verb, path)};
+    return {favouriteAction(*this, queue, verb, path, services().bundle, services().notifications,
+                            services().console)};
 }
 
 } // namespace lumora::lists

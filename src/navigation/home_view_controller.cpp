@@ -294,7 +294,9 @@ void HomeViewController::showMoreApps()
 
 void HomeViewController::contactSupport()
 {
-    supportEmailSender = std::make_shared<exporting::SupportEmailSender>(services_);
+    supportEmailSender = std::make_shared<exporting::SupportEmailSender>(
+        services_.bundle, services_.device, services_.mail, services_.urlOpener,
+        services_.presenter);
     supportEmailSender->sender = this;
     supportEmailSender->start();
 }

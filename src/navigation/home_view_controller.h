@@ -139,7 +139,7 @@ private:
     void sendCrashReportValues();
     void outletsChanged();
 
-    platform::Services services_;
+    const platform::Services& services_;
     TabBarItem listTabBarItem_;
     TabBarItem favouritesTabBarItem_;
     TabBarItem historyTabBarItem_;

@@ -8,8 +8,6 @@
 #include "platform/machine/bundle.h"
 #include "platform/machine/device.h"
 #include "platform/machine/url_opener.h"
-#include "platform/screens/navigation_controller.h"
-#include "platform/screens/presenter.h"
 
 #include <algorithm>
 #include <iterator>
@@ -52,12 +50,8 @@ void MoreAppsTableViewController::viewDidLoad()
 {
     auto item = navigationItem();
     item.title = localizedString(services().bundle, "moreapps");
-    item.rightBarButtons = {{.identifier = "done",
-                             .title = localizedString(services().bundle, "common.done"),
-                             .image = {},
-                             .enabled = true,
-                             .action = [this] { close(); }}};
     setNavigationItem(std::move(item));
+    addDoneButton([this] { close(); });
 
     const auto running = services().bundle.infoValue("CFBundleIdentifier");
     const ProductList products;
@@ -67,8 +61,7 @@ void MoreAppsTableViewController::viewDidLoad()
 
 void MoreAppsTableViewController::close()
 {
-    platform::ViewController* stack = navigationController();
-    services().presenter.dismiss(stack != nullptr ? *stack : *this, nullptr);
+    dismiss(nullptr);
 }
 
 int MoreAppsTableViewController::numberOfSections()

@@ -10,7 +10,6 @@
 #include "platform/machine/analytics.h"
 #include "platform/machine/bundle.h"
 #include "platform/machine/url_opener.h"
-#include "platform/screens/navigation_controller.h"
 #include "platform/screens/presenter.h"
 #include "platform/storage/database_queue.h"
 #include "platform/storage/settings_store.h"
@@ -44,16 +43,12 @@ void OptionsTableViewController::viewDidLoad()
 {
     auto item = navigationItem();
     item.title = text("settings");
-    item.rightBarButtons = {{.identifier = "done",
-                             .title = text("common.done"),
-                             .image = {},
-                             .enabled = true,
-                             .action = [this] { close(); }}};
     item.leftBarButton = {
         {.identifier = "backup", .title = {}, .image = "more", .enabled = true, .action = [this] {
              showBackupMenu();
          }}};
     setNavigationItem(std::move(item));
+    addDoneButton([this] { close(); });
     header.iconImageView = {"AboutIcon", 10, true, 1, platform::kLightTextColor};
     header.titleLabel = text("app.title");
     header.copyrightLabel = text("settings.copyright");
@@ -73,14 +68,9 @@ void OptionsTableViewController::viewDidAppear()
 
 void OptionsTableViewController::close()
 {
-    if (delegate == nullptr) {
-        return;
+    if (delegate != nullptr) {
+        dismiss([home = delegate, changed = fieldsChanged] { home->optionsClosed(changed); });
     }
-    platform::ViewController* stack = navigationController();
-    // This screen may be gone by then.
-    services().presenter.dismiss(
-        stack != nullptr ? *stack : *this,
-        [home = delegate, changed = fieldsChanged] { home->optionsClosed(changed); });
 }
 
 void OptionsTableViewController::openWebsite()
@@ -90,14 +80,18 @@ void OptionsTableViewController::openWebsite()
 
 void OptionsTableViewController::sendSupportEmail()
 {
-    supportEmailSender = std::make_shared<exporting::SupportEmailSender>(services());
+    supportEmailSender = std::make_shared<exporting::SupportEmailSender>(
+        services().bundle, services().device, services().mail, services().urlOpener,
+        services().presenter);
     supportEmailSender->sender = this;
     supportEmailSender->start();
 }
 
 void OptionsTableViewController::showBackupMenu()
 {
-    backupMenu = std::make_shared<backup::BackupMenu>(services(), *this, queue);
+    backupMenu = std::make_shared<backup::BackupMenu>(
+        *this, queue, services().bundle, services().clock, services().presenter,
+        services().fileChooser, services().notifications, services().console);
     backupMenu->show();
 }
 

@@ -84,7 +84,10 @@ platform::Result<void> exportDocument(Session& session, const Arguments& argumen
     if (const auto loaded = loadedScreen(session, *verb); !loaded) {
         return tl::unexpected(loaded.error());
     }
-    const auto renderings = exporting::VerbExport{}.exportVerb(**verb, session.services());
+    const auto& services = session.services();
+    const auto renderings =
+        exporting::VerbExport{}.exportVerb(**verb, services.bundle, services.settings,
+                                           services.device, services.scripts, services.console);
     if (!renderings) {
         return tl::unexpected(renderings.error());
     }

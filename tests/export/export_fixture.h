@@ -34,7 +34,12 @@ struct ExportFixture : testing::Test {
         world.bundle.resources[name] = world.folder / name;
     }
 
-    auto exportVerb() { return VerbExport{}.exportVerb(verb, world.services()); }
+    auto exportVerb()
+    {
+        const auto& services = world.services();
+        return VerbExport{}.exportVerb(verb, services.bundle, services.settings, services.device,
+                                       services.scripts, services.console);
+    }
 
     support::World world;
     data::Verb verb;
@@ -44,7 +49,7 @@ struct ExportFixture : testing::Test {
 struct RenderingFixture : ExportFixture {
     RenderingFixture()
     {
-        world.scriptEngine = &contexts;
+        world.setScriptEngine(contexts);
         for (const char* name : support::kTemplates) {
             world.bundle.resources[name] = share / name;
         }

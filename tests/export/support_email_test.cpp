@@ -47,10 +47,15 @@ protected:
         return titles;
     }
 
+    std::shared_ptr<SupportEmailSender> newEmail()
+    {
+        return std::make_shared<SupportEmailSender>(world.bundle, world.device, world.mail,
+                                                    world.urlOpener, world.presenter);
+    }
+
     World world;
     platform::ViewController screen;
-    std::shared_ptr<SupportEmailSender> email =
-        std::make_shared<SupportEmailSender>(world.services());
+    std::shared_ptr<SupportEmailSender> email = newEmail();
 };
 
 TEST_F(SupportEmail, ComposesAMessageThatNamesProgramAndDevice)
@@ -121,7 +126,7 @@ TEST_F(SupportEmail, AnOutcomeThatNobodyWaitsForIsNoTrouble)
     email.reset();
     world.presenter.finishDismissals();
 
-    email = std::make_shared<SupportEmailSender>(world.services());
+    email = newEmail();
     email->sender = &screen;
     email->start();
     email.reset();

@@ -97,7 +97,8 @@ public:
             detail.selectedVerb = verbs[i];
             detail.loadViewIfNeeded();
             detail.selectVerbTypes(1);
-            static_cast<void>(exporting::exportData(*detail.selectedVerb, world_.services()));
+            static_cast<void>(exporting::exportData(*detail.selectedVerb, world_.bundle,
+                                                    world_.settings, world_.device));
         }
         lists::FavouritesTableViewController favourites{world_.services()};
         favourites.queue = queue.get();

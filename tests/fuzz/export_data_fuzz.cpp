@@ -36,7 +36,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
                      text::wellFormed(form->verb) == form->verb;
     }
 
-    const auto json = exporting::exportData(verb, world.services());
+    const auto json = exporting::exportData(verb, world.bundle, world.settings, world.device);
 
     fuzz::require(json.has_value() == wellFormed, "refused exactly when it is no UTF-8");
     if (!json) {

@@ -62,6 +62,7 @@ World::World()
 {
     writeSmallDatabase(folder / "small.db");
     queue = platform::DatabaseQueue::open(platform::fileUrl(folder / "small.db"));
+    setScriptEngine(scripts);
     storyboard.setServices(services());
     for (const char* name : {"VerbFavouriteToggled", "VerbViewed", "TabOpenEvent"}) {
         subscriptions_.push_back(notifications.addObserver(
@@ -71,12 +72,12 @@ World::World()
 
 World::~World() = default;
 
-platform::Services World::services()
+void World::setScriptEngine(platform::JavaScriptContextFactory& engine)
 {
-    return {notifications,  settings,  bundle,       device,        clock,
-            crashReporter,  analytics, console,      views,         presenter,
-            storyboard,     speech,    audioSession, *scriptEngine, shareSheet,
-            reviewPrompter, mail,      urlOpener,    fileChooser,   viewMemory};
+    services_.emplace(platform::Services{
+        notifications, settings,       bundle,    device,     clock,       crashReporter, analytics,
+        console,       views,          presenter, storyboard, speech,      audioSession,  engine,
+        shareSheet,    reviewPrompter, mail,      urlOpener,  fileChooser, viewMemory});
 }
 
 void World::execute(const std::string& sql) const

@@ -25,6 +25,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -59,7 +60,9 @@ public:
     World();
     ~World();
 
-    platform::Services services();
+    const platform::Services& services() const { return *services_; }
+    /// The scripts of the screens made from now on run in another engine.
+    void setScriptEngine(platform::JavaScriptContextFactory& engine);
 
     /// A screen on the database, as it is before it appears.
     template <typename Screen>
@@ -98,8 +101,6 @@ public:
     FakeSpeechSynthesizerFactory speech;
     FakeAudioSession audioSession;
     FakeJavaScriptContextFactory scripts;
-    /// What the services hand out; a test may put the real one here.
-    platform::JavaScriptContextFactory* scriptEngine = &scripts;
     FakeShareSheet shareSheet;
     FakeReviewPrompter reviewPrompter;
     FakeMailService mail;
@@ -108,6 +109,7 @@ public:
     std::unique_ptr<platform::DatabaseQueue> queue;
 
 private:
+    std::optional<platform::Services> services_;
     std::vector<platform::NotificationCenter::Subscription> subscriptions_;
 };
 

@@ -27,7 +27,8 @@ class UrlOpener;
 class ViewFactory;
 
 /// What every screen may ask of the machine. The composition root owns all of
-/// it and keeps it longer than any screen.
+/// it and keeps it longer than any screen; a screen holds a reference to it.
+/// A helper that is no screen is handed the interfaces that it uses.
 struct Services {
     NotificationCenter& notifications;
     SettingsStore& settings;

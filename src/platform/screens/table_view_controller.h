@@ -8,6 +8,7 @@
 #include "platform/screens/view_controller.h"
 #include "platform/screens/view_factory.h"
 
+#include <functional>
 #include <memory>
 
 namespace lumora::platform {
@@ -23,8 +24,14 @@ public:
 protected:
     const Services& services() const { return services_; }
 
+    /// Puts "Done" on the right of the bar.
+    void addDoneButton(std::function<void()> action);
+    /// Takes the screen away with the stack that it is on. `completed` runs when
+    /// both may be gone; it may be null.
+    void dismiss(std::function<void()> completed);
+
 private:
-    Services services_;
+    const Services& services_;
     std::unique_ptr<TableView> tableView_;
 };
 

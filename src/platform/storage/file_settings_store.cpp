@@ -9,6 +9,7 @@
 
 #include <cerrno>
 #include <cmath>
+#include <cstdint>
 #include <type_traits>
 #include <utility>
 
@@ -19,72 +20,43 @@ namespace {
 constexpr std::uintmax_t kMaximumBytes = std::uintmax_t{1024} * 1024;
 constexpr int kIndent = 2;
 
-/// Takes the scalars of the outermost object as they come, so that neither
-/// depth nor size of what is dropped costs anything.
-class SettingsReader final : public nlohmann::json_sax<nlohmann::json> {
-public:
+std::optional<SettingValue> settingOf(const nlohmann::json& value)
+{
+    switch (value.type()) {
+    case nlohmann::json::value_t::boolean:
+        return value.get<bool>();
+    case nlohmann::json::value_t::number_integer:
+        return value.get<std::int64_t>();
+    case nlohmann::json::value_t::number_unsigned: {
+        const auto number = value.get<std::uint64_t>();
+        if (!std::in_range<std::int64_t>(number)) {
+            return static_cast<double>(number);
+        }
+        return static_cast<std::int64_t>(number);
+    }
+    case nlohmann::json::value_t::number_float:
+        return value.get<double>();
+    case nlohmann::json::value_t::string:
+        return value.get<std::string>();
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<SettingsStore::Values> valuesIn(const std::string& content)
+{
+    const auto document = nlohmann::json::parse(content, nullptr, false);
+    if (!document.is_object()) {
+        return std::nullopt;
+    }
     SettingsStore::Values values;
-
-    bool null() override { return rootIsObject(); }
-    bool boolean(bool value) override { return take(value); }
-    bool number_integer(number_integer_t value) override { return take(value); }
-    bool number_unsigned(number_unsigned_t value) override
-    {
-        // Only those past the end of the signed range come this way.
-        return std::in_range<std::int64_t>(value) ? take(static_cast<std::int64_t>(value))
-                                                  : take(static_cast<double>(value));
-    }
-    bool number_float(number_float_t value, const string_t& /*text*/) override
-    {
-        return take(value);
-    }
-    bool string(string_t& value) override { return take(std::move(value)); }
-    bool binary(binary_t& /*value*/) override { return rootIsObject(); }
-    bool start_object(std::size_t /*elements*/) override
-    {
-        ++depth_;
-        return true;
-    }
-    bool key(string_t& value) override
-    {
-        if (depth_ == 1) {
-            key_ = std::move(value);
+    for (const auto& [key, value] : document.items()) {
+        if (auto setting = settingOf(value)) {
+            values.emplace(key, *std::move(setting));
         }
-        return true;
     }
-    bool end_object() override
-    {
-        --depth_;
-        return true;
-    }
-    bool start_array(std::size_t /*elements*/) override
-    {
-        return rootIsObject() && (++depth_, true);
-    }
-    bool end_array() override
-    {
-        --depth_;
-        return true;
-    }
-    bool parse_error(std::size_t /*position*/, const std::string& /*token*/,
-                     const nlohmann::detail::exception& /*error*/) override
-    {
-        return false;
-    }
-
-private:
-    bool rootIsObject() const { return depth_ > 0; }
-    bool take(SettingValue value)
-    {
-        if (depth_ == 1) {
-            values.insert_or_assign(key_, std::move(value));
-        }
-        return rootIsObject();
-    }
-
-    std::size_t depth_ = 0;
-    std::string key_;
-};
+    return values;
+}
 
 std::string rendered(const SettingsStore::Values& values)
 {
@@ -117,9 +89,8 @@ FileSettingsStore::FileSettingsStore(std::filesystem::path file) : file_(std::mo
         refused_ = content.error();
         return;
     }
-    SettingsReader reader;
-    if (content && nlohmann::json::sax_parse(*content, &reader)) {
-        setValues(std::move(reader.values));
+    if (auto values = content ? valuesIn(*content) : std::nullopt) {
+        setValues(*std::move(values));
         return;
     }
     std::filesystem::path aside = file_;
@@ -139,10 +110,9 @@ void FileSettingsStore::refresh()
     if (isChanged()) {
         return;
     }
-    SettingsReader reader;
-    if (const auto content = readFile(file_, kMaximumBytes);
-        content && nlohmann::json::sax_parse(*content, &reader)) {
-        setValues(std::move(reader.values));
+    const auto content = readFile(file_, kMaximumBytes);
+    if (auto values = content ? valuesIn(*content) : std::nullopt) {
+        setValues(*std::move(values));
     }
 }
 

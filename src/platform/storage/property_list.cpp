@@ -15,7 +15,6 @@ namespace lumora::platform {
 namespace {
 
 constexpr std::size_t kMaximumBytes = std::size_t{1024} * 1024;
-/// The library follows containers inside containers by recursion.
 constexpr std::size_t kMaximumContainers = 4096;
 constexpr std::string_view kBinaryMark = "bplist00";
 constexpr std::size_t kTrailerBytes = 32;
@@ -76,9 +75,9 @@ std::optional<std::vector<std::uint64_t>> membersOf(std::string_view object,
     return members;
 }
 
-/// Whether no container is a member twice. The library copies a member for
-/// every mention, so that a few shared ones would fill the memory.
-bool isModestBinary(std::string_view bytes)
+/// Whether the library reads the binary list in bounded time and memory: no
+/// container is a member twice, and there are not too many of them.
+bool isBounded(std::string_view bytes)
 {
     if (bytes.size() < kBinaryMark.size() + kTrailerBytes) {
         return false;
@@ -119,18 +118,6 @@ bool isModestBinary(std::string_view bytes)
     return true;
 }
 
-bool isModestText(std::string_view bytes)
-{
-    std::size_t containers = 0;
-    for (const std::string_view opening : {"<dict", "<array"}) {
-        for (std::size_t place = bytes.find(opening); place != std::string_view::npos;
-             place = bytes.find(opening, place + opening.size())) {
-            ++containers;
-        }
-    }
-    return containers <= kMaximumContainers;
-}
-
 PropertyListValue readValue(plist_t node)
 {
     switch (plist_get_node_type(node)) {
@@ -166,7 +153,7 @@ std::optional<PropertyListDictionary>
 readPropertyListDictionary(std::string_view bytes, std::span<const std::string_view> keys)
 {
     const bool binary = bytes.substr(0, kBinaryMark.size()) == kBinaryMark;
-    if (bytes.size() > kMaximumBytes || !(binary ? isModestBinary(bytes) : isModestText(bytes))) {
+    if (bytes.size() > kMaximumBytes || (binary && !isBounded(bytes))) {
         return std::nullopt;
     }
     plist_t parsed = nullptr;

@@ -320,14 +320,10 @@ QVariantList TableItemModel::trailingActions(int row)
     actionsPath_ = path;
     QVariantList list;
     for (const auto& action : actions_) {
-        QVariantMap map{
-            {QStringLiteral("title"), toQString(action.title)},
-            {QStringLiteral("image"), toQString(action.image)},
-            {QStringLiteral("destructive"), action.style == platform::ActionStyle::Destructive}};
-        if (action.backgroundColor) {
-            map.insert(QStringLiteral("background"), toQColor(*action.backgroundColor));
-        }
-        list.append(map);
+        list.append(QVariant::fromValue(
+            SwipeOffer{toQString(action.title), toQString(action.image),
+                       action.style == platform::ActionStyle::Destructive,
+                       action.backgroundColor ? toQColor(*action.backgroundColor) : QColor{}}));
     }
     return list;
 }

@@ -7,6 +7,8 @@
 #include "qt/models/indicator_source.h"
 
 #include <QAbstractListModel>
+#include <QColor>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
 #include <QVariantList>
 
@@ -15,6 +17,23 @@
 #include <vector>
 
 namespace lumora::qt {
+
+/// What a swipe over a row offers to do with it.
+struct SwipeOffer {
+    Q_GADGET
+    QML_VALUE_TYPE(swipeOffer)
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(QString image MEMBER image FINAL)
+    Q_PROPERTY(bool destructive MEMBER destructive FINAL)
+    Q_PROPERTY(QColor background MEMBER background FINAL)
+
+public:
+    QString title;
+    QString image;
+    bool destructive = false;
+    /// Invalid for the toolkit's own colour.
+    QColor background;
+};
 
 /// Any table controller as one flat list: each section's header, cells and
 /// footer, in order. It does all the arithmetic between rows of the list and
@@ -95,8 +114,7 @@ public:
     /// where there are fewer, -1 where there is none.
     Q_INVOKABLE int cellAway(int row, int steps) const;
 
-    /// What a swipe over the row offers: maps of title, image, destructive and
-    /// background (absent for the toolkit's own colour).
+    /// What a swipe over the row offers, as SwipeOffer.
     Q_INVOKABLE QVariantList trailingActions(int row);
     /// Does the `action`th of what the row offered.
     Q_INVOKABLE void triggerAction(int row, int action);

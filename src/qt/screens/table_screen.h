@@ -9,7 +9,7 @@
 
 namespace lumora::qt {
 
-/// A screen that is one table.
+/// A screen that shows a table.
 class TableScreen : public lumora::qt::Screen {
     Q_OBJECT
     QML_ELEMENT
@@ -19,6 +19,9 @@ class TableScreen : public lumora::qt::Screen {
 public:
     explicit TableScreen(const std::shared_ptr<platform::TableViewController>& controller,
                          const QString& pageName = QStringLiteral("TablePage"));
+    /// The table belongs to the controller.
+    TableScreen(std::shared_ptr<platform::ViewController> controller, platform::TableView& table,
+                const QString& pageName);
 
     QtTableView* table() const { return &table_; }
     /// The page is about to draw the table.

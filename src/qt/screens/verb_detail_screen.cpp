@@ -15,7 +15,8 @@ namespace lumora::qt {
 
 VerbDetailScreen::VerbDetailScreen(
     std::shared_ptr<detail::VerbDetailTableViewController> controller)
-    : Screen{controller, QStringLiteral("VerbDetailPage")}, detail_{std::move(controller)}
+    : TableScreen{controller, *controller->tableView, QStringLiteral("VerbDetailPage")},
+      detail_{std::move(controller)}
 {
     detail_->setOutletListener([this] { emit outletsChanged(); });
     detail_->setWordsListener([this] { emit wordsChanged(); });
@@ -25,11 +26,6 @@ VerbDetailScreen::~VerbDetailScreen()
 {
     detail_->setOutletListener({});
     detail_->setWordsListener({});
-}
-
-QtTableView* VerbDetailScreen::table() const
-{
-    return &dynamic_cast<QtTableView&>(*detail_->tableView);
 }
 
 CollectionItemModel* VerbDetailScreen::collection() const

@@ -5,8 +5,7 @@
 
 #include "detail/verb_detail_table_view_controller.h"
 #include "qt/models/qt_collection_view.h"
-#include "qt/models/qt_table_view.h"
-#include "qt/screens/screen.h"
+#include "qt/screens/table_screen.h"
 #include "qt/screens/verb_guide_values.h"
 
 #include <QColor>
@@ -14,11 +13,10 @@
 namespace lumora::qt {
 
 /// The verb detail screen: one verb as a table or as a collection.
-class VerbDetailScreen final : public lumora::qt::Screen {
+class VerbDetailScreen final : public lumora::qt::TableScreen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the registry")
-    Q_PROPERTY(lumora::qt::QtTableView* table READ table CONSTANT)
     Q_PROPERTY(lumora::qt::CollectionItemModel* collection READ collection CONSTANT)
     Q_PROPERTY(QStringList moods READ moods NOTIFY outletsChanged)
     Q_PROPERTY(int selectedMood READ selectedMood NOTIFY outletsChanged)
@@ -47,7 +45,6 @@ public:
     explicit VerbDetailScreen(std::shared_ptr<detail::VerbDetailTableViewController> controller);
     ~VerbDetailScreen() override;
 
-    QtTableView* table() const;
     CollectionItemModel* collection() const;
     QStringList moods() const;
     int selectedMood() const { return detail_->verbTypeSegmentedControl.selected; }
@@ -88,7 +85,6 @@ public:
     Q_INVOKABLE void selectMood(int segment) { detail_->selectVerbTypes(segment); }
     /// The page is about to draw the collection.
     Q_INVOKABLE void prepareCollection() const { collection()->loadIfNeeded(); }
-    Q_INVOKABLE void prepareTable() const { table()->model()->loadIfNeeded(); }
 
 signals:
     void outletsChanged();

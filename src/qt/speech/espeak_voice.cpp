@@ -27,7 +27,7 @@ constexpr auto kUsualRate = static_cast<int>(platform::kDefaultSpeechRate);
 
 /// The engine's variants of a voice.
 constexpr const char* kWoman = "+f2";
-constexpr const char* kMan = "+m3";
+constexpr const char* kMan = "+m7";
 /// How far the pitch goes, up to 100; the engine's own 50 sounds flat.
 constexpr int kLivelyRange = 85;
 

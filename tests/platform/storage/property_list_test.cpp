@@ -109,7 +109,7 @@ TEST(PropertyList, AnythingButADictionaryIsNone)
         {"binary cut short", binary.substr(0, binary.size() / 2)},
         {"more objects than bytes", manyObjects},
         {"a container in two places", doublingBinary()},
-        {"too deep", document("<dict><key>a</key>" + deep)},
+        {"containers left open", document("<dict><key>a</key>" + deep)},
         {"too big",
          document("<dict><key>a</key><string>" + std::string(1 << 20, 'x') + "</string></dict>")},
     };

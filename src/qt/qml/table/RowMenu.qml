@@ -59,7 +59,7 @@ Menu {
 
         delegate: RowMenuItem {
             required property int index
-            required property var modelData
+            required property swipeOffer modelData
 
             objectName: "menuAction" + index
             text: modelData.title

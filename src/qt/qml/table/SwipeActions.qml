@@ -35,8 +35,8 @@ Row {
             id: button
 
             required property int index
-            required property var modelData
-            readonly property color shade: modelData.background !== undefined ? modelData.background : modelData.destructive ? "#b3261e" : "#5b6470"
+            required property swipeOffer modelData
+            readonly property color shade: modelData.background.valid ? modelData.background : modelData.destructive ? "#b3261e" : "#5b6470"
             readonly property color ink: 0.299 * shade.r + 0.587 * shade.g + 0.114 * shade.b > 0.48 ? "#16191d" : "#ffffff"
 
             function trigger() {

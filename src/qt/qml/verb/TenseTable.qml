@@ -52,7 +52,7 @@ TableContent {
         onAsked: root.ask(index)
     }
     Component.onCompleted: {
-        screen.prepareTable();
+        screen.prepare();
         if (screen.topTense > 0)
             list.positionViewAtIndex(table.model.firstRow(screen.topTense + 1), ListView.Beginning);
         else
