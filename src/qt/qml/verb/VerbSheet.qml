@@ -11,6 +11,8 @@ Popup {
     id: root
 
     required property string heading
+    // All of the window.
+    required property Item room
     property bool wide: false
     default property alias lines: column.data
     readonly property Item keyboard: flick.Window.activeFocusItem
@@ -27,11 +29,11 @@ Popup {
         flick.contentY = Math.min(keyboard.y, Math.max(below, flick.contentY));
     }
 
-    parent: Overlay.overlay
-    x: Math.round((parent.width - width) / 2)
-    y: wide ? Math.round((parent.height - height) / 2) : parent.height - height - Theme.margin
-    width: Math.min(parent.width - 2 * Theme.margin, Math.round(460 * Math.max(1, Theme.textScale)))
-    height: Math.min(column.implicitHeight + topPadding + bottomPadding, parent.height - 2 * Theme.margin)
+    x: Math.round((room.width - width) / 2)
+    y: wide ? Math.round((room.height - height) / 2) : room.height - height - Theme.margin
+    width: Math.min(room.width - 2 * Theme.margin, Math.round(460 * Math.max(1, Theme.textScale)))
+    height: Math.min(column.implicitHeight + topPadding + bottomPadding, room.height - 2 * Theme.margin)
+    parent: room
     padding: 0
     topPadding: Theme.margin
     bottomPadding: Theme.gap

@@ -21,6 +21,7 @@ Item {
                 "screen": screen,
                 "sheet": sheet,
                 "squares": wide,
+                "room": Window.contentItem,
                 "wide": wide
             });
     }
@@ -29,6 +30,7 @@ Item {
         if (note.title !== "")
             show("TenseSheet", {
                 "note": note,
+                "room": Window.contentItem,
                 "wide": wide
             });
     }
