@@ -65,7 +65,7 @@ bool haveSpellingInCommon(const data::Conjugation& one, const data::Conjugation&
 }
 
 void forEachForm(const data::Verb& verb,
-                 const std::function<void(const FormPlace&, const data::TenseBlock&,
+                 const std::function<void(const RowPlace&, const data::TenseBlock&,
                                           const data::Conjugation&)>& visit)
 {
     for (int segment = 0; segment < data::kMoodCount; ++segment) {
@@ -82,7 +82,7 @@ void forEachForm(const data::Verb& verb,
 
 } // namespace
 
-std::shared_ptr<const data::Conjugation> formAt(const data::Verb& verb, const FormPlace& place)
+std::shared_ptr<const data::Conjugation> formAt(const data::Verb& verb, const RowPlace& place)
 {
     const auto* block = blockAt(place.segment, place.tense);
     if (block == nullptr) {
@@ -93,7 +93,7 @@ std::shared_ptr<const data::Conjugation> formAt(const data::Verb& verb, const Fo
     return isThere ? forms[static_cast<std::size_t>(place.row)] : nullptr;
 }
 
-std::optional<FormSheet> formSheet(const data::Verb& verb, const FormPlace& place,
+std::optional<FormSheet> formSheet(const data::Verb& verb, const RowPlace& place,
                                    const RowSounds& sounds, const Wording& wording)
 {
     const auto form = formAt(verb, place);
@@ -109,7 +109,7 @@ std::optional<FormSheet> formSheet(const data::Verb& verb, const FormPlace& plac
                     nameOf(*blockAt(place.segment, place.tense), wording),
                     personInWords(*form, wording),
                     {}};
-    forEachForm(verb, [&](const FormPlace& there, const data::TenseBlock& block,
+    forEachForm(verb, [&](const RowPlace& there, const data::TenseBlock& block,
                           const data::Conjugation& other) {
         if (there != place && haveSpellingInCommon(*form, other)) {
             sheet.others.push_back(

@@ -15,14 +15,14 @@ namespace lumora::detail {
 
 class RowSounds;
 
-/// Where a form of a verb stands: the mood's segment, the tense's position in
+/// Which row of the tables a form of a verb is in: the mood's segment, the tense's position in
 /// the mood, the row in the tense, all from 0.
-struct FormPlace {
+struct RowPlace {
     int segment = 0;
     int tense = 0;
     int row = 0;
 
-    friend bool operator==(const FormPlace&, const FormPlace&) = default;
+    friend bool operator==(const RowPlace&, const RowPlace&) = default;
 };
 
 /// A name of a tense in the chosen set, and in the other set where it differs.
@@ -43,7 +43,7 @@ struct FormSheet {
     std::string person;
 
     struct Other {
-        FormPlace place;
+        RowPlace place;
         std::string row;
         std::string tense;
     };
@@ -62,10 +62,10 @@ struct TenseNote {
 };
 
 /// Null where the verb has no such row.
-std::shared_ptr<const data::Conjugation> formAt(const data::Verb& verb, const FormPlace& place);
+std::shared_ptr<const data::Conjugation> formAt(const data::Verb& verb, const RowPlace& place);
 
 /// None where the verb has no such row.
-std::optional<FormSheet> formSheet(const data::Verb& verb, const FormPlace& place,
+std::optional<FormSheet> formSheet(const data::Verb& verb, const RowPlace& place,
                                    const RowSounds& sounds, const Wording& wording);
 
 /// None where the mood has no tense at that position.

@@ -332,7 +332,7 @@ void VerbDetailTableViewController::play(const PlayableRow& row, float pace)
     playback_.play(utterance, row.indicator, *this);
 }
 
-void VerbDetailTableViewController::saySlowly(const FormPlace& place, bool fromCollection)
+void VerbDetailTableViewController::saySlowly(const RowPlace& place, bool fromCollection)
 {
     constexpr float kPace = 0.6F;
 

@@ -104,7 +104,7 @@ public:
     void keepCardOpen(bool open);
     /// Says a form at a pace to learn it by; `fromCollection` says whose ring
     /// tells so.
-    void saySlowly(const FormPlace& place, bool fromCollection);
+    void saySlowly(const RowPlace& place, bool fromCollection);
     /// Goes on to the verb that many places away in the list, in place of this
     /// one; this screen may be gone then.
     void showNeighbour(int places);

@@ -57,7 +57,7 @@ std::vector<VerbCardLine> VerbGuide::card() const
     return verbCard(verb_, known, relations, wording_);
 }
 
-std::optional<FormSheet> VerbGuide::sheet(const FormPlace& place) const
+std::optional<FormSheet> VerbGuide::sheet(const RowPlace& place) const
 {
     return formSheet(verb_, place, RowSounds{verb_, queue_}, wording_);
 }

@@ -31,7 +31,7 @@ public:
 
     std::string summary() const;
     std::vector<VerbCardLine> card() const;
-    std::optional<FormSheet> sheet(const FormPlace& place) const;
+    std::optional<FormSheet> sheet(const RowPlace& place) const;
     std::optional<TenseNote> note(int segment, int tense) const;
     /// Null where there is none of that id.
     data::VerbPtr verb(std::int64_t id) const;

@@ -145,7 +145,7 @@ TEST_F(Guide, TheSheetOfAFormNamesItAndLeadsToItsOtherPlaces)
 
     const auto payer = verb("payer");
     EXPECT_EQ(guide(*payer).sheet({0, 0, 0})->others.size(), 4U) << "by each of two spellings";
-    for (const FormPlace nowhere : {FormPlace{0, 0, 6}, {0, 8, 0}, {4, 0, 0}, {0, 0, -1}}) {
+    for (const RowPlace nowhere : {RowPlace{0, 0, 6}, {0, 8, 0}, {4, 0, 0}, {0, 0, -1}}) {
         EXPECT_FALSE(guide(*parler).sheet(nowhere));
     }
 }
