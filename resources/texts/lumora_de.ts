@@ -117,6 +117,170 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Menü</translation>
     </message>
+    <message id="card.about">
+        <source></source>
+        <translation>Über dieses Verb</translation>
+    </message>
+    <message id="card.alike">
+        <source></source>
+        <translation>Ebenso konjugiert</translation>
+    </message>
+    <message id="card.auxiliary">
+        <source></source>
+        <translation>Hilfsverb</translation>
+    </message>
+    <message id="card.group">
+        <source></source>
+        <translation>Gruppe</translation>
+    </message>
+    <message id="card.group.1">
+        <source></source>
+        <translation>1. Gruppe: regelmäßige Verben auf -er</translation>
+    </message>
+    <message id="card.group.2">
+        <source></source>
+        <translation>2. Gruppe: Verben auf -ir wie finir</translation>
+    </message>
+    <message id="card.group.3">
+        <source></source>
+        <translation>3. Gruppe: unregelmäßige Verben</translation>
+    </message>
+    <message id="card.group.short.1">
+        <source></source>
+        <translation>1. Gruppe</translation>
+    </message>
+    <message id="card.group.short.2">
+        <source></source>
+        <translation>2. Gruppe</translation>
+    </message>
+    <message id="card.group.short.3">
+        <source></source>
+        <translation>3. Gruppe</translation>
+    </message>
+    <message id="card.homograph">
+        <source></source>
+        <translation>Gleichlautend</translation>
+    </message>
+    <message id="card.infinitive">
+        <source></source>
+        <translation>Infinitiv</translation>
+    </message>
+    <message id="card.infinitive.past">
+        <source></source>
+        <translation>Infinitiv Perfekt</translation>
+    </message>
+    <message id="card.infinitive_only">
+        <source></source>
+        <translation>nur im Infinitiv gebraucht</translation>
+    </message>
+    <message id="card.like">
+        <source></source>
+        <translation>Konjugiert wie</translation>
+    </message>
+    <message id="card.like.short">
+        <source></source>
+        <translation>wie %@</translation>
+    </message>
+    <message id="card.next">
+        <source></source>
+        <translation>Nächstes Verb</translation>
+    </message>
+    <message id="card.notes">
+        <source></source>
+        <translation>Hinweis</translation>
+    </message>
+    <message id="card.participle.avoir">
+        <source></source>
+        <translation>das Partizip richtet sich nur nach einem vorangehenden direkten Objekt</translation>
+    </message>
+    <message id="card.participle.both">
+        <source></source>
+        <translation>das Partizip richtet sich nur nach être nach dem Subjekt</translation>
+    </message>
+    <message id="card.participle.etre">
+        <source></source>
+        <translation>das Partizip richtet sich nach dem Subjekt</translation>
+    </message>
+    <message id="card.participle.indirect">
+        <source></source>
+        <translation>das Partizip richtet sich nicht nach dem Subjekt</translation>
+    </message>
+    <message id="card.participle.invariable">
+        <source></source>
+        <translation>das Partizip ist unveränderlich</translation>
+    </message>
+    <message id="card.plain">
+        <source></source>
+        <translation>Ohne se</translation>
+    </message>
+    <message id="card.previous">
+        <source></source>
+        <translation>Voriges Verb</translation>
+    </message>
+    <message id="card.pronominal">
+        <source></source>
+        <translation>Mit se</translation>
+    </message>
+    <message id="card.third_person">
+        <source></source>
+        <translation>nur in der dritten Person gebraucht</translation>
+    </message>
+    <message id="card.trait.aspirated">
+        <source></source>
+        <translation>h aspiré: davor weder Elision noch Bindung</translation>
+    </message>
+    <message id="card.trait.defective">
+        <source></source>
+        <translation>unvollständig: einige Formen sind ungebräuchlich</translation>
+    </message>
+    <message id="card.trait.en">
+        <source></source>
+        <translation>mit en</translation>
+    </message>
+    <message id="card.trait.impersonal">
+        <source></source>
+        <translation>unpersönlich: nur mit il</translation>
+    </message>
+    <message id="card.trait.plural">
+        <source></source>
+        <translation>übertragen auch mit ils</translation>
+    </message>
+    <message id="card.trait.pronominal">
+        <source></source>
+        <translation>reflexiv: mit se</translation>
+    </message>
+    <message id="card.unused">
+        <source></source>
+        <translation>Nicht gebraucht im</translation>
+    </message>
+    <message id="card.use">
+        <source></source>
+        <translation>Häufigkeit</translation>
+    </message>
+    <message id="card.use.1">
+        <source></source>
+        <translation>eines der 100 häufigsten Verben</translation>
+    </message>
+    <message id="card.use.2">
+        <source></source>
+        <translation>eines der 500 häufigsten Verben</translation>
+    </message>
+    <message id="card.use.3">
+        <source></source>
+        <translation>eines der 2000 häufigsten Verben</translation>
+    </message>
+    <message id="card.use.4">
+        <source></source>
+        <translation>lebendiger Gebrauch</translation>
+    </message>
+    <message id="card.use.5">
+        <source></source>
+        <translation>selten, veraltet oder fachsprachlich</translation>
+    </message>
+    <message id="card.used_only">
+        <source></source>
+        <translation>Gebraucht nur im</translation>
+    </message>
     <message id="common.done">
         <source></source>
         <translation>Fertig</translation>
@@ -300,6 +464,30 @@ Verben im Verlauf: %d</translation>
     <message id="options.button">
         <source></source>
         <translation>Einstellungen</translation>
+    </message>
+    <message id="person.1.plural">
+        <source></source>
+        <translation>1. Person Plural</translation>
+    </message>
+    <message id="person.1.singular">
+        <source></source>
+        <translation>1. Person Singular</translation>
+    </message>
+    <message id="person.2.plural">
+        <source></source>
+        <translation>2. Person Plural</translation>
+    </message>
+    <message id="person.2.singular">
+        <source></source>
+        <translation>2. Person Singular</translation>
+    </message>
+    <message id="person.3.plural">
+        <source></source>
+        <translation>3. Person Plural</translation>
+    </message>
+    <message id="person.3.singular">
+        <source></source>
+        <translation>3. Person Singular</translation>
     </message>
     <message id="privacy">
         <source></source>
@@ -561,6 +749,26 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Übergeordneter Ordner</translation>
     </message>
+    <message id="sheet.copied">
+        <source></source>
+        <translation>Kopiert</translation>
+    </message>
+    <message id="sheet.copy.form">
+        <source></source>
+        <translation>Form kopieren</translation>
+    </message>
+    <message id="sheet.copy.row">
+        <source></source>
+        <translation>Zeile kopieren</translation>
+    </message>
+    <message id="sheet.others">
+        <source></source>
+        <translation>Dieselbe Form anderswo</translation>
+    </message>
+    <message id="sheet.slowly">
+        <source></source>
+        <translation>Langsam vorsprechen</translation>
+    </message>
     <message id="support.email">
         <source></source>
         <translation>support@brindle.example</translation>
@@ -593,6 +801,15 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Konditional II</translation>
     </message>
+    <message id="tense.con.firstpast.example">
+        <source></source>
+        <translation>Si tu avais appelé, je serais venu.
+Wenn du angerufen hättest, wäre ich gekommen.</translation>
+    </message>
+    <message id="tense.con.firstpast.use">
+        <source></source>
+        <translation>Drückt aus, was unter einer Bedingung geschehen wäre; nach „si“ steht das Plusquamperfekt (Indikativ). Er drückt auch Bedauern oder einen Vorwurf aus: „tu aurais dû attendre“, du hättest warten sollen.</translation>
+    </message>
     <message id="tense.con.firstpast_french">
         <source></source>
         <translation>Conditionnel passé 1re forme</translation>
@@ -601,6 +818,15 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Konditional I</translation>
     </message>
+    <message id="tense.con.present.example">
+        <source></source>
+        <translation>Si j’avais le temps, je viendrais.
+Wenn ich Zeit hätte, würde ich kommen.</translation>
+    </message>
+    <message id="tense.con.present.use">
+        <source></source>
+        <translation>Drückt aus, was unter einer Bedingung geschehen würde; nach „si“ steht das Imperfekt (Indikativ). Er lässt auch einen Wunsch oder eine Bitte höflich klingen: „je voudrais un café“.</translation>
+    </message>
     <message id="tense.con.present_french">
         <source></source>
         <translation>Conditionnel présent</translation>
@@ -608,6 +834,15 @@ Verben im Verlauf: %d</translation>
     <message id="tense.con.secondpast">
         <source></source>
         <translation>Konditional II, 2. Form</translation>
+    </message>
+    <message id="tense.con.secondpast.example">
+        <source></source>
+        <translation>Sans ce bruit, il eût dormi jusqu’à midi.
+Ohne diesen Lärm hätte er bis Mittag geschlafen.</translation>
+    </message>
+    <message id="tense.con.secondpast.use">
+        <source></source>
+        <translation>Bedeutet dasselbe wie der Konditional II, gehört aber der literarischen Sprache an. Die Formen sind die des Konjunktivs Plusquamperfekt, ohne „que“.</translation>
     </message>
     <message id="tense.con.secondpast_french">
         <source></source>
@@ -621,6 +856,15 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Futur I</translation>
     </message>
+    <message id="tense.ind.future.example">
+        <source></source>
+        <translation>Je t’appellerai quand tu seras prêt.
+Ich rufe dich an, wenn du fertig bist.</translation>
+    </message>
+    <message id="tense.ind.future.use">
+        <source></source>
+        <translation>Drückt Künftiges, ein Versprechen oder eine Vorhersage aus. Es steht auch nach „quand“, wo man im Deutschen meist das Präsens setzt.</translation>
+    </message>
     <message id="tense.ind.future_french">
         <source></source>
         <translation>Futur simple</translation>
@@ -628,6 +872,15 @@ Verben im Verlauf: %d</translation>
     <message id="tense.ind.imperfect">
         <source></source>
         <translation>Imperfekt</translation>
+    </message>
+    <message id="tense.ind.imperfect.example">
+        <source></source>
+        <translation>Quand j’étais petit, je lisais beaucoup.
+Als ich klein war, las ich viel.</translation>
+    </message>
+    <message id="tense.ind.imperfect.use">
+        <source></source>
+        <translation>Beschreibt, wie etwas war, was gerade im Gange war oder was sich wiederholte. Es zeichnet den Hintergrund einer Erzählung, während das Perfekt die Ereignisse wiedergibt.</translation>
     </message>
     <message id="tense.ind.imperfect_french">
         <source></source>
@@ -637,6 +890,15 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Futur II</translation>
     </message>
+    <message id="tense.ind.pastfuture.example">
+        <source></source>
+        <translation>Demain à midi, j’aurai fini ce livre.
+Bis morgen Mittag werde ich dieses Buch ausgelesen haben.</translation>
+    </message>
+    <message id="tense.ind.pastfuture.use">
+        <source></source>
+        <translation>Drückt aus, was zu einem bestimmten Zeitpunkt in der Zukunft abgeschlossen sein wird. Es kann auch eine Vermutung über Vergangenes ausdrücken: „il aura oublié“, er wird es vergessen haben.</translation>
+    </message>
     <message id="tense.ind.pastfuture_french">
         <source></source>
         <translation>Futur antérieur</translation>
@@ -644,6 +906,15 @@ Verben im Verlauf: %d</translation>
     <message id="tense.ind.pastperfect">
         <source></source>
         <translation>Historisches Plusquamperfekt</translation>
+    </message>
+    <message id="tense.ind.pastperfect.example">
+        <source></source>
+        <translation>Dès qu’il eut mangé, il sortit.
+Sobald er gegessen hatte, ging er hinaus.</translation>
+    </message>
+    <message id="tense.ind.pastperfect.use">
+        <source></source>
+        <translation>Drückt aus, was kurz vor einem im Historischen Perfekt erzählten Ereignis abgeschlossen war. Es ist eine literarische Zeit, vor allem nach „quand“, „dès que“ und „après que“.</translation>
     </message>
     <message id="tense.ind.pastperfect_french">
         <source></source>
@@ -653,6 +924,15 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Plusquamperfekt</translation>
     </message>
+    <message id="tense.ind.pluperfect.example">
+        <source></source>
+        <translation>Le train était déjà parti quand je suis arrivé.
+Der Zug war schon abgefahren, als ich ankam.</translation>
+    </message>
+    <message id="tense.ind.pluperfect.use">
+        <source></source>
+        <translation>Drückt aus, was vor einem anderen Zeitpunkt der Vergangenheit schon geschehen war. Nach „si“ nennt es eine nicht erfüllte Bedingung: „si tu avais su“, wenn du das gewusst hättest.</translation>
+    </message>
     <message id="tense.ind.pluperfect_french">
         <source></source>
         <translation>Plus-que-parfait</translation>
@@ -660,6 +940,15 @@ Verben im Verlauf: %d</translation>
     <message id="tense.ind.present">
         <source></source>
         <translation>Präsens</translation>
+    </message>
+    <message id="tense.ind.present.example">
+        <source></source>
+        <translation>Je travaille à Lyon depuis deux ans.
+Ich arbeite seit zwei Jahren in Lyon.</translation>
+    </message>
+    <message id="tense.ind.present.use">
+        <source></source>
+        <translation>Drückt aus, was gerade geschieht, was üblich ist oder was immer gilt. Mit „depuis“ bezeichnet es, was in der Vergangenheit begonnen hat und noch andauert.</translation>
     </message>
     <message id="tense.ind.present_french">
         <source></source>
@@ -669,6 +958,15 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Perfekt</translation>
     </message>
+    <message id="tense.ind.presentperfect.example">
+        <source></source>
+        <translation>Hier, nous avons visité le musée.
+Gestern haben wir das Museum besucht.</translation>
+    </message>
+    <message id="tense.ind.presentperfect.use">
+        <source></source>
+        <translation>Erzählt, was geschehen und abgeschlossen ist oder was jetzt noch nachwirkt. Es ist die alltägliche Vergangenheit, im Gespräch wie in den meisten Texten.</translation>
+    </message>
     <message id="tense.ind.presentperfect_french">
         <source></source>
         <translation>Passé composé</translation>
@@ -676,6 +974,15 @@ Verben im Verlauf: %d</translation>
     <message id="tense.ind.simplepast">
         <source></source>
         <translation>Historisches Perfekt</translation>
+    </message>
+    <message id="tense.ind.simplepast.example">
+        <source></source>
+        <translation>Elle ouvrit la porte et vit la mer.
+Sie öffnete die Tür und sah das Meer.</translation>
+    </message>
+    <message id="tense.ind.simplepast.use">
+        <source></source>
+        <translation>Erzählt abgeschlossene Ereignisse in Romanen, Märchen und Geschichtswerken. Im Gespräch hört man es fast nie; dort tritt das Perfekt an seine Stelle.</translation>
     </message>
     <message id="tense.ind.simplepast_french">
         <source></source>
@@ -689,6 +996,15 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Imperativ</translation>
     </message>
+    <message id="tense.other.imperative.example">
+        <source></source>
+        <translation>Pars tôt et sois rentré avant midi.
+Brich früh auf und sei vor Mittag zurück.</translation>
+    </message>
+    <message id="tense.other.imperative.use">
+        <source></source>
+        <translation>Drückt einen Befehl, einen Rat oder eine Aufforderung aus; „tu“, „nous“ und „vous“ fallen weg. Die seltene Vergangenheitsform verlangt, dass etwas bis zu einem Zeitpunkt erledigt ist.</translation>
+    </message>
     <message id="tense.other.imperative_french">
         <source></source>
         <translation>Impératif</translation>
@@ -696,6 +1012,15 @@ Verben im Verlauf: %d</translation>
     <message id="tense.other.participle">
         <source></source>
         <translation>Partizip</translation>
+    </message>
+    <message id="tense.other.participle.example">
+        <source></source>
+        <translation>Ayant fini son travail, il est sorti en chantant.
+Nachdem er seine Arbeit beendet hatte, ging er singend hinaus.</translation>
+    </message>
+    <message id="tense.other.participle.use">
+        <source></source>
+        <translation>Das Partizip Präsens nennt eine begleitende Handlung; mit „en“ bildet es das Gerundium. Das Partizip Perfekt bildet zusammengesetzte Zeiten; „ayant parlé“ nennt, was vorausging.</translation>
     </message>
     <message id="tense.other.participle_french">
         <source></source>
@@ -709,6 +1034,15 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Konjunktiv Imperfekt</translation>
     </message>
+    <message id="tense.sub.imperfect.example">
+        <source></source>
+        <translation>Il fallait qu’il partît avant l’aube.
+Er musste vor Tagesanbruch aufbrechen.</translation>
+    </message>
+    <message id="tense.sub.imperfect.use">
+        <source></source>
+        <translation>Literarische Form: Nach einem Verb in der Vergangenheit ersetzt sie den Konjunktiv Präsens. Im Alltag bleibt es auch dort beim Konjunktiv Präsens: „il fallait que je parte“.</translation>
+    </message>
     <message id="tense.sub.imperfect_french">
         <source></source>
         <translation>Subjonctif imparfait</translation>
@@ -716,6 +1050,15 @@ Verben im Verlauf: %d</translation>
     <message id="tense.sub.past">
         <source></source>
         <translation>Konjunktiv Perfekt</translation>
+    </message>
+    <message id="tense.sub.past.example">
+        <source></source>
+        <translation>Je suis content que tu sois venue.
+Ich freue mich, dass du gekommen bist.</translation>
+    </message>
+    <message id="tense.sub.past.use">
+        <source></source>
+        <translation>Ersetzt den Konjunktiv Präsens, wenn die Handlung schon abgeschlossen ist. Er drückt auch aus, was später getan sein muss: „il faut que tu aies fini à midi“.</translation>
     </message>
     <message id="tense.sub.past_french">
         <source></source>
@@ -725,6 +1068,15 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Konjunktiv Plusquamperfekt</translation>
     </message>
+    <message id="tense.sub.pluperfect.example">
+        <source></source>
+        <translation>Je regrettais qu’elle fût partie sans moi.
+Ich bedauerte, dass sie ohne mich gegangen war.</translation>
+    </message>
+    <message id="tense.sub.pluperfect.use">
+        <source></source>
+        <translation>Literarische Form: Nach einem Verb in der Vergangenheit ersetzt sie den Konjunktiv Perfekt. Sie nennt, was davor geschehen war; im Alltag bleibt es beim Konjunktiv Perfekt.</translation>
+    </message>
     <message id="tense.sub.pluperfect_french">
         <source></source>
         <translation>Subjonctif plus-que-parfait</translation>
@@ -732,6 +1084,15 @@ Verben im Verlauf: %d</translation>
     <message id="tense.sub.present">
         <source></source>
         <translation>Konjunktiv Präsens</translation>
+    </message>
+    <message id="tense.sub.present.example">
+        <source></source>
+        <translation>Il faut que tu viennes ce soir.
+Du musst heute Abend kommen.</translation>
+    </message>
+    <message id="tense.sub.present.use">
+        <source></source>
+        <translation>Steht nach Ausdrücken des Willens, des Gefühls, des Zweifels oder der Notwendigkeit, etwa „il faut que“. Er steht auch nach manchen Konjunktionen wie „pour que“, „avant que“ und „bien que“.</translation>
     </message>
     <message id="tense.sub.present_french">
         <source></source>

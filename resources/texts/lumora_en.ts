@@ -117,6 +117,170 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Menu</translation>
     </message>
+    <message id="card.about">
+        <source></source>
+        <translation>About this verb</translation>
+    </message>
+    <message id="card.alike">
+        <source></source>
+        <translation>Conjugated alike</translation>
+    </message>
+    <message id="card.auxiliary">
+        <source></source>
+        <translation>Auxiliary</translation>
+    </message>
+    <message id="card.group">
+        <source></source>
+        <translation>Group</translation>
+    </message>
+    <message id="card.group.1">
+        <source></source>
+        <translation>1st group: regular verbs in -er</translation>
+    </message>
+    <message id="card.group.2">
+        <source></source>
+        <translation>2nd group: verbs in -ir like finir</translation>
+    </message>
+    <message id="card.group.3">
+        <source></source>
+        <translation>3rd group: irregular verbs</translation>
+    </message>
+    <message id="card.group.short.1">
+        <source></source>
+        <translation>1st group</translation>
+    </message>
+    <message id="card.group.short.2">
+        <source></source>
+        <translation>2nd group</translation>
+    </message>
+    <message id="card.group.short.3">
+        <source></source>
+        <translation>3rd group</translation>
+    </message>
+    <message id="card.homograph">
+        <source></source>
+        <translation>Same name</translation>
+    </message>
+    <message id="card.infinitive">
+        <source></source>
+        <translation>Infinitive</translation>
+    </message>
+    <message id="card.infinitive.past">
+        <source></source>
+        <translation>Past infinitive</translation>
+    </message>
+    <message id="card.infinitive_only">
+        <source></source>
+        <translation>used in the infinitive only</translation>
+    </message>
+    <message id="card.like">
+        <source></source>
+        <translation>Conjugated like</translation>
+    </message>
+    <message id="card.like.short">
+        <source></source>
+        <translation>like %@</translation>
+    </message>
+    <message id="card.next">
+        <source></source>
+        <translation>Next verb</translation>
+    </message>
+    <message id="card.notes">
+        <source></source>
+        <translation>Note</translation>
+    </message>
+    <message id="card.participle.avoir">
+        <source></source>
+        <translation>the participle agrees only with a direct object before it</translation>
+    </message>
+    <message id="card.participle.both">
+        <source></source>
+        <translation>the participle agrees with the subject after être only</translation>
+    </message>
+    <message id="card.participle.etre">
+        <source></source>
+        <translation>the participle agrees with the subject</translation>
+    </message>
+    <message id="card.participle.indirect">
+        <source></source>
+        <translation>the participle does not agree with the subject</translation>
+    </message>
+    <message id="card.participle.invariable">
+        <source></source>
+        <translation>the participle never changes</translation>
+    </message>
+    <message id="card.plain">
+        <source></source>
+        <translation>Without se</translation>
+    </message>
+    <message id="card.previous">
+        <source></source>
+        <translation>Previous verb</translation>
+    </message>
+    <message id="card.pronominal">
+        <source></source>
+        <translation>With se</translation>
+    </message>
+    <message id="card.third_person">
+        <source></source>
+        <translation>used in the third person only</translation>
+    </message>
+    <message id="card.trait.aspirated">
+        <source></source>
+        <translation>aspirated h: no elision and no liaison before it</translation>
+    </message>
+    <message id="card.trait.defective">
+        <source></source>
+        <translation>defective: some forms are not used</translation>
+    </message>
+    <message id="card.trait.en">
+        <source></source>
+        <translation>with en</translation>
+    </message>
+    <message id="card.trait.impersonal">
+        <source></source>
+        <translation>impersonal: only with il</translation>
+    </message>
+    <message id="card.trait.plural">
+        <source></source>
+        <translation>also with ils in figurative use</translation>
+    </message>
+    <message id="card.trait.pronominal">
+        <source></source>
+        <translation>pronominal: used with se</translation>
+    </message>
+    <message id="card.unused">
+        <source></source>
+        <translation>Not used in</translation>
+    </message>
+    <message id="card.use">
+        <source></source>
+        <translation>How common</translation>
+    </message>
+    <message id="card.use.1">
+        <source></source>
+        <translation>one of the 100 commonest verbs</translation>
+    </message>
+    <message id="card.use.2">
+        <source></source>
+        <translation>one of the 500 commonest verbs</translation>
+    </message>
+    <message id="card.use.3">
+        <source></source>
+        <translation>one of the 2,000 commonest verbs</translation>
+    </message>
+    <message id="card.use.4">
+        <source></source>
+        <translation>in living use</translation>
+    </message>
+    <message id="card.use.5">
+        <source></source>
+        <translation>rare, old or of a trade</translation>
+    </message>
+    <message id="card.used_only">
+        <source></source>
+        <translation>Used only in</translation>
+    </message>
     <message id="common.done">
         <source></source>
         <translation>Done</translation>
@@ -300,6 +464,30 @@ Verbs in the history: %d</translation>
     <message id="options.button">
         <source></source>
         <translation>Settings</translation>
+    </message>
+    <message id="person.1.plural">
+        <source></source>
+        <translation>1st person plural</translation>
+    </message>
+    <message id="person.1.singular">
+        <source></source>
+        <translation>1st person singular</translation>
+    </message>
+    <message id="person.2.plural">
+        <source></source>
+        <translation>2nd person plural</translation>
+    </message>
+    <message id="person.2.singular">
+        <source></source>
+        <translation>2nd person singular</translation>
+    </message>
+    <message id="person.3.plural">
+        <source></source>
+        <translation>3rd person plural</translation>
+    </message>
+    <message id="person.3.singular">
+        <source></source>
+        <translation>3rd person singular</translation>
     </message>
     <message id="privacy">
         <source></source>
@@ -561,6 +749,26 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Parent folder</translation>
     </message>
+    <message id="sheet.copied">
+        <source></source>
+        <translation>Copied</translation>
+    </message>
+    <message id="sheet.copy.form">
+        <source></source>
+        <translation>Copy the form</translation>
+    </message>
+    <message id="sheet.copy.row">
+        <source></source>
+        <translation>Copy the row</translation>
+    </message>
+    <message id="sheet.others">
+        <source></source>
+        <translation>The same form elsewhere</translation>
+    </message>
+    <message id="sheet.slowly">
+        <source></source>
+        <translation>Say it slowly</translation>
+    </message>
     <message id="support.email">
         <source></source>
         <translation>support@brindle.example</translation>
@@ -593,6 +801,15 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Past conditional</translation>
     </message>
+    <message id="tense.con.firstpast.example">
+        <source></source>
+        <translation>Si tu avais appelé, je serais venu.
+If you had called, I would have come.</translation>
+    </message>
+    <message id="tense.con.firstpast.use">
+        <source></source>
+        <translation>Says what would have happened under a given condition; the “si” clause is in the pluperfect. It also expresses regret or blame: “tu aurais dû attendre”, you should have waited.</translation>
+    </message>
     <message id="tense.con.firstpast_french">
         <source></source>
         <translation>Conditionnel passé 1re forme</translation>
@@ -601,6 +818,15 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Present conditional</translation>
     </message>
+    <message id="tense.con.present.example">
+        <source></source>
+        <translation>Si j’avais le temps, je viendrais.
+If I had time, I would come.</translation>
+    </message>
+    <message id="tense.con.present.use">
+        <source></source>
+        <translation>Says what would happen under a given condition; the “si” clause is in the imperfect. It also makes a wish or a request polite: “je voudrais un café”.</translation>
+    </message>
     <message id="tense.con.present_french">
         <source></source>
         <translation>Conditionnel présent</translation>
@@ -608,6 +834,15 @@ Verbs in the history: %d</translation>
     <message id="tense.con.secondpast">
         <source></source>
         <translation>Past conditional, second form</translation>
+    </message>
+    <message id="tense.con.secondpast.example">
+        <source></source>
+        <translation>Sans ce bruit, il eût dormi jusqu’à midi.
+But for that noise, he would have slept until noon.</translation>
+    </message>
+    <message id="tense.con.secondpast.use">
+        <source></source>
+        <translation>Means the same as the past conditional, but belongs to literature. Its forms are those of the pluperfect subjunctive, without “que”.</translation>
     </message>
     <message id="tense.con.secondpast_french">
         <source></source>
@@ -621,6 +856,15 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Future</translation>
     </message>
+    <message id="tense.ind.future.example">
+        <source></source>
+        <translation>Je t’appellerai quand tu seras prêt.
+I’ll call you when you’re ready.</translation>
+    </message>
+    <message id="tense.ind.future.use">
+        <source></source>
+        <translation>Says what will happen, or makes a promise or a forecast. Unlike English, French uses it after “quand” too when the future is meant.</translation>
+    </message>
     <message id="tense.ind.future_french">
         <source></source>
         <translation>Futur simple</translation>
@@ -628,6 +872,15 @@ Verbs in the history: %d</translation>
     <message id="tense.ind.imperfect">
         <source></source>
         <translation>Imperfect</translation>
+    </message>
+    <message id="tense.ind.imperfect.example">
+        <source></source>
+        <translation>Quand j’étais petit, je lisais beaucoup.
+When I was little, I used to read a lot.</translation>
+    </message>
+    <message id="tense.ind.imperfect.use">
+        <source></source>
+        <translation>Describes how things were, what was going on, or what used to happen. It sets the background of a story, while the present perfect relates the events.</translation>
     </message>
     <message id="tense.ind.imperfect_french">
         <source></source>
@@ -637,6 +890,15 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Future perfect</translation>
     </message>
+    <message id="tense.ind.pastfuture.example">
+        <source></source>
+        <translation>Demain à midi, j’aurai fini ce livre.
+By noon tomorrow I will have finished this book.</translation>
+    </message>
+    <message id="tense.ind.pastfuture.use">
+        <source></source>
+        <translation>Says what will be finished by a given moment in the future. It may also express a guess about the past: “il aura oublié”, he must have forgotten.</translation>
+    </message>
     <message id="tense.ind.pastfuture_french">
         <source></source>
         <translation>Futur antérieur</translation>
@@ -644,6 +906,15 @@ Verbs in the history: %d</translation>
     <message id="tense.ind.pastperfect">
         <source></source>
         <translation>Past anterior</translation>
+    </message>
+    <message id="tense.ind.pastperfect.example">
+        <source></source>
+        <translation>Dès qu’il eut mangé, il sortit.
+As soon as he had eaten, he went out.</translation>
+    </message>
+    <message id="tense.ind.pastperfect.use">
+        <source></source>
+        <translation>Says what was finished just before an event told in the past historic. It is a literary tense, found mostly after “quand”, “dès que” and “après que”.</translation>
     </message>
     <message id="tense.ind.pastperfect_french">
         <source></source>
@@ -653,6 +924,15 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Pluperfect</translation>
     </message>
+    <message id="tense.ind.pluperfect.example">
+        <source></source>
+        <translation>Le train était déjà parti quand je suis arrivé.
+The train had already left when I arrived.</translation>
+    </message>
+    <message id="tense.ind.pluperfect.use">
+        <source></source>
+        <translation>Says what had already happened before another moment in the past. After “si”, it names a condition that was not met: “si tu avais su”, if you had known.</translation>
+    </message>
     <message id="tense.ind.pluperfect_french">
         <source></source>
         <translation>Plus-que-parfait</translation>
@@ -660,6 +940,15 @@ Verbs in the history: %d</translation>
     <message id="tense.ind.present">
         <source></source>
         <translation>Present</translation>
+    </message>
+    <message id="tense.ind.present.example">
+        <source></source>
+        <translation>Je travaille à Lyon depuis deux ans.
+I have been working in Lyon for two years.</translation>
+    </message>
+    <message id="tense.ind.present.use">
+        <source></source>
+        <translation>Says what is happening now, what is usual, or what is always true. With “depuis”, it says what began in the past and is still going on.</translation>
     </message>
     <message id="tense.ind.present_french">
         <source></source>
@@ -669,6 +958,15 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Present perfect</translation>
     </message>
+    <message id="tense.ind.presentperfect.example">
+        <source></source>
+        <translation>Hier, nous avons visité le musée.
+Yesterday we visited the museum.</translation>
+    </message>
+    <message id="tense.ind.presentperfect.use">
+        <source></source>
+        <translation>Tells what happened and is over, or what has a result that matters now. It is the everyday past tense, used also where English has the simple past: “we visited”.</translation>
+    </message>
     <message id="tense.ind.presentperfect_french">
         <source></source>
         <translation>Passé composé</translation>
@@ -676,6 +974,15 @@ Verbs in the history: %d</translation>
     <message id="tense.ind.simplepast">
         <source></source>
         <translation>Past historic</translation>
+    </message>
+    <message id="tense.ind.simplepast.example">
+        <source></source>
+        <translation>Elle ouvrit la porte et vit la mer.
+She opened the door and saw the sea.</translation>
+    </message>
+    <message id="tense.ind.simplepast.use">
+        <source></source>
+        <translation>Narrates completed events in novels, tales and works of history. It is hardly ever spoken; in speech the present perfect takes its place.</translation>
     </message>
     <message id="tense.ind.simplepast_french">
         <source></source>
@@ -689,6 +996,15 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Imperative</translation>
     </message>
+    <message id="tense.other.imperative.example">
+        <source></source>
+        <translation>Pars tôt et sois rentré avant midi.
+Leave early and be back before noon.</translation>
+    </message>
+    <message id="tense.other.imperative.use">
+        <source></source>
+        <translation>Gives an order, a piece of advice or an invitation; the pronouns “tu”, “nous” and “vous” are left out. The past form, which is rare, asks that something be done by a given time.</translation>
+    </message>
     <message id="tense.other.imperative_french">
         <source></source>
         <translation>Impératif</translation>
@@ -696,6 +1012,15 @@ Verbs in the history: %d</translation>
     <message id="tense.other.participle">
         <source></source>
         <translation>Participle</translation>
+    </message>
+    <message id="tense.other.participle.example">
+        <source></source>
+        <translation>Ayant fini son travail, il est sorti en chantant.
+Having finished his work, he went out singing.</translation>
+    </message>
+    <message id="tense.other.participle.use">
+        <source></source>
+        <translation>The present participle describes an action that goes with another; with “en” it forms the gerund. The past participle forms compound tenses; “ayant parlé” tells what was done before.</translation>
     </message>
     <message id="tense.other.participle_french">
         <source></source>
@@ -709,6 +1034,15 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Imperfect subjunctive</translation>
     </message>
+    <message id="tense.sub.imperfect.example">
+        <source></source>
+        <translation>Il fallait qu’il partît avant l’aube.
+He had to leave before dawn.</translation>
+    </message>
+    <message id="tense.sub.imperfect.use">
+        <source></source>
+        <translation>A literary form: after a verb in the past, it replaces the present subjunctive. Everyday French keeps the present subjunctive there: “il fallait que je parte”.</translation>
+    </message>
     <message id="tense.sub.imperfect_french">
         <source></source>
         <translation>Subjonctif imparfait</translation>
@@ -716,6 +1050,15 @@ Verbs in the history: %d</translation>
     <message id="tense.sub.past">
         <source></source>
         <translation>Past subjunctive</translation>
+    </message>
+    <message id="tense.sub.past.example">
+        <source></source>
+        <translation>Je suis content que tu sois venue.
+I’m glad you came.</translation>
+    </message>
+    <message id="tense.sub.past.use">
+        <source></source>
+        <translation>Takes the place of the present subjunctive when the action is already done. It also says what must be done by a later moment: “il faut que tu aies fini à midi”.</translation>
     </message>
     <message id="tense.sub.past_french">
         <source></source>
@@ -725,6 +1068,15 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Pluperfect subjunctive</translation>
     </message>
+    <message id="tense.sub.pluperfect.example">
+        <source></source>
+        <translation>Je regrettais qu’elle fût partie sans moi.
+I was sorry that she had left without me.</translation>
+    </message>
+    <message id="tense.sub.pluperfect.use">
+        <source></source>
+        <translation>A literary form: after a verb in the past, it replaces the past subjunctive. It tells what had happened earlier still; everyday French keeps the past subjunctive.</translation>
+    </message>
     <message id="tense.sub.pluperfect_french">
         <source></source>
         <translation>Subjonctif plus-que-parfait</translation>
@@ -732,6 +1084,15 @@ Verbs in the history: %d</translation>
     <message id="tense.sub.present">
         <source></source>
         <translation>Present subjunctive</translation>
+    </message>
+    <message id="tense.sub.present.example">
+        <source></source>
+        <translation>Il faut que tu viennes ce soir.
+You have to come tonight.</translation>
+    </message>
+    <message id="tense.sub.present.use">
+        <source></source>
+        <translation>Follows expressions of will, feeling, doubt or necessity, such as “vouloir que” or “il faut que”. It also follows some conjunctions, such as “pour que”, “avant que” and “bien que”.</translation>
     </message>
     <message id="tense.sub.present_french">
         <source></source>

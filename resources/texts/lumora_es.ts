@@ -117,6 +117,170 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Menú</translation>
     </message>
+    <message id="card.about">
+        <source></source>
+        <translation>Sobre este verbo</translation>
+    </message>
+    <message id="card.alike">
+        <source></source>
+        <translation>De igual conjugación</translation>
+    </message>
+    <message id="card.auxiliary">
+        <source></source>
+        <translation>Auxiliar</translation>
+    </message>
+    <message id="card.group">
+        <source></source>
+        <translation>Grupo</translation>
+    </message>
+    <message id="card.group.1">
+        <source></source>
+        <translation>1.er grupo: verbos regulares en -er</translation>
+    </message>
+    <message id="card.group.2">
+        <source></source>
+        <translation>2.º grupo: verbos en -ir como finir</translation>
+    </message>
+    <message id="card.group.3">
+        <source></source>
+        <translation>3.er grupo: verbos irregulares</translation>
+    </message>
+    <message id="card.group.short.1">
+        <source></source>
+        <translation>1.er grupo</translation>
+    </message>
+    <message id="card.group.short.2">
+        <source></source>
+        <translation>2.º grupo</translation>
+    </message>
+    <message id="card.group.short.3">
+        <source></source>
+        <translation>3.er grupo</translation>
+    </message>
+    <message id="card.homograph">
+        <source></source>
+        <translation>Homónimo</translation>
+    </message>
+    <message id="card.infinitive">
+        <source></source>
+        <translation>Infinitivo</translation>
+    </message>
+    <message id="card.infinitive.past">
+        <source></source>
+        <translation>Infinitivo compuesto</translation>
+    </message>
+    <message id="card.infinitive_only">
+        <source></source>
+        <translation>solo se usa en infinitivo</translation>
+    </message>
+    <message id="card.like">
+        <source></source>
+        <translation>Se conjuga como</translation>
+    </message>
+    <message id="card.like.short">
+        <source></source>
+        <translation>como %@</translation>
+    </message>
+    <message id="card.next">
+        <source></source>
+        <translation>Verbo siguiente</translation>
+    </message>
+    <message id="card.notes">
+        <source></source>
+        <translation>Nota</translation>
+    </message>
+    <message id="card.participle.avoir">
+        <source></source>
+        <translation>el participio solo concuerda con un objeto directo que lo precede</translation>
+    </message>
+    <message id="card.participle.both">
+        <source></source>
+        <translation>el participio concuerda con el sujeto solo después de être</translation>
+    </message>
+    <message id="card.participle.etre">
+        <source></source>
+        <translation>el participio concuerda con el sujeto</translation>
+    </message>
+    <message id="card.participle.indirect">
+        <source></source>
+        <translation>el participio no concuerda con el sujeto</translation>
+    </message>
+    <message id="card.participle.invariable">
+        <source></source>
+        <translation>el participio es invariable</translation>
+    </message>
+    <message id="card.plain">
+        <source></source>
+        <translation>Sin se</translation>
+    </message>
+    <message id="card.previous">
+        <source></source>
+        <translation>Verbo anterior</translation>
+    </message>
+    <message id="card.pronominal">
+        <source></source>
+        <translation>Con se</translation>
+    </message>
+    <message id="card.third_person">
+        <source></source>
+        <translation>solo se usa en tercera persona</translation>
+    </message>
+    <message id="card.trait.aspirated">
+        <source></source>
+        <translation>h aspirada: sin elisión ni enlace</translation>
+    </message>
+    <message id="card.trait.defective">
+        <source></source>
+        <translation>defectivo: algunas formas no se usan</translation>
+    </message>
+    <message id="card.trait.en">
+        <source></source>
+        <translation>con en</translation>
+    </message>
+    <message id="card.trait.impersonal">
+        <source></source>
+        <translation>impersonal: solo con il</translation>
+    </message>
+    <message id="card.trait.plural">
+        <source></source>
+        <translation>también con ils en sentido figurado</translation>
+    </message>
+    <message id="card.trait.pronominal">
+        <source></source>
+        <translation>pronominal: con se</translation>
+    </message>
+    <message id="card.unused">
+        <source></source>
+        <translation>No se usa en</translation>
+    </message>
+    <message id="card.use">
+        <source></source>
+        <translation>Frecuencia</translation>
+    </message>
+    <message id="card.use.1">
+        <source></source>
+        <translation>uno de los 100 verbos más comunes</translation>
+    </message>
+    <message id="card.use.2">
+        <source></source>
+        <translation>uno de los 500 verbos más comunes</translation>
+    </message>
+    <message id="card.use.3">
+        <source></source>
+        <translation>uno de los 2000 verbos más comunes</translation>
+    </message>
+    <message id="card.use.4">
+        <source></source>
+        <translation>de uso vivo</translation>
+    </message>
+    <message id="card.use.5">
+        <source></source>
+        <translation>raro, antiguo o técnico</translation>
+    </message>
+    <message id="card.used_only">
+        <source></source>
+        <translation>Solo se usa en</translation>
+    </message>
     <message id="common.done">
         <source></source>
         <translation>Listo</translation>
@@ -300,6 +464,30 @@ Verbos en el historial: %d</translation>
     <message id="options.button">
         <source></source>
         <translation>Ajustes</translation>
+    </message>
+    <message id="person.1.plural">
+        <source></source>
+        <translation>1.ª persona del plural</translation>
+    </message>
+    <message id="person.1.singular">
+        <source></source>
+        <translation>1.ª persona del singular</translation>
+    </message>
+    <message id="person.2.plural">
+        <source></source>
+        <translation>2.ª persona del plural</translation>
+    </message>
+    <message id="person.2.singular">
+        <source></source>
+        <translation>2.ª persona del singular</translation>
+    </message>
+    <message id="person.3.plural">
+        <source></source>
+        <translation>3.ª persona del plural</translation>
+    </message>
+    <message id="person.3.singular">
+        <source></source>
+        <translation>3.ª persona del singular</translation>
     </message>
     <message id="privacy">
         <source></source>
@@ -561,6 +749,26 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Carpeta superior</translation>
     </message>
+    <message id="sheet.copied">
+        <source></source>
+        <translation>Copiado</translation>
+    </message>
+    <message id="sheet.copy.form">
+        <source></source>
+        <translation>Copiar la forma</translation>
+    </message>
+    <message id="sheet.copy.row">
+        <source></source>
+        <translation>Copiar la fila</translation>
+    </message>
+    <message id="sheet.others">
+        <source></source>
+        <translation>La misma forma en otros lugares</translation>
+    </message>
+    <message id="sheet.slowly">
+        <source></source>
+        <translation>Decir despacio</translation>
+    </message>
     <message id="support.email">
         <source></source>
         <translation>support@brindle.example</translation>
@@ -593,6 +801,15 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Condicional compuesto</translation>
     </message>
+    <message id="tense.con.firstpast.example">
+        <source></source>
+        <translation>Si tu avais appelé, je serais venu.
+Si hubieras llamado, habría venido.</translation>
+    </message>
+    <message id="tense.con.firstpast.use">
+        <source></source>
+        <translation>Expresa lo que habría pasado bajo cierta condición; tras «si» va el pretérito pluscuamperfecto de indicativo. También expresa arrepentimiento o reproche: «tu aurais dû attendre», deberías haber esperado.</translation>
+    </message>
     <message id="tense.con.firstpast_french">
         <source></source>
         <translation>Conditionnel passé 1re forme</translation>
@@ -601,6 +818,15 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Condicional simple</translation>
     </message>
+    <message id="tense.con.present.example">
+        <source></source>
+        <translation>Si j’avais le temps, je viendrais.
+Si tuviera tiempo, vendría.</translation>
+    </message>
+    <message id="tense.con.present.use">
+        <source></source>
+        <translation>Expresa lo que ocurriría bajo cierta condición; tras «si» va el pretérito imperfecto de indicativo. También sirve para expresar con cortesía un deseo o una petición: «je voudrais un café».</translation>
+    </message>
     <message id="tense.con.present_french">
         <source></source>
         <translation>Conditionnel présent</translation>
@@ -608,6 +834,15 @@ Verbos en el historial: %d</translation>
     <message id="tense.con.secondpast">
         <source></source>
         <translation>Condicional compuesto, 2.ª forma</translation>
+    </message>
+    <message id="tense.con.secondpast.example">
+        <source></source>
+        <translation>Sans ce bruit, il eût dormi jusqu’à midi.
+Sin aquel ruido habría dormido hasta el mediodía.</translation>
+    </message>
+    <message id="tense.con.secondpast.use">
+        <source></source>
+        <translation>Significa lo mismo que el condicional compuesto, pero es propio de la lengua literaria. Sus formas son las del pluscuamperfecto de subjuntivo, sin «que».</translation>
     </message>
     <message id="tense.con.secondpast_french">
         <source></source>
@@ -621,6 +856,15 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Futuro simple</translation>
     </message>
+    <message id="tense.ind.future.example">
+        <source></source>
+        <translation>Je t’appellerai quand tu seras prêt.
+Te llamaré cuando estés listo.</translation>
+    </message>
+    <message id="tense.ind.future.use">
+        <source></source>
+        <translation>Expresa lo que ocurrirá, una promesa o un pronóstico. También se usa tras «quand», donde el español usa el presente de subjuntivo.</translation>
+    </message>
     <message id="tense.ind.future_french">
         <source></source>
         <translation>Futur simple</translation>
@@ -628,6 +872,15 @@ Verbos en el historial: %d</translation>
     <message id="tense.ind.imperfect">
         <source></source>
         <translation>Pretérito imperfecto</translation>
+    </message>
+    <message id="tense.ind.imperfect.example">
+        <source></source>
+        <translation>Quand j’étais petit, je lisais beaucoup.
+Cuando era pequeño, leía mucho.</translation>
+    </message>
+    <message id="tense.ind.imperfect.use">
+        <source></source>
+        <translation>Describe cómo eran las cosas, qué estaba ocurriendo o qué se repetía. Pinta el fondo de un relato, mientras que el pretérito perfecto compuesto cuenta los hechos.</translation>
     </message>
     <message id="tense.ind.imperfect_french">
         <source></source>
@@ -637,6 +890,15 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Futuro compuesto</translation>
     </message>
+    <message id="tense.ind.pastfuture.example">
+        <source></source>
+        <translation>Demain à midi, j’aurai fini ce livre.
+Mañana a mediodía habré terminado este libro.</translation>
+    </message>
+    <message id="tense.ind.pastfuture.use">
+        <source></source>
+        <translation>Expresa lo que estará terminado en un momento dado del futuro. También puede expresar una suposición sobre el pasado: «il aura oublié», se habrá olvidado.</translation>
+    </message>
     <message id="tense.ind.pastfuture_french">
         <source></source>
         <translation>Futur antérieur</translation>
@@ -644,6 +906,15 @@ Verbos en el historial: %d</translation>
     <message id="tense.ind.pastperfect">
         <source></source>
         <translation>Pretérito anterior</translation>
+    </message>
+    <message id="tense.ind.pastperfect.example">
+        <source></source>
+        <translation>Dès qu’il eut mangé, il sortit.
+En cuanto hubo comido, salió.</translation>
+    </message>
+    <message id="tense.ind.pastperfect.use">
+        <source></source>
+        <translation>Expresa lo que había acabado justo antes de un hecho contado en pretérito perfecto simple. Es un tiempo literario, sobre todo tras «quand», «dès que» y «après que».</translation>
     </message>
     <message id="tense.ind.pastperfect_french">
         <source></source>
@@ -653,6 +924,15 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Pretérito pluscuamperfecto</translation>
     </message>
+    <message id="tense.ind.pluperfect.example">
+        <source></source>
+        <translation>Le train était déjà parti quand je suis arrivé.
+El tren ya había salido cuando llegué.</translation>
+    </message>
+    <message id="tense.ind.pluperfect.use">
+        <source></source>
+        <translation>Expresa lo que ya había ocurrido antes de otro momento del pasado. Tras «si» indica una condición que no se cumplió: «si tu avais su», si lo hubieras sabido.</translation>
+    </message>
     <message id="tense.ind.pluperfect_french">
         <source></source>
         <translation>Plus-que-parfait</translation>
@@ -660,6 +940,15 @@ Verbos en el historial: %d</translation>
     <message id="tense.ind.present">
         <source></source>
         <translation>Presente</translation>
+    </message>
+    <message id="tense.ind.present.example">
+        <source></source>
+        <translation>Je travaille à Lyon depuis deux ans.
+Trabajo en Lyon desde hace dos años.</translation>
+    </message>
+    <message id="tense.ind.present.use">
+        <source></source>
+        <translation>Expresa lo que ocurre ahora, lo que es habitual o lo que siempre es verdad. Con «depuis» indica lo que empezó en el pasado y aún continúa.</translation>
     </message>
     <message id="tense.ind.present_french">
         <source></source>
@@ -669,6 +958,15 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Pretérito perfecto compuesto</translation>
     </message>
+    <message id="tense.ind.presentperfect.example">
+        <source></source>
+        <translation>Hier, nous avons visité le musée.
+Ayer visitamos el museo.</translation>
+    </message>
+    <message id="tense.ind.presentperfect.use">
+        <source></source>
+        <translation>Cuenta lo que ocurrió y ya terminó, o aquello cuyo efecto aún importa. Es el pasado de todos los días; se usa también donde en español se dice «visité».</translation>
+    </message>
     <message id="tense.ind.presentperfect_french">
         <source></source>
         <translation>Passé composé</translation>
@@ -676,6 +974,15 @@ Verbos en el historial: %d</translation>
     <message id="tense.ind.simplepast">
         <source></source>
         <translation>Pretérito perfecto simple</translation>
+    </message>
+    <message id="tense.ind.simplepast.example">
+        <source></source>
+        <translation>Elle ouvrit la porte et vit la mer.
+Abrió la puerta y vio el mar.</translation>
+    </message>
+    <message id="tense.ind.simplepast.use">
+        <source></source>
+        <translation>Cuenta hechos acabados en novelas, cuentos y libros de historia. Casi nunca se usa al hablar: lo sustituye el pretérito perfecto compuesto.</translation>
     </message>
     <message id="tense.ind.simplepast_french">
         <source></source>
@@ -689,6 +996,15 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Imperativo</translation>
     </message>
+    <message id="tense.other.imperative.example">
+        <source></source>
+        <translation>Pars tôt et sois rentré avant midi.
+Sal temprano y estate de vuelta antes del mediodía.</translation>
+    </message>
+    <message id="tense.other.imperative.use">
+        <source></source>
+        <translation>Da una orden, un consejo o una invitación; los pronombres «tu», «nous» y «vous» se omiten. La forma de pasado, poco frecuente, pide que algo esté hecho antes de un momento dado.</translation>
+    </message>
     <message id="tense.other.imperative_french">
         <source></source>
         <translation>Impératif</translation>
@@ -696,6 +1012,15 @@ Verbos en el historial: %d</translation>
     <message id="tense.other.participle">
         <source></source>
         <translation>Participio</translation>
+    </message>
+    <message id="tense.other.participle.example">
+        <source></source>
+        <translation>Ayant fini son travail, il est sorti en chantant.
+Terminado su trabajo, salió cantando.</translation>
+    </message>
+    <message id="tense.other.participle.use">
+        <source></source>
+        <translation>El participio presente indica una acción que acompaña a otra; con «en» forma el gerundio. El participio pasado forma los tiempos compuestos; «ayant parlé» indica lo que ocurrió antes.</translation>
     </message>
     <message id="tense.other.participle_french">
         <source></source>
@@ -709,6 +1034,15 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Imperfecto de subjuntivo</translation>
     </message>
+    <message id="tense.sub.imperfect.example">
+        <source></source>
+        <translation>Il fallait qu’il partît avant l’aube.
+Era preciso que partiera antes del alba.</translation>
+    </message>
+    <message id="tense.sub.imperfect.use">
+        <source></source>
+        <translation>Forma literaria: tras un verbo en pasado sustituye al presente de subjuntivo. El uso corriente mantiene el presente de subjuntivo: «il fallait que je parte».</translation>
+    </message>
     <message id="tense.sub.imperfect_french">
         <source></source>
         <translation>Subjonctif imparfait</translation>
@@ -716,6 +1050,15 @@ Verbos en el historial: %d</translation>
     <message id="tense.sub.past">
         <source></source>
         <translation>Perfecto de subjuntivo</translation>
+    </message>
+    <message id="tense.sub.past.example">
+        <source></source>
+        <translation>Je suis content que tu sois venue.
+Me alegro de que hayas venido.</translation>
+    </message>
+    <message id="tense.sub.past.use">
+        <source></source>
+        <translation>Sustituye al presente de subjuntivo cuando la acción ya se ha realizado. También indica lo que deberá estar hecho más tarde: «il faut que tu aies fini à midi».</translation>
     </message>
     <message id="tense.sub.past_french">
         <source></source>
@@ -725,6 +1068,15 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Pluscuamperfecto de subjuntivo</translation>
     </message>
+    <message id="tense.sub.pluperfect.example">
+        <source></source>
+        <translation>Je regrettais qu’elle fût partie sans moi.
+Lamentaba que ella se hubiera ido sin mí.</translation>
+    </message>
+    <message id="tense.sub.pluperfect.use">
+        <source></source>
+        <translation>Forma literaria: tras un verbo en pasado sustituye al perfecto de subjuntivo. Indica lo que había ocurrido antes; el uso corriente mantiene el perfecto de subjuntivo.</translation>
+    </message>
     <message id="tense.sub.pluperfect_french">
         <source></source>
         <translation>Subjonctif plus-que-parfait</translation>
@@ -732,6 +1084,15 @@ Verbos en el historial: %d</translation>
     <message id="tense.sub.present">
         <source></source>
         <translation>Presente de subjuntivo</translation>
+    </message>
+    <message id="tense.sub.present.example">
+        <source></source>
+        <translation>Il faut que tu viennes ce soir.
+Hace falta que vengas esta noche.</translation>
+    </message>
+    <message id="tense.sub.present.use">
+        <source></source>
+        <translation>Se usa tras expresiones de voluntad, sentimiento, duda o necesidad, como «il faut que». También sigue a algunas conjunciones, como «pour que», «avant que» y «bien que».</translation>
     </message>
     <message id="tense.sub.present_french">
         <source></source>

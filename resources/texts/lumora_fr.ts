@@ -117,6 +117,170 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Menu</translation>
     </message>
+    <message id="card.about">
+        <source></source>
+        <translation>À propos de ce verbe</translation>
+    </message>
+    <message id="card.alike">
+        <source></source>
+        <translation>De même conjugaison</translation>
+    </message>
+    <message id="card.auxiliary">
+        <source></source>
+        <translation>Auxiliaire</translation>
+    </message>
+    <message id="card.group">
+        <source></source>
+        <translation>Groupe</translation>
+    </message>
+    <message id="card.group.1">
+        <source></source>
+        <translation>1er groupe : verbes réguliers en -er</translation>
+    </message>
+    <message id="card.group.2">
+        <source></source>
+        <translation>2e groupe : verbes en -ir comme finir</translation>
+    </message>
+    <message id="card.group.3">
+        <source></source>
+        <translation>3e groupe : verbes irréguliers</translation>
+    </message>
+    <message id="card.group.short.1">
+        <source></source>
+        <translation>1er groupe</translation>
+    </message>
+    <message id="card.group.short.2">
+        <source></source>
+        <translation>2e groupe</translation>
+    </message>
+    <message id="card.group.short.3">
+        <source></source>
+        <translation>3e groupe</translation>
+    </message>
+    <message id="card.homograph">
+        <source></source>
+        <translation>Homonyme</translation>
+    </message>
+    <message id="card.infinitive">
+        <source></source>
+        <translation>Infinitif</translation>
+    </message>
+    <message id="card.infinitive.past">
+        <source></source>
+        <translation>Infinitif passé</translation>
+    </message>
+    <message id="card.infinitive_only">
+        <source></source>
+        <translation>employé à l’infinitif seulement</translation>
+    </message>
+    <message id="card.like">
+        <source></source>
+        <translation>Se conjugue comme</translation>
+    </message>
+    <message id="card.like.short">
+        <source></source>
+        <translation>comme %@</translation>
+    </message>
+    <message id="card.next">
+        <source></source>
+        <translation>Verbe suivant</translation>
+    </message>
+    <message id="card.notes">
+        <source></source>
+        <translation>À noter</translation>
+    </message>
+    <message id="card.participle.avoir">
+        <source></source>
+        <translation>le participe ne s’accorde qu’avec un complément d’objet direct placé avant</translation>
+    </message>
+    <message id="card.participle.both">
+        <source></source>
+        <translation>le participe s’accorde avec le sujet après être seulement</translation>
+    </message>
+    <message id="card.participle.etre">
+        <source></source>
+        <translation>le participe s’accorde avec le sujet</translation>
+    </message>
+    <message id="card.participle.indirect">
+        <source></source>
+        <translation>le participe ne s’accorde pas avec le sujet</translation>
+    </message>
+    <message id="card.participle.invariable">
+        <source></source>
+        <translation>le participe est invariable</translation>
+    </message>
+    <message id="card.plain">
+        <source></source>
+        <translation>Sans se</translation>
+    </message>
+    <message id="card.previous">
+        <source></source>
+        <translation>Verbe précédent</translation>
+    </message>
+    <message id="card.pronominal">
+        <source></source>
+        <translation>Avec se</translation>
+    </message>
+    <message id="card.third_person">
+        <source></source>
+        <translation>employé à la troisième personne seulement</translation>
+    </message>
+    <message id="card.trait.aspirated">
+        <source></source>
+        <translation>h aspiré : ni élision ni liaison</translation>
+    </message>
+    <message id="card.trait.defective">
+        <source></source>
+        <translation>défectif : certaines formes ne s’emploient pas</translation>
+    </message>
+    <message id="card.trait.en">
+        <source></source>
+        <translation>avec en</translation>
+    </message>
+    <message id="card.trait.impersonal">
+        <source></source>
+        <translation>impersonnel : seulement avec il</translation>
+    </message>
+    <message id="card.trait.plural">
+        <source></source>
+        <translation>aussi avec ils au sens figuré</translation>
+    </message>
+    <message id="card.trait.pronominal">
+        <source></source>
+        <translation>pronominal : avec se</translation>
+    </message>
+    <message id="card.unused">
+        <source></source>
+        <translation>Inusité à</translation>
+    </message>
+    <message id="card.use">
+        <source></source>
+        <translation>Fréquence</translation>
+    </message>
+    <message id="card.use.1">
+        <source></source>
+        <translation>l’un des 100 verbes les plus courants</translation>
+    </message>
+    <message id="card.use.2">
+        <source></source>
+        <translation>l’un des 500 verbes les plus courants</translation>
+    </message>
+    <message id="card.use.3">
+        <source></source>
+        <translation>l’un des 2 000 verbes les plus courants</translation>
+    </message>
+    <message id="card.use.4">
+        <source></source>
+        <translation>d’usage vivant</translation>
+    </message>
+    <message id="card.use.5">
+        <source></source>
+        <translation>rare, vieilli ou technique</translation>
+    </message>
+    <message id="card.used_only">
+        <source></source>
+        <translation>Usité seulement à</translation>
+    </message>
     <message id="common.done">
         <source></source>
         <translation>Terminé</translation>
@@ -300,6 +464,30 @@ Verbes dans l’historique : %d</translation>
     <message id="options.button">
         <source></source>
         <translation>Réglages</translation>
+    </message>
+    <message id="person.1.plural">
+        <source></source>
+        <translation>1re personne du pluriel</translation>
+    </message>
+    <message id="person.1.singular">
+        <source></source>
+        <translation>1re personne du singulier</translation>
+    </message>
+    <message id="person.2.plural">
+        <source></source>
+        <translation>2e personne du pluriel</translation>
+    </message>
+    <message id="person.2.singular">
+        <source></source>
+        <translation>2e personne du singulier</translation>
+    </message>
+    <message id="person.3.plural">
+        <source></source>
+        <translation>3e personne du pluriel</translation>
+    </message>
+    <message id="person.3.singular">
+        <source></source>
+        <translation>3e personne du singulier</translation>
     </message>
     <message id="privacy">
         <source></source>
@@ -561,6 +749,26 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Dossier parent</translation>
     </message>
+    <message id="sheet.copied">
+        <source></source>
+        <translation>Copié</translation>
+    </message>
+    <message id="sheet.copy.form">
+        <source></source>
+        <translation>Copier la forme</translation>
+    </message>
+    <message id="sheet.copy.row">
+        <source></source>
+        <translation>Copier la ligne</translation>
+    </message>
+    <message id="sheet.others">
+        <source></source>
+        <translation>La même forme ailleurs</translation>
+    </message>
+    <message id="sheet.slowly">
+        <source></source>
+        <translation>Prononcer lentement</translation>
+    </message>
     <message id="support.email">
         <source></source>
         <translation>support@brindle.example</translation>
@@ -593,6 +801,14 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Conditionnel passé 1re forme</translation>
     </message>
+    <message id="tense.con.firstpast.example">
+        <source></source>
+        <translation>Si tu avais appelé, je serais venu.</translation>
+    </message>
+    <message id="tense.con.firstpast.use">
+        <source></source>
+        <translation>Exprime ce qui serait arrivé sous certaines conditions ; la proposition avec « si » est au plus-que-parfait. Il exprime aussi un regret ou un reproche : « tu aurais dû attendre ».</translation>
+    </message>
     <message id="tense.con.firstpast_french">
         <source></source>
         <translation>Conditionnel passé 1re forme</translation>
@@ -601,6 +817,14 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Conditionnel présent</translation>
     </message>
+    <message id="tense.con.present.example">
+        <source></source>
+        <translation>Si j’avais le temps, je viendrais.</translation>
+    </message>
+    <message id="tense.con.present.use">
+        <source></source>
+        <translation>Exprime ce qui arriverait sous certaines conditions ; la proposition avec « si » est à l’imparfait. Il sert aussi à demander poliment : « je voudrais un café ».</translation>
+    </message>
     <message id="tense.con.present_french">
         <source></source>
         <translation>Conditionnel présent</translation>
@@ -608,6 +832,14 @@ Verbes dans l’historique : %d</translation>
     <message id="tense.con.secondpast">
         <source></source>
         <translation>Conditionnel passé 2e forme</translation>
+    </message>
+    <message id="tense.con.secondpast.example">
+        <source></source>
+        <translation>Sans ce bruit, il eût dormi jusqu’à midi.</translation>
+    </message>
+    <message id="tense.con.secondpast.use">
+        <source></source>
+        <translation>A le même sens que le conditionnel passé 1re forme, mais appartient à la langue littéraire. Ses formes sont celles du subjonctif plus-que-parfait, sans « que ».</translation>
     </message>
     <message id="tense.con.secondpast_french">
         <source></source>
@@ -621,6 +853,14 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Futur simple</translation>
     </message>
+    <message id="tense.ind.future.example">
+        <source></source>
+        <translation>Je t’appellerai quand tu seras prêt.</translation>
+    </message>
+    <message id="tense.ind.future.use">
+        <source></source>
+        <translation>Exprime ce qui arrivera, une promesse ou une prévision. On l’emploie aussi après « quand » lorsqu’il s’agit de l’avenir.</translation>
+    </message>
     <message id="tense.ind.future_french">
         <source></source>
         <translation>Futur simple</translation>
@@ -628,6 +868,14 @@ Verbes dans l’historique : %d</translation>
     <message id="tense.ind.imperfect">
         <source></source>
         <translation>Imparfait</translation>
+    </message>
+    <message id="tense.ind.imperfect.example">
+        <source></source>
+        <translation>Quand j’étais petit, je lisais beaucoup.</translation>
+    </message>
+    <message id="tense.ind.imperfect.use">
+        <source></source>
+        <translation>Décrit comment étaient les choses, ce qui était en cours ou ce qui se répétait. Il peint le décor d’un récit, tandis que le passé composé raconte les faits.</translation>
     </message>
     <message id="tense.ind.imperfect_french">
         <source></source>
@@ -637,6 +885,14 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Futur antérieur</translation>
     </message>
+    <message id="tense.ind.pastfuture.example">
+        <source></source>
+        <translation>Demain à midi, j’aurai fini ce livre.</translation>
+    </message>
+    <message id="tense.ind.pastfuture.use">
+        <source></source>
+        <translation>Exprime ce qui sera achevé à un moment donné de l’avenir. Il peut aussi exprimer une supposition sur le passé : « il aura oublié ».</translation>
+    </message>
     <message id="tense.ind.pastfuture_french">
         <source></source>
         <translation>Futur antérieur</translation>
@@ -644,6 +900,14 @@ Verbes dans l’historique : %d</translation>
     <message id="tense.ind.pastperfect">
         <source></source>
         <translation>Passé antérieur</translation>
+    </message>
+    <message id="tense.ind.pastperfect.example">
+        <source></source>
+        <translation>Dès qu’il eut mangé, il sortit.</translation>
+    </message>
+    <message id="tense.ind.pastperfect.use">
+        <source></source>
+        <translation>Exprime ce qui s’est achevé juste avant un fait raconté au passé simple. C’est un temps littéraire, surtout après « quand », « dès que » et « après que ».</translation>
     </message>
     <message id="tense.ind.pastperfect_french">
         <source></source>
@@ -653,6 +917,14 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Plus-que-parfait</translation>
     </message>
+    <message id="tense.ind.pluperfect.example">
+        <source></source>
+        <translation>Le train était déjà parti quand je suis arrivé.</translation>
+    </message>
+    <message id="tense.ind.pluperfect.use">
+        <source></source>
+        <translation>Exprime ce qui s’était déjà passé avant un autre moment du passé. Après « si », il pose une condition qui ne s’est pas réalisée : « si tu avais su ».</translation>
+    </message>
     <message id="tense.ind.pluperfect_french">
         <source></source>
         <translation>Plus-que-parfait</translation>
@@ -660,6 +932,14 @@ Verbes dans l’historique : %d</translation>
     <message id="tense.ind.present">
         <source></source>
         <translation>Présent</translation>
+    </message>
+    <message id="tense.ind.present.example">
+        <source></source>
+        <translation>Je travaille à Lyon depuis deux ans.</translation>
+    </message>
+    <message id="tense.ind.present.use">
+        <source></source>
+        <translation>Exprime ce qui se passe maintenant, ce qui est habituel ou ce qui est toujours vrai. Avec « depuis », il indique ce qui a commencé dans le passé et qui dure encore.</translation>
     </message>
     <message id="tense.ind.present_french">
         <source></source>
@@ -669,6 +949,14 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Passé composé</translation>
     </message>
+    <message id="tense.ind.presentperfect.example">
+        <source></source>
+        <translation>Hier, nous avons visité le musée.</translation>
+    </message>
+    <message id="tense.ind.presentperfect.use">
+        <source></source>
+        <translation>Raconte ce qui a eu lieu et qui est terminé, ou ce dont le résultat compte encore. C’est le passé de tous les jours, à l’oral comme dans la plupart des écrits.</translation>
+    </message>
     <message id="tense.ind.presentperfect_french">
         <source></source>
         <translation>Passé composé</translation>
@@ -676,6 +964,14 @@ Verbes dans l’historique : %d</translation>
     <message id="tense.ind.simplepast">
         <source></source>
         <translation>Passé simple</translation>
+    </message>
+    <message id="tense.ind.simplepast.example">
+        <source></source>
+        <translation>Elle ouvrit la porte et vit la mer.</translation>
+    </message>
+    <message id="tense.ind.simplepast.use">
+        <source></source>
+        <translation>Raconte des faits achevés dans les romans, les contes et les livres d’histoire. On ne l’emploie presque jamais à l’oral, où le passé composé le remplace.</translation>
     </message>
     <message id="tense.ind.simplepast_french">
         <source></source>
@@ -689,6 +985,14 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Impératif</translation>
     </message>
+    <message id="tense.other.imperative.example">
+        <source></source>
+        <translation>Pars tôt et sois rentré avant midi.</translation>
+    </message>
+    <message id="tense.other.imperative.use">
+        <source></source>
+        <translation>Donne un ordre, un conseil ou une invitation ; les pronoms « tu », « nous » et « vous » s’omettent. La forme passée, rare, demande qu’une chose soit faite avant un moment donné.</translation>
+    </message>
     <message id="tense.other.imperative_french">
         <source></source>
         <translation>Impératif</translation>
@@ -696,6 +1000,14 @@ Verbes dans l’historique : %d</translation>
     <message id="tense.other.participle">
         <source></source>
         <translation>Participe</translation>
+    </message>
+    <message id="tense.other.participle.example">
+        <source></source>
+        <translation>Ayant fini son travail, il est sorti en chantant.</translation>
+    </message>
+    <message id="tense.other.participle.use">
+        <source></source>
+        <translation>Le participe présent exprime une action qui en accompagne une autre ; avec « en », c’est le gérondif. Le participe passé forme les temps composés ; « ayant parlé » dit ce qui a précédé.</translation>
     </message>
     <message id="tense.other.participle_french">
         <source></source>
@@ -709,6 +1021,14 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Subjonctif imparfait</translation>
     </message>
+    <message id="tense.sub.imperfect.example">
+        <source></source>
+        <translation>Il fallait qu’il partît avant l’aube.</translation>
+    </message>
+    <message id="tense.sub.imperfect.use">
+        <source></source>
+        <translation>Forme littéraire : après un verbe au passé, elle remplace le subjonctif présent. L’usage courant garde le subjonctif présent : « il fallait que je parte ».</translation>
+    </message>
     <message id="tense.sub.imperfect_french">
         <source></source>
         <translation>Subjonctif imparfait</translation>
@@ -716,6 +1036,14 @@ Verbes dans l’historique : %d</translation>
     <message id="tense.sub.past">
         <source></source>
         <translation>Subjonctif passé</translation>
+    </message>
+    <message id="tense.sub.past.example">
+        <source></source>
+        <translation>Je suis content que tu sois venue.</translation>
+    </message>
+    <message id="tense.sub.past.use">
+        <source></source>
+        <translation>Remplace le subjonctif présent quand l’action est déjà accomplie. Il exprime aussi ce qui doit être accompli plus tard : « il faut que tu aies fini à midi ».</translation>
     </message>
     <message id="tense.sub.past_french">
         <source></source>
@@ -725,6 +1053,14 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Subjonctif plus-que-parfait</translation>
     </message>
+    <message id="tense.sub.pluperfect.example">
+        <source></source>
+        <translation>Je regrettais qu’elle fût partie sans moi.</translation>
+    </message>
+    <message id="tense.sub.pluperfect.use">
+        <source></source>
+        <translation>Forme littéraire : après un verbe au passé, elle remplace le subjonctif passé. Elle exprime ce qui avait déjà eu lieu ; l’usage courant garde le subjonctif passé.</translation>
+    </message>
     <message id="tense.sub.pluperfect_french">
         <source></source>
         <translation>Subjonctif plus-que-parfait</translation>
@@ -732,6 +1068,14 @@ Verbes dans l’historique : %d</translation>
     <message id="tense.sub.present">
         <source></source>
         <translation>Subjonctif présent</translation>
+    </message>
+    <message id="tense.sub.present.example">
+        <source></source>
+        <translation>Il faut que tu viennes ce soir.</translation>
+    </message>
+    <message id="tense.sub.present.use">
+        <source></source>
+        <translation>S’emploie après l’expression d’une volonté, d’un sentiment, d’un doute ou d’une nécessité : « il faut que ». Il suit aussi certaines conjonctions, comme « pour que », « avant que » et « bien que ».</translation>
     </message>
     <message id="tense.sub.present_french">
         <source></source>

@@ -117,6 +117,170 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Menu</translation>
     </message>
+    <message id="card.about">
+        <source></source>
+        <translation>Su questo verbo</translation>
+    </message>
+    <message id="card.alike">
+        <source></source>
+        <translation>Coniugati così</translation>
+    </message>
+    <message id="card.auxiliary">
+        <source></source>
+        <translation>Ausiliare</translation>
+    </message>
+    <message id="card.group">
+        <source></source>
+        <translation>Gruppo</translation>
+    </message>
+    <message id="card.group.1">
+        <source></source>
+        <translation>1º gruppo: verbi regolari in -er</translation>
+    </message>
+    <message id="card.group.2">
+        <source></source>
+        <translation>2º gruppo: verbi in -ir come finir</translation>
+    </message>
+    <message id="card.group.3">
+        <source></source>
+        <translation>3º gruppo: verbi irregolari</translation>
+    </message>
+    <message id="card.group.short.1">
+        <source></source>
+        <translation>1º gruppo</translation>
+    </message>
+    <message id="card.group.short.2">
+        <source></source>
+        <translation>2º gruppo</translation>
+    </message>
+    <message id="card.group.short.3">
+        <source></source>
+        <translation>3º gruppo</translation>
+    </message>
+    <message id="card.homograph">
+        <source></source>
+        <translation>Omonimo</translation>
+    </message>
+    <message id="card.infinitive">
+        <source></source>
+        <translation>Infinito</translation>
+    </message>
+    <message id="card.infinitive.past">
+        <source></source>
+        <translation>Infinito passato</translation>
+    </message>
+    <message id="card.infinitive_only">
+        <source></source>
+        <translation>usato solo all’infinito</translation>
+    </message>
+    <message id="card.like">
+        <source></source>
+        <translation>Si coniuga come</translation>
+    </message>
+    <message id="card.like.short">
+        <source></source>
+        <translation>come %@</translation>
+    </message>
+    <message id="card.next">
+        <source></source>
+        <translation>Verbo successivo</translation>
+    </message>
+    <message id="card.notes">
+        <source></source>
+        <translation>Nota</translation>
+    </message>
+    <message id="card.participle.avoir">
+        <source></source>
+        <translation>il participio concorda solo con un oggetto diretto che lo precede</translation>
+    </message>
+    <message id="card.participle.both">
+        <source></source>
+        <translation>il participio concorda con il soggetto solo dopo être</translation>
+    </message>
+    <message id="card.participle.etre">
+        <source></source>
+        <translation>il participio concorda con il soggetto</translation>
+    </message>
+    <message id="card.participle.indirect">
+        <source></source>
+        <translation>il participio non concorda con il soggetto</translation>
+    </message>
+    <message id="card.participle.invariable">
+        <source></source>
+        <translation>il participio è invariabile</translation>
+    </message>
+    <message id="card.plain">
+        <source></source>
+        <translation>Senza se</translation>
+    </message>
+    <message id="card.previous">
+        <source></source>
+        <translation>Verbo precedente</translation>
+    </message>
+    <message id="card.pronominal">
+        <source></source>
+        <translation>Con se</translation>
+    </message>
+    <message id="card.third_person">
+        <source></source>
+        <translation>usato solo alla terza persona</translation>
+    </message>
+    <message id="card.trait.aspirated">
+        <source></source>
+        <translation>h aspirata: senza elisione né liaison</translation>
+    </message>
+    <message id="card.trait.defective">
+        <source></source>
+        <translation>difettivo: alcune forme non si usano</translation>
+    </message>
+    <message id="card.trait.en">
+        <source></source>
+        <translation>con en</translation>
+    </message>
+    <message id="card.trait.impersonal">
+        <source></source>
+        <translation>impersonale: solo con il</translation>
+    </message>
+    <message id="card.trait.plural">
+        <source></source>
+        <translation>anche con ils in senso figurato</translation>
+    </message>
+    <message id="card.trait.pronominal">
+        <source></source>
+        <translation>pronominale: con se</translation>
+    </message>
+    <message id="card.unused">
+        <source></source>
+        <translation>Non si usa in</translation>
+    </message>
+    <message id="card.use">
+        <source></source>
+        <translation>Frequenza</translation>
+    </message>
+    <message id="card.use.1">
+        <source></source>
+        <translation>uno dei 100 verbi più comuni</translation>
+    </message>
+    <message id="card.use.2">
+        <source></source>
+        <translation>uno dei 500 verbi più comuni</translation>
+    </message>
+    <message id="card.use.3">
+        <source></source>
+        <translation>uno dei 2000 verbi più comuni</translation>
+    </message>
+    <message id="card.use.4">
+        <source></source>
+        <translation>d’uso vivo</translation>
+    </message>
+    <message id="card.use.5">
+        <source></source>
+        <translation>raro, antiquato o tecnico</translation>
+    </message>
+    <message id="card.used_only">
+        <source></source>
+        <translation>Si usa solo in</translation>
+    </message>
     <message id="common.done">
         <source></source>
         <translation>Fine</translation>
@@ -300,6 +464,30 @@ Verbi nella cronologia: %d</translation>
     <message id="options.button">
         <source></source>
         <translation>Impostazioni</translation>
+    </message>
+    <message id="person.1.plural">
+        <source></source>
+        <translation>1ª persona plurale</translation>
+    </message>
+    <message id="person.1.singular">
+        <source></source>
+        <translation>1ª persona singolare</translation>
+    </message>
+    <message id="person.2.plural">
+        <source></source>
+        <translation>2ª persona plurale</translation>
+    </message>
+    <message id="person.2.singular">
+        <source></source>
+        <translation>2ª persona singolare</translation>
+    </message>
+    <message id="person.3.plural">
+        <source></source>
+        <translation>3ª persona plurale</translation>
+    </message>
+    <message id="person.3.singular">
+        <source></source>
+        <translation>3ª persona singolare</translation>
     </message>
     <message id="privacy">
         <source></source>
@@ -561,6 +749,26 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Cartella superiore</translation>
     </message>
+    <message id="sheet.copied">
+        <source></source>
+        <translation>Copiato</translation>
+    </message>
+    <message id="sheet.copy.form">
+        <source></source>
+        <translation>Copia la forma</translation>
+    </message>
+    <message id="sheet.copy.row">
+        <source></source>
+        <translation>Copia la riga</translation>
+    </message>
+    <message id="sheet.others">
+        <source></source>
+        <translation>La stessa forma altrove</translation>
+    </message>
+    <message id="sheet.slowly">
+        <source></source>
+        <translation>Pronuncia lentamente</translation>
+    </message>
     <message id="support.email">
         <source></source>
         <translation>support@brindle.example</translation>
@@ -593,6 +801,15 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Condizionale passato</translation>
     </message>
+    <message id="tense.con.firstpast.example">
+        <source></source>
+        <translation>Si tu avais appelé, je serais venu.
+Se tu avessi chiamato, sarei venuto.</translation>
+    </message>
+    <message id="tense.con.firstpast.use">
+        <source></source>
+        <translation>Esprime ciò che sarebbe avvenuto a certe condizioni; dopo «si» si usa il trapassato prossimo. Esprime anche un rammarico o un rimprovero: «tu aurais dû attendre», avresti dovuto aspettare.</translation>
+    </message>
     <message id="tense.con.firstpast_french">
         <source></source>
         <translation>Conditionnel passé 1re forme</translation>
@@ -601,6 +818,15 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Condizionale presente</translation>
     </message>
+    <message id="tense.con.present.example">
+        <source></source>
+        <translation>Si j’avais le temps, je viendrais.
+Se avessi tempo, verrei.</translation>
+    </message>
+    <message id="tense.con.present.use">
+        <source></source>
+        <translation>Esprime ciò che accadrebbe a certe condizioni; dopo «si» si usa l’imperfetto indicativo. Rende anche cortese un desiderio o una richiesta: «je voudrais un café».</translation>
+    </message>
     <message id="tense.con.present_french">
         <source></source>
         <translation>Conditionnel présent</translation>
@@ -608,6 +834,15 @@ Verbi nella cronologia: %d</translation>
     <message id="tense.con.secondpast">
         <source></source>
         <translation>Condizionale passato, 2ª forma</translation>
+    </message>
+    <message id="tense.con.secondpast.example">
+        <source></source>
+        <translation>Sans ce bruit, il eût dormi jusqu’à midi.
+Senza quel rumore avrebbe dormito fino a mezzogiorno.</translation>
+    </message>
+    <message id="tense.con.secondpast.use">
+        <source></source>
+        <translation>Ha lo stesso significato del condizionale passato, ma appartiene alla lingua letteraria. Le sue forme sono quelle del congiuntivo trapassato, senza «que».</translation>
     </message>
     <message id="tense.con.secondpast_french">
         <source></source>
@@ -621,6 +856,15 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Futuro semplice</translation>
     </message>
+    <message id="tense.ind.future.example">
+        <source></source>
+        <translation>Je t’appellerai quand tu seras prêt.
+Ti chiamerò quando sarai pronto.</translation>
+    </message>
+    <message id="tense.ind.future.use">
+        <source></source>
+        <translation>Esprime ciò che accadrà, una promessa o una previsione. Come in italiano, si usa anche dopo «quand» se si parla del futuro.</translation>
+    </message>
     <message id="tense.ind.future_french">
         <source></source>
         <translation>Futur simple</translation>
@@ -628,6 +872,15 @@ Verbi nella cronologia: %d</translation>
     <message id="tense.ind.imperfect">
         <source></source>
         <translation>Imperfetto</translation>
+    </message>
+    <message id="tense.ind.imperfect.example">
+        <source></source>
+        <translation>Quand j’étais petit, je lisais beaucoup.
+Quando ero piccolo, leggevo molto.</translation>
+    </message>
+    <message id="tense.ind.imperfect.use">
+        <source></source>
+        <translation>Descrive com’erano le cose, ciò che era in corso o ciò che si ripeteva. Dipinge lo sfondo di un racconto, mentre il passato prossimo narra i fatti.</translation>
     </message>
     <message id="tense.ind.imperfect_french">
         <source></source>
@@ -637,6 +890,15 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Futuro anteriore</translation>
     </message>
+    <message id="tense.ind.pastfuture.example">
+        <source></source>
+        <translation>Demain à midi, j’aurai fini ce livre.
+Domani a mezzogiorno avrò finito questo libro.</translation>
+    </message>
+    <message id="tense.ind.pastfuture.use">
+        <source></source>
+        <translation>Esprime ciò che sarà concluso in un dato momento del futuro. Può anche esprimere una supposizione sul passato: «il aura oublié», se ne sarà dimenticato.</translation>
+    </message>
     <message id="tense.ind.pastfuture_french">
         <source></source>
         <translation>Futur antérieur</translation>
@@ -644,6 +906,15 @@ Verbi nella cronologia: %d</translation>
     <message id="tense.ind.pastperfect">
         <source></source>
         <translation>Trapassato remoto</translation>
+    </message>
+    <message id="tense.ind.pastperfect.example">
+        <source></source>
+        <translation>Dès qu’il eut mangé, il sortit.
+Appena ebbe mangiato, uscì.</translation>
+    </message>
+    <message id="tense.ind.pastperfect.use">
+        <source></source>
+        <translation>Esprime ciò che si concluse subito prima di un fatto narrato al passato remoto. È un tempo letterario, usato soprattutto dopo «quand», «dès que» e «après que».</translation>
     </message>
     <message id="tense.ind.pastperfect_french">
         <source></source>
@@ -653,6 +924,15 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Trapassato prossimo</translation>
     </message>
+    <message id="tense.ind.pluperfect.example">
+        <source></source>
+        <translation>Le train était déjà parti quand je suis arrivé.
+Il treno era già partito quando sono arrivato.</translation>
+    </message>
+    <message id="tense.ind.pluperfect.use">
+        <source></source>
+        <translation>Esprime ciò che era già avvenuto prima di un altro momento del passato. Dopo «si» indica una condizione non realizzata: «si tu avais su», se tu l’avessi saputo.</translation>
+    </message>
     <message id="tense.ind.pluperfect_french">
         <source></source>
         <translation>Plus-que-parfait</translation>
@@ -660,6 +940,15 @@ Verbi nella cronologia: %d</translation>
     <message id="tense.ind.present">
         <source></source>
         <translation>Presente</translation>
+    </message>
+    <message id="tense.ind.present.example">
+        <source></source>
+        <translation>Je travaille à Lyon depuis deux ans.
+Lavoro a Lione da due anni.</translation>
+    </message>
+    <message id="tense.ind.present.use">
+        <source></source>
+        <translation>Esprime ciò che accade ora, ciò che è abituale o ciò che è sempre vero. Con «depuis» indica ciò che è iniziato nel passato e dura ancora.</translation>
     </message>
     <message id="tense.ind.present_french">
         <source></source>
@@ -669,6 +958,15 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Passato prossimo</translation>
     </message>
+    <message id="tense.ind.presentperfect.example">
+        <source></source>
+        <translation>Hier, nous avons visité le musée.
+Ieri abbiamo visitato il museo.</translation>
+    </message>
+    <message id="tense.ind.presentperfect.use">
+        <source></source>
+        <translation>Racconta ciò che è avvenuto ed è concluso, o ciò che ha ancora effetti nel presente. È il passato di tutti i giorni, nel parlato e nella maggior parte dei testi scritti.</translation>
+    </message>
     <message id="tense.ind.presentperfect_french">
         <source></source>
         <translation>Passé composé</translation>
@@ -676,6 +974,15 @@ Verbi nella cronologia: %d</translation>
     <message id="tense.ind.simplepast">
         <source></source>
         <translation>Passato remoto</translation>
+    </message>
+    <message id="tense.ind.simplepast.example">
+        <source></source>
+        <translation>Elle ouvrit la porte et vit la mer.
+Aprì la porta e vide il mare.</translation>
+    </message>
+    <message id="tense.ind.simplepast.use">
+        <source></source>
+        <translation>Racconta fatti conclusi in romanzi, fiabe e libri di storia. Nel parlato non si usa quasi mai: lo sostituisce il passato prossimo.</translation>
     </message>
     <message id="tense.ind.simplepast_french">
         <source></source>
@@ -689,6 +996,15 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Imperativo</translation>
     </message>
+    <message id="tense.other.imperative.example">
+        <source></source>
+        <translation>Pars tôt et sois rentré avant midi.
+Parti presto e sii di ritorno prima di mezzogiorno.</translation>
+    </message>
+    <message id="tense.other.imperative.use">
+        <source></source>
+        <translation>Dà un ordine, un consiglio o un invito; i pronomi «tu», «nous» e «vous» si omettono. La forma passata, rara, chiede che qualcosa sia fatto entro un dato momento.</translation>
+    </message>
     <message id="tense.other.imperative_french">
         <source></source>
         <translation>Impératif</translation>
@@ -696,6 +1012,15 @@ Verbi nella cronologia: %d</translation>
     <message id="tense.other.participle">
         <source></source>
         <translation>Participio</translation>
+    </message>
+    <message id="tense.other.participle.example">
+        <source></source>
+        <translation>Ayant fini son travail, il est sorti en chantant.
+Finito il lavoro, è uscito cantando.</translation>
+    </message>
+    <message id="tense.other.participle.use">
+        <source></source>
+        <translation>Il participio presente indica un’azione che ne accompagna un’altra; con «en» forma il gerundio. Il participio passato forma i tempi composti; «ayant parlé» indica ciò che è avvenuto prima.</translation>
     </message>
     <message id="tense.other.participle_french">
         <source></source>
@@ -709,6 +1034,15 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Congiuntivo imperfetto</translation>
     </message>
+    <message id="tense.sub.imperfect.example">
+        <source></source>
+        <translation>Il fallait qu’il partît avant l’aube.
+Bisognava che partisse prima dell’alba.</translation>
+    </message>
+    <message id="tense.sub.imperfect.use">
+        <source></source>
+        <translation>Forma letteraria: dopo un verbo al passato sostituisce il congiuntivo presente. Nell’uso comune resta il congiuntivo presente: «il fallait que je parte».</translation>
+    </message>
     <message id="tense.sub.imperfect_french">
         <source></source>
         <translation>Subjonctif imparfait</translation>
@@ -716,6 +1050,15 @@ Verbi nella cronologia: %d</translation>
     <message id="tense.sub.past">
         <source></source>
         <translation>Congiuntivo passato</translation>
+    </message>
+    <message id="tense.sub.past.example">
+        <source></source>
+        <translation>Je suis content que tu sois venue.
+Sono contento che tu sia venuta.</translation>
+    </message>
+    <message id="tense.sub.past.use">
+        <source></source>
+        <translation>Sostituisce il congiuntivo presente quando l’azione è già compiuta. Indica anche ciò che dovrà essere compiuto più tardi: «il faut que tu aies fini à midi».</translation>
     </message>
     <message id="tense.sub.past_french">
         <source></source>
@@ -725,6 +1068,15 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Congiuntivo trapassato</translation>
     </message>
+    <message id="tense.sub.pluperfect.example">
+        <source></source>
+        <translation>Je regrettais qu’elle fût partie sans moi.
+Mi dispiaceva che fosse partita senza di me.</translation>
+    </message>
+    <message id="tense.sub.pluperfect.use">
+        <source></source>
+        <translation>Forma letteraria: dopo un verbo al passato sostituisce il congiuntivo passato. Indica ciò che era avvenuto prima; nell’uso comune resta il congiuntivo passato.</translation>
+    </message>
     <message id="tense.sub.pluperfect_french">
         <source></source>
         <translation>Subjonctif plus-que-parfait</translation>
@@ -732,6 +1084,15 @@ Verbi nella cronologia: %d</translation>
     <message id="tense.sub.present">
         <source></source>
         <translation>Congiuntivo presente</translation>
+    </message>
+    <message id="tense.sub.present.example">
+        <source></source>
+        <translation>Il faut que tu viennes ce soir.
+Bisogna che tu venga stasera.</translation>
+    </message>
+    <message id="tense.sub.present.use">
+        <source></source>
+        <translation>Si usa dopo espressioni di volontà, sentimento, dubbio o necessità, come «il faut que». Segue anche alcune congiunzioni, come «pour que», «avant que» e «bien que».</translation>
     </message>
     <message id="tense.sub.present_french">
         <source></source>

@@ -117,6 +117,170 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Menu</translation>
     </message>
+    <message id="card.about">
+        <source></source>
+        <translation>Over dit werkwoord</translation>
+    </message>
+    <message id="card.alike">
+        <source></source>
+        <translation>Net zo vervoegd</translation>
+    </message>
+    <message id="card.auxiliary">
+        <source></source>
+        <translation>Hulpwerkwoord</translation>
+    </message>
+    <message id="card.group">
+        <source></source>
+        <translation>Groep</translation>
+    </message>
+    <message id="card.group.1">
+        <source></source>
+        <translation>1e groep: regelmatige werkwoorden op -er</translation>
+    </message>
+    <message id="card.group.2">
+        <source></source>
+        <translation>2e groep: werkwoorden op -ir zoals finir</translation>
+    </message>
+    <message id="card.group.3">
+        <source></source>
+        <translation>3e groep: onregelmatige werkwoorden</translation>
+    </message>
+    <message id="card.group.short.1">
+        <source></source>
+        <translation>1e groep</translation>
+    </message>
+    <message id="card.group.short.2">
+        <source></source>
+        <translation>2e groep</translation>
+    </message>
+    <message id="card.group.short.3">
+        <source></source>
+        <translation>3e groep</translation>
+    </message>
+    <message id="card.homograph">
+        <source></source>
+        <translation>Gelijknamig</translation>
+    </message>
+    <message id="card.infinitive">
+        <source></source>
+        <translation>Infinitief</translation>
+    </message>
+    <message id="card.infinitive.past">
+        <source></source>
+        <translation>Voltooide infinitief</translation>
+    </message>
+    <message id="card.infinitive_only">
+        <source></source>
+        <translation>alleen in de infinitief gebruikt</translation>
+    </message>
+    <message id="card.like">
+        <source></source>
+        <translation>Vervoegd zoals</translation>
+    </message>
+    <message id="card.like.short">
+        <source></source>
+        <translation>zoals %@</translation>
+    </message>
+    <message id="card.next">
+        <source></source>
+        <translation>Volgend werkwoord</translation>
+    </message>
+    <message id="card.notes">
+        <source></source>
+        <translation>Let op</translation>
+    </message>
+    <message id="card.participle.avoir">
+        <source></source>
+        <translation>het deelwoord past zich alleen aan een voorafgaand lijdend voorwerp aan</translation>
+    </message>
+    <message id="card.participle.both">
+        <source></source>
+        <translation>het deelwoord past zich alleen na être aan het onderwerp aan</translation>
+    </message>
+    <message id="card.participle.etre">
+        <source></source>
+        <translation>het deelwoord past zich aan het onderwerp aan</translation>
+    </message>
+    <message id="card.participle.indirect">
+        <source></source>
+        <translation>het deelwoord past zich niet aan het onderwerp aan</translation>
+    </message>
+    <message id="card.participle.invariable">
+        <source></source>
+        <translation>het deelwoord verandert nooit</translation>
+    </message>
+    <message id="card.plain">
+        <source></source>
+        <translation>Zonder se</translation>
+    </message>
+    <message id="card.previous">
+        <source></source>
+        <translation>Vorig werkwoord</translation>
+    </message>
+    <message id="card.pronominal">
+        <source></source>
+        <translation>Met se</translation>
+    </message>
+    <message id="card.third_person">
+        <source></source>
+        <translation>alleen in de derde persoon gebruikt</translation>
+    </message>
+    <message id="card.trait.aspirated">
+        <source></source>
+        <translation>h aspiré: geen elisie en geen liaison ervoor</translation>
+    </message>
+    <message id="card.trait.defective">
+        <source></source>
+        <translation>onvolledig: sommige vormen worden niet gebruikt</translation>
+    </message>
+    <message id="card.trait.en">
+        <source></source>
+        <translation>met en</translation>
+    </message>
+    <message id="card.trait.impersonal">
+        <source></source>
+        <translation>onpersoonlijk: alleen met il</translation>
+    </message>
+    <message id="card.trait.plural">
+        <source></source>
+        <translation>figuurlijk ook met ils</translation>
+    </message>
+    <message id="card.trait.pronominal">
+        <source></source>
+        <translation>wederkerend: met se</translation>
+    </message>
+    <message id="card.unused">
+        <source></source>
+        <translation>Niet gebruikt in</translation>
+    </message>
+    <message id="card.use">
+        <source></source>
+        <translation>Hoe gewoon</translation>
+    </message>
+    <message id="card.use.1">
+        <source></source>
+        <translation>een van de 100 gewoonste werkwoorden</translation>
+    </message>
+    <message id="card.use.2">
+        <source></source>
+        <translation>een van de 500 gewoonste werkwoorden</translation>
+    </message>
+    <message id="card.use.3">
+        <source></source>
+        <translation>een van de 2000 gewoonste werkwoorden</translation>
+    </message>
+    <message id="card.use.4">
+        <source></source>
+        <translation>levend gebruik</translation>
+    </message>
+    <message id="card.use.5">
+        <source></source>
+        <translation>zeldzaam, verouderd of vakterm</translation>
+    </message>
+    <message id="card.used_only">
+        <source></source>
+        <translation>Alleen gebruikt in</translation>
+    </message>
     <message id="common.done">
         <source></source>
         <translation>Gereed</translation>
@@ -300,6 +464,30 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="options.button">
         <source></source>
         <translation>Instellingen</translation>
+    </message>
+    <message id="person.1.plural">
+        <source></source>
+        <translation>1e persoon meervoud</translation>
+    </message>
+    <message id="person.1.singular">
+        <source></source>
+        <translation>1e persoon enkelvoud</translation>
+    </message>
+    <message id="person.2.plural">
+        <source></source>
+        <translation>2e persoon meervoud</translation>
+    </message>
+    <message id="person.2.singular">
+        <source></source>
+        <translation>2e persoon enkelvoud</translation>
+    </message>
+    <message id="person.3.plural">
+        <source></source>
+        <translation>3e persoon meervoud</translation>
+    </message>
+    <message id="person.3.singular">
+        <source></source>
+        <translation>3e persoon enkelvoud</translation>
     </message>
     <message id="privacy">
         <source></source>
@@ -561,6 +749,26 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Bovenliggende map</translation>
     </message>
+    <message id="sheet.copied">
+        <source></source>
+        <translation>Gekopieerd</translation>
+    </message>
+    <message id="sheet.copy.form">
+        <source></source>
+        <translation>Vorm kopiëren</translation>
+    </message>
+    <message id="sheet.copy.row">
+        <source></source>
+        <translation>Rij kopiëren</translation>
+    </message>
+    <message id="sheet.others">
+        <source></source>
+        <translation>Dezelfde vorm elders</translation>
+    </message>
+    <message id="sheet.slowly">
+        <source></source>
+        <translation>Langzaam uitspreken</translation>
+    </message>
     <message id="support.email">
         <source></source>
         <translation>support@brindle.example</translation>
@@ -593,6 +801,15 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Conditionalis verleden tijd</translation>
     </message>
+    <message id="tense.con.firstpast.example">
+        <source></source>
+        <translation>Si tu avais appelé, je serais venu.
+Als je had gebeld, was ik gekomen.</translation>
+    </message>
+    <message id="tense.con.firstpast.use">
+        <source></source>
+        <translation>Geeft aan wat er onder een voorwaarde gebeurd zou zijn; na ‘si’ staat dan de voltooid verleden tijd. Deze vorm drukt ook spijt of een verwijt uit: ‘tu aurais dû attendre’, je had moeten wachten.</translation>
+    </message>
     <message id="tense.con.firstpast_french">
         <source></source>
         <translation>Conditionnel passé 1re forme</translation>
@@ -601,6 +818,15 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Conditionalis tegenwoordige tijd</translation>
     </message>
+    <message id="tense.con.present.example">
+        <source></source>
+        <translation>Si j’avais le temps, je viendrais.
+Als ik tijd had, zou ik komen.</translation>
+    </message>
+    <message id="tense.con.present.use">
+        <source></source>
+        <translation>Geeft aan wat er onder een voorwaarde zou gebeuren; na ‘si’ staat dan de onvoltooid verleden tijd. Deze vorm maakt ook een wens of een verzoek beleefd: ‘je voudrais un café’.</translation>
+    </message>
     <message id="tense.con.present_french">
         <source></source>
         <translation>Conditionnel présent</translation>
@@ -608,6 +834,15 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="tense.con.secondpast">
         <source></source>
         <translation>Conditionalis verleden tijd, 2e vorm</translation>
+    </message>
+    <message id="tense.con.secondpast.example">
+        <source></source>
+        <translation>Sans ce bruit, il eût dormi jusqu’à midi.
+Zonder dat lawaai had hij tot twaalf uur geslapen.</translation>
+    </message>
+    <message id="tense.con.secondpast.use">
+        <source></source>
+        <translation>Betekent hetzelfde als de conditionalis verleden tijd, maar hoort bij de literaire taal. De vormen zijn die van de conjunctief voltooid verleden tijd, zonder ‘que’.</translation>
     </message>
     <message id="tense.con.secondpast_french">
         <source></source>
@@ -621,6 +856,15 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Onvoltooid toekomende tijd</translation>
     </message>
+    <message id="tense.ind.future.example">
+        <source></source>
+        <translation>Je t’appellerai quand tu seras prêt.
+Ik bel je als je klaar bent.</translation>
+    </message>
+    <message id="tense.ind.future.use">
+        <source></source>
+        <translation>Geeft aan wat er zal gebeuren, of drukt een belofte of voorspelling uit. Anders dan in het Nederlands staat deze tijd ook na ‘quand’, als het om de toekomst gaat.</translation>
+    </message>
     <message id="tense.ind.future_french">
         <source></source>
         <translation>Futur simple</translation>
@@ -628,6 +872,15 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="tense.ind.imperfect">
         <source></source>
         <translation>Onvoltooid verleden tijd</translation>
+    </message>
+    <message id="tense.ind.imperfect.example">
+        <source></source>
+        <translation>Quand j’étais petit, je lisais beaucoup.
+Toen ik klein was, las ik veel.</translation>
+    </message>
+    <message id="tense.ind.imperfect.use">
+        <source></source>
+        <translation>Beschrijft hoe het was, wat er aan de gang was of wat zich herhaalde. Deze tijd schetst de achtergrond; de voltooid tegenwoordige tijd vertelt de gebeurtenissen.</translation>
     </message>
     <message id="tense.ind.imperfect_french">
         <source></source>
@@ -637,6 +890,15 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Voltooid toekomende tijd</translation>
     </message>
+    <message id="tense.ind.pastfuture.example">
+        <source></source>
+        <translation>Demain à midi, j’aurai fini ce livre.
+Morgen om twaalf uur zal ik dit boek uit hebben.</translation>
+    </message>
+    <message id="tense.ind.pastfuture.use">
+        <source></source>
+        <translation>Geeft aan wat op een bepaald moment in de toekomst voltooid zal zijn. Deze tijd kan ook een vermoeden over het verleden uitdrukken: ‘il aura oublié’, hij zal het wel vergeten zijn.</translation>
+    </message>
     <message id="tense.ind.pastfuture_french">
         <source></source>
         <translation>Futur antérieur</translation>
@@ -644,6 +906,15 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="tense.ind.pastperfect">
         <source></source>
         <translation>Passé antérieur</translation>
+    </message>
+    <message id="tense.ind.pastperfect.example">
+        <source></source>
+        <translation>Dès qu’il eut mangé, il sortit.
+Zodra hij gegeten had, ging hij naar buiten.</translation>
+    </message>
+    <message id="tense.ind.pastperfect.use">
+        <source></source>
+        <translation>Geeft aan wat net voltooid was vóór een gebeurtenis die in de passé simple verteld wordt. Het is een literaire tijd, vooral na ‘quand’, ‘dès que’ en ‘après que’.</translation>
     </message>
     <message id="tense.ind.pastperfect_french">
         <source></source>
@@ -653,6 +924,15 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Voltooid verleden tijd</translation>
     </message>
+    <message id="tense.ind.pluperfect.example">
+        <source></source>
+        <translation>Le train était déjà parti quand je suis arrivé.
+De trein was al vertrokken toen ik aankwam.</translation>
+    </message>
+    <message id="tense.ind.pluperfect.use">
+        <source></source>
+        <translation>Geeft aan wat er al gebeurd was vóór een ander moment in het verleden. Na ‘si’ noemt deze tijd een onvervulde voorwaarde: ‘si tu avais su’, als je het had geweten.</translation>
+    </message>
     <message id="tense.ind.pluperfect_french">
         <source></source>
         <translation>Plus-que-parfait</translation>
@@ -660,6 +940,15 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="tense.ind.present">
         <source></source>
         <translation>Onvoltooid tegenwoordige tijd</translation>
+    </message>
+    <message id="tense.ind.present.example">
+        <source></source>
+        <translation>Je travaille à Lyon depuis deux ans.
+Ik werk al twee jaar in Lyon.</translation>
+    </message>
+    <message id="tense.ind.present.use">
+        <source></source>
+        <translation>Geeft aan wat nu gebeurt, wat een gewoonte is of wat altijd waar is. Met ‘depuis’ gaat het om wat in het verleden begon en nog voortduurt.</translation>
     </message>
     <message id="tense.ind.present_french">
         <source></source>
@@ -669,6 +958,15 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Voltooid tegenwoordige tijd</translation>
     </message>
+    <message id="tense.ind.presentperfect.example">
+        <source></source>
+        <translation>Hier, nous avons visité le musée.
+Gisteren hebben we het museum bezocht.</translation>
+    </message>
+    <message id="tense.ind.presentperfect.use">
+        <source></source>
+        <translation>Vertelt wat er gebeurd en voorbij is, of wat nu nog gevolgen heeft. Het is de gewone tijd voor het verleden, in gesprekken en in de meeste teksten.</translation>
+    </message>
     <message id="tense.ind.presentperfect_french">
         <source></source>
         <translation>Passé composé</translation>
@@ -676,6 +974,15 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="tense.ind.simplepast">
         <source></source>
         <translation>Passé simple</translation>
+    </message>
+    <message id="tense.ind.simplepast.example">
+        <source></source>
+        <translation>Elle ouvrit la porte et vit la mer.
+Ze opende de deur en zag de zee.</translation>
+    </message>
+    <message id="tense.ind.simplepast.use">
+        <source></source>
+        <translation>Vertelt over afgesloten gebeurtenissen in romans, sprookjes en geschiedenisboeken. In gesproken taal hoort men deze tijd bijna nooit; daar staat de voltooid tegenwoordige tijd.</translation>
     </message>
     <message id="tense.ind.simplepast_french">
         <source></source>
@@ -689,6 +996,15 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Imperatief</translation>
     </message>
+    <message id="tense.other.imperative.example">
+        <source></source>
+        <translation>Pars tôt et sois rentré avant midi.
+Vertrek vroeg en wees vóór twaalf uur terug.</translation>
+    </message>
+    <message id="tense.other.imperative.use">
+        <source></source>
+        <translation>Drukt een bevel, een advies of een uitnodiging uit; ‘tu’, ‘nous’ en ‘vous’ vallen weg. De zeldzame voltooide vorm zegt dat iets vóór een bepaald moment gedaan moet zijn.</translation>
+    </message>
     <message id="tense.other.imperative_french">
         <source></source>
         <translation>Impératif</translation>
@@ -696,6 +1012,15 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="tense.other.participle">
         <source></source>
         <translation>Deelwoord</translation>
+    </message>
+    <message id="tense.other.participle.example">
+        <source></source>
+        <translation>Ayant fini son travail, il est sorti en chantant.
+Toen zijn werk af was, ging hij zingend naar buiten.</translation>
+    </message>
+    <message id="tense.other.participle.use">
+        <source></source>
+        <translation>Het tegenwoordig deelwoord noemt een begleidende handeling; met ‘en’ vormt het de gérondif. Het voltooid deelwoord vormt samengestelde tijden; ‘ayant parlé’ geeft aan wat eerder gebeurd is.</translation>
     </message>
     <message id="tense.other.participle_french">
         <source></source>
@@ -709,6 +1034,15 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Conjunctief verleden tijd</translation>
     </message>
+    <message id="tense.sub.imperfect.example">
+        <source></source>
+        <translation>Il fallait qu’il partît avant l’aube.
+Hij moest vóór het aanbreken van de dag vertrekken.</translation>
+    </message>
+    <message id="tense.sub.imperfect.use">
+        <source></source>
+        <translation>Literaire vorm die na een verleden tijd de conjunctief tegenwoordige tijd vervangt. In de omgangstaal blijft de conjunctief tegenwoordige tijd staan: ‘il fallait que je parte’.</translation>
+    </message>
     <message id="tense.sub.imperfect_french">
         <source></source>
         <translation>Subjonctif imparfait</translation>
@@ -716,6 +1050,15 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="tense.sub.past">
         <source></source>
         <translation>Conjunctief voltooid tegenwoordige tijd</translation>
+    </message>
+    <message id="tense.sub.past.example">
+        <source></source>
+        <translation>Je suis content que tu sois venue.
+Ik ben blij dat je gekomen bent.</translation>
+    </message>
+    <message id="tense.sub.past.use">
+        <source></source>
+        <translation>Vervangt de conjunctief tegenwoordige tijd als de handeling al voltooid is. Deze vorm geeft ook aan wat later voltooid moet zijn: ‘il faut que tu aies fini à midi’.</translation>
     </message>
     <message id="tense.sub.past_french">
         <source></source>
@@ -725,6 +1068,15 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Conjunctief voltooid verleden tijd</translation>
     </message>
+    <message id="tense.sub.pluperfect.example">
+        <source></source>
+        <translation>Je regrettais qu’elle fût partie sans moi.
+Ik vond het jammer dat ze zonder mij was vertrokken.</translation>
+    </message>
+    <message id="tense.sub.pluperfect.use">
+        <source></source>
+        <translation>Literaire vorm die na een verleden tijd de conjunctief voltooid tegenwoordige tijd vervangt. Geeft aan wat nog eerder was gebeurd; de omgangstaal behoudt de conjunctief voltooid tegenwoordige tijd.</translation>
+    </message>
     <message id="tense.sub.pluperfect_french">
         <source></source>
         <translation>Subjonctif plus-que-parfait</translation>
@@ -732,6 +1084,15 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="tense.sub.present">
         <source></source>
         <translation>Conjunctief tegenwoordige tijd</translation>
+    </message>
+    <message id="tense.sub.present.example">
+        <source></source>
+        <translation>Il faut que tu viennes ce soir.
+Je moet vanavond komen.</translation>
+    </message>
+    <message id="tense.sub.present.use">
+        <source></source>
+        <translation>Staat na uitdrukkingen van wil, gevoel, twijfel of noodzaak, zoals ‘il faut que’. Deze vorm staat ook na sommige voegwoorden, zoals ‘pour que’, ‘avant que’ en ‘bien que’.</translation>
     </message>
     <message id="tense.sub.present_french">
         <source></source>

@@ -117,6 +117,170 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Menu</translation>
     </message>
+    <message id="card.about">
+        <source></source>
+        <translation>Sobre este verbo</translation>
+    </message>
+    <message id="card.alike">
+        <source></source>
+        <translation>De igual conjugação</translation>
+    </message>
+    <message id="card.auxiliary">
+        <source></source>
+        <translation>Auxiliar</translation>
+    </message>
+    <message id="card.group">
+        <source></source>
+        <translation>Grupo</translation>
+    </message>
+    <message id="card.group.1">
+        <source></source>
+        <translation>1.º grupo: verbos regulares em -er</translation>
+    </message>
+    <message id="card.group.2">
+        <source></source>
+        <translation>2.º grupo: verbos em -ir como finir</translation>
+    </message>
+    <message id="card.group.3">
+        <source></source>
+        <translation>3.º grupo: verbos irregulares</translation>
+    </message>
+    <message id="card.group.short.1">
+        <source></source>
+        <translation>1.º grupo</translation>
+    </message>
+    <message id="card.group.short.2">
+        <source></source>
+        <translation>2.º grupo</translation>
+    </message>
+    <message id="card.group.short.3">
+        <source></source>
+        <translation>3.º grupo</translation>
+    </message>
+    <message id="card.homograph">
+        <source></source>
+        <translation>Homónimo</translation>
+    </message>
+    <message id="card.infinitive">
+        <source></source>
+        <translation>Infinitivo</translation>
+    </message>
+    <message id="card.infinitive.past">
+        <source></source>
+        <translation>Infinitivo composto</translation>
+    </message>
+    <message id="card.infinitive_only">
+        <source></source>
+        <translation>usado só no infinitivo</translation>
+    </message>
+    <message id="card.like">
+        <source></source>
+        <translation>Conjuga-se como</translation>
+    </message>
+    <message id="card.like.short">
+        <source></source>
+        <translation>como %@</translation>
+    </message>
+    <message id="card.next">
+        <source></source>
+        <translation>Verbo seguinte</translation>
+    </message>
+    <message id="card.notes">
+        <source></source>
+        <translation>Nota</translation>
+    </message>
+    <message id="card.participle.avoir">
+        <source></source>
+        <translation>o particípio concorda só com um objeto direto que o precede</translation>
+    </message>
+    <message id="card.participle.both">
+        <source></source>
+        <translation>o particípio concorda com o sujeito só depois de être</translation>
+    </message>
+    <message id="card.participle.etre">
+        <source></source>
+        <translation>o particípio concorda com o sujeito</translation>
+    </message>
+    <message id="card.participle.indirect">
+        <source></source>
+        <translation>o particípio não concorda com o sujeito</translation>
+    </message>
+    <message id="card.participle.invariable">
+        <source></source>
+        <translation>o particípio é invariável</translation>
+    </message>
+    <message id="card.plain">
+        <source></source>
+        <translation>Sem se</translation>
+    </message>
+    <message id="card.previous">
+        <source></source>
+        <translation>Verbo anterior</translation>
+    </message>
+    <message id="card.pronominal">
+        <source></source>
+        <translation>Com se</translation>
+    </message>
+    <message id="card.third_person">
+        <source></source>
+        <translation>usado só na terceira pessoa</translation>
+    </message>
+    <message id="card.trait.aspirated">
+        <source></source>
+        <translation>h aspirado: sem elisão nem ligação</translation>
+    </message>
+    <message id="card.trait.defective">
+        <source></source>
+        <translation>defectivo: algumas formas não se usam</translation>
+    </message>
+    <message id="card.trait.en">
+        <source></source>
+        <translation>com en</translation>
+    </message>
+    <message id="card.trait.impersonal">
+        <source></source>
+        <translation>impessoal: só com il</translation>
+    </message>
+    <message id="card.trait.plural">
+        <source></source>
+        <translation>também com ils em sentido figurado</translation>
+    </message>
+    <message id="card.trait.pronominal">
+        <source></source>
+        <translation>pronominal: com se</translation>
+    </message>
+    <message id="card.unused">
+        <source></source>
+        <translation>Não se usa em</translation>
+    </message>
+    <message id="card.use">
+        <source></source>
+        <translation>Frequência</translation>
+    </message>
+    <message id="card.use.1">
+        <source></source>
+        <translation>um dos 100 verbos mais comuns</translation>
+    </message>
+    <message id="card.use.2">
+        <source></source>
+        <translation>um dos 500 verbos mais comuns</translation>
+    </message>
+    <message id="card.use.3">
+        <source></source>
+        <translation>um dos 2000 verbos mais comuns</translation>
+    </message>
+    <message id="card.use.4">
+        <source></source>
+        <translation>de uso vivo</translation>
+    </message>
+    <message id="card.use.5">
+        <source></source>
+        <translation>raro, antigo ou técnico</translation>
+    </message>
+    <message id="card.used_only">
+        <source></source>
+        <translation>Usa-se só em</translation>
+    </message>
     <message id="common.done">
         <source></source>
         <translation>Concluído</translation>
@@ -300,6 +464,30 @@ Verbos no histórico: %d</translation>
     <message id="options.button">
         <source></source>
         <translation>Definições</translation>
+    </message>
+    <message id="person.1.plural">
+        <source></source>
+        <translation>1.ª pessoa do plural</translation>
+    </message>
+    <message id="person.1.singular">
+        <source></source>
+        <translation>1.ª pessoa do singular</translation>
+    </message>
+    <message id="person.2.plural">
+        <source></source>
+        <translation>2.ª pessoa do plural</translation>
+    </message>
+    <message id="person.2.singular">
+        <source></source>
+        <translation>2.ª pessoa do singular</translation>
+    </message>
+    <message id="person.3.plural">
+        <source></source>
+        <translation>3.ª pessoa do plural</translation>
+    </message>
+    <message id="person.3.singular">
+        <source></source>
+        <translation>3.ª pessoa do singular</translation>
     </message>
     <message id="privacy">
         <source></source>
@@ -561,6 +749,26 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Pasta superior</translation>
     </message>
+    <message id="sheet.copied">
+        <source></source>
+        <translation>Copiado</translation>
+    </message>
+    <message id="sheet.copy.form">
+        <source></source>
+        <translation>Copiar a forma</translation>
+    </message>
+    <message id="sheet.copy.row">
+        <source></source>
+        <translation>Copiar a linha</translation>
+    </message>
+    <message id="sheet.others">
+        <source></source>
+        <translation>A mesma forma noutros lugares</translation>
+    </message>
+    <message id="sheet.slowly">
+        <source></source>
+        <translation>Dizer devagar</translation>
+    </message>
     <message id="support.email">
         <source></source>
         <translation>support@brindle.example</translation>
@@ -593,6 +801,15 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Condicional composto</translation>
     </message>
+    <message id="tense.con.firstpast.example">
+        <source></source>
+        <translation>Si tu avais appelé, je serais venu.
+Se tivesses ligado, eu teria vindo.</translation>
+    </message>
+    <message id="tense.con.firstpast.use">
+        <source></source>
+        <translation>Exprime o que teria acontecido sob certa condição; após «si» vem o pretérito mais-que-perfeito do indicativo. Exprime também arrependimento ou censura: «tu aurais dû attendre», devias ter esperado.</translation>
+    </message>
     <message id="tense.con.firstpast_french">
         <source></source>
         <translation>Conditionnel passé 1re forme</translation>
@@ -601,6 +818,15 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Condicional simples</translation>
     </message>
+    <message id="tense.con.present.example">
+        <source></source>
+        <translation>Si j’avais le temps, je viendrais.
+Se tivesse tempo, viria.</translation>
+    </message>
+    <message id="tense.con.present.use">
+        <source></source>
+        <translation>Exprime o que aconteceria sob certa condição; após «si» vem o pretérito imperfeito do indicativo. Torna também mais cortês um desejo ou um pedido: «je voudrais un café».</translation>
+    </message>
     <message id="tense.con.present_french">
         <source></source>
         <translation>Conditionnel présent</translation>
@@ -608,6 +834,15 @@ Verbos no histórico: %d</translation>
     <message id="tense.con.secondpast">
         <source></source>
         <translation>Condicional composto, 2.ª forma</translation>
+    </message>
+    <message id="tense.con.secondpast.example">
+        <source></source>
+        <translation>Sans ce bruit, il eût dormi jusqu’à midi.
+Sem aquele barulho, ele teria dormido até ao meio-dia.</translation>
+    </message>
+    <message id="tense.con.secondpast.use">
+        <source></source>
+        <translation>Significa o mesmo que o condicional composto, mas pertence à língua literária. As suas formas são as do mais-que-perfeito do conjuntivo, sem «que».</translation>
     </message>
     <message id="tense.con.secondpast_french">
         <source></source>
@@ -621,6 +856,15 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Futuro simples</translation>
     </message>
+    <message id="tense.ind.future.example">
+        <source></source>
+        <translation>Je t’appellerai quand tu seras prêt.
+Ligo-te quando estiveres pronto.</translation>
+    </message>
+    <message id="tense.ind.future.use">
+        <source></source>
+        <translation>Exprime o que acontecerá, uma promessa ou uma previsão. Emprega-se também depois de «quand», onde o português usa o futuro do conjuntivo.</translation>
+    </message>
     <message id="tense.ind.future_french">
         <source></source>
         <translation>Futur simple</translation>
@@ -628,6 +872,15 @@ Verbos no histórico: %d</translation>
     <message id="tense.ind.imperfect">
         <source></source>
         <translation>Pretérito imperfeito</translation>
+    </message>
+    <message id="tense.ind.imperfect.example">
+        <source></source>
+        <translation>Quand j’étais petit, je lisais beaucoup.
+Quando era pequeno, lia muito.</translation>
+    </message>
+    <message id="tense.ind.imperfect.use">
+        <source></source>
+        <translation>Descreve como eram as coisas, o que estava a acontecer ou o que se repetia. Pinta o cenário de uma história, enquanto o pretérito perfeito composto conta os factos.</translation>
     </message>
     <message id="tense.ind.imperfect_french">
         <source></source>
@@ -637,6 +890,15 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Futuro composto</translation>
     </message>
+    <message id="tense.ind.pastfuture.example">
+        <source></source>
+        <translation>Demain à midi, j’aurai fini ce livre.
+Amanhã ao meio-dia já terei acabado este livro.</translation>
+    </message>
+    <message id="tense.ind.pastfuture.use">
+        <source></source>
+        <translation>Exprime o que estará concluído num dado momento do futuro. Pode também exprimir uma suposição sobre o passado: «il aura oublié», deve ter-se esquecido.</translation>
+    </message>
     <message id="tense.ind.pastfuture_french">
         <source></source>
         <translation>Futur antérieur</translation>
@@ -644,6 +906,15 @@ Verbos no histórico: %d</translation>
     <message id="tense.ind.pastperfect">
         <source></source>
         <translation>Pretérito anterior</translation>
+    </message>
+    <message id="tense.ind.pastperfect.example">
+        <source></source>
+        <translation>Dès qu’il eut mangé, il sortit.
+Assim que acabou de comer, saiu.</translation>
+    </message>
+    <message id="tense.ind.pastperfect.use">
+        <source></source>
+        <translation>Exprime o que terminou logo antes de um facto contado no pretérito perfeito simples. É um tempo literário, sobretudo depois de «quand», «dès que» e «après que».</translation>
     </message>
     <message id="tense.ind.pastperfect_french">
         <source></source>
@@ -653,6 +924,15 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Pretérito mais-que-perfeito</translation>
     </message>
+    <message id="tense.ind.pluperfect.example">
+        <source></source>
+        <translation>Le train était déjà parti quand je suis arrivé.
+O comboio já tinha partido quando cheguei.</translation>
+    </message>
+    <message id="tense.ind.pluperfect.use">
+        <source></source>
+        <translation>Exprime o que já tinha acontecido antes de outro momento do passado. Depois de «si», indica uma condição não cumprida: «si tu avais su», se tivesses sabido.</translation>
+    </message>
     <message id="tense.ind.pluperfect_french">
         <source></source>
         <translation>Plus-que-parfait</translation>
@@ -660,6 +940,15 @@ Verbos no histórico: %d</translation>
     <message id="tense.ind.present">
         <source></source>
         <translation>Presente</translation>
+    </message>
+    <message id="tense.ind.present.example">
+        <source></source>
+        <translation>Je travaille à Lyon depuis deux ans.
+Trabalho em Lyon há dois anos.</translation>
+    </message>
+    <message id="tense.ind.present.use">
+        <source></source>
+        <translation>Exprime o que acontece agora, o que é habitual ou o que é sempre verdade. Com «depuis», indica o que começou no passado e ainda continua.</translation>
     </message>
     <message id="tense.ind.present_french">
         <source></source>
@@ -669,6 +958,15 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Pretérito perfeito composto</translation>
     </message>
+    <message id="tense.ind.presentperfect.example">
+        <source></source>
+        <translation>Hier, nous avons visité le musée.
+Ontem visitámos o museu.</translation>
+    </message>
+    <message id="tense.ind.presentperfect.use">
+        <source></source>
+        <translation>Conta o que aconteceu e terminou, ou aquilo cujo efeito ainda importa. É o passado de todos os dias; usa-se onde o português diz «visitámos», e não «temos visitado».</translation>
+    </message>
     <message id="tense.ind.presentperfect_french">
         <source></source>
         <translation>Passé composé</translation>
@@ -676,6 +974,15 @@ Verbos no histórico: %d</translation>
     <message id="tense.ind.simplepast">
         <source></source>
         <translation>Pretérito perfeito simples</translation>
+    </message>
+    <message id="tense.ind.simplepast.example">
+        <source></source>
+        <translation>Elle ouvrit la porte et vit la mer.
+Ela abriu a porta e viu o mar.</translation>
+    </message>
+    <message id="tense.ind.simplepast.use">
+        <source></source>
+        <translation>Conta factos concluídos em romances, contos e livros de história. Quase não se usa na fala, onde é substituído pelo pretérito perfeito composto.</translation>
     </message>
     <message id="tense.ind.simplepast_french">
         <source></source>
@@ -689,6 +996,15 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Imperativo</translation>
     </message>
+    <message id="tense.other.imperative.example">
+        <source></source>
+        <translation>Pars tôt et sois rentré avant midi.
+Sai cedo e está de volta antes do meio-dia.</translation>
+    </message>
+    <message id="tense.other.imperative.use">
+        <source></source>
+        <translation>Dá uma ordem, um conselho ou um convite; os pronomes «tu», «nous» e «vous» omitem-se. A forma do passado, rara, pede que algo esteja feito até certo momento.</translation>
+    </message>
     <message id="tense.other.imperative_french">
         <source></source>
         <translation>Impératif</translation>
@@ -696,6 +1012,15 @@ Verbos no histórico: %d</translation>
     <message id="tense.other.participle">
         <source></source>
         <translation>Particípio</translation>
+    </message>
+    <message id="tense.other.participle.example">
+        <source></source>
+        <translation>Ayant fini son travail, il est sorti en chantant.
+Tendo acabado o trabalho, saiu a cantar.</translation>
+    </message>
+    <message id="tense.other.participle.use">
+        <source></source>
+        <translation>O particípio presente indica uma ação que acompanha outra; com «en» forma o gerúndio. O particípio passado forma os tempos compostos; «ayant parlé» indica o que aconteceu antes.</translation>
     </message>
     <message id="tense.other.participle_french">
         <source></source>
@@ -709,6 +1034,15 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Imperfeito do conjuntivo</translation>
     </message>
+    <message id="tense.sub.imperfect.example">
+        <source></source>
+        <translation>Il fallait qu’il partît avant l’aube.
+Era preciso que ele partisse antes do amanhecer.</translation>
+    </message>
+    <message id="tense.sub.imperfect.use">
+        <source></source>
+        <translation>Forma literária: depois de um verbo no passado, substitui o presente do conjuntivo. O uso corrente mantém o presente do conjuntivo: «il fallait que je parte».</translation>
+    </message>
     <message id="tense.sub.imperfect_french">
         <source></source>
         <translation>Subjonctif imparfait</translation>
@@ -716,6 +1050,15 @@ Verbos no histórico: %d</translation>
     <message id="tense.sub.past">
         <source></source>
         <translation>Perfeito do conjuntivo</translation>
+    </message>
+    <message id="tense.sub.past.example">
+        <source></source>
+        <translation>Je suis content que tu sois venue.
+Fico contente por teres vindo.</translation>
+    </message>
+    <message id="tense.sub.past.use">
+        <source></source>
+        <translation>Substitui o presente do conjuntivo quando a ação já está concluída. Indica também o que deve estar concluído mais tarde: «il faut que tu aies fini à midi».</translation>
     </message>
     <message id="tense.sub.past_french">
         <source></source>
@@ -725,6 +1068,15 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Mais-que-perfeito do conjuntivo</translation>
     </message>
+    <message id="tense.sub.pluperfect.example">
+        <source></source>
+        <translation>Je regrettais qu’elle fût partie sans moi.
+Lamentava que ela tivesse partido sem mim.</translation>
+    </message>
+    <message id="tense.sub.pluperfect.use">
+        <source></source>
+        <translation>Forma literária: depois de um verbo no passado, substitui o perfeito do conjuntivo. Indica o que tinha acontecido antes; o uso corrente mantém o perfeito do conjuntivo.</translation>
+    </message>
     <message id="tense.sub.pluperfect_french">
         <source></source>
         <translation>Subjonctif plus-que-parfait</translation>
@@ -732,6 +1084,15 @@ Verbos no histórico: %d</translation>
     <message id="tense.sub.present">
         <source></source>
         <translation>Presente do conjuntivo</translation>
+    </message>
+    <message id="tense.sub.present.example">
+        <source></source>
+        <translation>Il faut que tu viennes ce soir.
+É preciso que venhas esta noite.</translation>
+    </message>
+    <message id="tense.sub.present.use">
+        <source></source>
+        <translation>Usa-se depois de expressões de vontade, sentimento, dúvida ou necessidade, como «il faut que». Segue também algumas conjunções, como «pour que», «avant que» e «bien que».</translation>
     </message>
     <message id="tense.sub.present_french">
         <source></source>

@@ -8,6 +8,7 @@
 #include "data/verb_reader.h"
 #include "detail/audio_utils.h"
 #include "detail/row_sounds.h"
+#include "detail/verb_steps.h"
 #include "export/verb_export.h"
 #include "platform/machine/analytics.h"
 #include "platform/machine/bundle.h"
@@ -45,6 +46,11 @@ VerbDetailTableViewController::~VerbDetailTableViewController() = default;
 void VerbDetailTableViewController::setOutletListener(std::function<void()> listener)
 {
     outletListener_ = std::move(listener);
+}
+
+void VerbDetailTableViewController::setWordsListener(std::function<void()> listener)
+{
+    wordsListener_ = std::move(listener);
 }
 
 void VerbDetailTableViewController::outletsChanged()
@@ -96,8 +102,13 @@ void VerbDetailTableViewController::viewDidLoad()
     marksForms_ = settings::ViewMemory{services_.viewMemory}.marksForms();
     showVerb();
 
-    refresh_ = data::observe<data::RefreshConjugations>(
-        services_.notifications, [this](const auto& /*news*/) { refreshConjugations(); });
+    refresh_ = data::observe<data::RefreshConjugations>(services_.notifications,
+                                                        [this](const auto& /*news*/) {
+                                                            refreshConjugations();
+                                                            if (wordsListener_) {
+                                                                wordsListener_();
+                                                            }
+                                                        });
     favouriteToggled_ = data::observe<data::VerbFavouriteToggled>(
         services_.notifications, [this](const auto& news) { verbFavouriteToggled(news); });
     outletsChanged();
@@ -347,7 +358,7 @@ void VerbDetailTableViewController::playTense(int position)
     }
 }
 
-void VerbDetailTableViewController::play(const std::vector<PlayableRow>& rows)
+void VerbDetailTableViewController::play(const std::vector<PlayableRow>& rows, float pace)
 {
     if (!selectedVerb) {
         services_.console << "It shouldn't be possible for the verb to be null when we reach here."
@@ -358,8 +369,9 @@ void VerbDetailTableViewController::play(const std::vector<PlayableRow>& rows)
     const RowSounds sounds{*selectedVerb, queue};
     std::deque<SpokenRow> spoken;
     for (const auto& row : rows) {
-        spoken.push_back({AudioUtils::utteranceFor(*row.form, sounds, voice(), services_.settings),
-                          row.indicator});
+        auto utterance = AudioUtils::utteranceFor(*row.form, sounds, voice(), services_.settings);
+        utterance.rate *= pace;
+        spoken.push_back({std::move(utterance), row.indicator});
     }
     playback_.play(std::move(spoken), *this);
 }
@@ -390,6 +402,49 @@ bool VerbDetailTableViewController::hasForms() const
 const data::ConjugationList& VerbDetailTableViewController::formsOfTense(int position) const
 {
     return ConjugationGrid::forms(shown(), position);
+}
+
+void VerbDetailTableViewController::saySlowly(const RowPlace& place, bool fromCollection)
+{
+    constexpr float kPace = 0.6F;
+
+    const ShownMood mood{selectedVerb.get(), place.segment};
+    // The first section of the table is not a tense.
+    if (const auto row = fromCollection ? grid_.playableLine(mood, place.tense, place.row)
+                                        : grid_.playableRow(mood, {place.tense + 1, place.row})) {
+        play({*row}, kPace);
+    }
+}
+
+VerbGuide VerbDetailTableViewController::guide() const
+{
+    return {*selectedVerb,
+            queue,
+            {services_.bundle, services_.settings, services_.device},
+            services_.crashReporter};
+}
+
+bool VerbDetailTableViewController::isCardOpen(bool unlessChosen) const
+{
+    return settings::ViewMemory{services_.viewMemory}.cardOpen().value_or(unlessChosen);
+}
+
+void VerbDetailTableViewController::keepCardOpen(bool open)
+{
+    if (const auto kept = settings::ViewMemory{services_.viewMemory}.setCardOpen(open); !kept) {
+        services_.console << "Unable to keep the card: " << kept.error().message << std::endl;
+    }
+}
+
+void VerbDetailTableViewController::showNeighbour(int places)
+{
+    detail::showVerb(*this, sequence.away(places), sequence.movedBy(places), VerbStep::Replace,
+                     services_.storyboard);
+}
+
+void VerbDetailTableViewController::showRelated(std::int64_t verbId)
+{
+    detail::showVerb(*this, guide().verb(verbId), {}, VerbStep::Cover, services_.storyboard);
 }
 
 platform::Voice VerbDetailTableViewController::voice() const

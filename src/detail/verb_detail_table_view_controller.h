@@ -10,6 +10,8 @@
 #include "detail/conjugation_grid.h"
 #include "detail/playback.h"
 #include "detail/verb_detail_outlets.h"
+#include "detail/verb_guide.h"
+#include "detail/verb_sequence.h"
 #include "detail/view_record.h"
 #include "detail/volume_warning.h"
 #include "platform/base/notification_center.h"
@@ -20,6 +22,7 @@
 #include "platform/screens/view_controller.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -69,6 +72,8 @@ public:
     /// the database, so to show or star one without a queue stops the program.
     platform::DatabaseQueue* queue = nullptr;
     data::VerbPtr selectedVerb;
+    /// The list that the verb was opened from, as it stood then.
+    VerbSequence sequence;
     /// References to the members of the playback.
     std::function<void()>& audioTimer = playback_.audioTimer;
     std::shared_ptr<CERoundProgressView>& currentAudioProgress = playback_.currentAudioProgress;
@@ -78,6 +83,9 @@ public:
     bool isPeeking = false;
 
     void setOutletListener(std::function<void()> listener);
+    /// The view's wish to hear when what `guide` tells is worded anew; one
+    /// listener.
+    void setWordsListener(std::function<void()> listener);
 
     /// Puts the split view's button on the left, beside the way back.
     void offerDisplayModeButton(platform::SplitViewController* splitView);
@@ -115,6 +123,20 @@ public:
     /// Of a tense of the chosen mood.
     const data::ConjugationList& formsOfTense(int position) const;
 
+    /// What is told of the verb besides its tables; there must be one.
+    VerbGuide guide() const;
+    /// Whether its card shows all lines.
+    bool isCardOpen(bool unlessChosen) const;
+    void keepCardOpen(bool open);
+    /// Says a form at a pace to learn it by; `fromCollection` says whose ring
+    /// tells so.
+    void saySlowly(const RowPlace& place, bool fromCollection);
+    /// Goes on to the verb that many places away in the list, in place of this
+    /// one; this screen may be gone then.
+    void showNeighbour(int places);
+    /// Opens another verb over this one.
+    void showRelated(std::int64_t verbId);
+
     int numberOfSections() override;
     int numberOfRowsInSection(int section) override;
     std::optional<std::string> titleForHeaderInSection(int section) override;
@@ -147,7 +169,7 @@ private:
     platform::DatabaseQueue& sharedQueue() const;
     void logReadingError(const platform::Database& database);
     void readDivisions(platform::Database& database);
-    void play(const std::vector<PlayableRow>& rows);
+    void play(const std::vector<PlayableRow>& rows, float pace = 1);
 
     const platform::Services& services_;
     ConjugationGrid grid_;
@@ -156,6 +178,7 @@ private:
     std::function<void()> outletListener_;
     data::FormDivisions divisions_;
     bool marksForms_ = true;
+    std::function<void()> wordsListener_;
     bool buttonsEnabled_ = false;
     platform::NotificationCenter::Subscription refresh_;
     platform::NotificationCenter::Subscription favouriteToggled_;

@@ -9,6 +9,9 @@
 #include "platform/screens/split_view_controller.h"
 #include "platform/screens/storyboard.h"
 
+#include <utility>
+#include <vector>
+
 namespace lumora::lists {
 
 void InterstitialTableViewController::viewDidLoad()
@@ -45,6 +48,22 @@ std::optional<platform::IndexPath> InterstitialTableViewController::pathOfVerb(s
     return std::nullopt;
 }
 
+detail::VerbSequence InterstitialTableViewController::sequenceFrom(platform::IndexPath path)
+{
+    std::vector<data::VerbPtr> verbs;
+    std::size_t at = 0;
+    for (int section = 0; section < numberOfSections(); ++section) {
+        const int rows = numberOfRowsInSection(section);
+        for (int row = 0; row < rows; ++row) {
+            if (platform::IndexPath{section, row} == path) {
+                at = verbs.size();
+            }
+            verbs.push_back(verbAt({section, row}));
+        }
+    }
+    return {std::move(verbs), at};
+}
+
 bool InterstitialTableViewController::shouldPerformSegue(std::string_view /*identifier*/)
 {
     return true;
@@ -63,6 +82,7 @@ void InterstitialTableViewController::prepareForSegue(const platform::Segue& seg
     const auto path = selected ? selected : segue.sender;
     if (path) {
         detail.selectedVerb = verbAt(*path);
+        detail.sequence = sequenceFrom(*path);
     }
     detail.queue = queue;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "data/verb.h"
+#include "detail/verb_sequence.h"
 #include "platform/screens/table_view_controller.h"
 
 #include <cstdint>
@@ -42,6 +43,10 @@ protected:
 
     /// The verb of a row; null where the list has none.
     virtual data::VerbPtr verbAt(platform::IndexPath path) const = 0;
+
+private:
+    /// The list as it stands, seen from one of its rows.
+    detail::VerbSequence sequenceFrom(platform::IndexPath path);
 };
 
 } // namespace lumora::lists

@@ -321,6 +321,7 @@ void HomeViewController::prepareForSegue(const platform::Segue& segue)
     if (segue.identifier == platform::kShowSearchResultSegue) {
         auto& detail = topOf<detail::VerbDetailTableViewController>(segue.destination);
         detail.selectedVerb = selectedSearchResult;
+        detail.sequence = searchResultsController_->sequenceFrom(selectedSearchResult);
         detail.queue = queue;
         detail.isPeeking = false;
         detail.openedForm = openedForm_;

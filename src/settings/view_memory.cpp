@@ -15,6 +15,7 @@ namespace lumora::settings {
 namespace {
 
 constexpr std::string_view kVoice = "voice";
+constexpr std::string_view kCardOpen = "verb_card_open";
 constexpr std::string_view kWoman = "woman";
 constexpr std::string_view kMan = "man";
 constexpr std::string_view kMood = "mood";
@@ -88,6 +89,17 @@ bool ViewMemory::marksForms() const
 platform::Result<void> ViewMemory::setMarksForms(bool marks)
 {
     store_.setValue(marks, kMarks);
+    return store_.synchronize();
+}
+
+std::optional<bool> ViewMemory::cardOpen() const
+{
+    return platform::boolObjectForKey(store_, kCardOpen);
+}
+
+platform::Result<void> ViewMemory::setCardOpen(bool open)
+{
+    store_.setValue(open, kCardOpen);
     return store_.synchronize();
 }
 

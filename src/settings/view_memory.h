@@ -6,6 +6,8 @@
 #include "platform/base/error.h"
 #include "platform/machine/speech_synthesizer.h"
 
+#include <optional>
+
 namespace lumora::platform {
 class SettingsStore;
 }
@@ -46,6 +48,10 @@ public:
     /// Whether stems and endings are told apart; they are at first.
     bool marksForms() const;
     platform::Result<void> setMarksForms(bool marks);
+    /// Whether a verb's card shows all its lines; none before anybody chose.
+    std::optional<bool> cardOpen() const;
+    /// As `setVoice`.
+    platform::Result<void> setCardOpen(bool open);
 
 private:
     platform::SettingsStore& store_;

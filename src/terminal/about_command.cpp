@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "data/verb_facts.h"
+#include "data/verb_reader.h"
+#include "data/verb_relations.h"
+#include "detail/missing_forms.h"
+#include "platform/storage/database_queue.h"
 #include "terminal/arguments.h"
 #include "terminal/commands.h"
 #include "terminal/loaded_verbs.h"
@@ -9,6 +13,7 @@
 #include "terminal/session.h"
 
 #include <cerrno>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -46,18 +51,64 @@ std::string listed(const std::vector<std::string>& words)
     return text;
 }
 
-Lines linesOf(const data::Verb& verb, const data::VerbFacts& facts)
+std::string listed(const std::vector<data::VerbPtr>& verbs)
 {
+    std::string text;
+    for (const auto& verb : verbs) {
+        text += (text.empty() ? "" : ", ") + verb->french;
+    }
+    return text;
+}
+
+/// What one verb's lines are made of.
+struct Knowledge {
+    std::optional<data::VerbFacts> facts;
+    data::VerbRelations relations;
+};
+
+/// Reads the verb's forms into it besides.
+platform::Result<Knowledge> readKnowledge(platform::Database& database, data::Verb& verb)
+{
+    const auto facts = data::readVerbFacts(database, verb.id);
+    if (!facts) {
+        return tl::unexpected(facts.error());
+    }
+    if (!*facts) {
+        return tl::unexpected(
+            platform::Error{"nothing is known of \"" + verb.french + "\"", ENODATA});
+    }
+    auto relations = data::readVerbRelations(database, verb, (*facts)->model);
+    if (!relations) {
+        return tl::unexpected(relations.error());
+    }
+    if (!data::loadConjugations(database, verb)) {
+        return tl::unexpected(
+            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+    }
+    return Knowledge{*facts, std::move(*relations)};
+}
+
+Lines linesOf(const data::Verb& verb, const Knowledge& known, const Session& session)
+{
+    const auto& facts = *known.facts;
+    const auto missing = detail::inWords(detail::missingForms(verb), session.services().bundle,
+                                         session.services().settings);
+    const std::string none;
     auto traits = facts.traits;
     traits.insert(traits.end(), facts.participle.begin(), facts.participle.end());
     return {
         {"infinitive", verb.french},
+        {"past", verb.infinitif.size() > 1 ? verb.infinitif[1]->verb : none},
         {"group", std::to_string(facts.group)},
         {"model", facts.model},
         {"like", facts.like ? facts.like->french : std::string{}},
         {"auxiliary", listed(facts.auxiliaries)},
         {"traits", listed(traits)},
+        {"unused", missing.usedOnly ? none : missing.tenses},
+        {"used only", missing.usedOnly ? missing.tenses : none},
         {"use", std::to_string(facts.use)},
+        {"partners", listed(known.relations.partners)},
+        {"alike", listed(known.relations.alike)},
     };
 }
 
@@ -85,17 +136,13 @@ platform::Result<void> about(Session& session, const Arguments& arguments, const
     }
     std::vector<Lines> blocks;
     for (const auto& verb : *verbs) {
-        platform::Result<std::optional<data::VerbFacts>> facts;
+        platform::Result<Knowledge> known;
         session.queue().inDatabase(
-            [&](platform::Database& database) { facts = data::readVerbFacts(database, verb->id); });
-        if (!facts) {
-            return tl::unexpected(facts.error());
+            [&](platform::Database& database) { known = readKnowledge(database, *verb); });
+        if (!known) {
+            return tl::unexpected(known.error());
         }
-        if (!*facts) {
-            return tl::unexpected(
-                platform::Error{"nothing is known of \"" + verb->french + "\"", ENODATA});
-        }
-        blocks.push_back(linesOf(*verb, **facts));
+        blocks.push_back(linesOf(*verb, *known, session));
     }
     for (const auto& lines : blocks) {
         output.stream << (&lines == &blocks.front() ? "" : "\n");

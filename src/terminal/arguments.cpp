@@ -53,9 +53,12 @@ In a pipe each line holds verb, mood, tense, pronoun and form, then the IPA.
 constexpr const char* kAboutHelp =
     R"help(Usage: lumora-cli about VERB
 
-Print what is known of a verb's grammar: its infinitive, its group, its model
-and the verb that it is conjugated like, its auxiliaries, its traits, and how
-common it is, from 1 (the 100 commonest verbs) to 5 (rare, old or of a trade).
+Print what is known of a verb's grammar: its infinitive, present and past, its
+group, its model and the verb that it is conjugated like, its auxiliaries, its
+traits, the tenses that it is not used in or, where they are few, those that it
+is used in, how common it is, from 1 (the 100 commonest verbs) to 5 (rare, old
+or of a trade), its partners with or without se, and common verbs that are
+conjugated alike.
 
 In a pipe each line holds a name and a value.
 )help";

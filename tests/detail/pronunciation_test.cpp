@@ -136,6 +136,22 @@ TEST_F(Pronunciation, TheChosenVoiceSpeaksFromTheNextRowOn)
     EXPECT_EQ(next.voice(), platform::Voice::Man);
 }
 
+TEST_F(Pronunciation, SlowlyIsAFactorOnTheChosenRateAndMovesTheRingOnShow)
+{
+    world.settings.setValue(0.5, "audio_speed");
+    detail.saySlowly({0, 0, 1}, false);
+    EXPECT_EQ(voice().spoken.back().text, "tu vas");
+    EXPECT_FLOAT_EQ(voice().spoken.back().rate, platform::kDefaultSpeechRate * 0.5F * 0.6F);
+    voice().reachWord(3, 3);
+    EXPECT_GT(ringOfRow({1, 1}), 0);
+    detail.saySlowly({0, 0, 1}, true);
+    EXPECT_EQ(ringOfRow({1, 1}), 0) << "cut off";
+    voice().reachWord(3, 3);
+    EXPECT_GT(ringOfLine(0, 1), 0);
+    detail.saySlowly({0, 0, 9}, false);
+    EXPECT_EQ(spokenCount(), 2U) << "there is no such row";
+}
+
 TEST_F(Pronunciation, TheSettingIsAFactorOnTheDefaultRate)
 {
     say("je", "vais");

@@ -14,7 +14,7 @@ namespace {
 using platform::FileSettingsStore;
 using platform::Voice;
 
-TEST(ViewMemory, KeepsVoiceAndMarksInItsFileAtOnce)
+TEST(ViewMemory, KeepsWhatWasChosenInItsFileAtOnce)
 {
     const support::TemporaryFolder folder;
     const auto file = folder / "config" / "view.json";
@@ -29,6 +29,12 @@ TEST(ViewMemory, KeepsVoiceAndMarksInItsFileAtOnce)
     ASSERT_TRUE(ViewMemory{store}.setMarksForms(false));
     FileSettingsStore read{file};
     EXPECT_FALSE(ViewMemory{read}.marksForms());
+    EXPECT_EQ(ViewMemory{store}.cardOpen(), std::nullopt);
+    for (const bool open : {false, true}) {
+        ASSERT_TRUE(ViewMemory{store}.setCardOpen(open));
+        FileSettingsStore again{file};
+        EXPECT_EQ(ViewMemory{again}.cardOpen(), open);
+    }
     support::writeContent(folder / "nowhere", "");
     FileSettingsStore lost{folder / "nowhere" / "view.json"};
     EXPECT_FALSE(ViewMemory{lost}.setVoice(Voice::Man));

@@ -41,6 +41,7 @@ struct WindowFixture : testing::Test {
         const auto share = folder / "share";
         std::filesystem::create_directories(share);
         support::writeSmallDatabase(share / "verbs.db");
+        tellOfAVerb(share / "verbs.db");
         support::copyTemplates(LUMORA_SHARE_DIR, share);
         support::writeContent(share / "bundle.json", R"({"CFBundleShortVersionString": "1",
                 "CFBundleIdentifier": "com.brindle.lumora"})");
@@ -162,6 +163,21 @@ struct WindowFixture : testing::Test {
     }
 
 private:
+    /// What the card of aller shows, and a form that it has twice.
+    static void tellOfAVerb(const std::filesystem::path& file)
+    {
+        const auto queue = platform::DatabaseQueue::open(platform::fileUrl(file));
+        for (const char* statement : {
+                 "INSERT INTO verb_facts VALUES(3, 3, 'aller', 2, 'être', 'pronominal', '', 1, 1)",
+                 "INSERT INTO conjugation(verbid, pronoun, verb, type, conj_order, display) VALUES"
+                 "(3, 'il/elle/on', 'va', 'indicatifPresent', 4, 1),"
+                 "(3, '', 'aller', 'infinitif', 5, 1), (3, '', 'être allé(e)(s)', 'infinitif', 6, "
+                 "1)",
+             }) {
+            support::executeOn(*queue, statement);
+        }
+    }
+
     void touchOne(const QString& name) const
     {
         if (const auto* item = settled(name)) {

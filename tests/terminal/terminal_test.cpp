@@ -32,16 +32,23 @@ TEST_F(TerminalTest, TellsWhatTheTablesKnow)
              "INSERT INTO verb_facts VALUES(9, 3, 'sentir', 13, 'être+avoir', '', '', 3, 1),"
              "(10, 2, 'finir', NULL, 'avoir', 'defective,en', 'invariable', 5, 1),"
              "(13, 1, 'aimer', NULL, 'avoir', '', '', 1, 1), (3, 3, 'aller', 13, '', '', '', 1, 9)",
+             "INSERT INTO verb(_id, french) VALUES(15, 'aimer (s'')')",
+             "INSERT INTO verb_facts VALUES(15, 1, 'sentir', 13, 'être', 'pronominal', '', 2, 1)",
+             "INSERT INTO conjugation(verbid, pronoun, verb, type, conj_order, display) VALUES"
+             "(9, '', 'ressortir', 'infinitif', 20, 1), (9, '', 'être x', 'infinitif', 21, 1)",
              "INSERT INTO form_divisions VALUES(1, x'0600080009000000')",
              "UPDATE conjugation SET verb = 'aime, ayme' WHERE verb = 'aime'",
          }) {
         support::executeOn(*queue, sql);
     }
     EXPECT_EQ(program.run({"about", "ressortir"}).out,
-              "infinitive\tressortir\ngroup\t3\nmodel\tsentir\nlike\taimer\n"
-              "auxiliary\têtre, avoir\ntraits\t\nuse\t3\n\n"
-              "infinitive\tressortir\ngroup\t2\nmodel\tfinir\nlike\t\nauxiliary\tavoir\n"
-              "traits\tdefective, with en, invariable participle\nuse\t5\n");
+              "infinitive\tressortir\npast\têtre x\ngroup\t3\nmodel\tsentir\nlike\taimer\n"
+              "auxiliary\têtre, avoir\ntraits\t\nunused\t\nused only\tPresent, Participle\n"
+              "use\t3\npartners\t\nalike\taimer (s')\n\n"
+              "infinitive\tressortir\npast\t\ngroup\t2\nmodel\tfinir\nlike\t\n"
+              "auxiliary\tavoir\ntraits\tdefective, with en, invariable participle\nunused\t\n"
+              "used only\tPresent, Participle\nuse\t5\npartners\t\nalike\t\n");
+    EXPECT_THAT(program.run({"about", "aimer"}).out, HasSubstr("\npartners\taimer (s')\n"));
     EXPECT_EQ(program.run({"about", "être"}).err, "lumora-cli: nothing is known of \"être\"\n");
 
     const auto stems = program.run({"conjugate", "--stems", "aimer"});

@@ -6,6 +6,9 @@
 #include "qt/base/color_conversion.h"
 #include "qt/base/text_conversion.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+
 #include <utility>
 
 namespace lumora::qt {
@@ -17,12 +20,14 @@ VerbDetailScreen::VerbDetailScreen(
 {
     detail_->setOutletListener([this] { emit outletsChanged(); });
     detail_->setSpeechListener([this] { emit speechChanged(); });
+    detail_->setWordsListener([this] { emit wordsChanged(); });
 }
 
 VerbDetailScreen::~VerbDetailScreen()
 {
     detail_->setOutletListener({});
     detail_->setSpeechListener({});
+    detail_->setWordsListener({});
 }
 
 CollectionItemModel* VerbDetailScreen::collection() const
@@ -96,6 +101,77 @@ QStringList VerbDetailScreen::formsOf(int tense) const
         forms += toQString(form->verb);
     }
     return forms;
+}
+
+QString VerbDetailScreen::summary() const
+{
+    return detail_->selectedVerb ? toQString(detail_->guide().summary()) : QString{};
+}
+
+QVariantList VerbDetailScreen::card() const
+{
+    QVariantList lines;
+    if (!detail_->selectedVerb) {
+        return lines;
+    }
+    for (const auto& line : detail_->guide().card()) {
+        VerbCardLineValue value{toQString(line.label), toQString(line.text), {}};
+        for (const auto& link : line.links) {
+            value.links.append(QVariant::fromValue(VerbLinkValue{link.id, toQString(link.title)}));
+        }
+        lines.append(QVariant::fromValue(value));
+    }
+    return lines;
+}
+
+QString VerbDetailScreen::nameAway(int places) const
+{
+    const auto verb = detail_->sequence.away(places);
+    return verb ? toQString(verb->french) : QString{};
+}
+
+FormSheetValue VerbDetailScreen::formSheet(int tense, int line) const
+{
+    const auto sheet = detail_->selectedVerb ? detail_->guide().sheet({selectedMood(), tense, line})
+                                             : std::nullopt;
+    if (!sheet) {
+        return {};
+    }
+    FormSheetValue value{toQString(sheet->row),
+                         toQString(sheet->form),
+                         toQString(sheet->ipa),
+                         toQString(sheet->tense.title),
+                         toQString(sheet->tense.otherTitle),
+                         toQString(sheet->person),
+                         {},
+                         tense,
+                         line};
+    for (const auto& [place, row, title] : sheet->others) {
+        value.others.append(QVariant::fromValue(FormLinkValue{
+            toQString(row), toQString(title), place.segment, place.tense, place.row}));
+    }
+    return value;
+}
+
+TenseNoteValue VerbDetailScreen::tenseNote(int tense) const
+{
+    const auto note =
+        detail_->selectedVerb ? detail_->guide().note(selectedMood(), tense) : std::nullopt;
+    if (!note) {
+        return {};
+    }
+    return {toQString(note->tense.title), toQString(note->tense.otherTitle), toQString(note->use),
+            toQString(note->example), toQString(note->translation)};
+}
+
+void VerbDetailScreen::saySlowly(int tense, int line, bool fromCollection)
+{
+    detail_->saySlowly({selectedMood(), tense, line}, fromCollection);
+}
+
+void VerbDetailScreen::copy(const QString& text) const
+{
+    QGuiApplication::clipboard()->setText(text);
 }
 
 } // namespace lumora::qt

@@ -6,6 +6,7 @@
 #include "detail/verb_detail_table_view_controller.h"
 #include "qt/models/qt_collection_view.h"
 #include "qt/screens/table_screen.h"
+#include "qt/screens/verb_guide_values.h"
 
 #include <QColor>
 
@@ -39,6 +40,13 @@ class VerbDetailScreen final : public lumora::qt::TableScreen {
     Q_PROPERTY(bool hasForms READ hasForms NOTIFY outletsChanged)
     // What is being spoken; empty for nothing.
     Q_PROPERTY(QString spokenText READ spokenText NOTIFY speechChanged)
+    // The verb at a glance; empty where little is known of it.
+    Q_PROPERTY(QString summary READ summary NOTIFY wordsChanged)
+    // Of VerbCardLineValue.
+    Q_PROPERTY(QVariantList card READ card NOTIFY wordsChanged)
+    // Before and after it in the list; empty for none.
+    Q_PROPERTY(QString previousVerb READ previousVerb CONSTANT)
+    Q_PROPERTY(QString nextVerb READ nextVerb CONSTANT)
     // Where the person has scrolled to, from one page to the next.
     Q_PROPERTY(int topTense READ topTense WRITE setTopTense NOTIFY topTenseChanged)
     // The form that was searched for, by its tense in the chosen mood and its row;
@@ -65,6 +73,11 @@ public:
 
     /// As in the database; 0 without a verb.
     std::int64_t verbId() const { return detail_->selectedVerb ? detail_->selectedVerb->id : 0; }
+    QString summary() const;
+    QVariantList card() const;
+    QString previousVerb() const { return nameAway(-1); }
+    QString nextVerb() const { return nameAway(1); }
+
     int voice() const { return static_cast<int>(detail_->voice()); }
 
     int openedTense() const;
@@ -85,16 +98,32 @@ public:
     Q_INVOKABLE QStringList formsOf(int tense) const;
     Q_INVOKABLE void playTense(int tense) { detail_->playTense(tense); }
     Q_INVOKABLE void stopSpeaking() { detail_->stopSpeaking(); }
+    /// Of a form of the mood on show.
+    Q_INVOKABLE lumora::qt::FormSheetValue formSheet(int tense, int line) const;
+    Q_INVOKABLE lumora::qt::TenseNoteValue tenseNote(int tense) const;
+    Q_INVOKABLE void saySlowly(int tense, int line, bool fromCollection);
+    Q_INVOKABLE void copy(const QString& text) const;
+    Q_INVOKABLE void showNeighbour(int places) { detail_->showNeighbour(places); }
+    Q_INVOKABLE void showRelated(qint64 id) { detail_->showRelated(id); }
+    /// As the person left the last one, if ever.
+    Q_INVOKABLE bool isCardOpen(bool unlessChosen) const
+    {
+        return detail_->isCardOpen(unlessChosen);
+    }
+    Q_INVOKABLE void keepCardOpen(bool open) { detail_->keepCardOpen(open); }
     Q_INVOKABLE void selectMood(int segment) { detail_->selectVerbTypes(segment); }
     /// The page is about to draw the collection.
     Q_INVOKABLE void prepareCollection() const { collection()->loadIfNeeded(); }
 
 signals:
     void outletsChanged();
+    void wordsChanged();
     void topTenseChanged();
     void speechChanged();
 
 private:
+    QString nameAway(int places) const;
+
     std::shared_ptr<detail::VerbDetailTableViewController> detail_;
     std::optional<int> topTense_;
 };

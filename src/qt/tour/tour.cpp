@@ -60,6 +60,7 @@ public:
         tap("aller");
         moods();
         reading();
+        tellings();
         share();
         if (!tablet_) {
             tap("backButton");
@@ -258,6 +259,23 @@ private:
         tap("playTense");
         picture("detail-reading");
         tap("stopSpeaking");
+    }
+
+    /// What a verb's page tells besides its tables.
+    void tellings()
+    {
+        if (!tablet_) {
+            tap("verbCard");
+            picture("detail-card");
+            tap("verbCard");
+        }
+        if (const auto* play = item("play")) {
+            click(*play->parentItem(), Qt::RightButton);
+            picture("form");
+            tap("formTense");
+            picture("tense");
+            tap("sheetDone");
+        }
     }
 
     void tabs()

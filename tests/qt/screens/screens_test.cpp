@@ -156,6 +156,31 @@ struct ScreensTest : WindowFixture, testing::WithParamInterface<const char*> {
         }
     }
 
+    /// The card open, a form's sheet, and what its tense is for.
+    void lookAtWhatIsTold() const
+    {
+        if (find("verbLink.être") == nullptr) {
+            tap("verbCard");
+        }
+        lookAt("card");
+        keys("Ctrl+PgDown");
+        keys("Ctrl+PgUp");
+        settled("verbLink.être");
+        auto* const table = find("list");
+        if (table != nullptr) {
+            table->parentItem()->forceActiveFocus(Qt::TabFocusReason);
+            keys("Home, Down, Return");
+        } else {
+            find("play")->forceActiveFocus(Qt::TabFocusReason);
+            keys("Menu");
+        }
+        settled("saySlowly");
+        lookAt("sheet of a form");
+        tap("formTense");
+        lookAt("note on a tense");
+        tap("sheetDone");
+    }
+
     void swipe(const QString& row) const
     {
         const auto middle = middleOf(*settled(row));
@@ -177,6 +202,8 @@ TEST_P(ScreensTest, EveryTextHasRoomAndStandsOutAsIconsDo)
     lookAt("nothing found");
     tap("searchClear", "aller");
     lookAtTheTenses();
+    tap("mood0");
+    lookAtWhatIsTold();
     tap("bar.export");
     lookAt("ways out");
     tap("share1");
@@ -193,6 +220,8 @@ TEST_P(ScreensTest, EveryTextHasRoomAndStandsOutAsIconsDo)
     tap("bar.done", "aller");
     turn(kTablet);
     lookAtTheTenses();
+    tap("mood0");
+    lookAtWhatIsTold();
 
     turn(kPhone);
     tap("backButton");

@@ -22,8 +22,12 @@ T.Control {
     readonly property int indexWidth: index.visible ? index.width : 0
     // The row that is swiped open, if one is.
     property T.SwipeDelegate openRow: null
+    // Whether its rows open the menu; else who shows the table is asked.
+    property bool hasMenu: true
     // The last row was swiped away; its controller does not know yet.
     property bool emptied: false
+
+    signal menuAsked(int row)
 
     function rowSwiped(row) {
         if (openRow !== row)
@@ -63,6 +67,10 @@ T.Control {
     }
     // The menu is made when it is first asked for: most people never do.
     function showMenu(row, point) {
+        if (!hasMenu) {
+            menuAsked(row);
+            return;
+        }
         if (menu.status === Loader.Null)
             menu.setSource("qrc:/Lumora/RowMenu.qml", {
                 "table": root.table
@@ -100,7 +108,7 @@ T.Control {
         else if (event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
             showMenuOfCurrent();
         else if (row !== null && [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key))
-            row.activate();
+            row.activate(event.key);
         else if (row !== null && (event.key === Qt.Key_Left || event.key === Qt.Key_Right))
             event.accepted = row.adjust(event.key === Qt.Key_Left ? -1 : 1);
         else

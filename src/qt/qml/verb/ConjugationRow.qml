@@ -34,9 +34,15 @@ Rectangle {
     readonly property var fit: isForm ? fits.of(tense) : null
     readonly property bool stacked: fit?.stacked ?? false
 
+    // For what is to be told of the form, or of the tense.
+    signal asked
+
     // What the keyboard does to a row.
-    function activate() {
-        table.model.tapAccessory(index);
+    function activate(key) {
+        if (key === Qt.Key_Space)
+            table.model.tapAccessory(index);
+        else
+            asked();
     }
     function adjust(step) {
         return false;
@@ -53,8 +59,7 @@ Rectangle {
     Accessible.role: isCell ? Accessible.ListItem : Accessible.Heading
     Accessible.focusable: isCell
     Accessible.focused: isCurrent
-    Accessible.onPressAction: if (isForm)
-        activate()
+    Accessible.onPressAction: asked()
     Accessible.name: opened ? accessibleName + ", " + qsTrId("verb.searched") : isCell ? accessibleName : unused ? title + ", " + qsTrId("tense.unused") : title
     Accessible.description: setting.description
 

@@ -16,6 +16,12 @@ Rectangle {
     property bool opened: false
 
     signal played
+    // For what is to be told of the form.
+    signal asked
+
+    function takeKeyboard() {
+        play.forceActiveFocus(Qt.TabFocusReason);
+    }
 
     color: play.running ? Theme.pressed : "transparent"
     radius: 6
@@ -23,6 +29,13 @@ Rectangle {
     Accessible.role: Accessible.StaticText
     Accessible.name: opened ? line.accessibleName + ", " + qsTrId("verb.searched") : line.accessibleName
     Accessible.description: line.setting.description
+    Accessible.onPressAction: asked()
+    Keys.onPressed: event => {
+        const menu = event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier;
+        event.accepted = menu || event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
+        if (event.accepted)
+            asked();
+    }
 
     Loader {
         active: root.opened

@@ -24,6 +24,16 @@ Rectangle {
     readonly property bool isCurrent: GridView.isCurrentItem && GridView.view.activeFocus
 
     signal played(int line)
+    signal formAsked(int line)
+    signal tenseAsked
+
+    // The line at that height; -1 above the first.
+    function lineAt(y) {
+        return Math.floor((y - lines.y) / sizes.height);
+    }
+    function takeKeyboard(line) {
+        (lines.children[line] as FormLine)?.takeKeyboard();
+    }
 
     component Measures: QtObject {
         property real width
@@ -59,8 +69,24 @@ Rectangle {
         wrapMode: Text.WordWrap
         lineHeight: lineCount > 1 ? 0.9 : 1
         verticalAlignment: Text.AlignVCenter
+        activeFocusOnTab: true
         Accessible.role: Accessible.Heading
         Accessible.name: root.empty && root.screen.hasForms ? text + ", " + qsTrId("tense.unused") : text
+        Accessible.focusable: true
+        Accessible.onPressAction: root.tenseAsked()
+        Keys.onReturnPressed: root.tenseAsked()
+        Keys.onEnterPressed: root.tenseAsked()
+        Keys.onSpacePressed: root.tenseAsked()
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: -3
+            visible: label.activeFocus
+            radius: 6
+            color: "transparent"
+            border.width: 2
+            border.color: Theme.accentText
+        }
     }
     PlayControl {
         id: play
@@ -91,6 +117,7 @@ Rectangle {
         marked: root.screen.marksForms
     }
     Column {
+        id: lines
         x: label.x
         y: label.y + label.height + 4
 
@@ -99,36 +126,42 @@ Rectangle {
             line: root.line0
             opened: root.openedLine === 0
             onPlayed: root.played(0)
+            onAsked: root.formAsked(0)
         }
         Line {
             measures: sizes
             line: root.line1
             opened: root.openedLine === 1
             onPlayed: root.played(1)
+            onAsked: root.formAsked(1)
         }
         Line {
             measures: sizes
             line: root.line2
             opened: root.openedLine === 2
             onPlayed: root.played(2)
+            onAsked: root.formAsked(2)
         }
         Line {
             measures: sizes
             line: root.line3
             opened: root.openedLine === 3
             onPlayed: root.played(3)
+            onAsked: root.formAsked(3)
         }
         Line {
             measures: sizes
             line: root.line4
             opened: root.openedLine === 4
             onPlayed: root.played(4)
+            onAsked: root.formAsked(4)
         }
         Line {
             measures: sizes
             line: root.line5
             opened: root.openedLine === 5
             onPlayed: root.played(5)
+            onAsked: root.formAsked(5)
         }
     }
 }

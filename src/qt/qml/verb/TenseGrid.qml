@@ -21,14 +21,37 @@ Item {
     readonly property int columns: fitting >= 4 ? 4 : fitting >= 2 ? 2 : 1
     readonly property real usedWidth: columns * grid.cellWidth - spacing
 
+    // Under the verb's name.
+    property Component card: null
+
     // By hand, so that this tense is the first in sight.
     signal movedTo(int tense)
+    // A form was held, or a tense's title tapped.
+    signal formAsked(int tense, int line)
+    signal tenseAsked(int tense)
 
     function show(tense) {
         if (tense > 0)
             grid.positionViewAtIndex(tense, GridView.Beginning);
         if (openedTense >= 0)
             grid.currentIndex = openedTense;
+    }
+    function showPlace(tense, line) {
+        grid.forceLayout();
+        grid.currentIndex = tense;
+        grid.positionViewAtIndex(tense, GridView.Contain);
+        (grid.itemAtIndex(tense) as TenseCard)?.takeKeyboard(line);
+    }
+    // The card at a point of the grid, and the line there: -1 on its title.
+    function askAt(point, forms) {
+        const card = grid.itemAt(point.x, point.y + grid.contentY) as TenseCard;
+        if (card === null)
+            return;
+        const line = card.lineAt(grid.mapToItem(card, point).y);
+        if (line >= 0 && forms)
+            formAsked(card.index, line);
+        else if (line < 0 && !forms)
+            tenseAsked(card.index);
     }
 
     TenseFits {
@@ -82,17 +105,36 @@ Item {
             anchors.right: parent.right
         }
 
-        header: Text {
+        header: Column {
             width: root.usedWidth
-            topPadding: Theme.margin
-            bottomPadding: Theme.margin
-            text: Theme.brokenAtSpaces(root.collection.headerText)
-            color: Theme.text
-            font.pixelSize: Theme.headline
-            font.weight: Font.DemiBold
-            wrapMode: Text.WordWrap
-            Accessible.role: Accessible.Heading
-            Accessible.name: root.collection.headerText
+
+            Text {
+                width: parent.width
+                topPadding: Theme.margin
+                bottomPadding: root.card === null ? Theme.margin : Theme.gap
+                text: Theme.brokenAtSpaces(root.collection.headerText)
+                color: Theme.text
+                font.pixelSize: Theme.headline
+                font.weight: Font.DemiBold
+                wrapMode: Text.WordWrap
+                Accessible.role: Accessible.Heading
+                Accessible.name: root.collection.headerText
+            }
+            Loader {
+                id: cardPlace
+                width: parent.width
+                sourceComponent: root.card
+
+                Connections {
+                    target: cardPlace.item as VerbCard
+                    function onFocused() {
+                        grid.positionViewAtBeginning();
+                    }
+                    function onPassed() {
+                        grid.forceActiveFocus(Qt.TabFocusReason);
+                    }
+                }
+            }
         }
         delegate: TenseCard {
             openedLine: index === root.openedTense ? root.openedLine : -1
@@ -101,6 +143,19 @@ Item {
             width: root.collection.itemWidth
             height: root.collection.itemHeight
             onPlayed: line => root.collection.tapAudio(index, line)
+            onFormAsked: line => root.formAsked(index, line)
+            onTenseAsked: root.tenseAsked(index)
+        }
+
+        TapHandler {
+            parent: grid
+            onLongPressed: root.askAt(point.position, true)
+            onTapped: eventPoint => root.askAt(eventPoint.position, false)
+        }
+        TapHandler {
+            parent: grid
+            acceptedButtons: Qt.RightButton
+            onTapped: eventPoint => root.askAt(eventPoint.position, true)
         }
     }
 }

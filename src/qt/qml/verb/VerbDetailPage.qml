@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import QtQuick.Controls.Basic
 import Lumora
 
 // One verb: its conjugations by mood, as a table on a narrow screen and as
@@ -14,6 +15,7 @@ ScreenPage {
     parts: verb.selectTextHidden ? moods.visible && !verb.moodsHidden ? [tenses, moods] : [tenses] : []
     // Squares of a fixed size need room, and texts that fit into them.
     readonly property bool asSquares: wide && !Theme.largeText && height >= 560
+    readonly property bool onTop: StackView.view?.currentItem === root
 
     barMenu: verb.selectTextHidden ? menu : null
 
@@ -23,6 +25,23 @@ ScreenPage {
         height: root.verb.toolbarHidden ? 0 : root.verb.toolbarHeight
         visible: height > 0
         screen: root.verb
+    }
+    Shortcut {
+        sequence: "Ctrl+PgDown"
+        enabled: root.onTop && root.enabled
+        onActivated: root.verb.showNeighbour(1)
+    }
+    Shortcut {
+        sequence: "Ctrl+PgUp"
+        enabled: root.onTop && root.enabled
+        onActivated: root.verb.showNeighbour(-1)
+    }
+    VerbSheets {
+        id: sheets
+        screen: root.verb
+        wide: root.wide
+        squares: root.asSquares
+        onPlaceWanted: (tense, line) => tenses.item.showPlace(tense, line) // qmllint disable
     }
     Loader {
         id: tenses
@@ -83,61 +102,11 @@ ScreenPage {
     Component {
         id: table
 
-        TableContent {
-            id: content
-
-            // Of the form that was searched for, below its tense's header.
-            readonly property int openedRow: root.verb.openedTense < 0 ? -1 : content.table.model.firstRow(root.verb.openedTense + 1) + 1 + root.verb.openedLine
-
-            table: root.verb.table
-            name: root.verb.title
-            delegate: ConjugationRow {
-                width: ListView.view.width
-                table: content.table
-                opened: index === content.openedRow
-                screen: root.verb
-                fits: tenseFits
-            }
-            tools: PlayControl {
-                readonly property int section: parent.section // qmllint disable
-
-                implicitWidth: 50
-                ofTense: true
-                focusPolicy: Qt.NoFocus
-                // That of the heading below it speaks for both.
-                Accessible.ignored: true
-                onClicked: root.verb.playTense(section - 1)
-            }
-            Component.onCompleted: {
-                root.verb.prepare();
-                // The first section is not a tense.
-                if (root.verb.topTense > 0)
-                    list.positionViewAtIndex(content.table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
-                // In sight even where its tense is higher than the page, which has no
-                // height yet.
-                if (openedRow >= 0)
-                    Qt.callLater(moveTo, openedRow);
-            }
-
-            TenseFits {
-                id: tenseFits
-                screen: root.verb
-                fullSize: Theme.body + 1
-                room: content.width - Theme.margin - 50 - 2 * Theme.gap
-            }
-            Connections {
-                target: content.table.model
-                function onReloaded() {
-                    ++tenseFits.revision;
-                }
-            }
-            Connections {
-                target: content.list
-                function onContentYChanged() {
-                    if (content.list.moving)
-                        root.verb.topTense = Math.max(0, content.table.model.sectionOf(content.list.indexAt(0, content.list.contentY + Theme.headerHeight)) - 1);
-                }
-            }
+        TenseTable {
+            screen: root.verb
+            withCard: !root.preview
+            onFormAsked: (tense, line) => sheets.askForm(tense, line)
+            onTenseAsked: tense => sheets.askTense(tense)
         }
     }
     Component {
@@ -147,11 +116,22 @@ ScreenPage {
             screen: root.verb
             openedTense: root.verb.openedTense
             openedLine: root.verb.openedLine
+            card: root.preview ? null : card
             onMovedTo: tense => root.verb.topTense = tense
+            onFormAsked: (tense, line) => sheets.askForm(tense, line)
+            onTenseAsked: tense => sheets.askTense(tense)
             Component.onCompleted: {
                 root.verb.prepareCollection();
                 show(root.verb.topTense);
             }
+        }
+    }
+    Component {
+        id: card
+
+        VerbCard {
+            screen: root.verb
+            wide: true
         }
     }
 }
