@@ -14,7 +14,7 @@ namespace lumora::bench {
 namespace {
 
 constexpr std::string_view kLanguage = "en";
-/// What a reading may add to a key.
+/// The part of the time for a key press that a reading may add.
 constexpr double kPart = 1.0 / 3;
 
 lookup::Lookup built(platform::DatabaseQueue& queue)

@@ -75,7 +75,7 @@ int run(const std::string& program, const std::vector<std::string>& asked)
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Whatever this machine has: in silence.
+    // No sound, whatever this machine has.
     qputenv("PULSE_SERVER", "unix:/nonexistent/native");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication toolkit{argc, argv};

@@ -44,7 +44,7 @@ double millisecondsOf(Work&& work)
     return watch.milliseconds();
 }
 
-/// Keeps the compiler from leaving out what nobody reads.
+/// Keeps the compiler from removing a computation whose result is not used.
 template <typename Value>
 void use(const Value& value)
 {

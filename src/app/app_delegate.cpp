@@ -71,7 +71,7 @@ AppDelegate::AppDelegate(const platform::Services& services, UserFolders folders
 bool AppDelegate::didFinishLaunching(const LaunchOptions& options)
 {
     openDatabase();
-    setAppearance();
+    chooseBarColors();
     wirePanes();
     settings::seedDefaultSettings(services_.settings);
     // After the seeding, so that carried values win.
@@ -106,10 +106,10 @@ void AppDelegate::openDatabase()
         platform::existingFileUrl(workingDatabase(*folders_.documents)));
 }
 
-void AppDelegate::setAppearance()
+void AppDelegate::chooseBarColors()
 {
-    appearance_ = {platform::kWhiteColor, accentPrimary_, platform::kWhiteColor, accentPrimary_,
-                   platform::kDarkGrayColor};
+    barColors_ = {platform::kWhiteColor, accentPrimary_, platform::kWhiteColor, accentPrimary_,
+                  platform::kDarkGrayColor};
 }
 
 platform::SplitViewController& AppDelegate::splitView()
@@ -205,7 +205,7 @@ void AppDelegate::openLink(std::string_view link)
     const auto target = DeepLink::parse(link);
     const auto verbs = target ? verbsNamed(target->infinitive) : std::vector<data::VerbPtr>{};
     if (verbs.empty()) {
-        // Without the name: a stranger wrote it.
+        // The message does not repeat the name: the link comes from outside.
         const auto text = [this](std::string_view key) {
             return platform::localizedString(services_.bundle, key);
         };

@@ -26,7 +26,7 @@ class NavigationController;
 
 namespace lumora::app {
 
-/// A way into the program from the home screen, by its fixed type text.
+/// A shortcut of the program's icon; `type` is one of a few fixed texts.
 struct ShortcutItem {
     std::string type;
 };
@@ -54,7 +54,7 @@ struct UserFolders {
 };
 
 /// The colours that all bars share.
-struct BarAppearance {
+struct BarColors {
     platform::Color navigationBarTint;
     platform::Color navigationBarBackground;
     platform::Color navigationBarTitle;
@@ -62,7 +62,7 @@ struct BarAppearance {
     platform::Color segmentedControlTint;
 };
 
-/// Runs the launch: database, appearance, panes, settings, shortcut; and
+/// Runs the launch: database, colours, panes, settings, shortcut; and
 /// decides what a narrow window shows. GUI thread only; lives as long as the
 /// program.
 class AppDelegate final : public platform::SplitViewControllerDelegate {
@@ -91,14 +91,14 @@ public:
     /// and offers the others.
     void openLink(std::string_view link);
 
-    const BarAppearance& appearance() const { return appearance_; }
+    const BarColors& barColors() const { return barColors_; }
 
     bool collapseSecondaryViewControllerOntoPrimary(platform::ViewController& secondary,
                                                     platform::ViewController& primary) override;
 
 private:
     void openDatabase();
-    void setAppearance();
+    void chooseBarColors();
     void wirePanes();
     void handleShortcutItem(const ShortcutItem& item);
     void openSearch();
@@ -113,7 +113,7 @@ private:
     const platform::Services& services_;
     UserFolders folders_;
     platform::Color accentPrimary_;
-    BarAppearance appearance_;
+    BarColors barColors_;
 };
 
 } // namespace lumora::app

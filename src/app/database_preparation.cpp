@@ -28,8 +28,8 @@ using platform::Result;
 
 /// How many unreadable databases version 1.0.0 kept, numbered from 0.
 constexpr int kMostDamaged = 10;
-/// A start that prepares the database is done long before that.
-constexpr std::chrono::seconds kPatience{10};
+/// Another process that prepares the database takes far less than this.
+constexpr std::chrono::seconds kLongestWaitForLock{10};
 /// SQLite's code for a file that another program holds.
 constexpr int kBusy = 5;
 
@@ -54,7 +54,7 @@ std::filesystem::path withSuffix(std::filesystem::path file, const char* suffix)
 
 bool readFavourites(Database& database, UserData& data)
 {
-    // Past the index of version 1.0.0, which hands the rows out by verb.
+    // The index of version 1.0.0 would give the rows in the order of the verbs.
     auto rows = database.executeQuery(
         "SELECT verbid FROM favourite NOT INDEXED WHERE verbid is not null", {});
     if (!rows) {
@@ -106,7 +106,7 @@ SavedData readUserData(const std::filesystem::path& file, platform::CrashReporte
     return saved;
 }
 
-/// Inserts in order up to the first failure. What is in goes out of `waiting`.
+/// Inserts in order up to the first failure. Inserted rows leave `waiting`.
 Result<void> insertUserData(Database& database, UserData& waiting)
 {
     while (!waiting.favourites.empty()) {
@@ -213,7 +213,7 @@ void restoreUserData(const std::filesystem::path& file, UserData waiting, Target
         }
         database.close();
     });
-    // A rescue file that stays as it was is met again at the next start.
+    // The rescue file stays as it is: the next start tries again.
     if (target == Target::ReplacedFile && !platform::syncFile(file)) {
         return;
     }
@@ -366,7 +366,7 @@ std::filesystem::path workingDatabase(const std::filesystem::path& documents)
 
 Result<platform::FolderLock> lockDocuments(const std::filesystem::path& documents)
 {
-    return platform::FolderLock::take(documents, kPatience);
+    return platform::FolderLock::take(documents, kLongestWaitForLock);
 }
 
 Result<void> prepareDatabase(const std::filesystem::path& documents, const platform::Bundle& bundle,

@@ -19,9 +19,8 @@ namespace lumora::app {
 /// The working database in a documents directory.
 std::filesystem::path workingDatabase(const std::filesystem::path& documents);
 
-/// For whoever works on the database from outside the application: no start
-/// replaces it meanwhile. Waits for one that does; an error should it take too
-/// long.
+/// For other programs that work on the database: no start replaces it
+/// meanwhile. Waits for one that does; an error should it take too long.
 platform::Result<platform::FolderLock> lockDocuments(const std::filesystem::path& documents);
 
 /// Brings the working database to the program's version and carries favourites

@@ -27,9 +27,9 @@ namespace {
 using platform::Database;
 using platform::ResultSet;
 
-/// Every verb of ours as a favourite and twice as much again.
+/// Three times what a backup takes in which every verb is a favourite.
 constexpr std::uintmax_t kLargestFile = std::uintmax_t{4} * 1024 * 1024;
-/// Times are written in milliseconds: a difference of one is none.
+/// Times are written in milliseconds; a smaller difference does not count.
 constexpr double kTimeTolerance = 0.001;
 
 Failure databaseFailure(const platform::Error& error)
@@ -137,7 +137,8 @@ public:
 private:
     struct View {
         double time = 0;
-        /// Of a clock that was ahead: nobody knows when it really was.
+        /// The time lay in the future, so the clock was wrong: the true time of
+        /// the view is not known.
         bool isAhead = false;
     };
 
@@ -199,9 +200,10 @@ private:
         }
     }
 
-    /// The bound of the history takes rows of equal times together, which
-    /// could be all, and an update leaves the times whole seconds. And a clock
-    /// that was ahead must not keep its verbs on top.
+    /// Gives every view a time of its own, none in the future. The history is
+    /// cut at a time: rows of one time would all go together, and an update
+    /// rounds times to whole seconds. A time in the future would keep its verb
+    /// on top.
     void setTimesApart()
     {
         std::vector<View*> newestFirst;
@@ -221,7 +223,7 @@ private:
         }
     }
 
-    /// What the bound of the history has left of the views.
+    /// Counts the views that are still there after the history was cut.
     platform::Result<void> countViews()
     {
         return forEachRow(database_, "SELECT verbid FROM history", [this](const ResultSet& row) {

@@ -47,13 +47,13 @@ struct RestoredCounts {
     int unknown = 0;
 };
 
-/// Writes what the database has of the person's into the file, which is
+/// Writes the database's favourites and history into the file, which is
 /// replaced whole or left alone. `now`: seconds since 1970-01-01 00:00:00 UTC.
 tl::expected<SavedCounts, Failure> saveBackup(platform::DatabaseQueue& queue,
                                               const std::filesystem::path& file, double now);
 
-/// Adds the file's favourites and views to the database's: nothing goes but
-/// the oldest rows of a history that has grown over its bound. All of it or
+/// Adds the file's favourites and views to the database's: nothing is removed
+/// but the oldest rows of a history that has become too long. All of it or
 /// nothing; a second time changes nothing. Verbs are known by id and
 /// infinitive, by the infinitive alone where the id is another verb's.
 tl::expected<RestoredCounts, Failure> restoreBackup(platform::DatabaseQueue& queue,

@@ -11,7 +11,8 @@ namespace lumora::conjugator {
 
 namespace {
 
-/// absous, absoute: "oute"; the ending is told from its vowels on.
+/// What the feminine has in place of the masculine's end, from the vowels
+/// before the first difference on: "oute" for absous, absoute.
 std::string changedEnding(const std::string& masculine, const std::string& feminine)
 {
     const auto ends =

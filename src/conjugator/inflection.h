@@ -18,7 +18,7 @@ PersonForms imperfectOf(const Forms& stems);
 PersonForms futureOf(const Forms& stems);
 PersonForms conditionalOf(const Forms& stems);
 
-/// Whether a stem ends in a vowel that tells the endings of the past.
+/// Whether a stem ends in a vowel that decides the endings of the past.
 bool isPastStem(std::string_view stem);
 /// Each stem must be a past stem.
 PersonForms pastOf(const Forms& stems);

@@ -195,7 +195,7 @@ std::string RowBuilder::pronoun(Tense tense, std::size_t person, std::string_vie
     if (person == kThirdSingular && entry_.impersonal) {
         subject = "il";
     } else if (person == kThirdSingular && !verb_.persons[0]) {
-        // Of things alone, for which "on" cannot stand.
+        // The subject is always a thing; "on" means people.
         subject = "il/elle";
     }
     if (entry_.en) {

@@ -33,7 +33,7 @@ FormParts divided(std::string text, unsigned code)
         }
     }
     const std::size_t length = code < kFirstEnding ? 0 : (code - kFirstEnding) / 2;
-    // A damaged file is not to cut a letter in two.
+    // A damaged file must not make the cut fall inside a UTF-8 character.
     const bool fits = code >= kFirstEnding && length <= text.size() &&
                       (length == 0 || !isContinuation(text[text.size() - length]));
     if (!fits) {

@@ -17,7 +17,7 @@ class Database;
 
 namespace lumora::data {
 
-/// One spelling of a form, cut as those cut it who teach the language.
+/// One spelling of a form, cut into stem and ending as French lessons do it.
 struct FormParts {
     enum class Kind {
         /// An auxiliary, with the pronouns in the form, and a participle.

@@ -19,7 +19,7 @@ namespace lumora::data {
 platform::Result<void> recordInHistory(platform::Database& database, std::int64_t verbId,
                                        double timestamp);
 
-/// The cutting alone.
+/// Only cuts the history.
 platform::Result<void> trimHistory(platform::Database& database);
 
 } // namespace lumora::data

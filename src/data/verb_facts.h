@@ -36,8 +36,9 @@ struct VerbFacts {
     /// "invariable"; "indirect" when it does not agree with the subject because the
     /// reflexive pronoun is an indirect object.
     std::vector<std::string> participle;
-    /// From 1, among the 100 commonest verbs, over the next 400, the next 1,500 and
-    /// the others in living use to 5, rare, old or of a trade.
+    /// How common the verb is: 1 for the 100 commonest, 2 for the next 400, 3
+    /// for the next 1,500, 4 for others in use, 5 for rare, old and technical
+    /// ones.
     int use = 0;
 };
 

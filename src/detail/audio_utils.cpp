@@ -24,7 +24,7 @@ namespace {
 constexpr std::string_view kLanguage = "fr";
 constexpr float kLowVolume = 0.15F;
 constexpr double kSecondsOfADay = 86400;
-/// Visible from the first word on.
+/// So that the ring is seen from the first word on.
 constexpr float kLeastProgress = 0.1F;
 /// Ahead of the voice, so that the ring looks full when the last word begins.
 constexpr float kLead = 1.1F;

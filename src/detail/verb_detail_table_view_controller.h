@@ -65,7 +65,7 @@ public:
     /// The shared queue. Not owned.
     platform::DatabaseQueue* queue = nullptr;
     data::VerbPtr selectedVerb;
-    /// Those of the playback.
+    /// References to the members of the playback.
     std::function<void()>& audioTimer = playback_.audioTimer;
     std::shared_ptr<CERoundProgressView>& currentAudioProgress = playback_.currentAudioProgress;
     /// Whether the screen is shown as a preview.
@@ -80,7 +80,7 @@ public:
     void viewDidAppear() override;
 
     void toggleFavourite();
-    /// Renders the verb and offers the ways out for it.
+    /// Renders the verb and opens the share sheet with it.
     void exportOptions();
     /// The mood control's value changed to `segment`.
     void selectVerbTypes(int segment);

@@ -17,9 +17,9 @@ class SettingsStore;
 
 namespace lumora::detail {
 
-/// What stays of a verb having been shown: one more in the count that leads
-/// to the question for a review, and its row in the history. What the
-/// constructor takes must outlive the object.
+/// Records that a verb was shown: in the count that decides when a review is
+/// asked for, and in the history. What the constructor takes must outlive the
+/// object.
 class ViewRecord {
 public:
     ViewRecord(platform::SettingsStore& settings, const platform::Device& device,

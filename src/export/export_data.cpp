@@ -70,8 +70,9 @@ void forEachBlock(const Action& action)
     }
 }
 
-/// None of these stands outside a JSON string, so all may be escaped blindly.
-/// The line and paragraph separators end a line in a script, though not in JSON.
+/// In JSON these characters stand only inside strings, so all can be escaped.
+/// The line and paragraph separators end a line in a script, though not in
+/// JSON.
 std::string escapedForScript(std::string json)
 {
     json = text::replaced(std::move(json), "/", "\\/");

@@ -55,7 +55,7 @@ private:
     platform::MailService& mail_;
     platform::UrlOpener& urlOpener_;
     platform::Presenter& presenter_;
-    /// Told not to call back when this goes first.
+    /// When this object ends first, the composer is told not to call it.
     std::weak_ptr<platform::MailComposer> composer_;
 };
 

@@ -35,7 +35,7 @@ std::string renderingScript(const std::string& mustacheTemplate, const std::stri
 
 } // namespace
 
-// A class without a state, so that who exports can be handed one.
+// A member of a class without state, so that callers can keep and pass it.
 // NOLINTNEXTLINE(readability-convert-member-functions-to-static)
 platform::Result<std::optional<VerbRenderings>>
 VerbExport::exportVerb(const data::Verb& verb, const platform::Bundle& bundle,

@@ -24,12 +24,12 @@ class SearchResultsTableViewControllerDelegate {
 public:
     virtual ~SearchResultsTableViewControllerDelegate() = default;
     virtual void didSelectSearchResult(const data::VerbPtr& verb) = 0;
-    /// A finger stays on the result.
+    /// A long press on the result.
     virtual void didHoldSearchResult(const data::VerbPtr& verb) = 0;
 };
 
 /// The verbs that match the search text, replaced whole by every search. Each
-/// search runs to its end before the next key is heard. GUI thread only.
+/// search ends before the next key press is handled. GUI thread only.
 class SearchResultsTableViewController final : public platform::TableViewController {
 public:
     using TableViewController::TableViewController;

@@ -23,8 +23,8 @@ namespace lumora::lists {
 platform::TableCell verbCell(const data::Verb& verb, const platform::SettingsStore& settings,
                              const platform::Device& device);
 
-/// Asks what tells homographs apart if the translations will not, and logs
-/// a failure.
+/// Reads what distinguishes homographs where the translations cannot, because
+/// they are French; logs a failure.
 void distinguishHomographs(const std::vector<data::VerbPtr>& verbs, platform::Database& database,
                            const platform::SettingsStore& settings, const platform::Device& device,
                            platform::CrashReporter& crashReporter);

@@ -16,7 +16,7 @@ namespace lumora::lookup {
 
 namespace {
 
-/// Longer than any sentence that a verb is looked for in.
+/// Longer texts are not looked at.
 constexpr std::size_t kLongestText = 1000;
 
 /// Without what tells how a person typed a form: brackets of an agreement too.

@@ -89,7 +89,7 @@ std::vector<Token> tokensOf(std::string_view text, std::size_t begin, std::size_
     return tokens;
 }
 
-/// Endings in brackets are for the eye: "allé(e)".
+/// Endings in brackets are not spoken: "allé(e)".
 std::string withoutBrackets(std::string_view form)
 {
     std::string text;

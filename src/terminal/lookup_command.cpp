@@ -112,7 +112,8 @@ platform::Result<void> lookUpLines(std::istream& input, TextReader& reader, Sess
 
 namespace {
 
-/// Who asks for a form of aller is not asked whether s'en aller was meant.
+/// The verb without its pronoun: a form of aller is one of s'en aller too, and
+/// counts as one verb.
 std::string_view verbOf(std::string_view headword)
 {
     return headword.substr(0, headword.find(" (s"));

@@ -52,7 +52,7 @@ std::size_t change(std::uint8_t* data, std::size_t size, std::size_t maximum, un
 
 void feed(const std::string& what, const std::uint8_t* data, std::size_t size)
 {
-    // Said before, so that a crash has a name.
+    // Printed before the work, so that a crash can be found.
     std::cout << what << std::endl;
     LLVMFuzzerTestOneInput(data, size);
 }

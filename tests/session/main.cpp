@@ -137,7 +137,7 @@ int main(int argc, char** argv)
     makeFiles(home.path());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QML_DISABLE_DISK_CACHE", "1");
-    // In silence, and not on anybody's paper.
+    // Without sound, and without printing on real paper.
     qputenv("PULSE_SERVER", "unix:/nonexistent/native");
     qputenv("CUPS_SERVER", "/nonexistent/cups");
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");

@@ -39,7 +39,7 @@ int main(int argc, char** argv)
     makeDesktop(home);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QML_DISABLE_DISK_CACHE", "1");
-    // Whatever this machine has: in silence.
+    // No sound, whatever this machine has.
     qputenv("PULSE_SERVER", "unix:/nonexistent/native");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     testing::InitGoogleTest(&argc, argv);

@@ -16,7 +16,7 @@ struct Error {
     int code = 0;
 };
 
-/// A value, or the reason there is none. Never thrown, always looked at.
+/// A value, or the reason why there is none. It is never thrown.
 template <typename Value>
 using Result = tl::expected<Value, Error>;
 

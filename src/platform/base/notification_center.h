@@ -15,7 +15,7 @@ namespace lumora::platform {
 
 class ViewController;
 
-/// News from one screen to whoever cares.
+/// A message from one screen to all that subscribed to its name.
 struct Notification {
     std::string name;
     /// Who posted it, or the one value it is about.

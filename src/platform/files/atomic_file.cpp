@@ -26,7 +26,7 @@ std::filesystem::path folderOf(const std::filesystem::path& file)
     return file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
 }
 
-/// Makes a rename or a removal in the folder last.
+/// Brings a rename or a removal in the folder to the disk.
 Result<void> syncFolder(const std::filesystem::path& folder)
 {
     const auto descriptor = FileDescriptor::open(folder, O_RDONLY | O_DIRECTORY);

@@ -19,8 +19,8 @@ namespace lumora::platform {
 /// file is removed; one that a killed program left goes too.
 Result<void> writeFileAtomically(const std::filesystem::path& file, std::string_view content);
 
-/// Removes what programs that are no more left of an unfinished
-/// writeFileAtomically of this file.
+/// Removes the temporary files of this file that programs left which ended
+/// before writeFileAtomically was done.
 void removeAbandonedTemporaries(const std::filesystem::path& file);
 
 /// Copies the bytes of `from` to `temporary` and syncs them; a copy that failed

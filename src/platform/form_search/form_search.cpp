@@ -84,7 +84,7 @@ void FormSearch::executeQuery(Database& database, std::string_view sql,
             verbs.emplace(database, kVerbs, *verbs_);
         }
     } catch (const std::bad_alloc&) {
-        // The real tables do without.
+        // The tables of the file serve without it.
     }
     auto rows = database.executeQuery(sql, values);
     read(rows);

@@ -7,13 +7,14 @@
 
 namespace lumora::platform {
 
-/// The program's part in what the machine plays. No call waits for the machine.
+/// What the program asks of the machine's sound output. No call waits for the
+/// machine.
 class AudioSession {
 public:
     virtual ~AudioSession() = default;
     /// 0 to 1; 0 while the output is muted, 1 where there is none.
     virtual float outputVolume() const = 0;
-    /// The program is about to play, and to go on when the machine is silenced.
+    /// Asks to play sound also when the machine is set to silent.
     virtual Result<void> setCategoryPlayback() = 0;
     virtual Result<void> activate() = 0;
 };

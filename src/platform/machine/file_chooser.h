@@ -26,9 +26,9 @@ struct FileQuestion {
 class FileChooser {
 public:
     virtual ~FileChooser() = default;
-    /// `chosen` runs once, or never when the person thinks better of it; an
-    /// earlier question is forgotten. A file to save may be there already: then
-    /// the person has agreed to lose it.
+    /// `chosen` runs once, or never when the person cancels; an earlier
+    /// question is forgotten. A file to save may be there already: then the
+    /// person has agreed to lose it.
     virtual void choose(const FileQuestion& question,
                         std::function<void(const std::filesystem::path&)> chosen) = 0;
 };

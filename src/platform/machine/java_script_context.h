@@ -10,8 +10,8 @@
 
 namespace lumora::platform {
 
-/// One world of scripts: what a script defines, the next one sees. Texts are
-/// UTF-8.
+/// A script engine with its global object: what one script defines, the next
+/// one sees. Texts are UTF-8.
 class JavaScriptContext {
 public:
     /// Gets the textual form of a value that a script threw and did not catch.

@@ -52,7 +52,7 @@ public:
 /// Speaks one utterance at a time. GUI thread only; no call waits for sound.
 ///
 /// Whatever ends an utterance, its delegate hears nothing of it afterwards. The
-/// destructor stops without a word to anybody.
+/// destructor stops without telling the delegate.
 class SpeechSynthesizer {
 public:
     virtual ~SpeechSynthesizer() = default;

@@ -7,7 +7,7 @@
 
 namespace lumora::platform {
 
-/// Hands addresses to the programs that are there for them.
+/// Opens addresses in the programs that are installed for them.
 class UrlOpener {
 public:
     virtual ~UrlOpener() = default;

@@ -56,7 +56,8 @@ struct FixedText {
     std::string_view text() const { return {bytes.data(), size}; }
 };
 
-/// What the handler reads. Values are written to the copy it does not use.
+/// What the handler reads. Values have two copies; new ones go into the copy
+/// that the handler does not use.
 struct CrashState {
     FixedText<kPathBytes> folder;
     FixedText<kPathBytes> log;
@@ -166,7 +167,7 @@ extern "C" void handleFatalSignal(int number)
     if (crash.reporter.compare_exchange_strong(nobody, self)) {
         writeReport(number);
     } else if (nobody != self) {
-        // Another thread is at it and ends the program when it is done.
+        // Another thread writes the report and then ends the program.
         while (true) {
             ::pause();
         }

@@ -24,7 +24,7 @@ public:
     virtual void performSegue(ViewController& source, std::string_view identifier,
                               std::optional<IndexPath> sender) = 0;
     /// As `performSegue`, but shows the screen small and over `source`, until
-    /// the user opens it or lets it go.
+    /// the user opens it or closes it.
     virtual void previewSegue(ViewController& source, std::string_view identifier,
                               std::optional<IndexPath> sender) = 0;
     /// Shows a screen over `on` until it is dismissed.

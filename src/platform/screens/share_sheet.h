@@ -10,7 +10,7 @@
 
 namespace lumora::platform {
 
-/// One thing to hand on, as plain text and as a page to print.
+/// What is shared, as plain text and as a page to print.
 struct ShareItems {
     /// Names the thing, also in file names: a verb's infinitive.
     std::string title;
@@ -18,7 +18,7 @@ struct ShareItems {
     std::string html;
 };
 
-/// Offers the ways out of the program: copying, saving, printing, sending.
+/// Offers to copy, save, print or send something.
 class ShareSheet {
 public:
     virtual ~ShareSheet() = default;

@@ -49,7 +49,7 @@ public:
     /// else than `didSelectRow` a tap does.
     virtual void rowTapped(IndexPath path);
     virtual void didSelectRow(IndexPath path);
-    /// A finger stays on the row.
+    /// A long press on the row.
     virtual void rowHeld(IndexPath path);
     virtual void accessoryButtonTapped(IndexPath path);
     virtual void switchToggled(IndexPath path, bool on);

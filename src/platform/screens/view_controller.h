@@ -47,8 +47,9 @@ struct Segue {
 /// One screen's logic. Made by the Storyboard, owned by the container that
 /// shows it. GUI thread only.
 ///
-/// `viewDidLoad` runs once, before the first appearance; the appearance calls
-/// come from the container, in the order of their names.
+/// `viewDidLoad` runs once, before the screen is first shown. The container
+/// calls viewWillAppear, viewDidAppear and, later, viewDidDisappear each time
+/// that it shows the screen.
 class ViewController {
 public:
     ViewController() = default;

@@ -42,7 +42,7 @@ DatabaseQueue::~DatabaseQueue() = default;
 
 std::unique_ptr<DatabaseQueue> DatabaseQueue::open(std::string_view fileUrl)
 {
-    // Nobody asks what SQLite's memory adds up to, and the sum costs a lock an
+    // SQLite's count of its memory is not used here, and costs a lock for each
     // allocation. Refused, without harm, where SQLite is in use already.
     static const int kUncounted = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
     static_cast<void>(kUncounted);

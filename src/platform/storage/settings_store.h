@@ -69,7 +69,8 @@ public:
     Result<void> synchronize() override { return {}; }
 };
 
-/// What the reader takes an object for when only booleans count.
+/// The value of the key if it is a boolean; none for a missing key and for any
+/// other kind.
 std::optional<bool> boolObjectForKey(const SettingsStore& settings, std::string_view key);
 
 } // namespace lumora::platform

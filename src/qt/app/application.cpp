@@ -114,7 +114,7 @@ void Application::launch()
     }
     device_.setWindowWidth(window_->width());
     delegate_.didFinishLaunching(launch);
-    appearance_.setBars(delegate_.appearance());
+    appearance_.setBars(delegate_.barColors());
     splitScreen_ =
         std::make_unique<SplitScreen>(root, device_, *presenter_.modals(), *presenter_.preview());
     QQmlEngine::setObjectOwnership(splitScreen_.get(), QQmlEngine::CppOwnership);

@@ -47,7 +47,7 @@ struct ApplicationOptions {
     std::filesystem::path shareFolder;
     std::vector<std::string> launchArguments;
     std::optional<std::string> shortcut;
-    /// What to open once launched, as somebody outside wrote it.
+    /// Links to open after the launch, not yet checked.
     std::vector<std::string> links;
     Desktop desktop;
     QSize windowSize{390, 844};

@@ -29,7 +29,7 @@ using namespace lumora::qt;
 constexpr int kFailed = 1;
 constexpr int kMisused = 2;
 
-/// Whether the toolkit has anything to draw on, which it stops the program over.
+/// Whether there is a display; without one the toolkit would end the program.
 bool hasDisplay()
 {
     constexpr const char* kVariables[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
@@ -55,8 +55,8 @@ void prepareEnvironment(bool tour)
     }
 }
 
-/// The desktop's leave for this start to take the keyboard; the toolkit takes
-/// it out of the environment.
+/// The desktop's permission for this start to take the keyboard focus; the
+/// toolkit takes it out of the environment.
 QString activationToken()
 {
     const auto token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN");

@@ -59,7 +59,7 @@ public:
             emit desktopChanged();
         }
     }
-    void setBars(const app::BarAppearance& bars)
+    void setBars(const app::BarColors& bars)
     {
         bars_ = bars;
         emit barsChanged();
@@ -72,7 +72,7 @@ signals:
 private:
     platform::Color accent_;
     Appearance desktop_;
-    app::BarAppearance bars_;
+    app::BarColors bars_;
 };
 
 } // namespace lumora::qt

@@ -30,7 +30,7 @@ void settle(const Place& place, const std::filesystem::path& state)
     }
 }
 
-/// The sound server may be one that knows the person by it.
+/// A sound server may ask for the cookie that is in this file.
 bool hasSoundCookie()
 {
     const auto config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);

@@ -26,8 +26,8 @@ const QString kEmailPortal = QStringLiteral("org.freedesktop.portal.Email");
 const QString kMailProgram = QStringLiteral("xdg-email");
 /// From this version on the portal takes several addresses.
 constexpr uint kManyAddresses = 3;
-/// A mail program that is still there by then has taken the message: some let
-/// who started them wait until their window closes.
+/// A mail program that still runs after this time has taken the message: some
+/// run until their window is closed.
 constexpr std::chrono::seconds kHandOverTime{3};
 
 MailComposeResult resultOf(portal::Answer answer)

@@ -21,7 +21,7 @@ struct InstanceRequest {
     /// A shortcut's type.
     std::optional<QString> shortcut;
     QStringList links;
-    /// The desktop's leave to take the keyboard; may be empty.
+    /// The desktop's permission to take the keyboard focus; may be empty.
     QString activationToken;
 };
 

@@ -51,7 +51,7 @@ TerminationSignals::TerminationSignals()
     for (const int signal : kSignals) {
         struct sigaction before = {};
         ::sigaction(signal, nullptr, &before);
-        // Whoever started the program may have it live on, as nohup does.
+        // A signal that is ignored stays ignored: nohup relies on that.
         if (before.sa_handler != SIG_IGN) {
             ::sigaction(signal, &handling, nullptr);
         }

@@ -58,7 +58,7 @@ std::string QtDevice::systemVersion() const
 std::string QtDevice::regionCode() const
 {
     const auto code = toUtf8(QLocale::territoryToCode(QLocale::system().territory()));
-    // The "C" locale is at home nowhere.
+    // The "C" locale has no country.
     return code.size() == 2 ? code : std::string{};
 }
 

@@ -59,8 +59,8 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// Asked for by a controller in the middle of answering the model, it
-    /// waits for the end of the answer.
+    /// Called by the controller while the model is calling it, the reload waits
+    /// until that call has returned.
     void reloadData();
     void loadIfNeeded();
 

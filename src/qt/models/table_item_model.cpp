@@ -24,13 +24,13 @@ std::optional<QString> optionalText(const std::optional<std::string>& text)
     return text ? std::optional{toQString(*text)} : std::nullopt;
 }
 
-/// Marks the time in which the controller answers a question about a row.
-class AnsweringScope {
+/// Counts a call to the controller while it runs.
+class SourceCall {
 public:
-    explicit AnsweringScope(int& depth) : depth_{depth} { ++depth_; }
-    ~AnsweringScope() { --depth_; }
-    AnsweringScope(const AnsweringScope&) = delete;
-    AnsweringScope& operator=(const AnsweringScope&) = delete;
+    explicit SourceCall(int& depth) : depth_{depth} { ++depth_; }
+    ~SourceCall() { --depth_; }
+    SourceCall(const SourceCall&) = delete;
+    SourceCall& operator=(const SourceCall&) = delete;
 
 private:
     int& depth_;
@@ -91,14 +91,14 @@ QVariant TableItemModel::canEdit(int row) const
     if (!path || stale_) {
         return false;
     }
-    const AnsweringScope guard{answering_};
+    const SourceCall guard{sourceCalls_};
     return source_.canEditRow(*path);
 }
 
 const TableCell& TableItemModel::cell(IndexPath path) const
 {
     if (!cell_ || cellPath_ != path) {
-        const AnsweringScope guard{answering_};
+        const SourceCall guard{sourceCalls_};
         cell_ = source_.cellForRow(path);
         cellPath_ = path;
     }
@@ -111,7 +111,7 @@ void TableItemModel::reloadData()
         loadAgain_ = true;
         return;
     }
-    if (answering_ > 0) {
+    if (sourceCalls_ > 0) {
         QMetaObject::invokeMethod(this, &TableItemModel::reloadData, Qt::QueuedConnection);
         return;
     }

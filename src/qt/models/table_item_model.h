@@ -84,8 +84,8 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// Asked for by a controller in the middle of answering the model, it
-    /// waits for the end of the answer.
+    /// Called by the controller while the model is calling it, the reload waits
+    /// until that call has returned.
     void reloadData();
     /// The first load, for a controller that never asked for one.
     void loadIfNeeded();
@@ -120,7 +120,7 @@ public:
     Q_INVOKABLE void triggerAction(int row, int action);
 
     Q_INVOKABLE void tap(int row);
-    /// A finger stays on the row.
+    /// A long press on the row.
     Q_INVOKABLE void hold(int row);
     Q_INVOKABLE void tapAccessory(int row);
     Q_INVOKABLE void toggleSwitch(int row, bool on);
@@ -183,7 +183,8 @@ private:
     /// The rows are those of before the controller changed: it is not asked
     /// about them any more.
     bool stale_ = false;
-    mutable int answering_ = 0;
+    /// How many calls to the controller are under way.
+    mutable int sourceCalls_ = 0;
     /// Counts the reloads, so that a late completion hides no new row.
     int generation_ = 0;
 };

@@ -89,7 +89,7 @@ void QtPreview::open()
     const auto opened = destination_;
     const auto verb = controller_;
     auto* split = split_;
-    // Its end as a preview and its beginning as a screen are two appearances.
+    // The screen disappears as a preview, then appears in its place.
     close();
     if (opened && split != nullptr) {
         verb->isPeeking = false;

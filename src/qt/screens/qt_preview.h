@@ -25,7 +25,7 @@ class VerbDetailTableViewController;
 namespace lumora::qt {
 
 /// A verb shown small over the list it was held in, with what its row offers,
-/// until the user opens it or lets it go. Belongs to the presenter; the window
+/// until the user opens it or closes it. Belongs to the presenter; the window
 /// wraps its screen. GUI thread only.
 class QtPreview final : public QObject {
     Q_OBJECT
@@ -48,13 +48,13 @@ public:
     void setScreen(Screen* screen);
 
     Screen* screen() const { return screen_; }
-    /// What swiping the verb's row offers: maps as the table's model makes them.
+    /// What swiping the verb's row offers, as SwipeOffer.
     QVariantList actions() const;
 
     /// Takes the verb to where a tap on its row would have.
     Q_INVOKABLE void open();
     Q_INVOKABLE void close();
-    /// Lets the verb go and does one of the actions.
+    /// Closes the preview and does one of the actions.
     Q_INVOKABLE void trigger(int action);
 
 signals:

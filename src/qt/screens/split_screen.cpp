@@ -184,7 +184,7 @@ void SplitScreen::synchronize()
         const auto children = registry_.screenFor(controller)->visibleChildren();
         withChildren.insert(withChildren.end(), children.begin(), children.end());
     }
-    appearances_.setVisible(std::move(withChildren));
+    visibility_.setVisible(std::move(withChildren));
 
     primary_ = screens[0];
     secondary_ = screens[1];

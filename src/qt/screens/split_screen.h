@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/screens/appearance_tracker.h"
 #include "platform/screens/split_view_controller.h"
+#include "platform/screens/visibility_tracker.h"
 #include "qt/screens/screen_registry.h"
 
 #include <QList>
@@ -78,7 +78,7 @@ private:
     ModalStack& modals_;
     QtPreview& preview_;
     ScreenRegistry registry_;
-    platform::AppearanceTracker appearances_;
+    platform::VisibilityTracker visibility_;
     QList<QObject*> primary_;
     QList<QObject*> secondary_;
     std::vector<std::weak_ptr<platform::ViewController>> listenedStacks_;

@@ -42,9 +42,9 @@ public:
     bool enabled = false;
 };
 
-/// The ways out for one thing at a time: the offers, and then which printer to
-/// take. QML shows it and says what was chosen. GUI thread
-/// only; printers are talked to on a thread of their own.
+/// The share sheet: first the ways to share, then, for printing, the printers.
+/// QML shows it and says what was chosen. GUI thread only; printers are asked
+/// on a thread of their own.
 class QtShareSheet final : public QObject,
                            public platform::ShareSheet,
                            public platform::MailComposerDelegate {

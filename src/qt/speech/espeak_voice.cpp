@@ -19,7 +19,7 @@ namespace lumora::qt {
 
 namespace {
 
-/// Slower would be no speech any more, and no end of samples.
+/// Slower is no speech any more, and would take far too many samples.
 constexpr float kSlowestRate = platform::kDefaultSpeechRate / 10;
 constexpr float kSlowestOfEngine = espeakRATE_MINIMUM;
 constexpr float kFastestRate = espeakRATE_MAXIMUM;

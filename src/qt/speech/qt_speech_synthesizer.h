@@ -37,7 +37,7 @@ public:
     bool isSpeaking() const override { return current_ != nullptr; }
 
 private:
-    /// Everything of the utterance being spoken; gone, nothing of it is left.
+    /// All that belongs to the utterance being spoken, ended together.
     struct Current;
 
     void begin(platform::Result<Speech> speech);

@@ -28,7 +28,7 @@ class SpeechEngine final : public QObject {
 public:
     using Done = std::function<void(platform::Result<Speech>)>;
 
-    /// Work under way. Gone, it is cancelled and `done` not called any more.
+    /// Work under way. Its destruction cancels it; `done` is not called then.
     class Request {
     public:
         Request(const Request&) = delete;

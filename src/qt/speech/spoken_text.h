@@ -15,7 +15,7 @@ namespace lumora::qt {
 
 /// An utterance as the voice gets it: words whose sounds are known as phonemes
 /// in double brackets, the others as they are written. Endings in brackets, as
-/// in "allé(e)(s)", are for the eye: they are left out. Places in what is spoken
+/// in "allé(e)(s)", are not spoken: they are left out. Places in what is spoken
 /// are led back to the written text. All places count characters.
 ///
 /// Words without a sign between them, as in "j'aime", are spoken as one.

@@ -19,7 +19,7 @@ namespace lumora::qt {
 
 namespace {
 
-constexpr int kPatience = 5000;
+constexpr int kLongestWaitMilliseconds = 5000;
 constexpr int kStep = 10;
 /// Long enough for every animation of ours.
 constexpr int kSettleMilliseconds = 600;
@@ -133,7 +133,7 @@ void WindowDriver::wait(int milliseconds)
 bool WindowDriver::waitUntil(const std::function<bool()>& condition)
 {
     for (int waited = 0; !condition(); waited += kStep) {
-        if (waited > kPatience) {
+        if (waited > kLongestWaitMilliseconds) {
             return false;
         }
         wait(kStep);
@@ -149,7 +149,7 @@ bool WindowDriver::waitForFrame() const
         drawn = true;
         loop.quit();
     });
-    QTimer::singleShot(kPatience, &loop, &QEventLoop::quit);
+    QTimer::singleShot(kLongestWaitMilliseconds, &loop, &QEventLoop::quit);
     window_.update();
     loop.exec();
     return drawn;

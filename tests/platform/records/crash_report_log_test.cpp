@@ -81,7 +81,7 @@ TEST(CrashReportLog, AnEntryStaysOneLineOfBoundedLength)
     EXPECT_TRUE(content.ends_with("é\n")) << "cut inside a character";
 }
 
-TEST(CrashReportLog, AFolderThatCannotBeMadeIsSilence)
+TEST(CrashReportLog, AFolderThatCannotBeMadeEndsTheLogAndNotTheProgram)
 {
     const TemporaryFolder folder;
     writeContent(folder / "plain", "as it was");

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/screens/appearance_tracker.h"
 #include "platform/screens/navigation_controller.h"
 #include "platform/screens/split_view_controller.h"
+#include "platform/screens/visibility_tracker.h"
 
 #include <gtest/gtest.h>
 
@@ -82,9 +82,9 @@ using Panes = std::vector<ViewController*>;
 
 } // namespace
 
-TEST_F(Screens, AppearanceGoesToTheDifferenceAlone)
+TEST_F(Screens, TellsOnlyScreensThatComeOrGo)
 {
-    AppearanceTracker tracker;
+    VisibilityTracker tracker;
     const auto list = screen("list");
     const auto verb = screen("verb");
 
@@ -102,7 +102,7 @@ TEST_F(Screens, AppearanceGoesToTheDifferenceAlone)
 
 TEST_F(Screens, AScreenMayDieOrChangeTheViewWhileItIsTold)
 {
-    AppearanceTracker tracker;
+    VisibilityTracker tracker;
     auto list = screen("list");
     auto verb = screen("verb");
     const auto settings = screen("settings");

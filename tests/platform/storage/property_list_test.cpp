@@ -118,7 +118,7 @@ TEST(PropertyList, AnythingButADictionaryIsNone)
     }
 }
 
-TEST(PropertyList, StandsAZeroInAKeyAndFollowsNoEntity)
+TEST(PropertyList, AcceptsANulInAKeyAndResolvesNoEntity)
 {
     std::string binary = binaryOf(kDocument);
     // Two units of UTF-16 in the place of six bytes: a NUL in a key.

@@ -180,12 +180,12 @@ TEST_F(RunningProgram, ASupportEmailEndsAsThePortalSays)
     ASSERT_TRUE(until([this] { return application->isLaunched(); }));
     const StandInPortal portal{
         bus, {.versions = {{QStringLiteral("org.freedesktop.portal.Email"), 3}}, .response = 2}};
-    // Word of the portal gets around.
+    // The program has time to notice the portal.
     QTest::qWait(500);
     dynamic_cast<navigation::HomeViewController&>(*home()->controller()).contactSupport();
 
     auto& presenter = application->presenter();
-    // Said twice, seen once.
+    // The same message twice is shown once.
     ASSERT_TRUE(until([&] { return presenter.asking(); }));
     EXPECT_EQ(presenter.questionTitle(), QStringLiteral("export.email.error"));
     presenter.answer(0);

@@ -196,42 +196,42 @@ TEST_F(WindowTest, AQuestionBlocksTheScreenUntilItIsAnswered)
 }
 
 /// Writes down when it comes and goes.
-class Diarist final : public platform::ViewController {
+class LifecycleLog final : public platform::ViewController {
 public:
-    Diarist(std::string name, std::string& diary) : name_{std::move(name)}, diary_{diary} {}
-    void viewDidAppear() override { diary_ += name_ + "+ "; }
-    void viewDidDisappear() override { diary_ += name_ + "- "; }
+    LifecycleLog(std::string name, std::string& calls) : name_{std::move(name)}, calls_{calls} {}
+    void viewDidAppear() override { calls_ += name_ + "+ "; }
+    void viewDidDisappear() override { calls_ += name_ + "- "; }
 
 private:
     std::string name_;
-    std::string& diary_;
+    std::string& calls_;
 };
 
 TEST_F(WindowTest, AModalHidesWhatIsBelowOnAPhoneAndGoesBeforeAnythingElseIsDone)
 {
     start({390, 844});
-    std::string diary;
-    const auto lower = std::make_shared<Diarist>("lower", diary);
-    const auto upper = std::make_shared<Diarist>("upper", diary);
+    std::string calls;
+    const auto lower = std::make_shared<LifecycleLog>("lower", calls);
+    const auto upper = std::make_shared<LifecycleLog>("upper", calls);
     auto& presenter = application->presenter();
     presenter.present(*lower, lower);
     presenter.present(*lower, upper);
-    EXPECT_EQ(diary, "lower+ lower- upper+ ");
+    EXPECT_EQ(calls, "lower+ lower- upper+ ");
 
     turn({1024, 768});
-    EXPECT_EQ(diary, "lower+ lower- upper+ lower+ ");
+    EXPECT_EQ(calls, "lower+ lower- upper+ lower+ ");
 
-    diary.clear();
-    presenter.dismiss(*upper, [&] { diary += "done "; });
-    EXPECT_EQ(diary, "") << "it is still on its way out";
-    EXPECT_TRUE(until([&] { return diary == "upper- done "; })) << diary;
+    calls.clear();
+    presenter.dismiss(*upper, [&] { calls += "done "; });
+    EXPECT_EQ(calls, "") << "it is still on its way out";
+    EXPECT_TRUE(until([&] { return calls == "upper- done "; })) << calls;
     EXPECT_EQ(presenter.modals()->count(), 1);
 
     // The lower one takes along what is above it.
-    diary.clear();
+    calls.clear();
     presenter.present(*lower, upper);
-    presenter.dismiss(*lower, [&] { diary += "done "; });
-    EXPECT_TRUE(until([&] { return diary.ends_with("done "); })) << diary;
+    presenter.dismiss(*lower, [&] { calls += "done "; });
+    EXPECT_TRUE(until([&] { return calls.ends_with("done "); })) << calls;
     EXPECT_EQ(presenter.modals()->count(), 0);
 }
 

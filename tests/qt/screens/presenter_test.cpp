@@ -4,7 +4,7 @@
 #include "qt/screens/qt_presenter.h"
 
 #include "app/main_storyboard.h"
-#include "support/fake_ways_out.h"
+#include "support/fake_share_and_mail.h"
 
 #include <QCoreApplication>
 

@@ -4,7 +4,7 @@
 import QtQuick
 import Lumora
 
-// A way out of the program, named by where it leads.
+// A button that opens an address outside the program, and shows it.
 TouchButton {
     id: root
 

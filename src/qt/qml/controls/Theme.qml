@@ -61,7 +61,7 @@ QtObject {
     readonly property int body: Math.round(17 * textScale)
     readonly property int title: Math.round(18 * textScale)
     readonly property int headline: Math.round(22 * textScale)
-    // Bars have only so much room.
+    // Bars have a fixed height, so their text grows less.
     readonly property real barScale: Math.min(textScale, 1.4)
 
     readonly property int gap: 8

@@ -4,7 +4,7 @@
 import QtQuick
 import Lumora
 
-// The program's icon, name and copyright, and the ways to its makers.
+// The program's icon, name and copyright, and the links to its makers.
 Column {
     id: root
 

@@ -22,7 +22,8 @@ ScreenPage {
         list.header: AboutHeader {
             width: ListView.view.width
             options: root.options
-            // It grows into its size.
+            // Its height is known only after the first layout: start at the top
+            // then.
             onHeightChanged: if (!content.list.moved)
                 content.list.positionViewAtBeginning()
         }

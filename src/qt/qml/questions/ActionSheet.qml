@@ -15,7 +15,7 @@ Question {
     property rect anchor
     readonly property bool fitsBelow: anchor.y + anchor.height + Theme.gap + card.height <= height - Theme.gap
     readonly property bool fitsAbove: anchor.y - Theme.gap - card.height >= Theme.gap
-    // On a rising sheet the way out stands apart.
+    // On a rising sheet the button that cancels stands apart.
     readonly property int cancelIndex: popover ? -1 : presenter.cancelIndex
 
     function findAnchor() {

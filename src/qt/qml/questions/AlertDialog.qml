@@ -4,8 +4,7 @@
 import QtQuick
 import Lumora
 
-// A question in the middle of the window. It wants an answer: a tap beside it is
-// none.
+// A question in the middle of the window. A tap beside it does not answer it.
 Question {
     id: root
 

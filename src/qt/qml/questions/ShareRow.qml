@@ -4,7 +4,7 @@
 import QtQuick
 import Lumora
 
-// One way out, with the reason below it when it is closed.
+// One way to share, with the reason below it where it cannot be chosen.
 TouchButton {
     id: root
 

@@ -4,7 +4,7 @@
 import QtQuick
 import Lumora
 
-// The ways out for a verb: rising from the bottom of a narrow window, beside
+// The ways to share a verb: rising from the bottom of a narrow window, beside
 // the bar button on a wide one.
 Question {
     id: root

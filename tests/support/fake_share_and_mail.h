@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-/// The ways out of the program, which lead nowhere here.
+/// Sharing, mail, links and files, of which nothing leaves the test.
 namespace lumora::support {
 
 class FakeUrlOpener final : public platform::UrlOpener {

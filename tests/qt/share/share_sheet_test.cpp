@@ -13,7 +13,7 @@
 #include "qt/share/saved_file.h"
 #include "support/environment_variable.h"
 #include "support/fake_presenter.h"
-#include "support/fake_ways_out.h"
+#include "support/fake_share_and_mail.h"
 #include "support/window_fixture.h"
 
 #include <QAbstractTextDocumentLayout>

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/screens/appearance_tracker.h"
+#include "platform/screens/visibility_tracker.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace lumora::platform {
 
-void AppearanceTracker::setVisible(Screens visible)
+void VisibilityTracker::setVisible(Screens visible)
 {
     next_ = std::move(visible);
     waiting_ = true;
@@ -22,7 +22,7 @@ void AppearanceTracker::setVisible(Screens visible)
     telling_ = false;
 }
 
-void AppearanceTracker::change(const Screens& visible)
+void VisibilityTracker::change(const Screens& visible)
 {
     Screens before;
     for (const auto& known : visible_) {

@@ -13,7 +13,7 @@ namespace lumora::platform {
 /// Tells screens when they come and go. The window says after every change
 /// which screens are on show; those gone hear of it first, then each new one
 /// is loaded and told. GUI thread only.
-class AppearanceTracker {
+class VisibilityTracker {
 public:
     using Screens = std::vector<std::shared_ptr<ViewController>>;
 

@@ -70,7 +70,7 @@ bool ends(const Outcome& outcome)
     return until([&] { return outcome.result.has_value(); });
 }
 
-/// Programs of the desktop that write down how they were called.
+/// Programs of the desktop that record how they were called.
 struct Programs {
     explicit Programs(const char* name, int status)
     {
