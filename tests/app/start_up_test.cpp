@@ -1,119 +1,25 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/app_delegate.h"
-#include "app/database_preparation.h"
-#include "app/old_settings_file.h"
+#include "app/start_up_fixture.h"
+
 #include "app/rescue_file.h"
-#include "detail/verb_detail_table_view_controller.h"
-#include "navigation/home_view_controller.h"
 #include "platform/files/folder_lock.h"
-#include "platform/screens/navigation_controller.h"
 #include "platform/storage/file_settings_store.h"
-
-#include "support/world.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <future>
 
-namespace lumora {
+// The database and the settings of a start.
+namespace lumora::app {
 namespace {
 
-using app::AppDelegate;
 using support::contentOf;
 using support::rowsOf;
-using support::World;
 using support::writeContent;
 using testing::ElementsAre;
 using testing::StartsWith;
 
 constexpr const char* kReadingFailed = "An error occurred when reading migration settings: ";
-
-/// A machine on which the program is about to start, again and again.
-class StartUp : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        std::filesystem::create_directory(documents);
-        support::writeSmallDatabase(resource);
-        world.bundle.resources["verbs.db"] = resource;
-        world.bundle.info["CFBundleShortVersionString"] = "2.0";
-    }
-
-    platform::Result<void> prepare()
-    {
-        return app::prepareDatabase(documents, world.bundle, world.settings, world.crashReporter);
-    }
-
-    /// The working database as another version left it.
-    void installOld(const std::string& favourites, const std::string& history,
-                    const std::string& version = "1.0")
-    {
-        support::writeSmallDatabase(database);
-        const auto queue = open();
-        if (!favourites.empty()) {
-            support::executeOn(*queue, "INSERT INTO favourite(verbid) VALUES " + favourites);
-        }
-        if (!history.empty()) {
-            support::executeOn(*queue, "INSERT INTO history(verbid, timestamp) VALUES " + history);
-        }
-        support::executeOn(*queue, "CREATE TABLE old(x)");
-        world.settings.setValue(version, "installed_version");
-    }
-
-    std::unique_ptr<platform::DatabaseQueue> open() const
-    {
-        return platform::DatabaseQueue::open(platform::fileUrl(database));
-    }
-
-    /// "favourites | history" of the working database, in row order.
-    std::string userRows() const
-    {
-        std::string text;
-        for (const auto& verb : rowsOf(*open(), "SELECT verbid FROM favourite")) {
-            text += verb + " ";
-        }
-        text += "|";
-        for (const auto& view : rowsOf(*open(), "SELECT verbid || '@' || timestamp FROM history")) {
-            text += " " + view;
-        }
-        return text;
-    }
-
-    bool isFresh() const
-    {
-        return rowsOf(*open(), "SELECT name FROM sqlite_master WHERE name = 'old'").empty();
-    }
-
-    AppDelegate makeDelegate()
-    {
-        AppDelegate delegate{world.services(), {documents, documents.string()}, {0, 0, 1, 1}};
-        delegate.window.rootViewController = world.storyboard.instantiateInitialViewController();
-        return delegate;
-    }
-    static platform::SplitViewController& splitOf(const AppDelegate& delegate)
-    {
-        return dynamic_cast<platform::SplitViewController&>(*delegate.window.rootViewController);
-    }
-    static platform::NavigationController& stackOf(const AppDelegate& delegate)
-    {
-        return dynamic_cast<platform::NavigationController&>(
-            *splitOf(delegate).viewControllers().front());
-    }
-    static navigation::HomeViewController& homeOf(const AppDelegate& delegate)
-    {
-        return dynamic_cast<navigation::HomeViewController&>(
-            *stackOf(delegate).topViewController());
-    }
-
-    World world;
-    std::filesystem::path documents = world.folder / "documents";
-    std::filesystem::path database = documents / "verbs.db";
-    std::filesystem::path rescue = documents / "rescue.json";
-    std::filesystem::path resource = world.folder / "resource.db";
-};
 
 TEST_F(StartUp, ReplacesTheDatabaseExactlyWhenItIsMissingOrOfAnotherVersion)
 {
@@ -181,8 +87,7 @@ TEST_F(StartUp, ASecondStartWaitsForTheFirstAndLetsItsDatabaseBe)
     platform::FileSettingsStore first{file};
     platform::FileSettingsStore second{file};
     const auto start = [&](platform::SettingsStore& settings) {
-        return app::prepareDatabase(documents, world.bundle, settings, world.crashReporter)
-            .has_value();
+        return prepareDatabase(documents, world.bundle, settings, world.crashReporter).has_value();
     };
     std::future<bool> waiting;
     {
@@ -337,7 +242,7 @@ TEST_F(StartUp, GoesOnBesideHalfACopyAndAJournalOfAnotherDatabase)
     for (const bool oldThere : {true, false}) {
         SCOPED_TRACE(oldThere);
         std::filesystem::remove(database);
-        ASSERT_TRUE(app::RescueFile{rescue}.write({{3, 2}, {{1, 5}, {2, 6}}}));
+        ASSERT_TRUE(RescueFile{rescue}.write({{3, 2}, {{1, 5}, {2, 6}}}));
         if (oldThere) {
             installOld("(3), (2)", "(1, 5), (2, 6)");
         }
@@ -357,7 +262,7 @@ TEST_F(StartUp, GoesOnBesideHalfACopyAndAJournalOfAnotherDatabase)
 TEST_F(StartUp, AVerbViewedSinceIsNotPutBackToItsOldTime)
 {
     installOld("", "(1, 5.25)", "2.0");
-    ASSERT_TRUE(app::RescueFile{rescue}.write({{}, {{1, 5}, {2, 6}}}));
+    ASSERT_TRUE(RescueFile{rescue}.write({{}, {{1, 5}, {2, 6}}}));
 
     ASSERT_TRUE(prepare());
 
@@ -370,7 +275,7 @@ TEST_F(StartUp, AHistoryThatCannotBeAskedIsNotTakenForNeverViewed)
     support::executeOn(*open(), "DROP TABLE history");
     support::executeOn(*open(), "CREATE VIEW history AS SELECT 1 AS _id, verb._id AS verbid, "
                                 "abs(-9223372036854775807 - verb._id) AS timestamp FROM verb");
-    ASSERT_TRUE(app::RescueFile{rescue}.write({{}, {{1, 5}}}));
+    ASSERT_TRUE(RescueFile{rescue}.write({{}, {{1, 5}}}));
 
     ASSERT_TRUE(prepare());
 
@@ -450,219 +355,5 @@ TEST_F(StartUp, AFirstStartWritesFiveSettingsAndTheVersion)
     EXPECT_EQ(world.settings.stringForKey("SearchFrom"), "W");
 }
 
-std::string plist(const std::string& entries)
-{
-    return R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0"><dict>)" + entries +
-           "</dict></plist>";
-}
-
-TEST_F(StartUp, CarriesOldSettingsOverOnceAndByKind)
-{
-    const struct {
-        const char* why;
-        std::string content;
-        platform::SettingsStore::Values carried;
-    } cases[] = {
-        {"all four",
-         plist("<key>IncludeEnglish</key><false/><key>SearchFrom</key><string>W</string>"
-               "<key>SearchConjugations</key><integer>1</integer>"
-               "<key>SortByLang</key><real>0.5</real><key>Other</key><true/>"),
-         {{"IncludeEnglish", false},
-          {"SearchFrom", std::string{"W"}},
-          {"SearchConjugations", true},
-          {"SortByLang", true}}},
-        {"wrong kinds are skipped",
-         plist("<key>SearchFrom</key><integer>1</integer><key>IncludeEnglish</key>"
-               "<string>YES</string><key>SortByLang</key><integer>0</integer>"),
-         {{"SortByLang", false}}},
-        {"an array is no dictionary",
-         R"(<?xml version="1.0"?><plist version="1.0"><array/></plist>)",
-         {}},
-        {"no property list", "IncludeEnglish=1", {}},
-        {"empty", "", {}},
-    };
-    const auto file = documents / "lumora.plist";
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.why);
-        World fresh;
-        writeContent(file, c.content);
-
-        app::carryOverOldSettings(documents.string(), fresh.settings, fresh.crashReporter);
-
-        EXPECT_EQ(fresh.settings.values(), c.carried);
-        EXPECT_FALSE(std::filesystem::exists(file));
-        EXPECT_TRUE(fresh.crashReporter.lines.empty());
-    }
-}
-
-TEST_F(StartUp, ReadsTheDocumentsPathAsUrlText)
-{
-    const auto blank = world.folder / "with blank";
-    const auto percent = world.folder / "a%62c";
-    const auto decoded = world.folder / "abc";
-    for (const auto& folder : {blank, percent, decoded}) {
-        std::filesystem::create_directory(folder);
-        writeContent(folder / "lumora.plist", plist("<key>SortByLang</key><false/>"));
-    }
-
-    app::carryOverOldSettings(blank.string(), world.settings, world.crashReporter);
-    app::carryOverOldSettings(std::nullopt, world.settings, world.crashReporter);
-    EXPECT_TRUE(world.settings.values().empty()) << "a blank makes no valid URL";
-    EXPECT_TRUE(std::filesystem::exists(blank / "lumora.plist"));
-
-    app::carryOverOldSettings(percent.string(), world.settings, world.crashReporter);
-    EXPECT_FALSE(std::filesystem::exists(decoded / "lumora.plist"));
-}
-
-TEST_F(StartUp, AnOldSettingsFileThatCannotBeDeletedIsReported)
-{
-    std::filesystem::create_directories(documents / "lumora.plist" / "x");
-
-    app::carryOverOldSettings(documents.string(), world.settings, world.crashReporter);
-
-    EXPECT_THAT(world.crashReporter.lines,
-                ElementsAre("Unable to delete file. Will try again later. %@"));
-}
-
-TEST_F(StartUp, AShortcutOpensItsTab)
-{
-    const struct {
-        const char* type;
-        navigation::Tab tab;
-        int posts;
-    } cases[] = {
-        {"com.brindle.shortcut.favourite", navigation::Tab::Favourites, 1},
-        {"com.brindle.shortcut.history", navigation::Tab::History, 1},
-        {"com.brindle.shortcut.list", navigation::Tab::List, 1},
-        {"com.brindle.shortcut.search", navigation::Tab::List, 0},
-        {"com.brindle.shortcut.other", navigation::Tab::List, 0},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.type);
-        world.posted.clear();
-        auto delegate = makeDelegate();
-
-        EXPECT_FALSE(delegate.didFinishLaunching({app::ShortcutItem{c.type}}));
-
-        EXPECT_EQ(world.posted["TabOpenEvent"], c.posts);
-        EXPECT_EQ(homeOf(delegate).tabBar.selectedItem, c.tab);
-        bool success = false;
-        delegate.performActionForShortcutItem({c.type}, [&](bool done) { success = done; });
-        EXPECT_TRUE(success);
-    }
-}
-
-TEST_F(StartUp, TheSearchShortcutComesBackToTheListAndFocusesTheField)
-{
-    world.device.tablet = true;
-    auto delegate = makeDelegate();
-    delegate.didFinishLaunching({});
-    auto& split = splitOf(delegate);
-    auto& stack = stackOf(delegate);
-    auto& home = homeOf(delegate);
-    home.loadViewIfNeeded();
-    const app::ShortcutItem search{"com.brindle.shortcut.search"};
-
-    delegate.performActionForShortcutItem(search, [](bool) {});
-    world.clock.advance(std::chrono::milliseconds{200});
-    EXPECT_FALSE(home.searchBar.isFirstResponder) << "two panes: nothing happens";
-
-    split.setCollapsed(true);
-    split.showDetailViewController(world.storyboard.instantiateDestination("showDetail"));
-    ASSERT_EQ(stack.viewControllers().size(), 2U);
-    delegate.performActionForShortcutItem(search, [](bool) {});
-    EXPECT_EQ(stack.viewControllers().size(), 1U);
-    EXPECT_FALSE(home.searchBar.isFirstResponder);
-    world.clock.advance(std::chrono::milliseconds{100});
-    EXPECT_TRUE(home.searchBar.isFirstResponder);
-}
-
-TEST_F(StartUp, ALinkOpensItsVerbOverTheListOrSaysThatThereIsNone)
-{
-    auto delegate = makeDelegate();
-    delegate.didFinishLaunching({});
-    splitOf(delegate).showDetailViewController(
-        world.storyboard.instantiateDestination("showDetail"));
-
-    delegate.openLink("lumora://verb/%C3%A9vanouir");
-
-    EXPECT_EQ(stackOf(delegate).viewControllers().size(), 1U) << "what was open has gone";
-    ASSERT_NE(world.shownDetail(), nullptr);
-    EXPECT_EQ(world.shownDetail()->selectedVerb->french, "évanouir (s')");
-    EXPECT_EQ(world.shownDetail()->queue, delegate.queue.get());
-
-    delegate.openLink("lumora://verb/alller");
-    delegate.openLink("lumora://aller");
-    ASSERT_EQ(world.presenter.alerts.size(), 2U);
-    EXPECT_EQ(world.presenter.alerts[0].alert.message, "link.unknown");
-    EXPECT_EQ(world.presenter.alerts[1].alert.message, "link.malformed");
-    EXPECT_EQ(world.presenter.segues.size(), 1U);
-}
-
-TEST_F(StartUp, ALinkToVerbsOfOneNameOpensTheCommonerAndOffersTheOther)
-{
-    auto delegate = makeDelegate();
-    delegate.didFinishLaunching({});
-    for (const char* sql : {
-             "INSERT INTO verb(_id, french, english) VALUES (7, 'monter', 'take up'),"
-             " (8, 'monter', 'go up')",
-             "INSERT INTO verb_facts(verbid, auxiliary, use_class) VALUES (7, 'avoir', 2),"
-             " (8, 'être', 1)",
-         }) {
-        support::executeOn(*delegate.queue, sql);
-    }
-
-    delegate.openLink("lumora://verb/monter");
-
-    EXPECT_EQ(world.shownDetail()->selectedVerb->id, 8);
-    ASSERT_EQ(world.presenter.alerts.size(), 1U);
-    const auto& alert = world.presenter.alerts[0].alert;
-    EXPECT_EQ(alert.title, "monter");
-    EXPECT_EQ(alert.message, "link.homographs");
-    ASSERT_EQ(alert.actions.size(), 2U);
-    EXPECT_EQ(alert.actions[0].title, "take up");
-    alert.actions[0].handler();
-    EXPECT_EQ(world.shownDetail()->selectedVerb->id, 7);
-    EXPECT_EQ(world.presenter.alerts.size(), 1U);
-
-    world.settings.setValue(std::string{"fr"}, "translation_language");
-    delegate.openLink("lumora://verb/monter");
-    EXPECT_EQ(world.presenter.alerts.at(1).alert.actions[0].title, "monter (avoir)");
-}
-
-TEST_F(StartUp, ANarrowWindowDropsOnlyAnEmptyDetailScreen)
-{
-    auto delegate = makeDelegate();
-    delegate.didFinishLaunching({});
-    const auto stackWith = [&](data::VerbPtr verb) {
-        auto stack = std::dynamic_pointer_cast<platform::NavigationController>(
-            world.storyboard.instantiateDestination("showDetail"));
-        dynamic_cast<detail::VerbDetailTableViewController&>(*stack->topViewController())
-            .selectedVerb = std::move(verb);
-        return stack;
-    };
-    platform::NavigationController primary{stackWith(nullptr)};
-    const auto collapses = [&](platform::ViewController& secondary) {
-        return delegate.collapseSecondaryViewControllerOntoPrimary(secondary, primary);
-    };
-    platform::NavigationController home{
-        world.storyboard.instantiateViewController("VerbListTableViewController")};
-    platform::NavigationController none{stackWith(nullptr)};
-    none.setViewControllers({});
-
-    EXPECT_TRUE(collapses(*stackWith(nullptr)));
-    EXPECT_FALSE(collapses(*stackWith(world.verb(3))));
-    EXPECT_FALSE(collapses(home));
-    EXPECT_FALSE(collapses(none));
-    EXPECT_FALSE(collapses(*home.topViewController()));
-}
-
-TEST_F(StartUp, AnotherRootThanASplitViewStopsTheProgram)
-{
-    auto delegate = makeDelegate();
-    delegate.window.rootViewController = world.storyboard.instantiateDestination("showDetail");
-    EXPECT_DEATH(delegate.didFinishLaunching({}), "not a split view");
-}
-
 } // namespace
-} // namespace lumora
+} // namespace lumora::app
