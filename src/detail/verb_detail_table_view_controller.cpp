@@ -21,6 +21,8 @@
 #include "settings/view_memory.h"
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <ostream>
 #include <utility>
 
@@ -139,15 +141,22 @@ void VerbDetailTableViewController::showVerb()
         return;
     }
     record_.countView();
-    if (queue != nullptr) {
-        queue->inDatabase([this](platform::Database& database) {
-            if (!data::loadConjugations(database, *selectedVerb) ||
-                !record_.recordHistory(database, selectedVerb->id)) {
-                logReadingError(database);
-            }
-        });
-    }
+    sharedQueue().inDatabase([this](platform::Database& database) {
+        if (!data::loadConjugations(database, *selectedVerb) ||
+            !record_.recordHistory(database, selectedVerb->id)) {
+            logReadingError(database);
+        }
+    });
     data::post(services_.notifications, data::VerbViewed{selectedVerb});
+}
+
+platform::DatabaseQueue& VerbDetailTableViewController::sharedQueue() const
+{
+    if (queue == nullptr) {
+        std::fputs("lumora: a verb without the database that it comes from\n", stderr);
+        std::abort();
+    }
+    return *queue;
 }
 
 void VerbDetailTableViewController::logReadingError(const platform::Database& database)
@@ -164,11 +173,9 @@ void VerbDetailTableViewController::toggleFavourite()
     }
     selectedVerb->isFavourite = !selectedVerb->isFavourite;
     updateFavouriteIcon();
-    if (queue != nullptr) {
-        queue->inDatabase([this](platform::Database& database) {
-            data::updateFavourite(database, *selectedVerb, services_.console);
-        });
-    }
+    sharedQueue().inDatabase([this](platform::Database& database) {
+        data::updateFavourite(database, *selectedVerb, services_.console);
+    });
     data::post(services_.notifications, data::VerbFavouriteToggled{this, selectedVerb, {}});
 }
 

@@ -62,7 +62,8 @@ public:
     std::optional<double> defaultToolbarHeight;
     SelectVerbLabel selectVerbLabel;
 
-    /// The shared queue. Not owned.
+    /// The shared queue. Not owned. Null only without a verb: a verb comes from
+    /// the database, so to show or star one without a queue stops the program.
     platform::DatabaseQueue* queue = nullptr;
     data::VerbPtr selectedVerb;
     /// References to the members of the playback.
@@ -118,6 +119,7 @@ private:
     void updateNavigationItem();
     void updateEmptyState(double toolbarHeight);
     void outletsChanged();
+    platform::DatabaseQueue& sharedQueue() const;
     void logReadingError(const platform::Database& database);
     void play(const PlayableRow& row);
 

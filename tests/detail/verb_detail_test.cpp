@@ -210,6 +210,14 @@ TEST_F(VerbDetail, AFailedReadingIsLoggedAndTheListsStay)
     EXPECT_EQ(world.count("history"), 0) << "the work of the block ended";
 }
 
+TEST_F(VerbDetail, AVerbWithoutAQueueStopsTheProgram)
+{
+    VerbDetailTableViewController detail{world.services()};
+    detail.selectedVerb = aller;
+    EXPECT_DEATH(detail.loadViewIfNeeded(), "without the database");
+    EXPECT_DEATH(detail.toggleFavourite(), "without the database");
+}
+
 TEST_F(VerbDetail, TogglesTheFavouriteAndFollowsOthers)
 {
     const auto detail = open(aller);
