@@ -133,6 +133,11 @@ TEST_F(TableItemModelTest, FlattensSectionsAsTheControllerAnswers)
         model.reloadData();
         EXPECT_EQ(shown(model), c.expected);
     }
+
+    source.sections = cases[1].sections;
+    model.reloadData();
+    EXPECT_EQ(model.listRow({1, 0}), 4) << "the cell and not its header";
+    EXPECT_EQ(model.listRow({1, 1}), -1);
 }
 
 TEST_F(TableItemModelTest, TellsOneRunOfChangedRowsWithoutAReset)
