@@ -54,6 +54,7 @@ Rectangle {
         id: leading
         pronoun: root.isCell ? root.text : root.unused ? root.title + " \u2013 " + qsTrId("tense.unused") : root.title
         setting: root.setting
+        above: root.stacked
         x: Theme.margin
         y: root.fit === null ? (root.height - height) / 2 : root.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
         width: root.fit === null || root.stacked ? play.x - x : root.fit.pronounWidth
@@ -83,6 +84,7 @@ Rectangle {
         focusPolicy: Qt.NoFocus
         visible: root.isForm || !root.isCell && !root.alone
         ofTense: !root.isForm
+        objectName: root.isForm ? "play" : "playTense" + root.tense
         source: root.indicatorSource
         spoken: root.isForm ? root.accessibleName : root.title
         onClicked: {

@@ -67,6 +67,7 @@ Rectangle {
         height: label.height
         visible: !root.empty
         ofTense: true
+        objectName: "playTense" + root.index
         spoken: root.title
         onClicked: root.screen.playTense(root.index)
     }
