@@ -39,6 +39,11 @@ Rectangle {
     function adjust(step) {
         return false;
     }
+    function comeIntoSight() {
+        const list = ListView.view;
+        if (play.running && list !== null && !list.moving)
+            list.positionViewAtIndex(index, ListView.Contain);
+    }
 
     implicitHeight: isForm ? Math.max(Theme.touch + 4, leading.captionHeight + (stacked ? leading.height : 0) + form.height + 2 * 6) : Math.max(isCell ? Theme.touch + 4 : Theme.headingHeight, leading.height + 2 * 6)
     color: play.running ? Theme.pressed : isCell ? Theme.background : Theme.header
@@ -94,8 +99,8 @@ Rectangle {
                 root.screen.playTense(root.tense);
         }
         // Whoever listens to a whole tense sees what is read.
-        onRunningChanged: if (running && !(root.ListView.view?.moving ?? true))
-            root.ListView.view.positionViewAtIndex(root.index, ListView.Contain)
+        onRunningChanged: if (running)
+            Qt.callLater(root.comeIntoSight) // qmllint disable
     }
     Rectangle {
         visible: root.isCell && root.table.separators

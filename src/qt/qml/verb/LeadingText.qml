@@ -21,5 +21,4 @@ Text {
     textFormat: isHint ? Text.StyledText : Text.PlainText
     color: Theme.textSecondary
     font.italic: isHint
-    Accessible.ignored: true
 }

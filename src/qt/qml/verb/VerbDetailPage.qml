@@ -12,7 +12,7 @@ ScreenPage {
     readonly property VerbDetailScreen verb: screen as VerbDetailScreen
 
     // Squares of a fixed size need room, and texts that fit into them.
-    readonly property bool asSquares: wide && !Theme.largeText && height >= 560
+    readonly property bool asSquares: wide && (!verb.selectTextHidden || !Theme.largeText && height >= 560)
 
     barMenu: verb.selectTextHidden ? menu : null
 
