@@ -256,7 +256,7 @@ private:
         tap("bar.more");
         picture("detail-menu");
         press(Qt::Key_Escape);
-        tap("playTense");
+        tap("playTense0");
         picture("detail-reading");
         tap("stopSpeaking");
     }

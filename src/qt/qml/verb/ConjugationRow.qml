@@ -47,6 +47,11 @@ Rectangle {
     function adjust(step) {
         return false;
     }
+    function comeIntoSight() {
+        const list = ListView.view;
+        if (play.running && list !== null && !list.moving)
+            list.positionViewAtIndex(index, ListView.Contain);
+    }
 
     // Laid aside it would still be in the tree that a screen reader sees.
     ListView.onPooled: visible = false
@@ -67,6 +72,7 @@ Rectangle {
         id: leading
         pronoun: root.isCell ? root.text : root.unused ? root.title + " \u2013 " + qsTrId("tense.unused") : root.title
         setting: root.setting
+        above: root.stacked
         x: Theme.margin
         y: root.fit === null ? (root.height - height) / 2 : root.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
         width: root.fit === null || root.stacked ? play.x - x : root.fit.pronounWidth
@@ -96,6 +102,7 @@ Rectangle {
         focusPolicy: Qt.NoFocus
         visible: root.isForm || !root.isCell && !root.alone
         ofTense: !root.isForm
+        objectName: root.isForm ? "play" : "playTense" + root.tense
         source: root.indicatorSource
         spoken: root.isForm ? root.accessibleName : root.title
         onClicked: {
@@ -105,8 +112,8 @@ Rectangle {
                 root.screen.playTense(root.tense);
         }
         // Whoever listens to a whole tense sees what is read.
-        onRunningChanged: if (running && !(root.ListView.view?.moving ?? true))
-            root.ListView.view.positionViewAtIndex(root.index, ListView.Contain)
+        onRunningChanged: if (running)
+            Qt.callLater(root.comeIntoSight) // qmllint disable
     }
     Loader {
         active: root.opened

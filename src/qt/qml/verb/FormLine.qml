@@ -55,6 +55,7 @@ Rectangle {
         id: leading
         pronoun: root.line.leading
         setting: root.line.setting
+        above: root.fit.stacked
         y: root.fit.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
         width: root.fit.stacked ? play.x : root.fit.pronounWidth
         horizontalAlignment: root.fit.stacked ? Text.AlignLeft : Text.AlignRight

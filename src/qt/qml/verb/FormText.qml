@@ -15,5 +15,4 @@ Text {
     font.weight: marked ? Font.Medium : Font.DemiBold
     wrapMode: Text.Wrap
     lineHeight: lineCount > 1 ? 0.85 : 1
-    Accessible.ignored: true
 }

@@ -12,12 +12,13 @@ Text {
     required property lineSetting setting
     readonly property bool isHint: pronoun.trim() === ""
     readonly property bool hasCaption: isHint && setting.caption !== ""
-    // Of the caption above the hint.
-    readonly property real captionHeight: hasCaption ? height / 2 : 0
+    // Stands above the form rather than before it.
+    property bool above: false
+    // By how much it is higher than one line beside the form.
+    readonly property real captionHeight: hasCaption && !above ? height / 2 : 0
 
     text: !isHint ? pronoun : hasCaption ? "<b>" + setting.caption + "</b><br>" + setting.hint : setting.hint
     textFormat: isHint ? Text.StyledText : Text.PlainText
     color: Theme.textSecondary
     font.italic: isHint
-    Accessible.ignored: true
 }

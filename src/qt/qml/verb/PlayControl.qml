@@ -18,7 +18,7 @@ T.AbstractButton {
 
     implicitWidth: 30
     implicitHeight: 30
-    objectName: ofTense ? "playTense" : "play"
+    objectName: "play"
     focusPolicy: Qt.TabFocus
     opacity: down ? 0.6 : 1
     Accessible.name: ofTense ? qsTrId("action.play.tense") + ": " + spoken : qsTrId("action.play") + " " + spoken

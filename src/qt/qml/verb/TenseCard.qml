@@ -95,6 +95,7 @@ Rectangle {
         height: label.height
         visible: !root.empty
         ofTense: true
+        objectName: "playTense" + root.index
         spoken: root.title
         onClicked: root.screen.playTense(root.index)
     }

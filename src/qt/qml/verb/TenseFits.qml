@@ -52,11 +52,11 @@ QtObject {
         const forms = screen.formsOf(tense);
         const leading = screen.leadingTextsOf(tense);
         const length = longest(leading).length;
-        const long = leading.filter((text, place) => text !== "" && text.length >= length - 2 && leading.indexOf(text) === place);
+        const longOnes = leading.filter((text, place) => text !== "" && text.length >= length - 2 && leading.indexOf(text) === place);
         const words = longest(forms).split(" ").map(word => bold.advanceWidth(word));
         const word = longest(forms.join(" ").split(" "));
         return {
-            "pronoun": long.reduce((width, text) => Math.max(width, plain.advanceWidth(text)), 0) * 1.04,
+            "pronoun": longOnes.reduce((width, text) => Math.max(width, plain.advanceWidth(text)), 0) * 1.04,
             "words": words,
             "widest": Math.max(bold.advanceWidth(word), ...words) * 1.02
         };

@@ -14,7 +14,7 @@ ScreenPage {
 
     parts: verb.selectTextHidden ? moods.visible && !verb.moodsHidden ? [tenses, moods] : [tenses] : []
     // Squares of a fixed size need room, and texts that fit into them.
-    readonly property bool asSquares: wide && !Theme.largeText && height >= 560
+    readonly property bool asSquares: wide && (!verb.selectTextHidden || !Theme.largeText && height >= 560)
     readonly property bool onTop: StackView.view?.currentItem === root
 
     barMenu: verb.selectTextHidden ? menu : null
