@@ -81,8 +81,8 @@ ScreenPage {
                     list.positionViewAtIndex(content.table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
                 // In sight even where its tense is higher than the page, which has no
                 // height yet.
-                if (openedRow >= 0)
-                    Qt.callLater(moveTo, openedRow);
+                if (content.openedRow >= 0)
+                    Qt.callLater(content.moveTo, content.openedRow);
             }
 
             Connections {
