@@ -79,10 +79,11 @@ ScreenPage {
                 // The first section is not a tense.
                 if (root.verb.topTense > 0)
                     list.positionViewAtIndex(content.table.model.firstRow(root.verb.topTense + 1), ListView.Beginning);
+                const row = content.openedRow;
                 // In sight even where its tense is higher than the page, which has no
                 // height yet.
-                if (content.openedRow >= 0)
-                    Qt.callLater(content.moveTo, content.openedRow);
+                if (row >= 0)
+                    Qt.callLater(content.moveTo, row);
             }
 
             Connections {
