@@ -44,6 +44,13 @@ bool mayBeForm(const Phrase& phrase, std::size_t length, int cost)
     return length >= kLong || (length >= kShortestDouble && cost <= kSlipOfDouble);
 }
 
+/// Whether an infinitive may stand in it.
+bool isSimple(const Phrase& phrase)
+{
+    return phrase.auxiliary.empty() && phrase.persons == kAnyPerson && !phrase.imperative &&
+           !phrase.conjunction;
+}
+
 void addOneSlip(const Phrase& phrase, const std::string& word, Candidates& candidates)
 {
     auto slips = wordsOneSlipAway(word, candidates.catalogue().words());
@@ -59,6 +66,10 @@ void addOneSlip(const Phrase& phrase, const std::string& word, Candidates& candi
             auto matches = rows->matches(meant);
             if (!mayBeForm(phrase, word.size(), slip.cost)) {
                 keepInfinitives(matches);
+            }
+            if (matches.empty() && isSimple(phrase) &&
+                candidates.catalogue().verb(verb).folded == slip.word) {
+                candidates.addInfinitive(verb, Way::Slip, 4 * slip.cost);
             }
             const bool infinitive = std::any_of(matches.begin(), matches.end(), isInfinitive);
             const int pronoun = rows->differsInPronoun(phrase) ? 1 : 0;
@@ -93,9 +104,7 @@ void addSlips(const std::vector<Phrase>& phrases, Candidates& candidates)
             continue;
         }
         addOneSlip(phrase, word, candidates);
-        const bool simple = phrase.auxiliary.empty() && phrase.persons == kAnyPerson &&
-                            !phrase.imperative && !phrase.conjunction;
-        if (word.size() >= kLong && simple) {
+        if (word.size() >= kLong && isSimple(phrase)) {
             addTwoSlips(word, candidates);
         }
     }

@@ -159,7 +159,10 @@ platform::Result<std::vector<std::string>> TextReader::namesNear(std::string_vie
         for (const auto& reading : readings) {
             const bool known =
                 std::find(names.begin(), names.end(), reading.headword) != names.end();
-            if (reading.way == lookup::Way::Slip && !known && names.size() < kMostNames) {
+            // "s'aller" for aller.
+            const bool near = reading.way == lookup::Way::Slip ||
+                              (reading.way <= lookup::Way::Phrase && isName(reading));
+            if (near && !known && names.size() < kMostNames) {
                 names.push_back(reading.headword);
             }
         }

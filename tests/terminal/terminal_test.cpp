@@ -284,7 +284,7 @@ TEST_F(TerminalTest, SaysWhatIsWrongInOneLine)
         {{"conjugate", "qqqqqq"}, 1, "no verb \"qqqqqq\""},
         {{"conjugate", "qqq\nq\x1b[31m"}, 1, "no verb \"qqq\uFFFDq\uFFFD[31m\""},
         {{"conjugate", "allre"}, 1, "no verb \"allre\"; did you mean aller?"},
-        {{"export", "pechre", "--text"}, 1, "no verb \"pechre\"; did you mean pécher or pêcher?"},
+        {{"export", "pechre", "--text"}, 1, "no verb \"pechre\"; did you mean pêcher or pécher?"},
         {{"export", "aimer", "--text", "--number", "2"},
          1,
          "no verb is number 2, there is only aimer"},

@@ -73,8 +73,8 @@ TableContent {
             list.positionViewAtBeginning();
         // In sight even where its tense is higher than the page, which has no
         // height yet.
-        if (openedRow >= 0)
-            Qt.callLater(moveTo, openedRow);
+        if (root.openedRow >= 0)
+            Qt.callLater(root.moveTo, root.openedRow);
     }
     transform: Translate {
         x: swipe.active ? Math.max(-60, Math.min(60, swipe.activeTranslation.x * 0.4)) : 0
