@@ -51,6 +51,7 @@ Rectangle {
         marked: measures.marked
     }
 
+    objectName: "tense" + index
     radius: Theme.radius
     color: Theme.raised
     border.width: isCurrent ? 2 : 1

@@ -11,6 +11,7 @@ TableContent {
 
     required property VerbDetailScreen screen
     property bool withCard: true
+    property real beginning: 0
     // Of the form that was searched for, below its tense's header.
     readonly property int openedRow: screen.openedTense < 0 ? -1 : table.model.firstRow(screen.openedTense + 1) + 1 + screen.openedLine
 
@@ -111,6 +112,12 @@ TableContent {
     }
     Connections {
         target: root.list
+        // The card is one that may grow.
+        function onOriginYChanged() {
+            if (root.list.contentY === root.beginning)
+                root.list.contentY = root.list.originY;
+            root.beginning = root.list.originY;
+        }
         function onContentYChanged() {
             if (root.list.moving)
                 root.screen.topTense = Math.max(0, root.tenseOf(root.list.indexAt(0, root.list.contentY + Theme.headerHeight)));
