@@ -215,8 +215,8 @@ private:
             picture("detail-card");
             tap("verbCard");
         }
-        if (const auto* play = item("play")) {
-            click(*play->parentItem(), Qt::RightButton);
+        if (const auto* form = tablet_ ? item("tense0") : cell(2)) {
+            click(*form, Qt::RightButton);
             picture("form");
             tap("formTense");
             picture("tense");

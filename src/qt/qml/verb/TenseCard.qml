@@ -53,6 +53,7 @@ Rectangle {
         textSize: measures.textSize
     }
 
+    objectName: "tense" + index
     radius: Theme.radius
     color: Theme.raised
     border.width: isCurrent ? 2 : 1

@@ -11,6 +11,7 @@ TableContent {
 
     required property VerbDetailScreen screen
     property bool withCard: true
+    property real beginning: 0
 
     // What is in a row of the list was held, or chosen by the keyboard.
     signal formAsked(int tense, int line)
@@ -80,6 +81,12 @@ TableContent {
     }
     Connections {
         target: root.list
+        // The card is one that may grow.
+        function onOriginYChanged() {
+            if (root.list.contentY === root.beginning)
+                root.list.contentY = root.list.originY;
+            root.beginning = root.list.originY;
+        }
         function onContentYChanged() {
             if (root.list.moving)
                 root.screen.topTense = Math.max(0, root.tenseOf(root.list.indexAt(0, root.list.contentY + Theme.headerHeight)));

@@ -17,7 +17,7 @@ Item {
     readonly property string summary: screen.summary
     readonly property bool anywhere: screen.previousVerb !== "" || screen.nextVerb !== ""
 
-    // The keyboard is on one of its buttons, which may be out of sight.
+    // It is used, and wants to be in sight from its top.
     signal focused
     // It is leaving the card for what is below it.
     signal passed
@@ -56,6 +56,8 @@ Item {
                 Accessible.name: root.summary === "" ? text : qsTrId("card.about") + ": " + text
                 Accessible.onPressAction: clicked()
                 onClicked: {
+                    // It opens downwards.
+                    root.focused();
                     root.open = checked;
                     root.screen.keepCardOpen(checked);
                 }

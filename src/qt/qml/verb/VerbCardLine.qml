@@ -17,7 +17,7 @@ Item {
 
     signal followed(int id)
 
-    implicitHeight: Math.max(label.height, leads ? links.height : words.height)
+    implicitHeight: Math.max(label.y + label.height, leads ? links.height : words.height)
     Accessible.role: Accessible.StaticText
     Accessible.name: modelData.label + (leads ? "" : ": " + modelData.text)
 
@@ -25,8 +25,8 @@ Item {
         id: label
         x: root.inset
         width: root.labelWidth - Theme.gap
-        // In line with the first of the links.
-        topPadding: root.leads ? Math.max(0, (Theme.touch - implicitHeight + topPadding) / 2) : Math.max(0, words.font.pixelSize - font.pixelSize)
+        // In line with what is beside it.
+        y: root.leads ? Math.max(0, Math.round((Theme.touch - font.pixelSize * 1.4) / 2)) : 2
         text: root.modelData.label
         color: Theme.textSecondary
         font.pixelSize: Theme.small + 1

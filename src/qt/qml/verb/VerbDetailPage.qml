@@ -93,7 +93,7 @@ ScreenPage {
 
         TenseGrid {
             collection: root.verb.collection
-            card: root.preview ? null : card
+            card: root.preview ? null : wideCard
             onMovedTo: tense => root.verb.topTense = tense
             onFormAsked: (tense, line) => sheets.askForm(tense, line)
             onTenseAsked: tense => sheets.askTense(tense)
@@ -104,7 +104,7 @@ ScreenPage {
         }
     }
     Component {
-        id: card
+        id: wideCard
 
         VerbCard {
             screen: root.verb
