@@ -200,15 +200,15 @@ std::optional<platform::IndexPath> ConjugationGrid::pathOf(ShownMood shown,
     if (!position || position->segment != shown.segment) {
         return std::nullopt;
     }
-    const auto& forms = formsAt(shown, static_cast<int>(position->block));
-    const auto found = std::find_if(forms.begin(), forms.end(), [&](const auto& candidate) {
+    const auto& rows = forms(shown, static_cast<int>(position->block));
+    const auto found = std::find_if(rows.begin(), rows.end(), [&](const auto& candidate) {
         return candidate->order == form.order;
     });
-    if (found == forms.end()) {
+    if (found == rows.end()) {
         return std::nullopt;
     }
     return platform::IndexPath{static_cast<int>(position->block) + 1,
-                               static_cast<int>(found - forms.begin())};
+                               static_cast<int>(found - rows.begin())};
 }
 
 int ConjugationGrid::numberOfItems(ShownMood shown)
