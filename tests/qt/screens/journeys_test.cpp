@@ -103,6 +103,7 @@ TEST_F(Journey, HaveATenseReadAndStopIt)
     start(kPhone);
     touch("aller", "playTense0");
     ASSERT_TRUE(settled("stopSpeaking"));
+    EXPECT_EQ(find("sheetDone"), nullptr) << "what the tense is for was not asked";
     keys("Esc");
     EXPECT_TRUE(until([&] { return find("stopSpeaking") == nullptr; }));
     EXPECT_NE(find("playTense0"), nullptr) << "the page is still there";

@@ -32,6 +32,8 @@ Rectangle {
     readonly property int tense: section - 1
     readonly property bool unused: alone && title !== "" && screen.hasForms
     readonly property var fit: isForm ? fits.of(tense) : null
+    // Right of it is the control, whose taps are its own.
+    readonly property real textEnd: play.x
     readonly property bool stacked: fit?.stacked ?? false
 
     // For what is to be told of the form, or of the tense.

@@ -20,6 +20,8 @@ Rectangle {
     required property TenseFits fits
     // The line of the form that was searched for; -1 for none.
     property int openedLine: -1
+    // Right of it are the controls, whose taps are their own.
+    readonly property real textEnd: play.x
     readonly property bool empty: line0.controlHidden
     readonly property bool isCurrent: GridView.isCurrentItem && GridView.view.activeFocus
 

@@ -47,10 +47,11 @@ Item {
         const card = grid.itemAt(point.x, point.y + grid.contentY) as TenseCard;
         if (card === null)
             return;
-        const line = card.lineAt(grid.mapToItem(card, point).y);
+        const place = grid.mapToItem(card, point);
+        const line = card.lineAt(place.y);
         if (line >= 0 && forms)
             formAsked(card.index, line);
-        else if (line < 0 && !forms)
+        else if (line < 0 && !forms && place.x < card.textEnd)
             tenseAsked(card.index);
     }
 

@@ -134,7 +134,7 @@ TableContent {
         onTapped: eventPoint => {
             const row = root.rowAt(eventPoint.position);
             const item = root.list.itemAtIndex(row) as ConjugationRow;
-            if (item !== null && !item.isCell)
+            if (item !== null && !item.isCell && eventPoint.position.x < item.textEnd)
                 root.ask(row);
         }
     }
