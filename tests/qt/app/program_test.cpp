@@ -72,7 +72,7 @@ struct RunningProgram : WindowFixture {
         options.desktop.hasUrlHandler = [](std::string_view) { return true; };
         instance = std::make_unique<RunningInstance>(options.desktop.bus);
         ASSERT_EQ(instance->start({}), RunningInstance::Role::First);
-        ASSERT_NO_FATAL_FAILURE(open({390, 844}));
+        ASSERT_NO_FATAL_FAILURE(open(QSize{390, 844}));
         QObject::connect(instance.get(), &RunningInstance::requested, application.get(),
                          [this](const InstanceRequest& request) {
                              tokens.append(request.activationToken);

@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import Lumora
 
 // Lies over a verb's page and tells of one thing on it: at the bottom of a narrow
@@ -40,7 +41,7 @@ Popup {
     modal: true
     focus: true
 
-    Overlay.modal: Rectangle {
+    T.Overlay.modal: Rectangle {
         color: Theme.shade
     }
     background: Rectangle {
