@@ -104,7 +104,7 @@ ScreenPage {
 
         TenseTable {
             screen: root.verb
-            withCard: !root.preview
+            withCard: !root.preview && root.verb.selectTextHidden
             onFormAsked: (tense, line) => sheets.askForm(tense, line)
             onTenseAsked: tense => sheets.askTense(tense)
         }
