@@ -210,9 +210,9 @@ TEST_F(Journey, FromATypedFormToItsPlaceInItsVerb)
     QQuickItem* row = nullptr;
     ASSERT_TRUE(until([&] {
         row = find("list")->property("currentItem").value<QQuickItem*>();
-        return row != nullptr && row->property("marked").toBool();
+        return row != nullptr && row->property("opened").toBool();
     }));
-    EXPECT_EQ(row->property("detailText"), "vas");
+    EXPECT_EQ(row->property("accessibleName"), "tu vas");
 
     // Enter in the field leads there too; twice is once.
     keys("Esc, Ctrl+F, Return, Return");
