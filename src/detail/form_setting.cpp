@@ -20,9 +20,8 @@ constexpr std::string_view kPresent = "hint.present";
 constexpr std::string_view kPast = "hint.past";
 constexpr std::string_view kCompound = "hint.compound";
 /// In the order in which a participle's rows show them.
-constexpr std::array<std::string_view, 4> kAgreements{"hint.masculine", "hint.feminine",
-                                                      "hint.masculine.plural",
-                                                      "hint.feminine.plural"};
+constexpr std::array<std::string_view, 4> kAgreements{
+    "hint.masculine", "hint.feminine", "hint.masculine.plural", "hint.feminine.plural"};
 
 void add(std::vector<platform::TextRun>& runs, std::string text, RunStyle style)
 {
@@ -43,8 +42,7 @@ void addParts(std::vector<platform::TextRun>& runs, const data::FormParts& parts
         break;
     case Kind::Regular:
     case Kind::ChangedStem:
-        add(runs, parts.stem,
-            parts.kind == Kind::Regular ? RunStyle::Plain : RunStyle::Underlined);
+        add(runs, parts.stem, parts.kind == Kind::Regular ? RunStyle::Plain : RunStyle::Underlined);
         add(runs, parts.ending, RunStyle::Accent);
         break;
     }
@@ -151,9 +149,8 @@ MarkedForm markedForm(const data::Conjugation& row, const data::FormDivisions& d
     return marked;
 }
 
-std::vector<platform::LineSetting> hintsOf(std::string_view tense,
-                                           const data::ConjugationList& forms,
-                                           const TitleText& text)
+std::vector<platform::LineSetting>
+hintsOf(std::string_view tense, const data::ConjugationList& forms, const TitleText& text)
 {
     if (tense == "imperatif") {
         return imperativeHints(forms, text);

@@ -30,8 +30,7 @@ using TitleText = std::function<std::string(std::string_view key)>;
 
 /// Which person, time or gender the rows of a tense without pronouns are of:
 /// hints and captions, one setting a row. Empty settings for other tenses.
-std::vector<platform::LineSetting> hintsOf(std::string_view tense,
-                                           const data::ConjugationList& forms,
-                                           const TitleText& text);
+std::vector<platform::LineSetting>
+hintsOf(std::string_view tense, const data::ConjugationList& forms, const TitleText& text);
 
 } // namespace lumora::detail

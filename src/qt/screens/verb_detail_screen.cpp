@@ -117,7 +117,8 @@ QVariantList VerbDetailScreen::card() const
     for (const auto& line : detail_->guide().card()) {
         VerbCardLineValue value{toQString(line.label), toQString(line.text), {}};
         for (const auto& link : line.links) {
-            value.links.append(QVariant::fromValue(VerbLinkValue{link.id, toQString(link.title)}));
+            value.links.append(QVariant::fromValue(
+                VerbLinkValue{static_cast<int>(link.id), toQString(link.title)}));
         }
         lines.append(QVariant::fromValue(value));
     }

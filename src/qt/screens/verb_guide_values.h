@@ -14,11 +14,11 @@ namespace lumora::qt {
 struct VerbLinkValue {
     Q_GADGET
     QML_VALUE_TYPE(verbLink)
-    Q_PROPERTY(qint64 id MEMBER id FINAL)
+    Q_PROPERTY(int id MEMBER id FINAL)
     Q_PROPERTY(QString title MEMBER title FINAL)
 
 public:
-    qint64 id = -1;
+    int id = -1;
     QString title;
 };
 

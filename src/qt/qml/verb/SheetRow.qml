@@ -18,7 +18,7 @@ TouchButton {
     Accessible.name: detail === "" ? text : text + ", " + detail
     Accessible.onPressAction: clicked()
 
-    contentItem: Item {
+    contentItem: Item { // qmllint disable deferred-property-id
         implicitHeight: words.implicitHeight
 
         Column {

@@ -75,7 +75,7 @@ TableContent {
         // In sight even where its tense is higher than the page, which has no
         // height yet.
         if (root.openedRow >= 0)
-            Qt.callLater(root.moveTo, root.openedRow);
+            Qt.callLater(root.moveTo, root.openedRow); // qmllint disable
     }
     transform: Translate {
         x: swipe.active ? Math.max(-60, Math.min(60, swipe.activeTranslation.x * 0.4)) : 0

@@ -62,7 +62,7 @@ Item {
                     root.screen.keepCardOpen(checked);
                 }
 
-                contentItem: Item {
+                contentItem: Item { // qmllint disable deferred-property-id
                     implicitHeight: words.implicitHeight
 
                     Text {

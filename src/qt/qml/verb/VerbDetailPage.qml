@@ -104,7 +104,7 @@ ScreenPage {
 
         TenseTable {
             screen: root.verb
-            withCard: !root.preview
+            withCard: !root.preview && root.verb.selectTextHidden
             onFormAsked: (tense, line) => sheets.askForm(tense, line)
             onTenseAsked: tense => sheets.askTense(tense)
         }
@@ -116,7 +116,7 @@ ScreenPage {
             screen: root.verb
             openedTense: root.verb.openedTense
             openedLine: root.verb.openedLine
-            card: root.preview ? null : wideCard
+            card: root.preview || !root.verb.selectTextHidden ? null : wideCard
             onMovedTo: tense => root.verb.topTense = tense
             onFormAsked: (tense, line) => sheets.askForm(tense, line)
             onTenseAsked: tense => sheets.askTense(tense)

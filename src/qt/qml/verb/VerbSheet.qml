@@ -50,7 +50,7 @@ Popup {
         border.width: Theme.dark ? 1 : 0
         border.color: Theme.separator
     }
-    contentItem: Flickable {
+    contentItem: Flickable { // qmllint disable deferred-property-id
         id: flick
         clip: true
         contentHeight: column.implicitHeight
