@@ -154,8 +154,9 @@ TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
                               "Button: aller, Present \u2013 tu vas",
                               "Button: Search the conjugated forms too"});
     tap("reading0");
+    // The list is laid out from that form on: the rows above it come after it.
     expectHeard("its form",
-                {"ListItem: je vais", "ListItem: tu vas, the form that was searched for"});
+                {"ListItem: tu vas, the form that was searched for", "ListItem: je vais"});
     tap("backButton", "searchClear", "Search");
     type("a");
     expectHeard("search", {"Button: Clear the search", "ListItem: aller, go"});
