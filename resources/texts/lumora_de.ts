@@ -407,7 +407,7 @@ Verben im Verlauf: %d</translation>
     </message>
     <message id="keys.open">
         <source></source>
-        <translation>Ein Verb öffnen, eine Form hören</translation>
+        <translation>Ein Verb öffnen, eine Form ansehen</translation>
     </message>
     <message id="keys.part">
         <source></source>

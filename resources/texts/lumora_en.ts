@@ -407,7 +407,7 @@ Verbs in the history: %d</translation>
     </message>
     <message id="keys.open">
         <source></source>
-        <translation>Open a verb, hear a form</translation>
+        <translation>Open a verb, look at a form</translation>
     </message>
     <message id="keys.part">
         <source></source>

@@ -407,7 +407,7 @@ Verbos en el historial: %d</translation>
     </message>
     <message id="keys.open">
         <source></source>
-        <translation>Abrir un verbo, oír una forma</translation>
+        <translation>Abrir un verbo, ver una forma</translation>
     </message>
     <message id="keys.part">
         <source></source>

@@ -407,7 +407,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="keys.open">
         <source></source>
-        <translation>Ouvrir un verbe, écouter une forme</translation>
+        <translation>Ouvrir un verbe, regarder une forme</translation>
     </message>
     <message id="keys.part">
         <source></source>

@@ -407,7 +407,7 @@ Verbi nella cronologia: %d</translation>
     </message>
     <message id="keys.open">
         <source></source>
-        <translation>Apri un verbo, ascolta una forma</translation>
+        <translation>Apri un verbo, esamina una forma</translation>
     </message>
     <message id="keys.part">
         <source></source>

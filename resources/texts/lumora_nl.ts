@@ -407,7 +407,7 @@ Werkwoorden in de geschiedenis: %d</translation>
     </message>
     <message id="keys.open">
         <source></source>
-        <translation>Een werkwoord openen, een vorm horen</translation>
+        <translation>Een werkwoord openen, een vorm bekijken</translation>
     </message>
     <message id="keys.part">
         <source></source>

@@ -407,7 +407,7 @@ Verbos no histórico: %d</translation>
     </message>
     <message id="keys.open">
         <source></source>
-        <translation>Abrir um verbo, ouvir uma forma</translation>
+        <translation>Abrir um verbo, ver uma forma</translation>
     </message>
     <message id="keys.part">
         <source></source>

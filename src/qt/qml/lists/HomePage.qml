@@ -83,16 +83,21 @@ ScreenPage {
                 openVerb: root.home.openVerb
                 list.cacheBuffer: 0
 
+                function showTop() {
+                    list.positionViewAtBeginning();
+                }
+
                 list.header: ReadingCards {
                     width: ListView.view.width
                     home: root.home
                     onFieldWanted: search.takeKeyboard()
-                    onHeightChanged: results.list.positionViewAtBeginning()
+                    // Not while the list makes its rows.
+                    onHeightChanged: Qt.callLater(results.showTop) // qmllint disable
                 }
                 Connections {
                     target: root.home
                     function onSearchChanged() {
-                        results.list.positionViewAtBeginning();
+                        Qt.callLater(results.showTop); // qmllint disable
                     }
                 }
             }

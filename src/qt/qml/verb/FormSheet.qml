@@ -50,8 +50,8 @@ VerbSheet {
         color: Theme.textSecondary
         font.pixelSize: Theme.body
         wrapMode: Text.Wrap
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
+        // A voice would spell it.
+        Accessible.ignored: true
     }
     Text {
         width: parent.width

@@ -147,16 +147,16 @@ Item {
             onFormAsked: line => root.formAsked(index, line)
             onTenseAsked: root.tenseAsked(index)
         }
-
-        TapHandler {
-            parent: grid
-            onLongPressed: root.askAt(point.position, true)
-            onTapped: eventPoint => root.askAt(eventPoint.position, false)
-        }
-        TapHandler {
-            parent: grid
-            acceptedButtons: Qt.RightButton
-            onTapped: eventPoint => root.askAt(eventPoint.position, true)
-        }
+    }
+    // Beside the grid, which would take them for items of its content.
+    TapHandler {
+        parent: grid
+        onLongPressed: root.askAt(point.position, true)
+        onTapped: eventPoint => root.askAt(eventPoint.position, false)
+    }
+    TapHandler {
+        parent: grid
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => root.askAt(eventPoint.position, true)
     }
 }

@@ -106,6 +106,9 @@ TableContent {
 
         VerbCard {
             screen: root.screen
+            // Its height is known only after the first layout.
+            onHeightChanged: if (!root.list.moved && root.screen.topTense === 0 && root.openedRow < 0)
+                root.list.positionViewAtBeginning()
             onFocused: root.list.positionViewAtBeginning()
             onPassed: root.forceActiveFocus(Qt.TabFocusReason)
         }
