@@ -39,6 +39,7 @@ struct WindowFixture : testing::Test {
     void open(std::optional<QSize> size)
     {
         const auto share = folder / "share";
+        std::filesystem::remove_all(share);
         std::filesystem::create_directories(share);
         support::writeSmallDatabase(share / "verbs.db");
         tellOfAVerb(share / "verbs.db");

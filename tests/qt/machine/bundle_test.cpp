@@ -95,7 +95,7 @@ TEST(Translations, EveryLanguageHasEveryKeyWithTheSamePlaceholders)
 std::set<std::string> keysInSources()
 {
     // Whole ones, and beginnings and ends that are put together.
-    static const std::regex kKey{R"~("(\.?[a-z][a-zA-Z]*(\.[a-zA-Z_]+)*\.?)")~"};
+    static const std::regex kKey{R"~("(\.?[a-z][a-zA-Z]*(\.[a-zA-Z0-9_]+)*\.?)")~"};
     std::set<std::string> keys;
     for (const auto& entry : std::filesystem::recursive_directory_iterator{LUMORA_SOURCES}) {
         const auto extension = entry.path().extension();

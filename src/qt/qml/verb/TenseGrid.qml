@@ -42,12 +42,13 @@ Item {
         grid.positionViewAtIndex(tense, GridView.Contain);
         (grid.itemAtIndex(tense) as TenseCard)?.takeKeyboard(line);
     }
-    // The card at a point of the grid, and the line there: -1 on its title.
+    // The card at a point of the window, and the line there: -1 on its title.
     function askAt(point, forms) {
-        const card = grid.itemAt(point.x, point.y + grid.contentY) as TenseCard;
+        const spot = grid.contentItem.mapFromItem(null, point);
+        const card = grid.itemAt(spot.x, spot.y) as TenseCard;
         if (card === null)
             return;
-        const place = grid.mapToItem(card, point);
+        const place = card.mapFromItem(null, point);
         const line = card.lineAt(place.y);
         if (line >= 0 && forms)
             formAsked(card.index, line);
@@ -148,15 +149,14 @@ Item {
             onTenseAsked: root.tenseAsked(index)
         }
     }
-    // Beside the grid, which would take them for items of its content.
     TapHandler {
         parent: grid
-        onLongPressed: root.askAt(point.position, true)
-        onTapped: eventPoint => root.askAt(eventPoint.position, false)
+        onLongPressed: root.askAt(point.scenePosition, true)
+        onTapped: eventPoint => root.askAt(eventPoint.scenePosition, false)
     }
     TapHandler {
         parent: grid
         acceptedButtons: Qt.RightButton
-        onTapped: eventPoint => root.askAt(eventPoint.position, true)
+        onTapped: eventPoint => root.askAt(eventPoint.scenePosition, true)
     }
 }

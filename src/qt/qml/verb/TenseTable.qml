@@ -35,8 +35,15 @@ TableContent {
         else
             tenseAsked(tenseOf(row));
     }
+    // Unless the person, or a form that was searched for, has led elsewhere.
+    function showCard() {
+        if (!list.moved && screen.topTense === 0 && openedRow < 0)
+            list.positionViewAtBeginning();
+    }
+    // At a point of the window.
     function rowAt(point) {
-        return list.indexAt(point.x, point.y + list.contentY);
+        const spot = list.contentItem.mapFromItem(null, point);
+        return list.indexAt(spot.x, spot.y);
     }
     function showPlace(tense, line) {
         forceActiveFocus(Qt.OtherFocusReason);
@@ -107,8 +114,7 @@ TableContent {
         VerbCard {
             screen: root.screen
             // Its height is known only after the first layout.
-            onHeightChanged: if (!root.list.moved && root.screen.topTense === 0 && root.openedRow < 0)
-                root.list.positionViewAtBeginning()
+            onHeightChanged: Qt.callLater(root.showCard) // qmllint disable
             onFocused: root.list.positionViewAtBeginning()
             onPassed: root.forceActiveFocus(Qt.TabFocusReason)
         }
@@ -129,13 +135,13 @@ TableContent {
     TapHandler {
         parent: root.list
         onLongPressed: {
-            const row = root.rowAt(point.position);
+            const row = root.rowAt(point.scenePosition);
             const item = root.list.itemAtIndex(row) as ConjugationRow;
             if (item?.isCell ?? false)
                 root.ask(row);
         }
         onTapped: eventPoint => {
-            const row = root.rowAt(eventPoint.position);
+            const row = root.rowAt(eventPoint.scenePosition);
             const item = root.list.itemAtIndex(row) as ConjugationRow;
             if (item !== null && !item.isCell && eventPoint.position.x < item.textEnd)
                 root.ask(row);
