@@ -216,9 +216,10 @@ Figure scrollVerb(const std::filesystem::path& world)
         return watch.milliseconds();
     };
     Figure figure{"frame of a verb that scrolls", {}, "frame at rest", {}, "95 % in 16.7 ms", {}};
-    for (double way = 0; way < 8 * length; way += kStep) {
+    const int steps = static_cast<int>(8 * length / kStep);
+    for (int step = 0; step < steps; ++step) {
         // Down and up again.
-        const auto place = std::fmod(way, 2 * length);
+        const auto place = std::fmod(step * kStep, 2 * length);
         tenses->setProperty("contentY", top + std::min(place, 2 * length - place));
         figure.own.add(frame());
         figure.referenceSamples.add(frame());

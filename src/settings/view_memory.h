@@ -12,8 +12,6 @@ namespace lumora::platform {
 class SettingsStore;
 }
 
-#include <optional>
-
 namespace lumora::settings {
 
 /// In device-independent pixels.
