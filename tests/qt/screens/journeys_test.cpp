@@ -312,7 +312,11 @@ TEST_F(Journey, GoFromPartToPartAndBackByKeys)
     keys("Alt+Left");
     ASSERT_TRUE(until([&] { return split().primary().size() == 1; }));
     ASSERT_TRUE(settled("aller"));
+    // A page on its way out takes no keys.
+    pictureAtRest();
     keys("Ctrl+F");
+    ASSERT_TRUE(until(
+        [&] { return application->window()->activeFocusItem()->inherits("QQuickTextInput"); }));
     type("av");
     ASSERT_TRUE(until([&] { return verbs() == QStringList{"avoir"}; }))
         << verbs().join(' ').toStdString()

@@ -81,7 +81,7 @@ QtObject {
     readonly property int headingHeight: Math.max(40, headerHeight)
     // Of a tense's square, two rows of it.
     readonly property int cardTitle: Math.min(body, 18) - 1
-    readonly property int cardTitleHeight: 42
+    readonly property int cardTitleHeight: 46
     // Larger than this, texts have no room in squares of a fixed size.
     readonly property bool largeText: textScale > 1.3
     readonly property int radius: 10
