@@ -5,6 +5,7 @@
 
 #include "conjugator/elision.h"
 #include "conjugator/row_builder.h"
+#include "text/text.h"
 
 #include <algorithm>
 #include <array>
@@ -35,11 +36,7 @@ std::string respelled(std::string infinitive)
 /// The text with its ligatures opened, as a keyboard without them writes it.
 std::string withoutLigature(std::string text)
 {
-    constexpr std::string_view kLigature = "œ";
-    for (auto at = text.find(kLigature); at != std::string::npos; at = text.find(kLigature)) {
-        text.replace(at, kLigature.size(), "oe");
-    }
-    return text;
+    return text::replaced(std::move(text), "œ", "oe");
 }
 
 /// Whether a row is one form as it is written, neither double nor bracketed.
