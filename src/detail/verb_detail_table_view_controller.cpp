@@ -8,7 +8,7 @@
 #include "data/verb_reader.h"
 #include "detail/audio_utils.h"
 #include "detail/row_sounds.h"
-#include "detail/verb_steps.h"
+#include "detail/verb_page.h"
 #include "export/verb_export.h"
 #include "platform/machine/analytics.h"
 #include "platform/machine/bundle.h"
@@ -38,7 +38,8 @@ VerbDetailTableViewController::VerbDetailTableViewController(const platform::Ser
       grid_{services.bundle, services.settings, services.device, services.crashReporter},
       record_{services.settings, services.device, services.clock, services.reviewPrompter},
       volumeWarning_{services.audioSession, services.clock,     services.settings,
-                     services.bundle,       services.presenter, services.console}
+                     services.bundle,       services.presenter, services.console},
+      marks_{services.viewMemory, services.console}
 {}
 
 VerbDetailTableViewController::~VerbDetailTableViewController() = default;
@@ -99,7 +100,7 @@ void VerbDetailTableViewController::viewDidLoad()
     if (const auto opened = openedForm ? data::positionOfTense(openedForm->tense) : std::nullopt) {
         verbTypeSegmentedControl.selected = opened->segment;
     }
-    marksForms_ = settings::ViewMemory{services_.viewMemory}.marksForms();
+    marks_.recall();
     showVerb();
 
     refresh_ = data::observe<data::RefreshConjugations>(services_.notifications,
@@ -163,7 +164,7 @@ void VerbDetailTableViewController::showVerb()
             !record_.recordHistory(database, selectedVerb->id)) {
             logReadingError(database);
         }
-        readDivisions(database);
+        marks_.read(database, selectedVerb->id);
     });
     data::post(services_.notifications, data::VerbViewed{selectedVerb});
 }
@@ -175,16 +176,6 @@ platform::DatabaseQueue& VerbDetailTableViewController::sharedQueue() const
         std::abort();
     }
     return *queue;
-}
-
-void VerbDetailTableViewController::readDivisions(platform::Database& database)
-{
-    if (auto divisions = data::readFormDivisions(database, selectedVerb->id)) {
-        divisions_ = std::move(*divisions);
-    } else {
-        services_.console << "Unable to read how the forms divide: " << divisions.error().message
-                          << std::endl;
-    }
 }
 
 void VerbDetailTableViewController::logReadingError(const platform::Database& database)
@@ -255,9 +246,8 @@ void VerbDetailTableViewController::refreshConjugations() const
 void VerbDetailTableViewController::selectVerbTypes(int segment)
 {
     verbTypeSegmentedControl.selected = segment;
-    if (const auto kept = settings::ViewMemory{services_.viewMemory}.setMood(segment); !kept) {
-        services_.console << "Unable to keep the mood: " << kept.error().message << std::endl;
-    }
+    settings::reportUnkept(settings::ViewMemory{services_.viewMemory}.setMood(segment), "the mood",
+                           services_.console);
     refreshConjugations();
     services_.analytics.logEvent("conjugation_tab",
                                  {{"name", std::string{data::analyticsNameOfSegment(segment)}}});
@@ -266,8 +256,7 @@ void VerbDetailTableViewController::selectVerbTypes(int segment)
 
 ShownMood VerbDetailTableViewController::shown() const
 {
-    return {selectedVerb.get(), verbTypeSegmentedControl.selected,
-            marksForms_ ? &divisions_ : nullptr};
+    return {selectedVerb.get(), verbTypeSegmentedControl.selected, marks_.shown()};
 }
 
 std::optional<platform::IndexPath> VerbDetailTableViewController::openedPath() const
@@ -351,15 +340,11 @@ void VerbDetailTableViewController::audioTapped(int item, int row)
     }
 }
 
-void VerbDetailTableViewController::playTense(int position)
-{
-    if (const auto rows = grid_.playableTense(shown(), position); !rows.empty()) {
-        play(rows);
-    }
-}
-
 void VerbDetailTableViewController::play(const std::vector<PlayableRow>& rows, float pace)
 {
+    if (rows.empty()) {
+        return;
+    }
     if (!selectedVerb) {
         services_.console << "It shouldn't be possible for the verb to be null when we reach here."
                           << std::endl;
@@ -369,11 +354,17 @@ void VerbDetailTableViewController::play(const std::vector<PlayableRow>& rows, f
     const RowSounds sounds{*selectedVerb, queue};
     std::deque<SpokenRow> spoken;
     for (const auto& row : rows) {
-        auto utterance = AudioUtils::utteranceFor(*row.form, sounds, voice(), services_.settings);
+        auto utterance =
+            AudioUtils::utteranceFor(*row.form, sounds, page().voice(), services_.settings);
         utterance.rate *= pace;
         spoken.push_back({std::move(utterance), row.indicator});
     }
     playback_.play(std::move(spoken), *this);
+}
+
+VerbPage VerbDetailTableViewController::page()
+{
+    return {*this, services_};
 }
 
 void VerbDetailTableViewController::setSpeechListener(std::function<void()> listener)
@@ -383,80 +374,8 @@ void VerbDetailTableViewController::setSpeechListener(std::function<void()> list
 
 void VerbDetailTableViewController::setMarksForms(bool marks)
 {
-    marksForms_ = marks;
-    if (const auto kept = settings::ViewMemory{services_.viewMemory}.setMarksForms(marks); !kept) {
-        services_.console << "Unable to keep the marks: " << kept.error().message << std::endl;
-    }
+    marks_.set(marks);
     refreshConjugations();
-    outletsChanged();
-}
-
-bool VerbDetailTableViewController::hasForms() const
-{
-    return selectedVerb && std::any_of(data::kTenses.begin(), data::kTenses.end(),
-                                       [this](const data::TenseField& tense) {
-                                           return !((*selectedVerb).*(tense.forms)).empty();
-                                       });
-}
-
-const data::ConjugationList& VerbDetailTableViewController::formsOfTense(int position) const
-{
-    return ConjugationGrid::forms(shown(), position);
-}
-
-void VerbDetailTableViewController::saySlowly(const RowPlace& place, bool fromCollection)
-{
-    constexpr float kPace = 0.6F;
-
-    const ShownMood mood{selectedVerb.get(), place.segment};
-    // The first section of the table is not a tense.
-    if (const auto row = fromCollection ? grid_.playableLine(mood, place.tense, place.row)
-                                        : grid_.playableRow(mood, {place.tense + 1, place.row})) {
-        play({*row}, kPace);
-    }
-}
-
-VerbGuide VerbDetailTableViewController::guide() const
-{
-    return {*selectedVerb,
-            queue,
-            {services_.bundle, services_.settings, services_.device},
-            services_.crashReporter};
-}
-
-bool VerbDetailTableViewController::isCardOpen(bool unlessChosen) const
-{
-    return settings::ViewMemory{services_.viewMemory}.cardOpen().value_or(unlessChosen);
-}
-
-void VerbDetailTableViewController::keepCardOpen(bool open)
-{
-    if (const auto kept = settings::ViewMemory{services_.viewMemory}.setCardOpen(open); !kept) {
-        services_.console << "Unable to keep the card: " << kept.error().message << std::endl;
-    }
-}
-
-void VerbDetailTableViewController::showNeighbour(int places)
-{
-    detail::showVerb(*this, sequence.away(places), sequence.movedBy(places), VerbStep::Replace,
-                     services_.storyboard);
-}
-
-void VerbDetailTableViewController::showRelated(std::int64_t verbId)
-{
-    detail::showVerb(*this, guide().verb(verbId), {}, VerbStep::Cover, services_.storyboard);
-}
-
-platform::Voice VerbDetailTableViewController::voice() const
-{
-    return settings::ViewMemory{services_.viewMemory}.voice();
-}
-
-void VerbDetailTableViewController::chooseVoice(platform::Voice voice)
-{
-    if (const auto kept = settings::ViewMemory{services_.viewMemory}.setVoice(voice); !kept) {
-        services_.console << "Unable to keep the voice: " << kept.error().message << std::endl;
-    }
     outletsChanged();
 }
 

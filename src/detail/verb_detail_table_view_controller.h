@@ -3,14 +3,13 @@
 
 #pragma once
 
-#include "data/form_parts.h"
 #include "data/news.h"
 #include "data/tense_table.h"
 #include "data/verb.h"
 #include "detail/conjugation_grid.h"
+#include "detail/form_marks.h"
 #include "detail/playback.h"
 #include "detail/verb_detail_outlets.h"
-#include "detail/verb_guide.h"
 #include "detail/verb_sequence.h"
 #include "detail/view_record.h"
 #include "detail/volume_warning.h"
@@ -35,6 +34,8 @@ class DatabaseQueue;
 } // namespace lumora::platform
 
 namespace lumora::detail {
+
+class VerbPage;
 
 /// One verb: its conjugations by mood, as a table and as a collection of the
 /// same data, spoken one at a time, the favourite toggle, the export, and the
@@ -83,6 +84,8 @@ public:
     bool isPeeking = false;
 
     void setOutletListener(std::function<void()> listener);
+    /// Tells that listener.
+    void outletsChanged();
     /// The view's wish to hear when what `guide` tells is worded anew; one
     /// listener.
     void setWordsListener(std::function<void()> listener);
@@ -102,40 +105,22 @@ public:
     /// The mood control's value changed to `segment`.
     void selectVerbTypes(int segment);
 
-    /// The one that speaks from the next row on, on every verb's screen.
-    platform::Voice voice() const;
-    void chooseVoice(platform::Voice voice);
-
-    /// Speaks the rows of a tense of the chosen mood one after another.
-    void playTense(int position);
+    /// What the page offers around the tables; the screen must outlive it.
+    VerbPage page();
+    ConjugationGrid& grid() { return grid_; }
+    /// What the tables show.
+    ShownMood shown() const;
+    /// Speaks rows of the verb one after another, at a pace that is a factor on
+    /// the chosen rate. Warns of a low volume first; none are nothing to do.
+    void play(const std::vector<PlayableRow>& rows, float pace = 1);
     void stopSpeaking() { playback_.stop(); }
     const std::string& spokenText() const { return playback_.spokenText(); }
     /// Called when another row is spoken, or none any more.
     void setSpeechListener(std::function<void()> listener);
 
     /// Whether stems and endings are told apart; so it is on every verb's screen.
-    bool marksForms() const { return marksForms_; }
+    bool marksForms() const { return marks_.on(); }
     void setMarksForms(bool marks);
-
-    /// Whether there is anything to say of a tense without forms: nothing is
-    /// known of it after a failed reading.
-    bool hasForms() const;
-    /// Of a tense of the chosen mood.
-    const data::ConjugationList& formsOfTense(int position) const;
-
-    /// What is told of the verb besides its tables; there must be one.
-    VerbGuide guide() const;
-    /// Whether its card shows all lines.
-    bool isCardOpen(bool unlessChosen) const;
-    void keepCardOpen(bool open);
-    /// Says a form at a pace to learn it by; `fromCollection` says whose ring
-    /// tells so.
-    void saySlowly(const RowPlace& place, bool fromCollection);
-    /// Goes on to the verb that many places away in the list, in place of this
-    /// one; this screen may be gone then.
-    void showNeighbour(int places);
-    /// Opens another verb over this one.
-    void showRelated(std::int64_t verbId);
 
     int numberOfSections() override;
     int numberOfRowsInSection(int section) override;
@@ -158,26 +143,21 @@ protected:
     void viewDidLoad() override;
 
 private:
-    ShownMood shown() const;
     void showVerb();
     void refreshConjugations() const;
     void verbFavouriteToggled(const data::VerbFavouriteToggled& news);
     void updateFavouriteIcon();
     void updateNavigationItem();
     void updateEmptyState(double toolbarHeight);
-    void outletsChanged();
     platform::DatabaseQueue& sharedQueue() const;
     void logReadingError(const platform::Database& database);
-    void readDivisions(platform::Database& database);
-    void play(const std::vector<PlayableRow>& rows, float pace = 1);
 
     const platform::Services& services_;
     ConjugationGrid grid_;
     ViewRecord record_;
     VolumeWarning volumeWarning_;
     std::function<void()> outletListener_;
-    data::FormDivisions divisions_;
-    bool marksForms_ = true;
+    FormMarks marks_;
     std::function<void()> wordsListener_;
     bool buttonsEnabled_ = false;
     platform::NotificationCenter::Subscription refresh_;

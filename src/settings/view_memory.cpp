@@ -6,6 +6,7 @@
 #include "platform/storage/settings_store.h"
 
 #include <cstdint>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -101,6 +102,13 @@ platform::Result<void> ViewMemory::setCardOpen(bool open)
 {
     store_.setValue(open, kCardOpen);
     return store_.synchronize();
+}
+
+void reportUnkept(const platform::Result<void>& kept, std::string_view what, std::ostream& console)
+{
+    if (!kept) {
+        console << "Unable to keep " << what << ": " << kept.error().message << std::endl;
+    }
 }
 
 } // namespace lumora::settings

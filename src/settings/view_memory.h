@@ -6,7 +6,9 @@
 #include "platform/base/error.h"
 #include "platform/machine/speech_synthesizer.h"
 
+#include <iosfwd>
 #include <optional>
+#include <string_view>
 
 namespace lumora::platform {
 class SettingsStore;
@@ -54,5 +56,8 @@ public:
 private:
     platform::SettingsStore& store_;
 };
+
+/// Tells the console what could not be kept, and why.
+void reportUnkept(const platform::Result<void>& kept, std::string_view what, std::ostream& console);
 
 } // namespace lumora::settings

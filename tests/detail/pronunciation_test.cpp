@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "detail/verb_detail_table_view_controller.h"
+#include "detail/verb_page.h"
 #include "support/world.h"
 
 #include <optional>
@@ -125,30 +126,30 @@ TEST_F(Pronunciation, TheChosenVoiceSpeaksFromTheNextRowOn)
     int redrawn = 0;
     detail.setOutletListener([&] { ++redrawn; });
     say("je", "vais");
-    detail.chooseVoice(platform::Voice::Man);
+    detail.page().chooseVoice(platform::Voice::Man);
     say("je", "vais");
 
     EXPECT_EQ(voice().spoken.front().voice, platform::Voice::Woman);
     EXPECT_EQ(voice().spoken.back().voice, platform::Voice::Man);
     EXPECT_EQ(redrawn, 1);
     EXPECT_EQ(world.viewMemory.flushes, 1);
-    const VerbDetailTableViewController next{world.services()};
-    EXPECT_EQ(next.voice(), platform::Voice::Man);
+    VerbDetailTableViewController next{world.services()};
+    EXPECT_EQ(next.page().voice(), platform::Voice::Man);
 }
 
 TEST_F(Pronunciation, SlowlyIsAFactorOnTheChosenRateAndMovesTheRingOnShow)
 {
     world.settings.setValue(0.5, "audio_speed");
-    detail.saySlowly({0, 0, 1}, false);
+    detail.page().saySlowly({0, 0, 1}, false);
     EXPECT_EQ(voice().spoken.back().text, "tu vas");
     EXPECT_FLOAT_EQ(voice().spoken.back().rate, platform::kDefaultSpeechRate * 0.5F * 0.6F);
     voice().reachWord(3, 3);
     EXPECT_GT(ringOfRow({1, 1}), 0);
-    detail.saySlowly({0, 0, 1}, true);
+    detail.page().saySlowly({0, 0, 1}, true);
     EXPECT_EQ(ringOfRow({1, 1}), 0) << "cut off";
     voice().reachWord(3, 3);
     EXPECT_GT(ringOfLine(0, 1), 0);
-    detail.saySlowly({0, 0, 9}, false);
+    detail.page().saySlowly({0, 0, 9}, false);
     EXPECT_EQ(spokenCount(), 2U) << "there is no such row";
 }
 
@@ -264,7 +265,7 @@ TEST_F(Pronunciation, ATenseIsReadRowByRowUntilSomethingStopsIt)
     std::string told;
     detail.setSpeechListener([&] { told += "[" + detail.spokenText() + "]"; });
 
-    detail.playTense(0);
+    detail.page().playTense(0);
     voice().reachWord(3, 4);
     EXPECT_GT(ringOfRow({1, 0}), 0);
     voice().reachEnd();
@@ -275,14 +276,14 @@ TEST_F(Pronunciation, ATenseIsReadRowByRowUntilSomethingStopsIt)
     EXPECT_EQ(told, "[je vais][tu vas][]");
     EXPECT_FALSE(voice().isSpeaking());
 
-    detail.playTense(0);
+    detail.page().playTense(0);
     detail.stopSpeaking();
     EXPECT_EQ(ringOfRow({1, 0}), 0);
-    detail.playTense(0);
+    detail.page().playTense(0);
     detail.accessoryButtonTapped({1, 1});
     voice().reachEnd();
     EXPECT_FALSE(voice().isSpeaking()) << "a tap ends the reading";
-    detail.playTense(1);
+    detail.page().playTense(1);
     EXPECT_EQ(voice().spoken.size(), 5U) << "a tense without forms has nothing to read";
     EXPECT_EQ(detail.spokenText(), "");
 }

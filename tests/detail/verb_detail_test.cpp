@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "detail/verb_detail_table_view_controller.h"
+#include "detail/verb_page.h"
 
 #include "data/tense_table.h"
 #include "support/world.h"
@@ -132,9 +133,9 @@ TEST_F(VerbDetail, MarksStemsAndEndingsUntilTheReaderTurnsItOff)
 
 TEST_F(VerbDetail, KnowsATenseOutOfUseFromAFailedReading)
 {
-    EXPECT_TRUE(open(aller)->hasForms());
+    EXPECT_TRUE(open(aller)->page().hasForms());
     world.execute("DROP TABLE conjugation");
-    EXPECT_FALSE(open(world.verb(3))->hasForms());
+    EXPECT_FALSE(open(world.verb(3))->page().hasForms());
 }
 
 TEST_F(VerbDetail, FillsACollectionCellWithSixLines)

@@ -5,6 +5,7 @@
 
 #include "data/verb_reader.h"
 #include "detail/verb_detail_table_view_controller.h"
+#include "detail/verb_page.h"
 #include "lists/verb_list_table_view_controller.h"
 #include "platform/screens/navigation_controller.h"
 #include "support/world.h"
@@ -193,17 +194,17 @@ TEST_F(Steps, NeighboursFollowTheListAndCountAsViews)
     top().selectVerbTypes(2);
 
     world.execute("DELETE FROM verb WHERE _id = 3");
-    top().showNeighbour(-1);
+    top().page().showNeighbour(-1);
 
     EXPECT_EQ(stack->viewControllers().size(), 1U) << "the way back leads to the list";
     EXPECT_EQ(top().selectedVerb->french, "aller") << "the list as it stood";
     EXPECT_EQ(top().verbTypeSegmentedControl.selected, 2);
     EXPECT_EQ(world.posted["VerbViewed"], 2);
     EXPECT_EQ(world.count("history WHERE verbid = 3"), 1);
-    top().showNeighbour(-1);
+    top().page().showNeighbour(-1);
     EXPECT_EQ(top().selectedVerb->french, "aller") << "there is none before the first";
     for (const char* name : {"avoir", "être", "évanouir (s')", "falloir", "pouvoir", "pouvoir"}) {
-        top().showNeighbour(1);
+        top().page().showNeighbour(1);
         EXPECT_EQ(top().selectedVerb->french, name);
     }
 }
@@ -211,12 +212,12 @@ TEST_F(Steps, NeighboursFollowTheListAndCountAsViews)
 TEST_F(Steps, ALinkCoversTheVerbThatItIsOn)
 {
     openSecondRow();
-    top().showRelated(2);
+    top().page().showRelated(2);
     ASSERT_EQ(stack->viewControllers().size(), 2U);
     EXPECT_EQ(top().selectedVerb->french, "être");
     EXPECT_EQ(top().selectedVerb->indicatifPresent.size(), 1U);
     EXPECT_EQ(top().sequence.away(1), nullptr) << "it was not opened from a list";
-    top().showRelated(99);
+    top().page().showRelated(99);
     EXPECT_EQ(stack->viewControllers().size(), 2U);
     stack->popViewController();
     EXPECT_EQ(top().selectedVerb->french, "avoir");

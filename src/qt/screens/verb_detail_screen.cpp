@@ -97,7 +97,7 @@ QStringList VerbDetailScreen::leadingTextsOf(int tense) const
 QStringList VerbDetailScreen::formsOf(int tense) const
 {
     QStringList forms;
-    for (const auto& form : detail_->formsOfTense(tense)) {
+    for (const auto& form : detail_->page().formsOfTense(tense)) {
         forms += toQString(form->verb);
     }
     return forms;
@@ -105,7 +105,7 @@ QStringList VerbDetailScreen::formsOf(int tense) const
 
 QString VerbDetailScreen::summary() const
 {
-    return detail_->selectedVerb ? toQString(detail_->guide().summary()) : QString{};
+    return detail_->selectedVerb ? toQString(detail_->page().guide().summary()) : QString{};
 }
 
 QVariantList VerbDetailScreen::card() const
@@ -114,7 +114,7 @@ QVariantList VerbDetailScreen::card() const
     if (!detail_->selectedVerb) {
         return lines;
     }
-    for (const auto& line : detail_->guide().card()) {
+    for (const auto& line : detail_->page().guide().card()) {
         VerbCardLineValue value{toQString(line.label), toQString(line.text), {}};
         for (const auto& link : line.links) {
             value.links.append(QVariant::fromValue(
@@ -133,8 +133,9 @@ QString VerbDetailScreen::nameAway(int places) const
 
 FormSheetValue VerbDetailScreen::formSheet(int tense, int line) const
 {
-    const auto sheet = detail_->selectedVerb ? detail_->guide().sheet({selectedMood(), tense, line})
-                                             : std::nullopt;
+    const auto sheet = detail_->selectedVerb
+                           ? detail_->page().guide().sheet({selectedMood(), tense, line})
+                           : std::nullopt;
     if (!sheet) {
         return {};
     }
@@ -157,7 +158,7 @@ FormSheetValue VerbDetailScreen::formSheet(int tense, int line) const
 TenseNoteValue VerbDetailScreen::tenseNote(int tense) const
 {
     const auto note =
-        detail_->selectedVerb ? detail_->guide().note(selectedMood(), tense) : std::nullopt;
+        detail_->selectedVerb ? detail_->page().guide().note(selectedMood(), tense) : std::nullopt;
     if (!note) {
         return {};
     }
@@ -167,7 +168,7 @@ TenseNoteValue VerbDetailScreen::tenseNote(int tense) const
 
 void VerbDetailScreen::saySlowly(int tense, int line, bool fromCollection)
 {
-    detail_->saySlowly({selectedMood(), tense, line}, fromCollection);
+    detail_->page().saySlowly({selectedMood(), tense, line}, fromCollection);
 }
 
 void VerbDetailScreen::copy(const QString& text) const

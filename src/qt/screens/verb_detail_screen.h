@@ -4,6 +4,7 @@
 #pragma once
 
 #include "detail/verb_detail_table_view_controller.h"
+#include "detail/verb_page.h"
 #include "qt/models/qt_collection_view.h"
 #include "qt/screens/table_screen.h"
 #include "qt/screens/verb_guide_values.h"
@@ -78,7 +79,7 @@ public:
     QString previousVerb() const { return nameAway(-1); }
     QString nextVerb() const { return nameAway(1); }
 
-    int voice() const { return static_cast<int>(detail_->voice()); }
+    int voice() const { return static_cast<int>(detail_->page().voice()); }
 
     int openedTense() const;
     int openedLine() const;
@@ -87,30 +88,30 @@ public:
 
     Q_INVOKABLE void chooseVoice(int voice)
     {
-        detail_->chooseVoice(static_cast<platform::Voice>(voice));
+        detail_->page().chooseVoice(static_cast<platform::Voice>(voice));
     }
     bool marksForms() const { return detail_->marksForms(); }
     void setMarksForms(bool marks) { detail_->setMarksForms(marks); }
-    bool hasForms() const { return detail_->hasForms(); }
+    bool hasForms() const { return detail_->page().hasForms(); }
     QString spokenText() const;
     /// Pronouns, hints and captions of a tense of the chosen mood; its forms.
     Q_INVOKABLE QStringList leadingTextsOf(int tense) const;
     Q_INVOKABLE QStringList formsOf(int tense) const;
-    Q_INVOKABLE void playTense(int tense) { detail_->playTense(tense); }
+    Q_INVOKABLE void playTense(int tense) { detail_->page().playTense(tense); }
     Q_INVOKABLE void stopSpeaking() { detail_->stopSpeaking(); }
     /// Of a form of the mood on show.
     Q_INVOKABLE lumora::qt::FormSheetValue formSheet(int tense, int line) const;
     Q_INVOKABLE lumora::qt::TenseNoteValue tenseNote(int tense) const;
     Q_INVOKABLE void saySlowly(int tense, int line, bool fromCollection);
     Q_INVOKABLE void copy(const QString& text) const;
-    Q_INVOKABLE void showNeighbour(int places) { detail_->showNeighbour(places); }
-    Q_INVOKABLE void showRelated(qint64 id) { detail_->showRelated(id); }
+    Q_INVOKABLE void showNeighbour(int places) { detail_->page().showNeighbour(places); }
+    Q_INVOKABLE void showRelated(qint64 id) { detail_->page().showRelated(id); }
     /// As the person left the last one, if ever.
     Q_INVOKABLE bool isCardOpen(bool unlessChosen) const
     {
-        return detail_->isCardOpen(unlessChosen);
+        return detail_->page().isCardOpen(unlessChosen);
     }
-    Q_INVOKABLE void keepCardOpen(bool open) { detail_->keepCardOpen(open); }
+    Q_INVOKABLE void keepCardOpen(bool open) { detail_->page().keepCardOpen(open); }
     Q_INVOKABLE void selectMood(int segment) { detail_->selectVerbTypes(segment); }
     /// The page is about to draw the collection.
     Q_INVOKABLE void prepareCollection() const { collection()->loadIfNeeded(); }
