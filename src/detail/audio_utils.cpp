@@ -10,7 +10,6 @@
 #include "text/pronoun.h"
 #include "text/text.h"
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -24,10 +23,6 @@ namespace {
 constexpr std::string_view kLanguage = "fr";
 constexpr float kLowVolume = 0.15F;
 constexpr double kSecondsOfADay = 86400;
-/// So that the ring is seen from the first word on.
-constexpr float kLeastProgress = 0.1F;
-/// Ahead of the voice, so that the ring looks full when the last word begins.
-constexpr float kLead = 1.1F;
 
 std::string spokenText(const data::Conjugation& form)
 {
@@ -63,13 +58,6 @@ platform::Utterance AudioUtils::utteranceFor(const data::Conjugation& form, cons
     auto words = sounds.words(text, form);
     return {std::move(text), std::string{kLanguage}, platform::kDefaultSpeechRate * factor,
             std::move(words), voice};
-}
-
-float AudioUtils::progressAt(std::size_t location, const platform::Utterance& utterance)
-{
-    const auto count = std::max<std::size_t>(text::characterCount(utterance.text), 1);
-    return std::max(kLeastProgress,
-                    static_cast<float>(location) / static_cast<float>(count) * kLead);
 }
 
 bool AudioUtils::isVolumeWarningDue(float volume, double now,

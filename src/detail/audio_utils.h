@@ -5,8 +5,6 @@
 
 #include "platform/machine/speech_synthesizer.h"
 
-#include <cstddef>
-
 namespace lumora::data {
 struct Conjugation;
 }
@@ -27,9 +25,6 @@ public:
     static platform::Utterance utteranceFor(const data::Conjugation& form, const RowSounds& sounds,
                                             platform::Voice voice,
                                             const platform::SettingsStore& settings);
-
-    /// How full the ring is when the word at `location` begins.
-    static float progressAt(std::size_t location, const platform::Utterance& utterance);
 
     /// Whether a low volume is worth a warning at `now`, in seconds since 1970:
     /// once a day is enough.

@@ -3,13 +3,31 @@
 
 #include "detail/playback.h"
 
-#include "detail/audio_utils.h"
 #include "platform/machine/audio_session.h"
+#include "text/text.h"
 
+#include <algorithm>
 #include <ostream>
 #include <utility>
 
 namespace lumora::detail {
+
+namespace {
+
+/// So that the ring is seen from the first word on.
+constexpr float kLeastProgress = 0.1F;
+/// Ahead of the voice, so that the ring looks full when the last word begins.
+constexpr float kLead = 1.1F;
+
+/// How full the ring is when the word at `location` begins.
+float progressAt(std::size_t location, const platform::Utterance& utterance)
+{
+    const auto count = std::max<std::size_t>(text::characterCount(utterance.text), 1);
+    return std::max(kLeastProgress,
+                    static_cast<float>(location) / static_cast<float>(count) * kLead);
+}
+
+} // namespace
 
 Playback::Playback(platform::SpeechSynthesizerFactory& speech, platform::AudioSession& audioSession,
                    std::ostream& console)
@@ -86,7 +104,7 @@ void Playback::tellChange() const
 void Playback::willSpeakRange(std::size_t location, const platform::Utterance& utterance)
 {
     if (currentAudioProgress) {
-        currentAudioProgress->setProgress(AudioUtils::progressAt(location, utterance), false);
+        currentAudioProgress->setProgress(progressAt(location, utterance), false);
     }
 }
 

@@ -35,10 +35,35 @@ T.AbstractButton {
         Loader {
             anchors.centerIn: parent
             active: root.running || root.visualFocus
-            sourceComponent: PlayRing {
+            sourceComponent: ring
+        }
+    }
+
+    // What it shows while its row is spoken or it has the keyboard.
+    Component {
+        id: ring
+
+        Item {
+            implicitWidth: 30
+            implicitHeight: 30
+
+            RoundProgress {
+                anchors.fill: parent
+                visible: root.running
                 source: root.source
-                running: root.running
-                focused: root.visualFocus
+            }
+            Icon {
+                visible: root.running
+                name: "PlayAgain"
+                color: Theme.playInk
+                size: 30
+            }
+            Rectangle {
+                anchors.fill: parent
+                radius: 15
+                color: "transparent"
+                border.width: root.visualFocus ? 3 : root.running ? 1 : 0
+                border.color: root.visualFocus ? Theme.accentText : Theme.playBorder
             }
         }
     }
