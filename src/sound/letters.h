@@ -37,6 +37,11 @@ constexpr char32_t soundOf(char32_t letter)
     return letter & ~kSaidMark;
 }
 
+constexpr bool isOneOf(char32_t one, std::u32string_view many)
+{
+    return many.find(one) != std::u32string_view::npos;
+}
+
 /// Malformed bytes become U+FFFD.
 std::u32string decoded(std::string_view text);
 

@@ -13,11 +13,6 @@ namespace {
 
 constexpr auto kNone = Sounds::npos;
 
-bool isOneOf(char32_t sound, std::u32string_view sounds)
-{
-    return sounds.find(sound) != std::u32string_view::npos;
-}
-
 /// "pl", "dʁ": after these i, u and y stay vowels.
 bool isCluster(char32_t first, char32_t second)
 {

@@ -12,12 +12,7 @@ namespace lumora::sound {
 
 namespace {
 
-constexpr char32_t kStart = U'#';
-
-bool isOneOf(char32_t letter, std::u32string_view letters)
-{
-    return letters.find(letter) != std::u32string_view::npos;
-}
+constexpr char32_t kWordStart = U'#';
 
 /// Reads a word from left to right.
 class Reading {
@@ -77,7 +72,7 @@ private:
     {
         std::size_t index = at_;
         for (auto i = left.size(); i-- > 0;) {
-            if (left[i] == kStart) {
+            if (left[i] == kWordStart) {
                 return index == 0;
             }
             if (index == 0 || !isOfClass(index - 1, left[i])) {

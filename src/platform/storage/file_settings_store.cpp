@@ -17,7 +17,7 @@ namespace lumora::platform {
 
 namespace {
 
-constexpr std::uintmax_t kMaximumBytes = std::uintmax_t{1024} * 1024;
+constexpr std::uintmax_t kMaximumFileBytes = std::uintmax_t{1024} * 1024;
 constexpr int kIndent = 2;
 
 std::optional<SettingValue> settingOf(const nlohmann::json& value)
@@ -80,7 +80,7 @@ std::string rendered(const SettingsStore::Values& values)
 
 FileSettingsStore::FileSettingsStore(std::filesystem::path file) : file_(std::move(file))
 {
-    const auto content = readFile(file_, kMaximumBytes);
+    const auto content = readFile(file_, kMaximumFileBytes);
     const int code = content ? 0 : content.error().code;
     if (code == ENOENT || code == ENOTDIR) {
         return;
@@ -110,7 +110,7 @@ void FileSettingsStore::refresh()
     if (isChanged()) {
         return;
     }
-    const auto content = readFile(file_, kMaximumBytes);
+    const auto content = readFile(file_, kMaximumFileBytes);
     if (auto values = content ? valuesIn(*content) : std::nullopt) {
         setValues(*std::move(values));
     }

@@ -14,7 +14,7 @@ namespace lumora::platform {
 
 namespace {
 
-constexpr std::size_t kMaximumBytes = std::size_t{1024} * 1024;
+constexpr std::size_t kMaximumListBytes = std::size_t{1024} * 1024;
 constexpr std::size_t kMaximumContainers = 4096;
 constexpr std::string_view kBinaryMark = "bplist00";
 constexpr std::size_t kTrailerBytes = 32;
@@ -153,7 +153,7 @@ std::optional<PropertyListDictionary>
 readPropertyListDictionary(std::string_view bytes, std::span<const std::string_view> keys)
 {
     const bool binary = bytes.substr(0, kBinaryMark.size()) == kBinaryMark;
-    if (bytes.size() > kMaximumBytes || (binary && !isBounded(bytes))) {
+    if (bytes.size() > kMaximumListBytes || (binary && !isBounded(bytes))) {
         return std::nullopt;
     }
     plist_t parsed = nullptr;
