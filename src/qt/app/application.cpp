@@ -59,6 +59,7 @@ Application::Application(ApplicationOptions options)
       fileChooser_{presenter_, options_.desktop},
       shareSheet_{presenter_, mail_, fileChooser_, options_.desktop},
       settingsPortal_{options_.desktop.bus},
+      onScreenKeyboard_{options_.desktop.bus},
       services_{notifications_,  settings_,  bundle_,       device_,      clock_,
                 crashReporter_,  analytics_, std::cout,     views_,       presenter_,
                 storyboard_,     speech_,    audioSession_, scripts_,     shareSheet_,
