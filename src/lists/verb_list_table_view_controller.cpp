@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <ostream>
 
 namespace lumora::lists {
 
@@ -114,9 +115,40 @@ void VerbListTableViewController::readVerbs(platform::DatabaseQueue& database,
         }
         distinguishHomographs(all, connection, services().settings, services().device,
                               services().crashReporter);
+        loadFilter(connection);
         tableView().reloadData();
         connection.close();
     });
+}
+
+void VerbListTableViewController::loadFilter(platform::Database& connection)
+{
+    if (filter_.isAnyChosen() && !filter_.load(connection)) {
+        services().crashReporter.logWithFormat(
+            "An error occurred when reading which verbs are common: %@ (%d)",
+            {connection.lastErrorMessage(), connection.lastErrorCode()});
+    }
+}
+
+void VerbListTableViewController::choose(VerbChip chip, bool chosen)
+{
+    if (const auto kept = filter_.choose(chip, chosen); !kept) {
+        services().console << "Unable to keep what the list shows: " << kept.error().message
+                           << std::endl;
+    }
+    if (queue != nullptr) {
+        queue->inDatabase([this](platform::Database& connection) { loadFilter(connection); });
+    }
+    tableView().reloadData();
+}
+
+bool VerbListTableViewController::showsRow(platform::IndexPath path)
+{
+    if (!filter_.isAnyChosen()) {
+        return true;
+    }
+    const auto verb = verbAt(path);
+    return verb == nullptr || filter_.shows(verb->id);
 }
 
 const std::string& VerbListTableViewController::keyOfSection(int section) const

@@ -27,10 +27,19 @@ ScreenPage {
         onAccepted: root.openFirst()
         onEnded: area.forceActiveFocus()
     }
+    ListChips {
+        id: chips
+        anchors.top: search.bottom
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: !root.searching && root.home.selectedTab === 0
+        home: root.home
+        onNarrowed: area.showTop()
+    }
     FocusScope {
         id: area
         focus: true
-        anchors.top: search.bottom
+        anchors.top: chips.bottom
         anchors.bottom: tabs.top
         width: parent.width
         clip: true
@@ -43,8 +52,13 @@ ScreenPage {
                 forceActiveFocus(Qt.TabFocusReason);
         }
 
+        function showTop() {
+            (lists.itemAt(0) as Loader).item.list.positionViewAtBeginning(); // qmllint disable
+        }
+
         // Each list keeps its place once it was there.
         Repeater {
+            id: lists
             model: 3
 
             Loader {

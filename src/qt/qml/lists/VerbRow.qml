@@ -36,6 +36,7 @@ TableRow {
                 text: root.text
                 color: Theme.text
                 font.pixelSize: Theme.body
+                font.weight: Font.DemiBold
                 elide: Text.ElideRight
             }
             Text {
