@@ -34,11 +34,13 @@ T.AbstractButton {
 
         Loader {
             anchors.centerIn: parent
-            active: root.running || root.visualFocus
+            active: root.running || root.visualFocus || root.hovered
             sourceComponent: PlayRing {
                 source: root.source
                 running: root.running
                 focused: root.visualFocus
+                hovered: root.hovered
+                tip: root.ofTense ? qsTrId("action.play.tense") : qsTrId("action.play")
             }
         }
     }
