@@ -110,7 +110,7 @@ public:
 
     /// Shows a tab, which the results of a search would cover: it ends.
     void didSelectItem(Tab tag);
-    /// The user changed the text of the search field.
+    /// The user changed the text of the search field, or it is set from elsewhere.
     void searchTextChanged(std::string text);
     void updateSearchResults();
     /// The search runs again: a scope may change what is found.
@@ -124,6 +124,8 @@ public:
 
     /// Opens the verb of a card, at the form where it names one.
     void didSelectReading(std::size_t card);
+    /// Opens a verb as if it had been found, at a form if one is given.
+    void showSearchResult(const data::VerbPtr& verb, const std::optional<data::FormPlace>& place);
     /// Opens the options at the one that searches the conjugated forms.
     void showFormsOption();
 
@@ -154,7 +156,6 @@ private:
     void showTab(Tab tab);
     void buildTabBarItems();
     std::shared_ptr<lists::InterstitialTableViewController> listFor(Tab tab);
-    void showSearchResult(const data::VerbPtr& verb, const std::optional<data::FormPlace>& place);
     void outletsChanged();
 
     const platform::Services& services_;

@@ -60,6 +60,9 @@ void HomeScreen::update()
         shown_ = std::move(visible);
         emit childrenChanged();
     }
+    if (const auto text = searchText(); std::exchange(searched_, text) != text) {
+        emit searchChanged();
+    }
 }
 
 bool HomeScreen::isSearching() const
@@ -158,7 +161,6 @@ void HomeScreen::changeSearchText(const QString& text)
 {
     if (text != searchText()) {
         home_->searchTextChanged(toUtf8(text));
-        emit searchChanged();
     }
 }
 
