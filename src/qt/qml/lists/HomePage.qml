@@ -11,6 +11,7 @@ ScreenPage {
 
     readonly property HomeScreen home: screen as HomeScreen
     readonly property bool searching: home.searchText !== ""
+    readonly property bool low: height < 460
 
     function openFirst() {
         if (searching)
@@ -32,7 +33,8 @@ ScreenPage {
         anchors.top: search.bottom
         width: parent.width
         height: visible ? implicitHeight : 0
-        visible: !root.searching && root.home.selectedTab === 0
+        // A low window is left to the verbs.
+        visible: !root.searching && root.home.selectedTab === 0 && (!root.low || root.home.commonOnly || root.home.irregularOnly)
         home: root.home
         onNarrowed: area.showTop()
     }
@@ -122,6 +124,6 @@ ScreenPage {
         anchors.bottom: parent.bottom
         width: parent.width
         home: root.home
-        compact: root.height < 460
+        compact: root.low
     }
 }
