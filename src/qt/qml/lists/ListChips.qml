@@ -18,7 +18,7 @@ Rectangle {
         id: chip
 
         checkable: true
-        padding: 0
+        padding: 6
         leftPadding: 14
         rightPadding: 14
         focusColor: Theme.accentText
@@ -31,7 +31,7 @@ Rectangle {
             Rectangle {
                 anchors.centerIn: parent
                 width: parent.width
-                height: Math.max(32, chip.implicitContentHeight + 12)
+                height: Math.max(32, chip.implicitContentHeight + 8)
                 radius: height / 2
                 color: chip.down ? Theme.pressed : chip.checked ? Theme.accentSecondary : chip.hovered ? Theme.hover : Theme.background
                 border.width: chip.visualFocus ? 2 : 1
