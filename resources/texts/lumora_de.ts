@@ -293,6 +293,10 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Kontakt</translation>
     </message>
+    <message id="drawer.here">
+        <source></source>
+        <translation>Sie sind hier: %1</translation>
+    </message>
     <message id="export.cancel">
         <source></source>
         <translation>Abbrechen</translation>
@@ -409,6 +413,14 @@ Verben im Verlauf: %d</translation>
         <source></source>
         <translation>Ein Verb öffnen, eine Form ansehen</translation>
     </message>
+    <message id="keys.page_down">
+        <source></source>
+        <translation>Bild ↓</translation>
+    </message>
+    <message id="keys.page_up">
+        <source></source>
+        <translation>Bild ↑</translation>
+    </message>
     <message id="keys.part">
         <source></source>
         <translation>Nächster Teil des Fensters</translation>
@@ -424,6 +436,14 @@ Verben im Verlauf: %d</translation>
     <message id="keys.shift">
         <source></source>
         <translation>Umschalt</translation>
+    </message>
+    <message id="keys.space">
+        <source></source>
+        <translation>Leertaste</translation>
+    </message>
+    <message id="keys.stop">
+        <source></source>
+        <translation>Vorlesen beenden</translation>
     </message>
     <message id="keys.title">
         <source></source>
@@ -444,6 +464,18 @@ Verben im Verlauf: %d</translation>
     <message id="link.unknown">
         <source></source>
         <translation>Der Link nennt ein Verb, das Lumora nicht hat.</translation>
+    </message>
+    <message id="list.common">
+        <source></source>
+        <translation>Häufige</translation>
+    </message>
+    <message id="list.irregular">
+        <source></source>
+        <translation>Unregelmäßige</translation>
+    </message>
+    <message id="list.narrow">
+        <source></source>
+        <translation>Nur zeigen</translation>
     </message>
     <message id="moreapps">
         <source></source>
@@ -536,6 +568,10 @@ Verben im Verlauf: %d</translation>
     <message id="select">
         <source></source>
         <translation>Wählen Sie ein Verb, um seine Konjugation zu sehen.</translation>
+    </message>
+    <message id="select.hint">
+        <source></source>
+        <translation>Oder geben Sie eine Form ein: „irions“ führt zu aller.</translation>
     </message>
     <message id="settings">
         <source></source>
@@ -748,10 +784,6 @@ Verben im Verlauf: %d</translation>
     <message id="share.save.up">
         <source></source>
         <translation>Übergeordneter Ordner</translation>
-    </message>
-    <message id="sheet.copied">
-        <source></source>
-        <translation>Kopiert</translation>
     </message>
     <message id="sheet.copy.form">
         <source></source>

@@ -293,6 +293,10 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Contact us</translation>
     </message>
+    <message id="drawer.here">
+        <source></source>
+        <translation>You are here: %1</translation>
+    </message>
     <message id="export.cancel">
         <source></source>
         <translation>Cancel</translation>
@@ -409,6 +413,14 @@ Verbs in the history: %d</translation>
         <source></source>
         <translation>Open a verb, look at a form</translation>
     </message>
+    <message id="keys.page_down">
+        <source></source>
+        <translation>PgDn</translation>
+    </message>
+    <message id="keys.page_up">
+        <source></source>
+        <translation>PgUp</translation>
+    </message>
     <message id="keys.part">
         <source></source>
         <translation>Next part of the window</translation>
@@ -424,6 +436,14 @@ Verbs in the history: %d</translation>
     <message id="keys.shift">
         <source></source>
         <translation>Shift</translation>
+    </message>
+    <message id="keys.space">
+        <source></source>
+        <translation>Space</translation>
+    </message>
+    <message id="keys.stop">
+        <source></source>
+        <translation>Stop what is spoken</translation>
     </message>
     <message id="keys.title">
         <source></source>
@@ -444,6 +464,18 @@ Verbs in the history: %d</translation>
     <message id="link.unknown">
         <source></source>
         <translation>The link names a verb that Lumora does not have.</translation>
+    </message>
+    <message id="list.common">
+        <source></source>
+        <translation>Common</translation>
+    </message>
+    <message id="list.irregular">
+        <source></source>
+        <translation>Irregular</translation>
+    </message>
+    <message id="list.narrow">
+        <source></source>
+        <translation>Show only</translation>
     </message>
     <message id="moreapps">
         <source></source>
@@ -536,6 +568,10 @@ Verbs in the history: %d</translation>
     <message id="select">
         <source></source>
         <translation>Select a verb to see its conjugation.</translation>
+    </message>
+    <message id="select.hint">
+        <source></source>
+        <translation>Or type a form: “irions” leads to aller.</translation>
     </message>
     <message id="settings">
         <source></source>
@@ -748,10 +784,6 @@ Verbs in the history: %d</translation>
     <message id="share.save.up">
         <source></source>
         <translation>Parent folder</translation>
-    </message>
-    <message id="sheet.copied">
-        <source></source>
-        <translation>Copied</translation>
     </message>
     <message id="sheet.copy.form">
         <source></source>

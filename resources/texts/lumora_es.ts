@@ -293,6 +293,10 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Contacto</translation>
     </message>
+    <message id="drawer.here">
+        <source></source>
+        <translation>Estás aquí: %1</translation>
+    </message>
     <message id="export.cancel">
         <source></source>
         <translation>Cancelar</translation>
@@ -409,6 +413,14 @@ Verbos en el historial: %d</translation>
         <source></source>
         <translation>Abrir un verbo, ver una forma</translation>
     </message>
+    <message id="keys.page_down">
+        <source></source>
+        <translation>AvPág</translation>
+    </message>
+    <message id="keys.page_up">
+        <source></source>
+        <translation>RePág</translation>
+    </message>
     <message id="keys.part">
         <source></source>
         <translation>Parte siguiente de la ventana</translation>
@@ -424,6 +436,14 @@ Verbos en el historial: %d</translation>
     <message id="keys.shift">
         <source></source>
         <translation>Mayús</translation>
+    </message>
+    <message id="keys.space">
+        <source></source>
+        <translation>Espacio</translation>
+    </message>
+    <message id="keys.stop">
+        <source></source>
+        <translation>Detener la lectura</translation>
     </message>
     <message id="keys.title">
         <source></source>
@@ -444,6 +464,18 @@ Verbos en el historial: %d</translation>
     <message id="link.unknown">
         <source></source>
         <translation>El enlace nombra un verbo que Lumora no tiene.</translation>
+    </message>
+    <message id="list.common">
+        <source></source>
+        <translation>Frecuentes</translation>
+    </message>
+    <message id="list.irregular">
+        <source></source>
+        <translation>Irregulares</translation>
+    </message>
+    <message id="list.narrow">
+        <source></source>
+        <translation>Mostrar solo</translation>
     </message>
     <message id="moreapps">
         <source></source>
@@ -536,6 +568,10 @@ Verbos en el historial: %d</translation>
     <message id="select">
         <source></source>
         <translation>Elige un verbo para ver su conjugación.</translation>
+    </message>
+    <message id="select.hint">
+        <source></source>
+        <translation>O escribe una forma: «irions» lleva a aller.</translation>
     </message>
     <message id="settings">
         <source></source>
@@ -748,10 +784,6 @@ Verbos en el historial: %d</translation>
     <message id="share.save.up">
         <source></source>
         <translation>Carpeta superior</translation>
-    </message>
-    <message id="sheet.copied">
-        <source></source>
-        <translation>Copiado</translation>
     </message>
     <message id="sheet.copy.form">
         <source></source>

@@ -293,6 +293,10 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Nous contacter</translation>
     </message>
+    <message id="drawer.here">
+        <source></source>
+        <translation>Vous êtes ici : %1</translation>
+    </message>
     <message id="export.cancel">
         <source></source>
         <translation>Annuler</translation>
@@ -409,6 +413,14 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Ouvrir un verbe, regarder une forme</translation>
     </message>
+    <message id="keys.page_down">
+        <source></source>
+        <translation>PgSuiv</translation>
+    </message>
+    <message id="keys.page_up">
+        <source></source>
+        <translation>PgPréc</translation>
+    </message>
     <message id="keys.part">
         <source></source>
         <translation>Partie suivante de la fenêtre</translation>
@@ -424,6 +436,14 @@ Verbes dans l’historique : %d</translation>
     <message id="keys.shift">
         <source></source>
         <translation>Maj</translation>
+    </message>
+    <message id="keys.space">
+        <source></source>
+        <translation>Espace</translation>
+    </message>
+    <message id="keys.stop">
+        <source></source>
+        <translation>Arrêter la lecture</translation>
     </message>
     <message id="keys.title">
         <source></source>
@@ -444,6 +464,18 @@ Verbes dans l’historique : %d</translation>
     <message id="link.unknown">
         <source></source>
         <translation>Le lien désigne un verbe que Lumora ne connaît pas.</translation>
+    </message>
+    <message id="list.common">
+        <source></source>
+        <translation>Courants</translation>
+    </message>
+    <message id="list.irregular">
+        <source></source>
+        <translation>Irréguliers</translation>
+    </message>
+    <message id="list.narrow">
+        <source></source>
+        <translation>N’afficher que</translation>
     </message>
     <message id="moreapps">
         <source></source>
@@ -536,6 +568,10 @@ Verbes dans l’historique : %d</translation>
     <message id="select">
         <source></source>
         <translation>Choisissez un verbe pour afficher sa conjugaison.</translation>
+    </message>
+    <message id="select.hint">
+        <source></source>
+        <translation>Ou saisissez une forme : « irions » mène à aller.</translation>
     </message>
     <message id="settings">
         <source></source>
@@ -748,10 +784,6 @@ Verbes dans l’historique : %d</translation>
     <message id="share.save.up">
         <source></source>
         <translation>Dossier parent</translation>
-    </message>
-    <message id="sheet.copied">
-        <source></source>
-        <translation>Copié</translation>
     </message>
     <message id="sheet.copy.form">
         <source></source>

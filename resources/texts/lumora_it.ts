@@ -293,6 +293,10 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Contattaci</translation>
     </message>
+    <message id="drawer.here">
+        <source></source>
+        <translation>Ti trovi qui: %1</translation>
+    </message>
     <message id="export.cancel">
         <source></source>
         <translation>Annulla</translation>
@@ -409,6 +413,14 @@ Verbi nella cronologia: %d</translation>
         <source></source>
         <translation>Apri un verbo, esamina una forma</translation>
     </message>
+    <message id="keys.page_down">
+        <source></source>
+        <translation>Pag ↓</translation>
+    </message>
+    <message id="keys.page_up">
+        <source></source>
+        <translation>Pag ↑</translation>
+    </message>
     <message id="keys.part">
         <source></source>
         <translation>Parte successiva della finestra</translation>
@@ -424,6 +436,14 @@ Verbi nella cronologia: %d</translation>
     <message id="keys.shift">
         <source></source>
         <translation>Maiusc</translation>
+    </message>
+    <message id="keys.space">
+        <source></source>
+        <translation>Spazio</translation>
+    </message>
+    <message id="keys.stop">
+        <source></source>
+        <translation>Ferma la lettura</translation>
     </message>
     <message id="keys.title">
         <source></source>
@@ -444,6 +464,18 @@ Verbi nella cronologia: %d</translation>
     <message id="link.unknown">
         <source></source>
         <translation>Il collegamento indica un verbo che Lumora non ha.</translation>
+    </message>
+    <message id="list.common">
+        <source></source>
+        <translation>Comuni</translation>
+    </message>
+    <message id="list.irregular">
+        <source></source>
+        <translation>Irregolari</translation>
+    </message>
+    <message id="list.narrow">
+        <source></source>
+        <translation>Mostra solo</translation>
     </message>
     <message id="moreapps">
         <source></source>
@@ -536,6 +568,10 @@ Verbi nella cronologia: %d</translation>
     <message id="select">
         <source></source>
         <translation>Scegli un verbo per vederne la coniugazione.</translation>
+    </message>
+    <message id="select.hint">
+        <source></source>
+        <translation>Oppure digita una forma: «irions» porta ad aller.</translation>
     </message>
     <message id="settings">
         <source></source>
@@ -748,10 +784,6 @@ Verbi nella cronologia: %d</translation>
     <message id="share.save.up">
         <source></source>
         <translation>Cartella superiore</translation>
-    </message>
-    <message id="sheet.copied">
-        <source></source>
-        <translation>Copiato</translation>
     </message>
     <message id="sheet.copy.form">
         <source></source>

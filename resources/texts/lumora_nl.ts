@@ -293,6 +293,10 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Contact</translation>
     </message>
+    <message id="drawer.here">
+        <source></source>
+        <translation>Je bent hier: %1</translation>
+    </message>
     <message id="export.cancel">
         <source></source>
         <translation>Annuleren</translation>
@@ -409,6 +413,14 @@ Werkwoorden in de geschiedenis: %d</translation>
         <source></source>
         <translation>Een werkwoord openen, een vorm bekijken</translation>
     </message>
+    <message id="keys.page_down">
+        <source></source>
+        <translation>PgDn</translation>
+    </message>
+    <message id="keys.page_up">
+        <source></source>
+        <translation>PgUp</translation>
+    </message>
     <message id="keys.part">
         <source></source>
         <translation>Volgende deel van het venster</translation>
@@ -424,6 +436,14 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="keys.shift">
         <source></source>
         <translation>Shift</translation>
+    </message>
+    <message id="keys.space">
+        <source></source>
+        <translation>Spatie</translation>
+    </message>
+    <message id="keys.stop">
+        <source></source>
+        <translation>Voorlezen stoppen</translation>
     </message>
     <message id="keys.title">
         <source></source>
@@ -444,6 +464,18 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="link.unknown">
         <source></source>
         <translation>De link noemt een werkwoord dat Lumora niet heeft.</translation>
+    </message>
+    <message id="list.common">
+        <source></source>
+        <translation>Gangbaar</translation>
+    </message>
+    <message id="list.irregular">
+        <source></source>
+        <translation>Onregelmatig</translation>
+    </message>
+    <message id="list.narrow">
+        <source></source>
+        <translation>Toon alleen</translation>
     </message>
     <message id="moreapps">
         <source></source>
@@ -536,6 +568,10 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="select">
         <source></source>
         <translation>Kies een werkwoord om de vervoeging te zien.</translation>
+    </message>
+    <message id="select.hint">
+        <source></source>
+        <translation>Of typ een vorm: ‘irions’ leidt naar aller.</translation>
     </message>
     <message id="settings">
         <source></source>
@@ -748,10 +784,6 @@ Werkwoorden in de geschiedenis: %d</translation>
     <message id="share.save.up">
         <source></source>
         <translation>Bovenliggende map</translation>
-    </message>
-    <message id="sheet.copied">
-        <source></source>
-        <translation>Gekopieerd</translation>
     </message>
     <message id="sheet.copy.form">
         <source></source>

@@ -293,6 +293,10 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Contacte-nos</translation>
     </message>
+    <message id="drawer.here">
+        <source></source>
+        <translation>Está aqui: %1</translation>
+    </message>
     <message id="export.cancel">
         <source></source>
         <translation>Cancelar</translation>
@@ -409,6 +413,14 @@ Verbos no histórico: %d</translation>
         <source></source>
         <translation>Abrir um verbo, ver uma forma</translation>
     </message>
+    <message id="keys.page_down">
+        <source></source>
+        <translation>PgDn</translation>
+    </message>
+    <message id="keys.page_up">
+        <source></source>
+        <translation>PgUp</translation>
+    </message>
     <message id="keys.part">
         <source></source>
         <translation>Parte seguinte da janela</translation>
@@ -424,6 +436,14 @@ Verbos no histórico: %d</translation>
     <message id="keys.shift">
         <source></source>
         <translation>Shift</translation>
+    </message>
+    <message id="keys.space">
+        <source></source>
+        <translation>Espaço</translation>
+    </message>
+    <message id="keys.stop">
+        <source></source>
+        <translation>Parar a leitura</translation>
     </message>
     <message id="keys.title">
         <source></source>
@@ -444,6 +464,18 @@ Verbos no histórico: %d</translation>
     <message id="link.unknown">
         <source></source>
         <translation>A ligação indica um verbo que o Lumora não tem.</translation>
+    </message>
+    <message id="list.common">
+        <source></source>
+        <translation>Comuns</translation>
+    </message>
+    <message id="list.irregular">
+        <source></source>
+        <translation>Irregulares</translation>
+    </message>
+    <message id="list.narrow">
+        <source></source>
+        <translation>Mostrar apenas</translation>
     </message>
     <message id="moreapps">
         <source></source>
@@ -536,6 +568,10 @@ Verbos no histórico: %d</translation>
     <message id="select">
         <source></source>
         <translation>Escolha um verbo para ver a sua conjugação.</translation>
+    </message>
+    <message id="select.hint">
+        <source></source>
+        <translation>Ou digite uma forma: “irions” leva a aller.</translation>
     </message>
     <message id="settings">
         <source></source>
@@ -748,10 +784,6 @@ Verbos no histórico: %d</translation>
     <message id="share.save.up">
         <source></source>
         <translation>Pasta superior</translation>
-    </message>
-    <message id="sheet.copied">
-        <source></source>
-        <translation>Copiado</translation>
     </message>
     <message id="sheet.copy.form">
         <source></source>

@@ -24,10 +24,13 @@ constexpr std::string_view kSameInfinitive =
     "WHERE french IN (?1, ?1 || ' (se)', ?1 || ' (s'')', ?1 || ' (s''en)') AND verb._id <> ?2 "
     "ORDER BY verb._id";
 
-// More than are named: some share a name with each other or with the verb.
+// More than are named: some share a name with each other, with the verb or with
+// that of the model.
 constexpr std::string_view kSameModel =
     "JOIN verb_facts ON verb_facts.verbid = verb._id WHERE model = ?1 AND verb._id <> ?2 "
-    "ORDER BY use_class, simplified_french LIMIT 16";
+    "AND (auxiliary, instr(traits, 'pronominal') > 0) = "
+    "(SELECT auxiliary, instr(traits, 'pronominal') > 0 FROM verb_facts WHERE verbid = ?2) "
+    "ORDER BY use_class, simplified_french LIMIT 20";
 
 constexpr std::string_view kById = "WHERE verb._id = ?1";
 
@@ -44,13 +47,15 @@ platform::Result<std::vector<VerbPtr>> verbsOf(platform::Database& database,
     return verbs;
 }
 
-/// The first few of other infinitives, each once.
-std::vector<VerbPtr> firstOfEachName(std::string_view own, const std::vector<VerbPtr>& verbs)
+/// The first few of other infinitives than those two, each once.
+std::vector<VerbPtr> firstOfEachName(std::string_view own, std::string_view model,
+                                     const std::vector<VerbPtr>& verbs)
 {
     std::vector<VerbPtr> named;
     for (const auto& verb : verbs) {
         const auto name = bareInfinitive(verb->french);
-        const bool known = name == own || std::any_of(named.begin(), named.end(), [&](auto& each) {
+        const bool known = name == own || name == model ||
+                           std::any_of(named.begin(), named.end(), [&](auto& each) {
                                return bareInfinitive(each->french) == name;
                            });
         if (!known && named.size() < kAlikeCount) {
@@ -63,22 +68,26 @@ std::vector<VerbPtr> firstOfEachName(std::string_view own, const std::vector<Ver
 } // namespace
 
 platform::Result<VerbRelations> readVerbRelations(platform::Database& database, const Verb& verb,
-                                                  const std::string& model)
+                                                  const std::optional<VerbFacts>& facts)
 {
     const std::string bare{bareInfinitive(verb.french)};
     const auto namesakes = verbsOf(database, kSameInfinitive, {bare, verb.id});
     if (!namesakes) {
         return tl::unexpected(namesakes.error());
     }
-    const auto alike = verbsOf(database, kSameModel, {model, verb.id});
-    if (!alike) {
-        return tl::unexpected(alike.error());
-    }
     VerbRelations relations;
     for (const auto& each : *namesakes) {
         (each->french == verb.french ? relations.homographs : relations.partners).push_back(each);
     }
-    relations.alike = firstOfEachName(bare, *alike);
+    if (facts) {
+        const auto alike = verbsOf(database, kSameModel, {facts->model, verb.id});
+        if (!alike) {
+            return tl::unexpected(alike.error());
+        }
+        const std::string_view like =
+            facts->like ? bareInfinitive(facts->like->french) : std::string_view{};
+        relations.alike = firstOfEachName(bare, like, *alike);
+    }
     return relations;
 }
 

@@ -4,10 +4,11 @@
 #pragma once
 
 #include "data/verb.h"
+#include "data/verb_facts.h"
 #include "platform/base/error.h"
 
 #include <cstdint>
-#include <string>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -24,17 +25,18 @@ struct VerbRelations {
     std::vector<VerbPtr> partners;
     /// Entries of the same name.
     std::vector<VerbPtr> homographs;
-    /// The commonest of those that are conjugated alike, each name once.
+    /// The commonest of those that are conjugated alike, with the same auxiliary
+    /// and se or without as this one, each name once; without the verb that gives
+    /// them their model.
     std::vector<VerbPtr> alike;
 };
 
 /// At most so many verbs are named as conjugated alike.
 inline constexpr std::size_t kAlikeCount = 5;
 
-/// An error when the database cannot be asked. `model` is that of the verb's
-/// facts.
+/// An error when the database cannot be asked. Without facts no verb is alike.
 platform::Result<VerbRelations> readVerbRelations(platform::Database& database, const Verb& verb,
-                                                  const std::string& model);
+                                                  const std::optional<VerbFacts>& facts);
 
 /// A verb as the lists read it; null when there is none of that id.
 platform::Result<VerbPtr> readVerb(platform::Database& database, std::int64_t id);

@@ -5,6 +5,7 @@
 
 #include "data/form_parts.h"
 #include "data/tense_table.h"
+#include "detail/form_setting.h"
 #include "detail/row_sounds.h"
 #include "platform/machine/bundle.h"
 #include "platform/storage/settings_store.h"
@@ -43,16 +44,29 @@ TenseName nameOf(const data::TenseBlock& block, const Wording& wording)
     return name;
 }
 
-std::string personInWords(const data::Conjugation& row, const Wording& wording)
+/// A row without a pronoun is of the person, the time or the gender that its
+/// hint names.
+std::string personInWords(const data::TenseBlock& block, const data::ConjugationList& forms,
+                          std::size_t row, const Wording& wording)
 {
     constexpr std::array<std::string_view, 6> kKeys{"person.1.singular", "person.2.singular",
                                                     "person.3.singular", "person.1.plural",
                                                     "person.2.plural",   "person.3.plural"};
-    const auto person = sound::personOf(row.pronoun);
+    const auto hint = hintsOf(block.tense.identifier, forms, [&](std::string_view key) {
+        return data::tenseTitle(key, wording.bundle, wording.settings);
+    })[row];
+    const auto& pronoun = forms[row]->pronoun;
+    const auto person = sound::personOf(pronoun.empty() ? hint.hint : pronoun);
     if (person == sound::Person::Nobody) {
-        return {};
+        return hint.accessibilityHint;
     }
-    return platform::localizedString(wording.bundle, kKeys.at(static_cast<std::size_t>(person)));
+    auto words =
+        platform::localizedString(wording.bundle, kKeys.at(static_cast<std::size_t>(person)));
+    // "tu, past"
+    if (hint.accessibilityHint.size() > hint.hint.size()) {
+        words += hint.accessibilityHint.substr(hint.hint.size());
+    }
+    return words;
 }
 
 bool haveSpellingInCommon(const data::Conjugation& one, const data::Conjugation& other)
@@ -103,12 +117,14 @@ std::optional<FormSheet> formSheet(const data::Verb& verb, const RowPlace& place
     const auto rowOf = [](const data::Conjugation& row) {
         return text::beforeForm(row.pronoun) + row.verb;
     };
-    FormSheet sheet{rowOf(*form),
-                    form->verb,
-                    sounds.ipa(*form),
-                    nameOf(*blockAt(place.segment, place.tense), wording),
-                    personInWords(*form, wording),
-                    {}};
+    const auto& tense = *blockAt(place.segment, place.tense);
+    FormSheet sheet{
+        rowOf(*form),
+        form->verb,
+        sounds.ipa(*form),
+        nameOf(tense, wording),
+        personInWords(tense, verb.*tense.tense.forms, static_cast<std::size_t>(place.row), wording),
+        {}};
     forEachForm(verb, [&](const RowPlace& there, const data::TenseBlock& block,
                           const data::Conjugation& other) {
         if (there != place && haveSpellingInCommon(*form, other)) {

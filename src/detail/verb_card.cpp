@@ -31,6 +31,12 @@ std::string joined(const std::vector<std::string>& words, std::string_view betwe
     return text;
 }
 
+/// Gésir and its like have no compound tense, and so no auxiliary.
+bool hasAuxiliary(const data::Verb& verb)
+{
+    return !verb.indicatifPasseCompose.empty();
+}
+
 /// Writes the lines of one verb's card.
 class CardWriter {
 public:
@@ -90,7 +96,7 @@ private:
     void auxiliary()
     {
         const auto& verbs = facts_->auxiliaries;
-        if (verbs.empty()) {
+        if (verbs.empty() || !hasAuxiliary(verb_)) {
             return;
         }
         const bool never = contains(facts_->participle, "invariable");
@@ -154,7 +160,8 @@ private:
 
 } // namespace
 
-std::string verbSummary(const data::VerbFacts& facts, const Wording& wording)
+std::string verbSummary(const data::Verb& verb, const data::VerbFacts& facts,
+                        const Wording& wording)
 {
     const auto text = [&](std::string_view key) {
         return platform::localizedString(wording.bundle, key);
@@ -163,7 +170,9 @@ std::string verbSummary(const data::VerbFacts& facts, const Wording& wording)
     if (facts.like) {
         parts.push_back(text::formatted(text("card.like.short"), {facts.like->french}));
     }
-    parts.push_back(joined(facts.auxiliaries, ", "));
+    if (hasAuxiliary(verb)) {
+        parts.push_back(joined(facts.auxiliaries, ", "));
+    }
     return joined(parts, " · ");
 }
 

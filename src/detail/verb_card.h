@@ -40,9 +40,10 @@ struct VerbCardLine {
     std::vector<VerbLink> links;
 };
 
-/// "2nd group · like finir · avoir": a verb's grammar at a glance; empty where
-/// nothing is known of it.
-std::string verbSummary(const data::VerbFacts& facts, const Wording& wording);
+/// "2nd group · like finir · avoir": a verb's grammar at a glance, for a verb whose
+/// forms are loaded.
+std::string verbSummary(const data::Verb& verb, const data::VerbFacts& facts,
+                        const Wording& wording);
 
 /// All that is known of a verb's grammar, for a verb whose forms are loaded.
 /// What does not apply to it has no line.

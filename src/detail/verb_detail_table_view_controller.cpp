@@ -93,7 +93,8 @@ void VerbDetailTableViewController::viewDidLoad()
     for (const auto key : data::kMoodTitleKeys) {
         verbTypeSegmentedControl.titles.push_back(localizedString(services_.bundle, key));
     }
-    verbTypeSegmentedControl.selected = settings::ViewMemory{services_.viewMemory}.mood();
+    verbTypeSegmentedControl.selected =
+        firstMood.value_or(settings::ViewMemory{services_.viewMemory}.mood());
     selectVerbLabel.text = localizedString(services_.bundle, "select");
     defaultToolbarHeight = toolbarHeightConstaint;
 

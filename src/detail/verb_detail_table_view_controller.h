@@ -80,6 +80,8 @@ public:
     std::shared_ptr<CERoundProgressView>& currentAudioProgress = playback_.currentAudioProgress;
     /// The form that was asked for: the screen opens at it and marks it.
     std::optional<data::FormPlace> openedForm;
+    /// The mood to begin with; the one chosen last where nothing is handed over.
+    std::optional<int> firstMood;
     /// Whether the screen is shown as a preview.
     bool isPeeking = false;
 

@@ -45,14 +45,14 @@ std::optional<data::VerbFacts> VerbGuide::facts() const
 std::string VerbGuide::summary() const
 {
     const auto known = facts();
-    return known ? verbSummary(*known, wording_) : std::string{};
+    return known ? verbSummary(verb_, *known, wording_) : std::string{};
 }
 
 std::vector<VerbCardLine> VerbGuide::card() const
 {
     const auto known = facts();
     const auto relations = read<data::VerbRelations>([&](platform::Database& database) {
-        return data::readVerbRelations(database, verb_, known ? known->model : std::string{});
+        return data::readVerbRelations(database, verb_, known);
     });
     return verbCard(verb_, known, relations, wording_);
 }

@@ -39,7 +39,7 @@ void showVerb(VerbDetailTableViewController& from, data::VerbPtr verb, VerbSeque
     screen->queue = from.queue;
     screen->selectedVerb = std::move(verb);
     screen->sequence = std::move(sequence);
-    screen->verbTypeSegmentedControl.selected = from.verbTypeSegmentedControl.selected;
+    screen->firstMood = from.verbTypeSegmentedControl.selected;
     screen->offerDisplayModeButton(from.splitViewController());
     if (step == VerbStep::Cover) {
         stack->pushViewController(std::move(screen));

@@ -55,10 +55,13 @@ detail::VerbSequence InterstitialTableViewController::sequenceFrom(platform::Ind
     for (int section = 0; section < numberOfSections(); ++section) {
         const int rows = numberOfRowsInSection(section);
         for (int row = 0; row < rows; ++row) {
-            if (platform::IndexPath{section, row} == path) {
+            const platform::IndexPath each{section, row};
+            if (each == path) {
                 at = verbs.size();
+            } else if (!showsRow(each)) {
+                continue;
             }
-            verbs.push_back(verbAt({section, row}));
+            verbs.push_back(verbAt(each));
         }
     }
     return {std::move(verbs), at};

@@ -7,6 +7,7 @@
 #include "lists/favourite_action.h"
 #include "lists/sort_column.h"
 #include "lists/verb_cell.h"
+#include "settings/view_memory.h"
 #include "platform/machine/analytics.h"
 #include "platform/machine/crash_reporter.h"
 #include "platform/storage/database_queue.h"
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <ostream>
 
 namespace lumora::lists {
 
@@ -114,9 +116,38 @@ void VerbListTableViewController::readVerbs(platform::DatabaseQueue& database,
         }
         distinguishHomographs(all, connection, services().settings, services().device,
                               services().crashReporter);
+        loadFilter(connection);
         tableView().reloadData();
         connection.close();
     });
+}
+
+void VerbListTableViewController::loadFilter(platform::Database& connection)
+{
+    if (filter_.isAnyChosen() && !filter_.load(connection)) {
+        services().crashReporter.logWithFormat(
+            "An error occurred when reading which verbs are common: %@ (%d)",
+            {connection.lastErrorMessage(), connection.lastErrorCode()});
+    }
+}
+
+void VerbListTableViewController::choose(VerbChip chip, bool chosen)
+{
+    settings::reportUnkept(filter_.choose(chip, chosen), "what the list shows",
+                           services().console);
+    if (queue != nullptr) {
+        queue->inDatabase([this](platform::Database& connection) { loadFilter(connection); });
+    }
+    tableView().reloadData();
+}
+
+bool VerbListTableViewController::showsRow(platform::IndexPath path)
+{
+    if (!filter_.isAnyChosen()) {
+        return true;
+    }
+    const auto verb = verbAt(path);
+    return verb == nullptr || filter_.shows(verb->id);
 }
 
 const std::string& VerbListTableViewController::keyOfSection(int section) const

@@ -5,11 +5,16 @@
 
 #include "data/news.h"
 #include "lists/interstitial_table_view_controller.h"
+#include "lists/verb_filter.h"
 #include "platform/base/notification_center.h"
 
 #include <map>
 #include <string>
 #include <vector>
+
+namespace lumora::platform {
+class Database;
+}
 
 namespace lumora::lists {
 
@@ -28,6 +33,10 @@ public:
     /// The index letters in section order.
     std::vector<std::string> keys;
 
+    /// Which of the verbs show; the members above hold all of them.
+    const VerbFilter& filter() const { return filter_; }
+    void choose(VerbChip chip, bool chosen);
+
     void reloadVerbs();
 
     void viewWillAppear() override;
@@ -40,6 +49,7 @@ public:
     std::vector<std::string> sectionIndexTitles() override;
     int sectionForSectionIndexTitle(std::string_view title, int index) override;
     platform::TableCell cellForRow(platform::IndexPath path) override;
+    bool showsRow(platform::IndexPath path) override;
     bool canEditRow(platform::IndexPath path) override;
     std::vector<platform::SwipeAction> trailingSwipeActions(platform::IndexPath path) override;
 
@@ -52,6 +62,9 @@ private:
     void readVerbs(platform::DatabaseQueue& database, std::string_view sortColumn);
     const std::string& keyOfSection(int section) const;
 
+    void loadFilter(platform::Database& connection);
+
+    VerbFilter filter_{services().viewMemory};
     platform::NotificationCenter::Subscription favouriteToggled_;
 };
 

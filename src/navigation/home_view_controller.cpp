@@ -230,6 +230,11 @@ std::shared_ptr<lists::InterstitialTableViewController> HomeViewController::list
     return child;
 }
 
+lists::VerbListTableViewController& HomeViewController::verbList()
+{
+    return dynamic_cast<lists::VerbListTableViewController&>(*listFor(Tab::List));
+}
+
 void HomeViewController::searchTextChanged(std::string text)
 {
     searchBar.text = std::move(text);
@@ -360,7 +365,7 @@ void HomeViewController::optionsClosed(bool fieldsChanged)
     if (!fieldsChanged) {
         return;
     }
-    dynamic_cast<lists::VerbListTableViewController&>(*listFor(Tab::List)).reloadVerbs();
+    verbList().reloadVerbs();
     dynamic_cast<lists::HistoryTableViewController&>(*listFor(Tab::History)).reloadHistory();
     data::post(services_.notifications, data::RefreshConjugations{});
     sendCrashReportValues(services_);

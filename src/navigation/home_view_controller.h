@@ -101,6 +101,9 @@ public:
     const SearchReadings& readings() const { return *readings_; }
     lookup::Lookup& lookup() { return readings_->lookup(); }
 
+    /// The list of all verbs, made by now or here.
+    lists::VerbListTableViewController& verbList();
+
     /// The view's wish to hear of a changed tab bar, search bar or child; one
     /// listener.
     void setOutletListener(std::function<void()> listener);

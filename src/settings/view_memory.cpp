@@ -28,6 +28,11 @@ constexpr std::string_view kMaximized = "window_maximized";
 constexpr std::int64_t kLongestSide = 20000;
 constexpr std::string_view kMarks = "marks";
 
+std::string_view keyOf(ViewMemory::Chip chip)
+{
+    return chip == ViewMemory::Chip::Common ? "common" : "irregular";
+}
+
 } // namespace
 
 platform::Voice ViewMemory::voice() const
@@ -101,6 +106,19 @@ std::optional<bool> ViewMemory::cardOpen() const
 platform::Result<void> ViewMemory::setCardOpen(bool open)
 {
     store_.setValue(open, kCardOpen);
+    return store_.synchronize();
+}
+
+bool ViewMemory::chip(Chip chip) const
+{
+    const auto stored = store_.objectForKey(keyOf(chip));
+    const auto* chosen = stored ? std::get_if<bool>(&*stored) : nullptr;
+    return chosen != nullptr && *chosen;
+}
+
+platform::Result<void> ViewMemory::setChip(Chip chip, bool chosen)
+{
+    store_.setValue(chosen, keyOf(chip));
     return store_.synchronize();
 }
 

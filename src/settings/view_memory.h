@@ -53,6 +53,11 @@ public:
     /// As `setVoice`.
     platform::Result<void> setCardOpen(bool open);
 
+    /// Whether the list of all verbs is narrowed so; it is not at first.
+    enum class Chip { Common, Irregular };
+    bool chip(Chip chip) const;
+    platform::Result<void> setChip(Chip chip, bool chosen);
+
 private:
     platform::SettingsStore& store_;
 };

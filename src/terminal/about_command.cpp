@@ -77,7 +77,7 @@ platform::Result<Knowledge> readKnowledge(platform::Database& database, data::Ve
         return tl::unexpected(
             platform::Error{"nothing is known of \"" + verb.french + "\"", ENODATA});
     }
-    auto relations = data::readVerbRelations(database, verb, (*facts)->model);
+    auto relations = data::readVerbRelations(database, verb, *facts);
     if (!relations) {
         return tl::unexpected(relations.error());
     }

@@ -8,6 +8,7 @@
 #include "detail/verb_page.h"
 #include "lists/verb_list_table_view_controller.h"
 #include "platform/screens/navigation_controller.h"
+#include "settings/view_memory.h"
 #include "support/world.h"
 
 #include <gmock/gmock.h>
@@ -19,6 +20,7 @@ namespace {
 using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
@@ -68,7 +70,7 @@ TEST_F(Guide, TheCardTellsWhatIsPeculiarToAVerb)
                             "card.group: card.group.2", "card.like: finir",
                             "card.auxiliary: avoir: card.participle.invariable",
                             "card.use: card.use.2", "card.pronominal: agir (s')",
-                            "card.alike: finir, choisir, définir, établir, fournir"));
+                            "card.alike: choisir, définir, établir, fournir, grandir"));
 
     const struct {
         const char* verb;
@@ -102,6 +104,11 @@ TEST_F(Guide, TheCardTellsWhatIsPeculiarToAVerb)
             EXPECT_THAT(found, Contains(line)) << name;
         }
     }
+    EXPECT_THAT(card("partir"),
+                Contains(AllOf(StartsWith("card.alike: "), Not(HasSubstr("sentir")))))
+        << "which has another auxiliary";
+    EXPECT_THAT(card("gésir"), Not(Contains(StartsWith("card.auxiliary"))))
+        << "it has no compound tense";
     EXPECT_THAT(card("ester"), Not(Contains(StartsWith("card.unused"))));
     EXPECT_THAT(card("aller"), AllOf(Not(Contains(StartsWith("card.like"))),
                                      Not(Contains(StartsWith("card.notes")))));
@@ -143,6 +150,15 @@ TEST_F(Guide, TheSheetOfAFormNamesItAndLeadsToItsOtherPlaces)
                                     "que je parle, tense.sub.present",
                                     "qu'il/elle/on parle, tense.sub.present",
                                     "parle, tense.other.imperative"));
+
+    const std::pair<RowPlace, const char*> commands[] = {
+        {{3, 0, 1}, "person.1.plural, hint.present"},
+        {{3, 0, 5}, "person.2.plural, hint.past"},
+        {{3, 1, 2}, "hint.past, hint.feminine"},
+    };
+    for (const auto& [place, person] : commands) {
+        EXPECT_EQ(guide(*parler).sheet(place)->person, person);
+    }
 
     const auto payer = verb("payer");
     EXPECT_EQ(guide(*payer).sheet({0, 0, 0})->others.size(), 4U) << "by each of two spellings";
@@ -192,6 +208,7 @@ TEST_F(Steps, NeighboursFollowTheListAndCountAsViews)
     EXPECT_EQ(list.away(-2), nullptr);
     EXPECT_EQ(list.away(0)->french, "avoir");
     top().selectVerbTypes(2);
+    ASSERT_TRUE(settings::ViewMemory{world.viewMemory}.setMood(0)) << "as another page may";
 
     world.execute("DELETE FROM verb WHERE _id = 3");
     top().page().showNeighbour(-1);

@@ -53,6 +53,43 @@ TEST_F(VerbList, CutsSectionsByTheLetterOfTheSortColumn)
     }
 }
 
+TEST_F(VerbList, IsNarrowedInFrontOfItsRows)
+{
+    using lists::VerbChip;
+    world.execute("INSERT INTO verb_facts(verbid, use_class, verb_group) VALUES "
+                  "(1, 1, 3), (2, 1, 3), (3, 2, 3), (4, 3, 3), (5, 4, 3), (6, 2, 1)");
+    const auto shown = [](VerbListTableViewController& list) {
+        Texts verbs;
+        for (int section = 0; section < list.numberOfSections(); ++section) {
+            for (int row = 0; row < list.numberOfRowsInSection(section); ++row) {
+                if (list.showsRow({section, row})) {
+                    verbs.push_back(list.cellForRow({section, row}).text);
+                }
+            }
+        }
+        return verbs;
+    };
+    const auto list = world.load<VerbListTableViewController>();
+    EXPECT_EQ(shown(*list).size(), 6U);
+    list->choose(VerbChip::Common, true);
+    EXPECT_EQ(shown(*list), (Texts{"aller", "avoir", "être", "évanouir (s')"}));
+    list->choose(VerbChip::Irregular, true);
+    EXPECT_EQ(shown(*list), (Texts{"aller", "avoir", "être"}));
+    EXPECT_EQ(list->keys, (Texts{"A", "E", "F", "P"})) << "the list itself is whole";
+    EXPECT_EQ(list->verbs["E"].size(), 2U);
+
+    const auto next = world.load<VerbListTableViewController>();
+    EXPECT_EQ(shown(*next), (Texts{"aller", "avoir", "être"})) << "remembered";
+    next->choose(VerbChip::Common, false);
+    next->choose(VerbChip::Irregular, false);
+    EXPECT_EQ(shown(*next).size(), 6U);
+
+    world.execute("DROP TABLE verb_facts");
+    const auto damaged = world.load<VerbListTableViewController>();
+    damaged->choose(VerbChip::Common, true);
+    EXPECT_EQ(shown(*damaged).size(), 6U);
+}
+
 TEST_F(VerbList, KeepsTheOrderOfTheQueryInsideASection)
 {
     const auto list = world.load<VerbListTableViewController>();

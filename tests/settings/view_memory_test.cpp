@@ -65,6 +65,21 @@ TEST(ViewMemory, KeepsMoodAndWindow)
     }
 }
 
+TEST(ViewMemory, KeepsWhatTheListIsNarrowedTo)
+{
+    using Chip = ViewMemory::Chip;
+    const support::TemporaryFolder folder;
+    const auto file = folder / "view.json";
+    FileSettingsStore store{file};
+    ASSERT_TRUE(ViewMemory{store}.setChip(Chip::Irregular, true));
+    FileSettingsStore read{file};
+    EXPECT_TRUE(ViewMemory{read}.chip(Chip::Irregular));
+    EXPECT_FALSE(ViewMemory{read}.chip(Chip::Common));
+    support::writeContent(file, R"({"common": 1, "irregular": "yes"})");
+    FileSettingsStore other{file};
+    EXPECT_FALSE(ViewMemory{other}.chip(Chip::Irregular) || ViewMemory{other}.chip(Chip::Common));
+}
+
 TEST(ViewMemory, ReadsWhatIsUnknownAsAtTheFirstStart)
 {
     const support::TemporaryFolder folder;

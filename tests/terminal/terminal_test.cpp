@@ -32,8 +32,9 @@ TEST_F(TerminalTest, TellsWhatTheTablesKnow)
              "INSERT INTO verb_facts VALUES(9, 3, 'sentir', 13, 'être+avoir', '', '', 3, 1),"
              "(10, 2, 'finir', NULL, 'avoir', 'defective,en', 'invariable', 5, 1),"
              "(13, 1, 'aimer', NULL, 'avoir', '', '', 1, 1), (3, 3, 'aller', 13, '', '', '', 1, 9)",
-             "INSERT INTO verb(_id, french) VALUES(15, 'aimer (s'')')",
-             "INSERT INTO verb_facts VALUES(15, 1, 'sentir', 13, 'être', 'pronominal', '', 2, 1)",
+             "INSERT INTO verb(_id, french) VALUES(15, 'aimer (s'')'), (16, 'sortir')",
+             "INSERT INTO verb_facts VALUES(15, 1, 'sentir', 13, 'être', 'pronominal', '', 2, 1),"
+             "(16, 3, 'sentir', 13, 'être+avoir', '', '', 2, 1)",
              "INSERT INTO conjugation(verbid, pronoun, verb, type, conj_order, display) VALUES"
              "(9, '', 'ressortir', 'infinitif', 20, 1), (9, '', 'être x', 'infinitif', 21, 1)",
              "INSERT INTO form_divisions VALUES(1, x'0600080009000000')",
@@ -44,7 +45,7 @@ TEST_F(TerminalTest, TellsWhatTheTablesKnow)
     EXPECT_EQ(program.run({"about", "ressortir"}).out,
               "infinitive\tressortir\npast\têtre x\ngroup\t3\nmodel\tsentir\nlike\taimer\n"
               "auxiliary\têtre, avoir\ntraits\t\nunused\t\nused only\tPresent, Participle\n"
-              "use\t3\npartners\t\nalike\taimer (s')\n\n"
+              "use\t3\npartners\t\nalike\tsortir\n\n"
               "infinitive\tressortir\npast\t\ngroup\t2\nmodel\tfinir\nlike\t\n"
               "auxiliary\tavoir\ntraits\tdefective, with en, invariable participle\nunused\t\n"
               "used only\tPresent, Participle\nuse\t5\npartners\t\nalike\t\n");

@@ -25,6 +25,11 @@ int TableDataSource::sectionForSectionIndexTitle(std::string_view /*title*/, int
     return -1;
 }
 
+bool TableDataSource::showsRow(IndexPath /*path*/)
+{
+    return true;
+}
+
 bool TableDataSource::canEditRow(IndexPath /*path*/)
 {
     return false;

@@ -43,6 +43,8 @@ public:
     /// -1 when no section bears the title.
     virtual int sectionForSectionIndexTitle(std::string_view title, int index);
 
+    /// Whether the row shows. One that does not is counted as the others are.
+    virtual bool showsRow(IndexPath path);
     virtual bool canEditRow(IndexPath path);
     virtual std::vector<SwipeAction> trailingSwipeActions(IndexPath path);
     /// A finger on the row: the view calls this, the controller decides what

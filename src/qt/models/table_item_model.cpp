@@ -149,9 +149,16 @@ void TableItemModel::load()
             if (texts.header) {
                 rows.push_back({RowKind::Header, {section, 0}});
             }
+            const auto begin = rows.size();
             const int rowCount = source_.numberOfRowsInSection(section);
             for (int row = 0; row < rowCount; ++row) {
-                rows.push_back({RowKind::Cell, {section, row}});
+                if (source_.showsRow({section, row})) {
+                    rows.push_back({RowKind::Cell, {section, row}});
+                }
+            }
+            // A section of which nothing is left has no header either.
+            if (texts.header && rowCount > 0 && rows.size() == begin) {
+                rows.pop_back();
             }
             if (texts.footer) {
                 rows.push_back({RowKind::Footer, {section, 0}});

@@ -4,6 +4,7 @@
 #include "qt/screens/home_screen.h"
 
 #include "lists/search_results_table_view_controller.h"
+#include "lists/verb_list_table_view_controller.h"
 #include "qt/base/text_conversion.h"
 #include "qt/screens/screen_registry.h"
 
@@ -107,6 +108,17 @@ TableScreen* HomeScreen::searchResults() const
 {
     const auto& results = home_->searchResultsController();
     return results ? qobject_cast<TableScreen*>(registry_.screenFor(results)) : nullptr;
+}
+
+bool HomeScreen::isChosen(lists::VerbChip chip) const
+{
+    return home_->verbList().filter().isChosen(chip);
+}
+
+void HomeScreen::choose(lists::VerbChip chip, bool chosen)
+{
+    home_->verbList().choose(chip, chosen);
+    emit chipsChanged();
 }
 
 QVariantList HomeScreen::readings() const

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "lists/verb_filter.h"
 #include "navigation/home_view_controller.h"
 #include "qt/screens/screen.h"
 #include "qt/screens/table_screen.h"
@@ -57,6 +58,9 @@ class HomeScreen final : public lumora::qt::Screen {
     Q_PROPERTY(QString searchIdentifier READ searchIdentifier NOTIFY outletsChanged)
     // The verb that is open beside the lists; 0 for none.
     Q_PROPERTY(int openVerb READ openVerb NOTIFY openVerbChanged)
+    // What the list of all verbs is narrowed to.
+    Q_PROPERTY(bool commonOnly READ commonOnly WRITE setCommonOnly NOTIFY chipsChanged)
+    Q_PROPERTY(bool irregularOnly READ irregularOnly WRITE setIrregularOnly NOTIFY chipsChanged)
     Q_PROPERTY(QVariantList readings READ readings NOTIFY readingsChanged)
     Q_PROPERTY(bool nothingFound READ nothingFound NOTIFY outletsChanged)
     Q_PROPERTY(bool formsOffered READ formsOffered NOTIFY outletsChanged)
@@ -88,6 +92,11 @@ public:
     /// Empty where there is no such tab.
     Q_INVOKABLE QString titleOfTab(int tag) const;
 
+    bool commonOnly() const { return isChosen(lists::VerbChip::Common); }
+    bool irregularOnly() const { return isChosen(lists::VerbChip::Irregular); }
+    void setCommonOnly(bool chosen) { choose(lists::VerbChip::Common, chosen); }
+    void setIrregularOnly(bool chosen) { choose(lists::VerbChip::Irregular, chosen); }
+
     /// Of SearchReading.
     QVariantList readings() const;
     /// The readings stand in place of the results.
@@ -116,12 +125,15 @@ signals:
     void listsChanged();
     void openVerbChanged();
     void readingsChanged();
+    void chipsChanged();
     /// Another text is searched for.
     void searchChanged();
 
 private:
     void update();
     bool isSearching() const;
+    bool isChosen(lists::VerbChip chip) const;
+    void choose(lists::VerbChip chip, bool chosen);
 
     std::shared_ptr<navigation::HomeViewController> home_;
     ScreenRegistry& registry_;

@@ -52,6 +52,12 @@ public:
             picture("empty");
         }
         picture("list");
+        tap("chipIrregular");
+        picture("list-narrowed");
+        tap("chipIrregular");
+        press(Qt::Key_F1);
+        picture("keys");
+        press(Qt::Key_Escape);
         useSectionIndex();
         swipeOpen();
         preview();

@@ -283,6 +283,28 @@ TEST_F(Journey, WithTheKeyboardAlone)
     EXPECT_TRUE(until([&] { return verbs().size() == 6; }));
 }
 
+TEST_F(Journey, NarrowTheListByItsChips)
+{
+    const QStringList all{"aller", "avoir", "être", "évanouir (s')", "falloir", "pouvoir"};
+    start(kTablet);
+    touch("chipCommon", "chipIrregular");
+    ASSERT_TRUE(until([&] { return verbs() == QStringList{"aller"}; }));
+    touch("aller");
+    ASSERT_TRUE(settled("tenses"));
+    EXPECT_EQ(find("nextVerb"), nullptr) << "the verbs that do not show are no neighbours";
+    touch("Search");
+    type("a");
+    ASSERT_TRUE(until([&] {
+        return verbs() == QStringList({"aller", "avoir"});
+    })) << "a search is for all verbs";
+    EXPECT_EQ(find("chipCommon"), nullptr);
+    touch("searchClear", "chipCommon");
+    ASSERT_TRUE(settled("aller"));
+    EXPECT_EQ(verbs(), QStringList{"aller"}) << "it is irregular still";
+    touch("chipIrregular");
+    EXPECT_TRUE(until([&] { return verbs() == all; }));
+}
+
 TEST_F(Journey, GoFromPartToPartAndBackByKeys)
 {
     start(kTablet);
@@ -294,6 +316,19 @@ TEST_F(Journey, GoFromPartToPartAndBackByKeys)
     };
     keys("Ctrl+1");
     EXPECT_TRUE(leadsTo("F6", "tenses"));
+    // Into a square and out of it: what has the keyboard is marked, and only that.
+    const auto keyboardIsOn = [&](const char* name) {
+        return until(
+            [&] { return application->window()->activeFocusItem()->objectName() == name; });
+    };
+    const auto isMarked = [&](const char* name) {
+        return find(name)->property("isCurrent").toBool();
+    };
+    EXPECT_TRUE(keyboardIsOn("tense0") && isMarked("tense0"));
+    keys("Return");
+    EXPECT_TRUE(keyboardIsOn("play") && !isMarked("tense0"));
+    keys("Right");
+    EXPECT_TRUE(keyboardIsOn("tense1") && isMarked("tense1"));
     EXPECT_TRUE(leadsTo("F6", "mood0"));
     EXPECT_TRUE(leadsTo("Right", "mood1"));
     EXPECT_TRUE(find("mood1")->property("checked").toBool());
@@ -302,6 +337,7 @@ TEST_F(Journey, GoFromPartToPartAndBackByKeys)
     ASSERT_TRUE(until([&] { return topTitle(split().secondary()) == QLatin1String("avoir"); }));
     EXPECT_TRUE(settled("mood1")->property("checked").toBool())
         << "the next verb opens in the same mood";
+    EXPECT_EQ(find("menuAction0"), nullptr) << "a finger's tap asks for no menu";
 
     // By keys alone every layer can be left.
     turn(kPhone);

@@ -154,9 +154,8 @@ TEST_F(ScreenReaderTest, HearsOfEverythingOnAPhone)
                               "Button: aller, Present \u2013 tu vas",
                               "Button: Search the conjugated forms too"});
     tap("reading0");
-    // The list is laid out from that form on: the rows above it come after it.
-    expectHeard("its form",
-                {"ListItem: tu vas, the form that was searched for", "ListItem: je vais"});
+    expectHeard("its form", {"Heading: Present", "ListItem: je vais",
+                             "ListItem: tu vas, the form that was searched for"});
     tap("backButton", "searchClear", "Search");
     type("a");
     expectHeard("search", {"Button: Clear the search", "ListItem: aller, go"});
@@ -199,8 +198,16 @@ TEST_F(ScreenReaderTest, PressesOneOfEveryKind)
     press(QAccessible::PageTab, "Verbs");
     EXPECT_EQ(split().home()->selectedTab(), 0);
 
+    press(QAccessible::CheckBox, "Common");
+    expectHeard("narrowed",
+                {"CheckBox: Common (checked)", "CheckBox: Irregular", "ListItem: aller, go"});
+    EXPECT_EQ(find("avoir"), nullptr);
+    press(QAccessible::CheckBox, "Common");
+    settled("avoir");
+
     press(QAccessible::Button, "Menu");
     settled("IconSettings");
+    expectHeard("drawer", {"StaticText: You are here: Verbs", "ListItem: Settings"});
     press(QAccessible::ListItem, "Settings");
     settled("bar.done");
     EXPECT_TRUE(until([&] { return find("tab0") == nullptr; })) << "what lies below is covered";
@@ -261,6 +268,8 @@ TEST_F(ScreenReaderTest, CallsTheListsByTheirTabs)
 TEST_F(ScreenReaderTest, HearsOfBothPanesOfATablet)
 {
     start({1024, 768});
+    expectHeard("no verb", {"StaticText: Select a verb to see its conjugation.",
+                            "StaticText: Or type a form: “irions” leads to aller."});
     tap("aller");
     expectHeard("verb",
                 {"List: Verbs", "ListItem: aller, go (selected)", "Button: Verbs", "Heading: aller",

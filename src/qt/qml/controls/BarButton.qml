@@ -18,7 +18,7 @@ TouchButton {
     focusColor: Theme.navigationBarTint
     leftPadding: Theme.gap
     rightPadding: Theme.gap
-    ToolTip.visible: hovered && image !== "" && tip !== ""
+    ToolTip.visible: enabled && (hovered || visualFocus) && image !== "" && tip !== ""
     ToolTip.delay: Theme.tipDelay
     ToolTip.timeout: Theme.tipTime
     ToolTip.text: tip

@@ -37,7 +37,8 @@ T.Switch {
         color: root.checked ? Theme.switchOn : Theme.switchOff
 
         Rectangle {
-            x: 3 + root.visualPosition * (parent.width - width - 6)
+            // The width of what is drawn comes later, and would be seen as a slide.
+            x: 3 + root.visualPosition * (root.implicitWidth - width - 6)
             y: 3
             width: 26
             height: 26

@@ -20,6 +20,10 @@ Window {
     readonly property var modalPages: modalLayer.item
     property bool keysShown: false
 
+    // For a moment, over everything.
+    function tell(sentence) {
+        notice.tell(sentence);
+    }
     // What goes while it has the keyboard leaves it with nobody.
     function giveKeyboard() {
         if (activeFocusItem !== contentItem)
@@ -148,7 +152,7 @@ Window {
     Connections {
         target: root.share
         function onTold(sentence) {
-            notice.tell(sentence);
+            root.tell(sentence);
         }
     }
 }

@@ -10,6 +10,8 @@ FocusScope {
 
     required property Modal modal
     required property EdgePull pull
+    // Over which it slides.
+    readonly property HomeScreen home: (Window.window as Main)?.split?.home ?? null
     readonly property TableScreen screen: (modal.screens[0] ?? null) as TableScreen
 
     // Let go of halfway, it goes where it was going.
@@ -78,8 +80,52 @@ FocusScope {
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }
-        Loader {
+        Rectangle {
+            id: place
+
+            readonly property HomeScreen home: root.home
+            readonly property var tab: home?.tabs.find(tab => tab.tag === home.selectedTab) ?? null
+
+            objectName: "drawerPlace"
             anchors.top: title.bottom
+            width: parent.width
+            height: Math.round(52 * Math.max(1, Theme.textScale))
+            visible: tab !== null
+            color: "#26ffffff"
+            Accessible.role: Accessible.StaticText
+            Accessible.name: qsTrId("drawer.here").arg(tabName.text)
+
+            Rectangle {
+                width: 4
+                height: parent.height
+                color: Theme.accentSecondary
+            }
+            Icon {
+                id: tabIcon
+                x: Theme.margin
+                anchors.verticalCenter: parent.verticalCenter
+                name: place.tab?.image ?? ""
+                color: Theme.accentSecondary
+            }
+            Text {
+                id: tabName
+                anchors.left: tabIcon.right
+                anchors.leftMargin: Theme.margin
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.margin
+                height: parent.height
+                verticalAlignment: Text.AlignVCenter
+                text: place.tab?.title ?? ""
+                color: Theme.barText
+                font.pixelSize: Theme.body
+                font.weight: Font.DemiBold
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 12
+            }
+        }
+        Loader {
+            anchors.top: place.bottom
+            anchors.topMargin: Theme.gap
             anchors.bottom: parent.bottom
             width: parent.width
             focus: true

@@ -11,6 +11,7 @@ ScreenPage {
 
     readonly property HomeScreen home: screen as HomeScreen
     readonly property bool searching: home.searchText !== ""
+    readonly property bool low: height < 460
 
     function openFirst() {
         if (searching)
@@ -27,10 +28,20 @@ ScreenPage {
         onAccepted: root.openFirst()
         onEnded: area.forceActiveFocus()
     }
+    ListChips {
+        id: chips
+        anchors.top: search.bottom
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        // A low window is left to the verbs.
+        visible: !root.searching && root.home.selectedTab === 0 && (!root.low || root.home.commonOnly || root.home.irregularOnly)
+        home: root.home
+        onNarrowed: area.showTop()
+    }
     FocusScope {
         id: area
         focus: true
-        anchors.top: search.bottom
+        anchors.top: chips.bottom
         anchors.bottom: tabs.top
         width: parent.width
         clip: true
@@ -43,8 +54,13 @@ ScreenPage {
                 forceActiveFocus(Qt.TabFocusReason);
         }
 
+        function showTop() {
+            (lists.itemAt(0) as Loader).item.list.positionViewAtBeginning(); // qmllint disable
+        }
+
         // Each list keeps its place once it was there.
         Repeater {
+            id: lists
             model: 3
 
             Loader {
@@ -108,6 +124,6 @@ ScreenPage {
         anchors.bottom: parent.bottom
         width: parent.width
         home: root.home
-        compact: root.height < 460
+        compact: root.low
     }
 }

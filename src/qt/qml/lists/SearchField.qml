@@ -102,7 +102,7 @@ Rectangle {
             height: parent.height
             visible: input.text !== ""
             text: qsTrId("search.clear")
-            ToolTip.visible: hovered
+            ToolTip.visible: enabled && (hovered || visualFocus)
             ToolTip.delay: Theme.tipDelay
             ToolTip.timeout: Theme.tipTime
             ToolTip.text: text

@@ -36,6 +36,10 @@ TableRow {
                 text: root.text
                 color: Theme.text
                 font.pixelSize: Theme.body
+                font.weight: Font.DemiBold
+                // The longest are made a little smaller rather than cut.
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: Math.round(0.7 * font.pixelSize)
                 elide: Text.ElideRight
             }
             Text {

@@ -4,77 +4,84 @@
 import QtQuick
 import Lumora
 
-// The program's icon, name and copyright, and the links to its makers.
+// The program's icon beside its name, version and copyright, and the links to its
+// makers: low, so that the settings begin in sight.
 Column {
     id: root
 
     required property OptionsScreen options
 
-    topPadding: Theme.margin + Theme.gap
-    spacing: 4
+    topPadding: Theme.margin
 
-    Icon {
-        anchors.horizontalCenter: parent.horizontalCenter
-        name: root.options.icon
-        size: 84
-        radius: root.options.iconRadius
-
-        Rectangle {
-            anchors.fill: parent
-            radius: root.options.iconRadius
-            color: "transparent"
-            border.width: root.options.iconBorderWidth
-            border.color: root.options.iconBorderColor
-        }
-    }
-    Text {
+    component Line: Text {
         width: parent.width
-        topPadding: Theme.gap
-        text: root.options.appTitle
-        color: Theme.text
-        font.pixelSize: Theme.headline
-        font.weight: Font.DemiBold
-        leftPadding: Theme.margin
-        rightPadding: Theme.margin
-        horizontalAlignment: Text.AlignHCenter
-        wrapMode: Text.WordWrap
-        Accessible.role: Accessible.Heading
-        Accessible.name: text
-    }
-    Text {
-        width: parent.width
-        text: root.options.copyright
+        visible: text !== ""
         color: Theme.textSecondary
         font.pixelSize: Theme.small
-        leftPadding: Theme.margin
-        rightPadding: Theme.margin
-        horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.WordWrap
-    }
-    Text {
-        readonly property string version: Qt.application.version
-
-        width: parent.width
-        visible: version !== ""
-        text: visible ? qsTrId("settings.version").arg(version) : ""
-        color: Theme.textSecondary
-        font.pixelSize: Theme.small
-        horizontalAlignment: Text.AlignHCenter
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }
-    LinkButton {
-        objectName: "website"
-        anchors.horizontalCenter: parent.horizontalCenter
-        maximumWidth: parent.width - 2 * Theme.margin
-        text: root.options.websiteTitle
-        onClicked: root.options.openWebsite()
+
+    Item {
+        width: parent.width
+        height: Math.max(icon.height, names.height)
+
+        Icon {
+            id: icon
+            x: 2 * Theme.margin
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.options.icon
+            size: 56
+            radius: root.options.iconRadius
+
+            Rectangle {
+                anchors.fill: parent
+                radius: root.options.iconRadius
+                color: "transparent"
+                border.width: root.options.iconBorderWidth
+                border.color: root.options.iconBorderColor
+            }
+        }
+        Column {
+            id: names
+            anchors.left: icon.right
+            anchors.leftMargin: Theme.margin
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.margin
+            anchors.verticalCenter: parent.verticalCenter
+
+            Line {
+                text: root.options.appTitle
+                color: Theme.text
+                font.pixelSize: Theme.title
+                font.weight: Font.DemiBold
+                Accessible.role: Accessible.Heading
+            }
+            Line {
+                text: Qt.application.version === "" ? "" : qsTrId("settings.version").arg(Qt.application.version)
+            }
+            Line {
+                text: root.options.copyright
+            }
+        }
     }
-    LinkButton {
-        objectName: "support"
-        anchors.horizontalCenter: parent.horizontalCenter
-        maximumWidth: parent.width - 2 * Theme.margin
-        text: root.options.supportTitle
-        onClicked: root.options.sendSupportEmail()
+    Flow {
+        x: 2 * Theme.margin - Theme.gap
+        width: parent.width - 2 * x
+        spacing: Theme.gap
+
+        LinkButton {
+            objectName: "website"
+            maximumWidth: parent.width
+            text: root.options.websiteTitle
+            onClicked: root.options.openWebsite()
+        }
+        LinkButton {
+            objectName: "support"
+            maximumWidth: parent.width
+            text: root.options.supportTitle
+            onClicked: root.options.sendSupportEmail()
+        }
     }
 }

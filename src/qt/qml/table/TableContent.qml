@@ -185,6 +185,8 @@ T.Control {
     }
     TapHandler {
         acceptedButtons: Qt.RightButton
+        // A finger has no buttons, and would count as any.
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad | PointerDevice.Stylus
         onTapped: eventPoint => root.showMenu(list.indexAt(eventPoint.position.x, eventPoint.position.y + list.contentY), eventPoint.position)
     }
     Loader {

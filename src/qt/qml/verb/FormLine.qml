@@ -20,7 +20,8 @@ Rectangle {
     signal asked
 
     function takeKeyboard() {
-        play.forceActiveFocus(Qt.TabFocusReason);
+        if (play.visible)
+            play.forceActiveFocus(Qt.TabFocusReason);
     }
 
     color: play.running ? Theme.pressed : "transparent"

@@ -13,15 +13,15 @@ VerbSheet {
     required property formSheet sheet
     // The page shows squares.
     property bool squares: false
-    property string copied
 
     // To where the same form stands too.
     signal followed(int segment, int tense, int line)
     signal tenseAsked(int tense)
 
-    function copy(text, button) {
+    function copy(text) {
         screen.copy(text);
-        copied = button;
+        close();
+        (room.Window.window as Main)?.tell(qsTrId("notice.copied"));
     }
 
     objectName: "formSheet"
@@ -82,17 +82,17 @@ VerbSheet {
     }
     SheetRow {
         objectName: "copyForm"
-        text: root.copied === objectName ? qsTrId("sheet.copied") : qsTrId("sheet.copy.form")
+        text: qsTrId("sheet.copy.form")
         detail: root.sheet.form
         image: "share_copy"
-        onClicked: root.copy(root.sheet.form, objectName)
+        onClicked: root.copy(root.sheet.form)
     }
     SheetRow {
         objectName: "copyRow"
-        text: root.copied === objectName ? qsTrId("sheet.copied") : qsTrId("sheet.copy.row")
+        text: qsTrId("sheet.copy.row")
         detail: root.sheet.row
         image: "share_copy"
-        onClicked: root.copy(root.sheet.row, objectName)
+        onClicked: root.copy(root.sheet.row)
     }
     SheetHeading {
         width: parent.width

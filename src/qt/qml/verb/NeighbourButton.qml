@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import QtQuick.Controls.Basic
 import Lumora
 
 // Leads to the verb before or after this one in the list that it was opened
@@ -19,6 +20,10 @@ TouchButton {
     leftPadding: 10
     rightPadding: 10
     Accessible.onPressAction: clicked()
+    ToolTip.visible: enabled && (hovered || visualFocus)
+    ToolTip.delay: Theme.tipDelay
+    ToolTip.timeout: Theme.tipTime
+    ToolTip.text: text
 
     contentItem: Row {
         layoutDirection: root.forward ? Qt.RightToLeft : Qt.LeftToRight

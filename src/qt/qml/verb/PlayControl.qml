@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import QtQuick.Controls.Basic
 import QtQuick.Templates as T
 import Lumora
 
@@ -34,16 +35,21 @@ T.AbstractButton {
 
         Loader {
             anchors.centerIn: parent
-            active: root.running || root.visualFocus
+            active: root.running || root.visualFocus || root.hovered
             sourceComponent: ring
         }
     }
 
-    // What it shows while its row is spoken or it has the keyboard.
+    // What it shows while its row is spoken, it has the keyboard or the mouse is
+    // over it.
     Component {
         id: ring
 
         Item {
+            ToolTip.visible: root.hovered
+            ToolTip.delay: Theme.tipDelay
+            ToolTip.timeout: Theme.tipTime
+            ToolTip.text: root.ofTense ? qsTrId("action.play.tense") : qsTrId("action.play")
             implicitWidth: 30
             implicitHeight: 30
 
@@ -62,8 +68,8 @@ T.AbstractButton {
                 anchors.fill: parent
                 radius: 15
                 color: "transparent"
-                border.width: root.visualFocus ? 3 : root.running ? 1 : 0
-                border.color: root.visualFocus ? Theme.accentText : Theme.playBorder
+                border.width: root.visualFocus ? 3 : root.running || root.hovered ? 1 : 0
+                border.color: root.visualFocus ? Theme.accentText : root.running ? Theme.playBorder : Theme.textSecondary
             }
         }
     }

@@ -23,7 +23,8 @@ Rectangle {
     // Right of it are the controls, whose taps are their own.
     readonly property real textEnd: play.x
     readonly property bool empty: line0.controlHidden
-    readonly property bool isCurrent: GridView.isCurrentItem && GridView.view.activeFocus
+    // It has the keyboard itself, and nothing in it nor above the squares.
+    readonly property bool isCurrent: activeFocus
 
     signal played(int line)
     signal formAsked(int line)

@@ -23,7 +23,9 @@ QtObject {
     // How much smaller a pronoun is than its form.
     readonly property real pronounShare: 0.88
     readonly property real blankShare: 0.3
-    readonly property real rowShare: 1.02
+    // Of a row of a form, and what keeps one form's rows from the next one's.
+    readonly property real rowShare: 1.17
+    readonly property int rowGap: 5
     // Of what has been worked out, by what it was worked out of.
     readonly property var kept: ({})
 
@@ -82,7 +84,7 @@ QtObject {
             const scale = size / measuredSize;
             const column = stacked || sizes.pronoun === 0 ? 0 : sizes.pronoun * scale * pronounShare + blankShare * size;
             const rows = rowsOf(sizes.words, scale, room - column) + (stacked ? 1 : 0);
-            if (sizes.widest * scale <= room - column && (lineHeight === 0 || rows * size * rowShare <= lineHeight))
+            if (sizes.widest * scale <= room - column && (lineHeight === 0 || rows * size * rowShare + rowGap <= lineHeight))
                 return size;
         }
         return smallestSize;

@@ -90,6 +90,9 @@ Item {
         cellWidth: Math.max(1, root.collection.itemWidth + root.spacing)
         cellHeight: Math.max(1, root.collection.itemHeight + root.spacing)
         bottomMargin: Math.max(0, root.inset - root.spacing)
+        // Into the square; the arrows lead out of it.
+        Keys.onReturnPressed: (currentItem as TenseCard)?.takeKeyboard(0)
+        Keys.onEnterPressed: (currentItem as TenseCard)?.takeKeyboard(0)
         // The title is one that may grow.
         onOriginYChanged: {
             if (contentY === beginning)
@@ -157,6 +160,8 @@ Item {
     TapHandler {
         parent: grid
         acceptedButtons: Qt.RightButton
+        // A finger has no buttons, and would count as any.
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad | PointerDevice.Stylus
         onTapped: eventPoint => root.askAt(eventPoint.scenePosition, true)
     }
 }

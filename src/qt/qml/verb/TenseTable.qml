@@ -40,6 +40,12 @@ TableContent {
         if (!list.moved && screen.topTense === 0 && openedRow < 0)
             list.positionViewAtBeginning();
     }
+    // What reads the rows aloud follows them as they were made: from the top.
+    function showOpened() {
+        list.positionViewAtBeginning();
+        list.forceLayout();
+        moveTo(openedRow);
+    }
     // At a point of the window.
     function rowAt(point) {
         const spot = list.contentItem.mapFromItem(null, point);
@@ -82,7 +88,7 @@ TableContent {
         // In sight even where its tense is higher than the page, which has no
         // height yet.
         if (root.openedRow >= 0)
-            Qt.callLater(root.moveTo, root.openedRow); // qmllint disable
+            Qt.callLater(root.showOpened); // qmllint disable
     }
     transform: Translate {
         x: swipe.active ? Math.max(-60, Math.min(60, swipe.activeTranslation.x * 0.4)) : 0

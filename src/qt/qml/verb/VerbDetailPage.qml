@@ -69,6 +69,7 @@ ScreenPage {
         onActivated: root.verb.playTense(root.verb.topTense)
     }
     Rectangle {
+        id: select
         anchors.centerIn: parent
         width: label.width
         height: label.height
@@ -90,6 +91,30 @@ ScreenPage {
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
+    }
+
+    Icon {
+        anchors.horizontalCenter: select.horizontalCenter
+        anchors.bottom: select.top
+        anchors.bottomMargin: 2 * Theme.margin
+        visible: select.visible && y > moods.y + moods.height
+        name: "AboutIcon"
+        size: 96
+        radius: 20
+    }
+    Text {
+        anchors.horizontalCenter: select.horizontalCenter
+        anchors.top: select.bottom
+        anchors.topMargin: Theme.margin
+        width: Math.min(implicitWidth, root.width - 2 * Theme.margin, 440 * Theme.textScale)
+        visible: select.visible
+        text: qsTrId("select.hint")
+        color: Theme.textSecondary
+        font.pixelSize: Theme.body - 1
+        wrapMode: Text.WordWrap
+        horizontalAlignment: Text.AlignHCenter
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     Component {
