@@ -298,6 +298,27 @@ void HomeViewController::showSearchResult(const data::VerbPtr& verb,
     }
 }
 
+detail::VerbSequence HomeViewController::shownFrom(const data::VerbPtr& verb) const
+{
+    const auto& results = *searchResultsController_;
+    std::vector<data::VerbPtr> shown;
+    for (const auto& card : readings_->cards()) {
+        const bool known = results.pathOfVerb(card.verb->id) ||
+                           std::any_of(shown.begin(), shown.end(), [&](const data::VerbPtr& other) {
+                               return other->id == card.verb->id;
+                           });
+        if (!known) {
+            shown.push_back(card.verb);
+        }
+    }
+    shown.insert(shown.end(), results.verbs.begin(), results.verbs.end());
+    const auto at = std::find_if(shown.begin(), shown.end(), [&](const data::VerbPtr& other) {
+        return verb && other->id == verb->id;
+    });
+    const auto place = static_cast<std::size_t>(at - shown.begin());
+    return {std::move(shown), place};
+}
+
 void HomeViewController::showFormsOption()
 {
     firstOption_ = pathOfOption(settings::kIncludeConjugations);
@@ -321,7 +342,7 @@ void HomeViewController::prepareForSegue(const platform::Segue& segue)
     if (segue.identifier == platform::kShowSearchResultSegue) {
         auto& detail = topOf<detail::VerbDetailTableViewController>(segue.destination);
         detail.selectedVerb = selectedSearchResult;
-        detail.sequence = searchResultsController_->sequenceFrom(selectedSearchResult);
+        detail.sequence = shownFrom(selectedSearchResult);
         detail.queue = queue;
         detail.isPeeking = false;
         detail.openedForm = openedForm_;
