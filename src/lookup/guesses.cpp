@@ -26,6 +26,7 @@ constexpr std::size_t kMostSoundAlikes = 40;
 // What makes a guess less likely, beside four for each point that a slip costs.
 constexpr int kAPointOfSlip = 4;
 constexpr int kSound = 12;
+constexpr int kNearSound = 20;
 constexpr int kAClassOfUse = 2;
 constexpr int kForm = 2;
 constexpr int kFirstLetter = 4;
@@ -240,11 +241,15 @@ void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::u
                 return;
             }
             auto matches = rows->soundAlikes(phrase);
+            int penalty = kSound;
             if (phrase.bare) {
                 keepInfinitives(matches);
+            } else if (matches.empty()) {
+                matches = rows->nearSoundAlikes(phrase);
+                penalty = kNearSound;
             }
             candidates.add(number, matches, Way::Sound,
-                           kSound + penaltyOf(verb) +
+                           penalty + penaltyOf(verb) +
                                (rows->differsInPronoun(phrase) ? kOtherPronoun : 0));
         }
     }

@@ -179,15 +179,15 @@ std::vector<RowMatch> VerbRows::matches(const Phrase& phrase) const
 std::vector<RowMatch> VerbRows::soundAlikes(const Phrase& phrase) const
 {
     const auto sound = soundKey(phrase.word);
-    auto result = spelledAs(
-        phrase, [&](const RowSpelling& spelling) { return soundKey(spelling.word) == sound; });
-    if (result.empty() && !phrase.bare) {
-        const auto loose = looseKey(foldedWord(phrase.word));
-        result = spelledAs(phrase, [&](const RowSpelling& spelling) {
-            return looseKey(spelling.folded) == loose;
-        });
-    }
-    return result;
+    return spelledAs(phrase,
+                     [&](const RowSpelling& spelling) { return soundKey(spelling.word) == sound; });
+}
+
+std::vector<RowMatch> VerbRows::nearSoundAlikes(const Phrase& phrase) const
+{
+    const auto sound = looseKey(foldedWord(phrase.word));
+    return spelledAs(
+        phrase, [&](const RowSpelling& spelling) { return looseKey(spelling.folded) == sound; });
 }
 
 std::vector<RowMatch>

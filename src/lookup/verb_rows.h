@@ -63,8 +63,9 @@ public:
     /// The rows that the phrase may mean, those with its mood only where some have
     /// it: "que j'aille" is no indicative.
     std::vector<RowMatch> matches(const Phrase& phrase) const;
-    /// The rows that sound as the phrase; those that nearly do where none does.
+    /// The rows that sound as the phrase, or would with é and è for e.
     std::vector<RowMatch> soundAlikes(const Phrase& phrase) const;
+    std::vector<RowMatch> nearSoundAlikes(const Phrase& phrase) const;
 
     /// Whether the verb has its reflexive pronoun though the phrase has none, or
     /// the other way round.

@@ -60,8 +60,6 @@ bool check(platform::Database& database, std::size_t stride, std::uint32_t seed)
               << " s, " << residentMegabytes() - before << " MB" << std::endl;
     bool good = tell("other texts", lookups::checkOthers(database, lookup), 1);
     good &= tell("slips", lookups::checkSlips(database, lookup, kSlips, seed), kSlipsFound);
-    std::cout << "with all that guesses need: " << residentMegabytes() - before << " MB"
-              << std::endl;
     good &= tell("rows", lookups::checkRows(database, lookup, stride), 1);
     return good;
 }
