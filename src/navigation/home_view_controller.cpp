@@ -312,9 +312,8 @@ detail::VerbSequence HomeViewController::shownFrom(const data::VerbPtr& verb) co
         }
     }
     shown.insert(shown.end(), results.verbs.begin(), results.verbs.end());
-    const auto at = std::find_if(shown.begin(), shown.end(), [&](const data::VerbPtr& other) {
-        return verb && other->id == verb->id;
-    });
+    // A verb of elsewhere is no neighbour of what was once found.
+    const auto at = std::find(shown.begin(), shown.end(), verb);
     const auto place = static_cast<std::size_t>(at - shown.begin());
     return {std::move(shown), place};
 }
