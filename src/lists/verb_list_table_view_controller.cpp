@@ -7,10 +7,10 @@
 #include "lists/favourite_action.h"
 #include "lists/sort_column.h"
 #include "lists/verb_cell.h"
-#include "settings/view_memory.h"
 #include "platform/machine/analytics.h"
 #include "platform/machine/crash_reporter.h"
 #include "platform/storage/database_queue.h"
+#include "settings/view_memory.h"
 #include "text/text.h"
 
 #include <algorithm>
@@ -133,8 +133,7 @@ void VerbListTableViewController::loadFilter(platform::Database& connection)
 
 void VerbListTableViewController::choose(VerbChip chip, bool chosen)
 {
-    settings::reportUnkept(filter_.choose(chip, chosen), "what the list shows",
-                           services().console);
+    settings::reportUnkept(filter_.choose(chip, chosen), "what the list shows", services().console);
     if (queue != nullptr) {
         queue->inDatabase([this](platform::Database& connection) { loadFilter(connection); });
     }
