@@ -12,7 +12,8 @@ _lumora() {
             mapfile -t COMPREPLY < <(compgen -d -- "$current")
             return
             ;;
-        *) set -- --shortcut --tour --help --version ;;
+        --look-up) return ;;
+        *) set -- --look-up --service --shortcut --tour --help --version ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$*" -- "$current")
 }

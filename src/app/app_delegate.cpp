@@ -20,6 +20,7 @@
 #include "platform/screens/presenter.h"
 #include "platform/storage/settings_store.h"
 #include "settings/default_settings.h"
+#include "text/text.h"
 
 #include <algorithm>
 #include <array>
@@ -207,17 +208,48 @@ void AppDelegate::openLink(std::string_view link)
                                    text("common.ok")));
         return;
     }
-    openFromLink(verbs.front());
+    openFromOutside(verbs.front(), std::nullopt);
     if (verbs.size() > 1) {
         offerHomographs({verbs.begin() + 1, verbs.end()});
     }
 }
 
-void AppDelegate::openFromLink(const data::VerbPtr& verb)
+void AppDelegate::openFromOutside(const data::VerbPtr& verb,
+                                  const std::optional<data::FormPlace>& place)
 {
-    // However many links are followed, the way back is the list.
+    // However often that happens, the way back is the list.
     listStack().popToRootViewController();
-    homeScreen().didSelectSearchResult(verb);
+    homeScreen().showSearchResult(verb, place);
+}
+
+void AppDelegate::lookUp(std::string_view text, bool opens)
+{
+    auto& home = homeScreen();
+    home.loadViewIfNeeded();
+    listStack().popToRootViewController();
+    home.searchTextChanged(text::trimmed(text));
+    if (opens) {
+        home.searchBarSearchButtonClicked();
+    }
+}
+
+void AppDelegate::openForm(std::int64_t verb, const std::optional<data::FormPlace>& place)
+{
+    if (queue == nullptr) {
+        return;
+    }
+    homeScreen().loadViewIfNeeded();
+    std::vector<data::VerbPtr> found;
+    queue->inDatabase([&](platform::Database& database) {
+        if (!data::readVerbOfId(database, verb, found)) {
+            services_.crashReporter.logWithFormat(
+                "An error occurred when opening a form: %@ (%d)",
+                {database.lastErrorMessage(), database.lastErrorCode()});
+        }
+    });
+    if (!found.empty()) {
+        openFromOutside(found.front(), place);
+    }
 }
 
 void AppDelegate::offerHomographs(const std::vector<data::VerbPtr>& verbs)
@@ -229,7 +261,7 @@ void AppDelegate::offerHomographs(const std::vector<data::VerbPtr>& verbs)
         const bool told = translation != verb->french || verb->distinction.empty();
         alert.actions.push_back({told ? translation : verb->french + " (" + verb->distinction + ")",
                                  platform::ActionStyle::Normal,
-                                 [this, verb] { openFromLink(verb); }});
+                                 [this, verb] { openFromOutside(verb, std::nullopt); }});
     }
     alert.actions.push_back({platform::localizedString(services_.bundle, "common.ok"),
                              platform::ActionStyle::Cancel, nullptr});

@@ -3,12 +3,14 @@
 
 #pragma once
 
+#include "data/tense_table.h"
 #include "data/verb.h"
 #include "platform/base/color.h"
 #include "platform/screens/services.h"
 #include "platform/screens/split_view_controller.h"
 #include "platform/storage/database_queue.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -91,6 +93,13 @@ public:
     /// and offers the others.
     void openLink(std::string_view link);
 
+    /// Searches for the text, which comes from elsewhere; if asked to it also opens
+    /// what is found first.
+    void lookUp(std::string_view text, bool opens);
+
+    /// Opens the verb of the id, if there is one, at that form if one is given.
+    void openForm(std::int64_t verb, const std::optional<data::FormPlace>& place);
+
     const BarColors& barColors() const { return barColors_; }
 
     bool collapseSecondaryViewControllerOntoPrimary(platform::ViewController& secondary,
@@ -104,7 +113,7 @@ private:
     void openSearch();
     /// The commonest first; empty when there is none.
     std::vector<data::VerbPtr> verbsNamed(std::string_view infinitive);
-    void openFromLink(const data::VerbPtr& verb);
+    void openFromOutside(const data::VerbPtr& verb, const std::optional<data::FormPlace>& place);
     void offerHomographs(const std::vector<data::VerbPtr>& verbs);
     platform::SplitViewController& splitView();
     platform::NavigationController& listStack();

@@ -5,6 +5,7 @@
 
 #include "data/news.h"
 #include "data/verb.h"
+#include "detail/verb_sequence.h"
 #include "lists/search_results_table_view_controller.h"
 #include "navigation/navigation_drawer_table_table_view_controller.h"
 #include "navigation/options_table_view_controller.h"
@@ -107,7 +108,7 @@ public:
 
     /// Shows a tab, which the results of a search would cover: it ends.
     void didSelectItem(Tab tag);
-    /// The user changed the text of the search field.
+    /// The user changed the text of the search field, or it is set from elsewhere.
     void searchTextChanged(std::string text);
     void updateSearchResults();
     /// The search runs again: a scope may change what is found.
@@ -121,6 +122,8 @@ public:
 
     /// Opens the verb of a card, at the form where it names one.
     void didSelectReading(std::size_t card);
+    /// Opens a verb as if it had been found, at a form if one is given.
+    void showSearchResult(const data::VerbPtr& verb, const std::optional<data::FormPlace>& place);
     /// Opens the options at the one that searches the conjugated forms.
     void showFormsOption();
 
@@ -151,7 +154,9 @@ private:
     void showTab(Tab tab);
     void buildTabBarItems();
     std::shared_ptr<lists::InterstitialTableViewController> listFor(Tab tab);
-    void showSearchResult(const data::VerbPtr& verb, const std::optional<data::FormPlace>& place);
+    /// What the search shows from the top, each verb once: the cards that the list does
+    /// not have, then the list.
+    detail::VerbSequence shownFrom(const data::VerbPtr& verb) const;
     void outletsChanged();
 
     const platform::Services& services_;

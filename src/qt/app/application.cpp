@@ -59,6 +59,7 @@ Application::Application(ApplicationOptions options)
       fileChooser_{presenter_, options_.desktop},
       shareSheet_{presenter_, mail_, fileChooser_, options_.desktop},
       settingsPortal_{options_.desktop.bus},
+      onScreenKeyboard_{options_.desktop.bus},
       services_{notifications_,  settings_,  bundle_,       device_,      clock_,
                 crashReporter_,  analytics_, std::cout,     views_,       presenter_,
                 storyboard_,     speech_,    audioSession_, scripts_,     shareSheet_,
@@ -188,10 +189,10 @@ void Application::open(const InstanceRequest& request)
     const bool leadsSomewhere =
         app::isKnownShortcut(type) &&
         (type != app::kSearchShortcut || splitScreen_->collapsed() || !request.links.isEmpty());
-    if (leadsSomewhere || !request.links.isEmpty()) {
+    if (leadsSomewhere || !request.links.isEmpty() || request.text || request.form) {
         clearTheWay();
     }
-    if (leadsSomewhere) {
+    if (leadsSomewhere || request.text) {
         splitScreen_->backToHome();
     }
     if (request.shortcut) {
@@ -199,6 +200,15 @@ void Application::open(const InstanceRequest& request)
     }
     for (const auto& link : request.links) {
         delegate_.openLink(toUtf8(link));
+    }
+    if (request.text) {
+        delegate_.lookUp(toUtf8(request.text->text), request.text->opens);
+    }
+    if (const auto& form = request.form) {
+        delegate_.openForm(form->verb,
+                           form->tense.isEmpty()
+                               ? std::nullopt
+                               : std::optional{data::FormPlace{toUtf8(form->tense), form->order}});
     }
 }
 

@@ -16,6 +16,7 @@
 #include "qt/desktop/desktop_mail.h"
 #include "qt/desktop/desktop_review_prompter.h"
 #include "qt/desktop/desktop_url_opener.h"
+#include "qt/desktop/on_screen_keyboard.h"
 #include "qt/desktop/running_instance.h"
 #include "qt/desktop/settings_portal.h"
 #include "qt/machine/pulse_audio_session.h"
@@ -117,6 +118,7 @@ private:
     QtFileChooser fileChooser_;
     QtShareSheet shareSheet_;
     SettingsPortal settingsPortal_;
+    OnScreenKeyboard onScreenKeyboard_;
     platform::Services services_;
     app::AppDelegate delegate_;
     std::unique_ptr<SplitScreen> splitScreen_;

@@ -22,8 +22,11 @@ The conjugations of French verbs. Where Lumora runs already, its window comes
 to the front and does what is asked for.
 
   LINK               open the verb of a link such as lumora://verb/aller
+  --look-up TEXT     open the verb or the form that the text means
   --shortcut TYPE    open what a shortcut names: com.brindle.shortcut.search,
                      .favourite, .history or .list
+  --service          answer the desktop's search, without a window until one is
+                     asked for
   --tour FOLDER      write a picture of every screen into FOLDER
   -h, --help         print this
   -v, --version      print the version
@@ -43,8 +46,10 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     const QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")}};
     const QCommandLineOption tour{QStringLiteral("tour"), {}, QStringLiteral("folder")};
     const QCommandLineOption shortcut{QStringLiteral("shortcut"), {}, QStringLiteral("type")};
+    const QCommandLineOption lookUp{QStringLiteral("look-up"), {}, QStringLiteral("text")};
+    const QCommandLineOption service{QStringLiteral("service")};
     QCommandLineParser parser;
-    parser.addOptions({help, version, tour, shortcut});
+    parser.addOptions({help, version, tour, shortcut, lookUp, service});
     // The toolkit writes its own with one dash.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     for (const char* name : kToolkitOptions) {
@@ -65,6 +70,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         parser.isSet(QStringLiteral("platform")) || parser.isSet(QStringLiteral("display"));
     read.tourFolder = valueOf(tour);
     read.shortcut = valueOf(shortcut);
+    read.lookUp = valueOf(lookUp);
+    read.service = parser.isSet(service);
     const auto rest = parser.positionalArguments();
     std::partition_copy(rest.begin(), rest.end(), std::back_inserter(read.links),
                         std::back_inserter(read.launchArguments),

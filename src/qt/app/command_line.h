@@ -21,6 +21,10 @@ struct CommandLine {
     bool choosesPlatform = false;
     std::optional<QString> tourFolder;
     std::optional<QString> shortcut;
+    /// A text to look up.
+    std::optional<QString> lookUp;
+    /// No window until somebody asks for one.
+    bool service = false;
     /// What is meant for this program among the arguments.
     QStringList links;
     /// All others, for example "ui_test".

@@ -4,6 +4,7 @@
 #include "platform/files/atomic_file.h"
 #include "qt/app/application.h"
 #include "qt/app/command_line.h"
+#include "qt/app/search_provider.h"
 #include "qt/base/library_files.h"
 #include "qt/base/text_conversion.h"
 #include "qt/base/translations.h"
@@ -11,15 +12,19 @@
 #include "qt/desktop/url_handlers.h"
 #include "qt/tour/tour.h"
 
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QQuickWindow>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <iostream>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -86,10 +91,36 @@ int print(const CommandLine& commandLine, int argc, char** argv)
     return 0;
 }
 
-int runApplication(const CommandLine& commandLine, const InstanceRequest& request)
+/// As long as nobody wants the window; none when nobody has searched for a while.
+std::optional<InstanceRequest> waitForRequest(const RunningInstance& instance,
+                                              const SearchProvider& provider)
+{
+    constexpr std::chrono::minutes kIdle{2};
+    QEventLoop loop;
+    QTimer idle;
+    idle.setSingleShot(true);
+    idle.setInterval(kIdle);
+    std::optional<InstanceRequest> wanted;
+    const auto take = [&](const InstanceRequest& request) {
+        wanted = request;
+        loop.quit();
+    };
+    QObject::connect(&instance, &RunningInstance::requested, &loop, take);
+    QObject::connect(&provider, &SearchProvider::requested, &loop, take);
+    QObject::connect(&provider, &SearchProvider::asked, &idle, qOverload<>(&QTimer::start));
+    QObject::connect(&idle, &QTimer::timeout, &loop, &QEventLoop::quit);
+    const TerminationSignals termination;
+    QObject::connect(&termination, &TerminationSignals::received, &loop, &QEventLoop::quit);
+    idle.start();
+    loop.exec();
+    return wanted;
+}
+
+int runApplication(const CommandLine& commandLine, InstanceRequest request)
 {
     Desktop desktop{QDBusConnection::sessionBus(), hasUrlHandler, isSandboxed()};
     RunningInstance instance{desktop.bus};
+    const SearchProvider provider{desktop.bus, StandardFolders::fromEnvironment(), shareFolder()};
     switch (instance.start(request)) {
     case RunningInstance::Role::First:
         break;
@@ -101,6 +132,13 @@ int runApplication(const CommandLine& commandLine, const InstanceRequest& reques
     }
 
     const Translations translations{QLocale::system().uiLanguages()};
+    if (commandLine.service) {
+        auto wanted = waitForRequest(instance, provider);
+        if (!wanted) {
+            return 0;
+        }
+        request = *std::move(wanted);
+    }
     registerInterface();
     ApplicationOptions options;
     options.folders = StandardFolders::fromEnvironment();
@@ -121,12 +159,17 @@ int runApplication(const CommandLine& commandLine, const InstanceRequest& reques
     Application application{options};
     application.installCrashHandler();
     QObject::connect(&instance, &RunningInstance::requested, &application, &Application::serve);
+    QObject::connect(&provider, &SearchProvider::requested, &application, &Application::serve);
     const TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::received,
                      [] { QCoreApplication::exit(0); });
     if (!application.show()) {
         std::cerr << "lumora: the window could not be built\n";
         return kFailed;
+    }
+    if (commandLine.service || request.text) {
+        // A shortcut and links are part of the launch.
+        application.serve({{}, {}, request.activationToken, request.text, request.form});
     }
     const int status = QGuiApplication::exec();
     application.enterBackground();
@@ -170,7 +213,10 @@ int main(int argc, char** argv)
         return kFailed;
     }
     prepareEnvironment(commandLine.tourFolder.has_value());
-    const InstanceRequest request{commandLine.shortcut, commandLine.links, activationToken()};
+    InstanceRequest request{commandLine.shortcut, commandLine.links, activationToken()};
+    if (commandLine.lookUp) {
+        request.text = TextRequest{*commandLine.lookUp};
+    }
     const QGuiApplication toolkit{argc, argv};
     QCoreApplication::setApplicationName(QStringLiteral("lumora"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Lumora"));

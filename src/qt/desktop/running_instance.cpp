@@ -17,6 +17,7 @@ namespace {
 const QString kName = QStringLiteral("com.brindle.lumora");
 const QString kPath = QStringLiteral("/com/brindle/lumora");
 const QString kInterface = QStringLiteral("org.freedesktop.Application");
+const QString kLookUp = QStringLiteral("look-up");
 const QString kShortcutPrefix = QStringLiteral("com.brindle.shortcut.");
 // Wayland's name for it and X11's.
 const QString kActivationToken = QStringLiteral("activation-token");
@@ -53,6 +54,10 @@ std::vector<QDBusMessage> callsFor(const InstanceRequest& request)
     if (request.shortcut && request.shortcut->startsWith(kShortcutPrefix)) {
         calls.push_back(callOf("ActivateAction", {request.shortcut->mid(kShortcutPrefix.size()),
                                                   QVariant{QVariantList{}}, platformData}));
+    }
+    if (request.text) {
+        calls.push_back(callOf(
+            "ActivateAction", {kLookUp, QVariant{QVariantList{request.text->text}}, platformData}));
     }
     if (!request.links.isEmpty()) {
         calls.push_back(callOf("Open", {request.links, platformData}));
@@ -118,9 +123,14 @@ void ApplicationAdaptor::Open(const QStringList& uris, const QVariantMap& platfo
     emit instance_.requested({{}, uris, tokenIn(platformData)});
 }
 
-void ApplicationAdaptor::ActivateAction(const QString& action, const QVariantList& /*parameters*/,
+void ApplicationAdaptor::ActivateAction(const QString& action, const QVariantList& parameters,
                                         const QVariantMap& platformData)
 {
+    if (action == kLookUp) {
+        emit instance_.requested(
+            {{}, {}, tokenIn(platformData), TextRequest{parameters.value(0).toString()}});
+        return;
+    }
     emit instance_.requested({kShortcutPrefix + action, {}, tokenIn(platformData)});
 }
 

@@ -15,6 +15,21 @@
 
 namespace lumora::qt {
 
+/// A text to look up.
+struct TextRequest {
+    QString text;
+    /// What is found first is opened; else only the search is.
+    bool opens = true;
+};
+
+/// A verb, or one of its forms, to open.
+struct FormRequest {
+    qint64 verb = -1;
+    /// As the database names it; empty for the verb as a whole.
+    QString tense = {};
+    qint64 order = 0;
+};
+
 /// What somebody wants of the program, at its start or while it runs: at least
 /// to see it.
 struct InstanceRequest {
@@ -23,6 +38,8 @@ struct InstanceRequest {
     QStringList links;
     /// The desktop's permission to take the keyboard focus; may be empty.
     QString activationToken;
+    std::optional<TextRequest> text = {};
+    std::optional<FormRequest> form = {};
 };
 
 /// The one program of a session: the first start takes the program's name on
@@ -68,7 +85,7 @@ public:
 
     Q_SLOT void Activate(const QVariantMap& platformData);
     Q_SLOT void Open(const QStringList& uris, const QVariantMap& platformData);
-    /// `action` is the last part of a shortcut's type.
+    /// `action` is the last part of a shortcut's type, or "look-up" with a text.
     Q_SLOT void ActivateAction(const QString& action, const QVariantList& parameters,
                                const QVariantMap& platformData);
 

@@ -3,11 +3,9 @@
 
 #include "qt/machine/pulse_audio_session.h"
 
-#include <pulse/context.h>
 #include <pulse/error.h>
 #include <pulse/introspect.h>
 #include <pulse/subscribe.h>
-#include <pulse/thread-mainloop.h>
 #include <pulse/volume.h>
 
 #include <algorithm>
@@ -22,25 +20,6 @@ constexpr float kNoOutput = 1;
 /// The server counts in steps that do not meet the percent of its sliders.
 constexpr double kPrecision = 1000;
 
-/// Holds the client library's thread up for its scope.
-class LoopLock {
-public:
-    explicit LoopLock(pa_threaded_mainloop* loop) : loop_{loop} { pa_threaded_mainloop_lock(loop); }
-    LoopLock(const LoopLock&) = delete;
-    LoopLock& operator=(const LoopLock&) = delete;
-    ~LoopLock() { pa_threaded_mainloop_unlock(loop_); }
-
-private:
-    pa_threaded_mainloop* loop_;
-};
-
-void drop(pa_operation* operation)
-{
-    if (operation != nullptr) {
-        pa_operation_unref(operation);
-    }
-}
-
 float volumeOf(const pa_sink_info& info)
 {
     if (info.mute != 0) {
@@ -51,19 +30,6 @@ float volumeOf(const pa_sink_info& info)
 }
 
 } // namespace
-
-void PulseAudioSession::LoopDeleter::operator()(pa_threaded_mainloop* loop) const
-{
-    pa_threaded_mainloop_free(loop);
-}
-
-void PulseAudioSession::ContextDeleter::operator()(pa_context* context) const
-{
-    pa_context_set_state_callback(context, nullptr, nullptr);
-    pa_context_set_subscribe_callback(context, nullptr, nullptr);
-    pa_context_disconnect(context);
-    pa_context_unref(context);
-}
 
 PulseAudioSession::PulseAudioSession() : loop_{pa_threaded_mainloop_new()}
 {
@@ -83,7 +49,7 @@ PulseAudioSession::~PulseAudioSession()
 {
     if (loop_) {
         {
-            const LoopLock lock{loop_.get()};
+            const PulseLoopLock lock{loop_};
             context_.reset();
         }
         pa_threaded_mainloop_stop(loop_.get());
@@ -97,7 +63,7 @@ platform::Result<void> PulseAudioSession::activate()
         return {};
     }
     if (loop_) {
-        const LoopLock lock{loop_.get()};
+        const PulseLoopLock lock{loop_};
         connect();
     }
     // A machine without a server has nothing to activate, and no sound to miss.

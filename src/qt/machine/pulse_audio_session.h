@@ -4,14 +4,12 @@
 #pragma once
 
 #include "platform/machine/audio_session.h"
+#include "qt/base/pulse_loop.h"
 
 #include <atomic>
 #include <cstdint>
-#include <memory>
 
-struct pa_context;
 struct pa_sink_info;
-struct pa_threaded_mainloop;
 
 namespace lumora::qt {
 
@@ -31,13 +29,6 @@ public:
     platform::Result<void> activate() override;
 
 private:
-    struct LoopDeleter {
-        void operator()(pa_threaded_mainloop* loop) const;
-    };
-    struct ContextDeleter {
-        void operator()(pa_context* context) const;
-    };
-
     void connect();
     // On the library's thread.
     void stateChanged(pa_context* context);
@@ -47,8 +38,8 @@ private:
     std::atomic<float> volume_ = 1;
     /// The library's code of why there is no connection; 0 while there may be.
     std::atomic<int> error_ = 0;
-    std::unique_ptr<pa_threaded_mainloop, LoopDeleter> loop_;
-    std::unique_ptr<pa_context, ContextDeleter> context_;
+    PulseLoop loop_;
+    PulseContext context_;
 };
 
 } // namespace lumora::qt

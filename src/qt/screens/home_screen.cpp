@@ -59,6 +59,9 @@ void HomeScreen::update()
         shown_ = std::move(visible);
         emit childrenChanged();
     }
+    if (const auto text = searchText(); std::exchange(searched_, text) != text) {
+        emit searchChanged();
+    }
 }
 
 bool HomeScreen::isSearching() const
@@ -146,7 +149,6 @@ void HomeScreen::changeSearchText(const QString& text)
 {
     if (text != searchText()) {
         home_->searchTextChanged(toUtf8(text));
-        emit searchChanged();
     }
 }
 

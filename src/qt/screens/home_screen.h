@@ -128,6 +128,7 @@ private:
     std::array<std::shared_ptr<platform::ViewController>, 3> lists_;
     std::vector<std::shared_ptr<platform::ViewController>> shown_;
     int openVerb_ = 0;
+    QString searched_;
     std::vector<SearchReading> readings_;
 };
 

@@ -3,13 +3,9 @@
 
 #include "qt/speech/speech_sink.h"
 
-#include <QAudioDevice>
-#include <QAudioFormat>
-#include <QIODevice>
-#include <QMediaDevices>
+#include <pulse/sample.h>
 
 #include <algorithm>
-#include <span>
 
 namespace lumora::qt {
 
@@ -17,54 +13,109 @@ namespace {
 
 /// What sound servers usually hold back.
 constexpr std::chrono::milliseconds kLatency{250};
-/// Well within what fits the smallest buffers.
-constexpr std::chrono::milliseconds kRefill{20};
+constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
 
 } // namespace
 
-SpeechSink::SpeechSink(const Speech& speech)
+void SpeechSink::StreamDeleter::operator()(pa_stream* stream) const
 {
-    const auto device = QMediaDevices::defaultAudioOutput();
-    QAudioFormat format;
-    format.setSampleRate(speech.sampleRate);
-    format.setChannelCount(1);
-    format.setSampleFormat(QAudioFormat::Int16);
-    if (device.isNull() || !device.isFormatSupported(format)) {
-        return;
+    pa_stream_set_state_callback(stream, nullptr, nullptr);
+    pa_stream_set_write_callback(stream, nullptr, nullptr);
+    pa_stream_disconnect(stream);
+    pa_stream_unref(stream);
+}
+
+SpeechSink::SpeechSink(const Speech& speech)
+    : speech_{speech}, rest_{speech.samples}, loop_{pa_threaded_mainloop_new()}
+{
+    if (!loop_ || !connect() || pa_threaded_mainloop_start(loop_.get()) < 0) {
+        silent_ = true;
     }
-    // All of it at once, most servers have room for minutes: it begins to sound
-    // without waiting for more, and nothing that holds the window up is heard.
-    rest_ = QByteArray{reinterpret_cast<const char*>(speech.samples.data()),
-                       static_cast<qsizetype>(std::as_bytes(std::span{speech.samples}).size())};
-    sink_ = std::make_unique<QAudioSink>(device, format);
-    sink_->setBufferSize(rest_.size());
-    stream_ = sink_->start();
-    again_.setInterval(kRefill);
-    QObject::connect(&again_, &QTimer::timeout, [this] { pour(); });
-    pour();
 }
 
 SpeechSink::~SpeechSink()
 {
-    if (sink_) {
-        sink_->reset();
+    if (!loop_) {
+        return;
     }
-}
-
-void SpeechSink::pour()
-{
-    const auto taken = stream_ != nullptr ? stream_->write(rest_) : -1;
-    rest_.remove(0, std::max<qint64>(0, taken));
-    if (taken < 0 || rest_.isEmpty()) {
-        again_.stop();
-    } else if (!again_.isActive()) {
-        again_.start();
+    {
+        const PulseLoopLock lock{loop_};
+        stream_.reset();
+        context_.reset();
     }
+    pa_threaded_mainloop_stop(loop_.get());
 }
 
 std::chrono::milliseconds SpeechSink::latency() const
 {
-    return sink_ ? kLatency : std::chrono::milliseconds{0};
+    return silent_ ? std::chrono::milliseconds{0} : kLatency;
+}
+
+bool SpeechSink::connect()
+{
+    context_.reset(pa_context_new(pa_threaded_mainloop_get_api(loop_.get()), "Lumora"));
+    if (!context_) {
+        return false;
+    }
+    pa_context_set_state_callback(
+        context_.get(),
+        [](pa_context*, void* self) { static_cast<SpeechSink*>(self)->stateChanged(); }, this);
+    return pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) >= 0;
+}
+
+void SpeechSink::stateChanged()
+{
+    const auto state = pa_context_get_state(context_.get());
+    if (!PA_CONTEXT_IS_GOOD(state)) {
+        silent_ = true;
+    } else if (state == PA_CONTEXT_READY) {
+        play();
+    }
+}
+
+void SpeechSink::play()
+{
+    const pa_sample_spec format{PA_SAMPLE_S16NE, static_cast<std::uint32_t>(speech_.sampleRate), 1};
+    // Begins to sound with the first sample, without waiting for more.
+    constexpr pa_buffer_attr kBuffer{kServersChoice, kServersChoice, sizeof(std::int16_t),
+                                     kServersChoice, kServersChoice};
+    stream_.reset(pa_stream_new(context_.get(), "Speech", &format, nullptr));
+    if (!stream_) {
+        silent_ = true;
+        return;
+    }
+    pa_stream_set_write_callback(
+        stream_.get(),
+        [](pa_stream*, std::size_t room, void* self) {
+            static_cast<SpeechSink*>(self)->pour(room);
+        },
+        this);
+    pa_stream_set_state_callback(
+        stream_.get(),
+        [](pa_stream* stream, void* self) {
+            if (pa_stream_get_state(stream) == PA_STREAM_FAILED) {
+                static_cast<SpeechSink*>(self)->silent_ = true;
+            }
+        },
+        this);
+    if (pa_stream_connect_playback(stream_.get(), nullptr, &kBuffer, PA_STREAM_NOFLAGS, nullptr,
+                                   nullptr) < 0) {
+        silent_ = true;
+    }
+}
+
+void SpeechSink::pour(std::size_t room)
+{
+    const auto part = rest_.first(std::min(rest_.size(), room / sizeof(std::int16_t)));
+    if (part.empty()) {
+        return;
+    }
+    const auto bytes = std::as_bytes(part);
+    if (pa_stream_write(stream_.get(), bytes.data(), bytes.size(), nullptr, 0, PA_SEEK_RELATIVE) <
+        0) {
+        silent_ = true;
+    }
+    rest_ = rest_.subspan(part.size());
 }
 
 } // namespace lumora::qt

@@ -3,35 +3,51 @@
 
 #pragma once
 
+#include "qt/base/pulse_loop.h"
 #include "qt/speech/speech.h"
 
-#include <QAudioSink>
-#include <QByteArray>
-#include <QTimer>
+#include <pulse/stream.h>
 
+#include <atomic>
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <span>
 
 namespace lumora::qt {
 
-/// Plays one speech on the default output device; does nothing where there is
-/// none. Its destruction ends the sound at once.
+/// Plays one speech on the sound server's default output, silently where there is
+/// none. A thread of the client library feeds the server, so that nothing that
+/// holds the window up is heard. Gone, it is silent at once.
 class SpeechSink {
 public:
+    /// The speech must live longer. Begins to connect and never waits; never
+    /// starts a server.
     explicit SpeechSink(const Speech& speech);
     ~SpeechSink();
 
-    /// How long the output may still sound after the speech's last sample.
+    /// How long the output may still sound after the last sample of the speech.
     std::chrono::milliseconds latency() const;
 
 private:
-    void pour();
+    struct StreamDeleter {
+        void operator()(pa_stream* stream) const;
+    };
 
-    std::unique_ptr<QAudioSink> sink_;
-    QIODevice* stream_ = nullptr;
+    bool connect();
+    // On the library's thread.
+    void stateChanged();
+    void play();
+    void pour(std::size_t room);
+
+    const Speech& speech_;
     /// What the server had no room for yet.
-    QByteArray rest_;
-    QTimer again_;
+    std::span<const std::int16_t> rest_;
+    std::atomic<bool> silent_ = false;
+    PulseLoop loop_;
+    PulseContext context_;
+    std::unique_ptr<pa_stream, StreamDeleter> stream_;
 };
 
 } // namespace lumora::qt

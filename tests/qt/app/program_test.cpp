@@ -8,6 +8,8 @@
 #include "support/window_fixture.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
 #include <QProcess>
 
 #include <csignal>
@@ -62,6 +64,25 @@ public:
 
 private:
     QProcess process_;
+};
+
+/// A phone's keyboard that remembers what it was asked for.
+class StandInKeyboard final : public QDBusVirtualObject {
+public:
+    explicit StandInKeyboard(QDBusConnection bus)
+    {
+        bus.registerVirtualObject(QStringLiteral("/sm/puri/OSK0"), this);
+        bus.registerService(QStringLiteral("sm.puri.OSK0"));
+    }
+    QString introspect(const QString& /*path*/) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override
+    {
+        EXPECT_EQ(message.member(), QStringLiteral("SetVisible"));
+        asked.push_back(message.arguments().value(0).toBool());
+        return connection.send(message.createReply());
+    }
+
+    std::vector<bool> asked;
 };
 
 /// The program in this process, on a bus.
@@ -123,6 +144,12 @@ TEST_F(RunningProgram, ASecondStartHandsItsRequestOverAndEnds)
     QTest::keyClick(application->window(), 'p');
     EXPECT_EQ(home()->searchText(), QStringLiteral("p")) << "the cursor is in the field";
 
+    Program form{bus.address(), {QStringLiteral("--look-up"), QStringLiteral(" vais\n")}};
+    EXPECT_EQ(form.end(), 0);
+    EXPECT_EQ(topTitle(), QStringLiteral("aller"));
+    const auto* field = application->window()->findChild<QQuickItem*>(QStringLiteral("Search"));
+    EXPECT_EQ(field->property("text"), QStringLiteral("vais")) << "the way back leads there";
+
     Program unknown{bus.address(), {QStringLiteral("lumora://verb/alller")}};
     EXPECT_EQ(unknown.end(), 0);
     EXPECT_TRUE(application->presenter().asking());
@@ -131,8 +158,21 @@ TEST_F(RunningProgram, ASecondStartHandsItsRequestOverAndEnds)
     Program plain{bus.address(), {}};
     EXPECT_EQ(plain.end(), 0);
     EXPECT_FALSE(application->presenter().asking());
-    EXPECT_EQ(home()->searchText(), QStringLiteral("p")) << "nothing but the window was wanted";
-    EXPECT_EQ(tokens, QStringList(5, QStringLiteral("leave")));
+    EXPECT_EQ(home()->searchText(), QStringLiteral("vais")) << "nothing but the window was wanted";
+    EXPECT_EQ(tokens, QStringList(6, QStringLiteral("leave")));
+}
+
+TEST_F(RunningProgram, RaisesTheKeyboardOfAPhoneForATextFieldOnly)
+{
+    StandInKeyboard keyboard{bus.connect()};
+    begin();
+    ASSERT_TRUE(until([&] { return application->isLaunched(); }));
+    EXPECT_TRUE(keyboard.asked.empty()) << "a list needs none";
+
+    QTest::keyClick(application->window(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(until([&] { return keyboard.asked == std::vector{true}; }));
+    QTest::keyClick(application->window(), Qt::Key_Down);
+    EXPECT_TRUE(until([&] { return keyboard.asked == std::vector{true, false}; }));
 }
 
 TEST_F(RunningProgram, LooksAsTheDesktopIsSetAndFollowsIt)

@@ -16,6 +16,7 @@ namespace {
 constexpr const char* kConfiguration = R"(<busconfig>
   <type>session</type>
   <listen>unix:dir=%1</listen>
+  <servicedir>%1</servicedir>
   <policy context="default">
     <allow send_destination="*" eavesdrop="true"/>
     <allow eavesdrop="true"/>
@@ -45,6 +46,12 @@ MessageBus::~MessageBus()
     }
     daemon_.terminate();
     daemon_.waitForFinished();
+}
+
+void MessageBus::offer(const QString& name, const QString& command)
+{
+    const auto service = QStringLiteral("[D-BUS Service]\nName=%1\nExec=%2\n").arg(name, command);
+    writeContent(folder_ / (qt::toUtf8(name) + ".service"), qt::toUtf8(service));
 }
 
 QDBusConnection MessageBus::connect()

@@ -19,6 +19,8 @@ public:
     ~MessageBus();
 
     const QString& address() const { return address_; }
+    /// The bus starts that command when somebody calls the name.
+    void offer(const QString& name, const QString& command);
     /// A connection of its own, closed when the bus goes.
     QDBusConnection connect();
 

@@ -80,7 +80,7 @@ private:
     QProcess process_;
 };
 
-class PulseAudioSessionTest : public testing::Test {
+class SoundServerTest : public testing::Test {
 protected:
     void SetUp() override
     {
@@ -90,27 +90,6 @@ protected:
     }
 
     SoundServer server;
-};
-
-/// Over one server, since Qt looks for one only once.
-class PlaybackTest : public testing::Test {
-protected:
-    static void SetUpTestSuite()
-    {
-        server = std::make_unique<SoundServer>();
-        missing = server->start();
-    }
-    static void TearDownTestSuite() { server.reset(); }
-    void SetUp() override
-    {
-        if (!missing.empty()) {
-            GTEST_SKIP() << missing;
-        }
-    }
-
-private:
-    static inline std::unique_ptr<SoundServer> server;
-    static inline std::string missing;
 };
 
 /// What the output plays, as it plays it.
@@ -153,7 +132,7 @@ private:
     QProcess process_;
 };
 
-TEST_F(PulseAudioSessionTest, FollowsTheVolumeOfTheDefaultOutput)
+TEST_F(SoundServerTest, FollowsTheVolumeOfTheDefaultOutput)
 {
     const PulseAudioSession session;
     struct Case {
@@ -179,7 +158,7 @@ TEST_F(PulseAudioSessionTest, FollowsTheVolumeOfTheDefaultOutput)
     }
 }
 
-TEST_F(PulseAudioSessionTest, IsMissedAndFoundAgain)
+TEST_F(SoundServerTest, IsMissedAndFoundAgain)
 {
     PulseAudioSession session;
     ASSERT_TRUE(SoundServer::control({"set-sink-volume", "nowhere", "40%"}));
@@ -200,7 +179,7 @@ TEST_F(PulseAudioSessionTest, IsMissedAndFoundAgain)
         [&] { return session.activate() && session.outputVolume() == 0.2F; }, 8000));
 }
 
-TEST_F(PlaybackTest, HearsAnUtteranceWhole)
+TEST_F(SoundServerTest, HearsAnUtteranceWhole)
 {
     Recorder recorder;
     SpeechListener listener;
@@ -221,7 +200,7 @@ TEST_F(PlaybackTest, HearsAnUtteranceWhole)
     EXPECT_NEAR(recorder.secondsOfSound(), seconds, 0.15 * seconds);
 }
 
-TEST_F(PlaybackTest, HearsNoMoreOfAStoppedUtterance)
+TEST_F(SoundServerTest, HearsNoMoreOfAStoppedUtterance)
 {
     Recorder recorder;
     QtSpeech speech;

@@ -121,8 +121,9 @@ Rectangle {
     Connections {
         target: root.home
         function onOutletsChanged() {
-            if (root.home.searchText === "")
-                input.text = "";
+            // Emptied, or looked up from elsewhere.
+            if (root.home.searchText !== input.text)
+                input.text = root.home.searchText;
             if (root.home.searchFocus && !input.activeFocus)
                 input.forceActiveFocus();
             else if (!root.home.searchFocus && input.activeFocus && root.home.searchText === "")
