@@ -49,7 +49,7 @@ export class World {
         bundle.CFBundleShortVersionString = '9.9.9-updated';
         writeFileSync(join(folder, 'bundle.json'), JSON.stringify(bundle));
         const worker = join(folder, 'service_worker.js');
-        writeFileSync(worker, readFileSync(worker, 'utf8').replace(/"[0-9a-f]{8}"/, '"99999999"'));
+        writeFileSync(worker, readFileSync(worker, 'utf8').replace(/[0-9a-f]{8}(?=["`])/, '99999999'));
         this.server = await serve(folder, this.port);
     }
 
@@ -139,8 +139,8 @@ export const until = (tab, condition, ...parts) => tab.waitForFunction(condition
 export async function openVerb(tab, text) {
     await type(tab, text);
     await until(tab, (wanted) => [...document.querySelectorAll('.reading .first, .verb-row .first')]
-        .some((each) => each.textContent === wanted && each.getClientRects().length > 0), text);
+        .some((each) => each.textContent.trim() === wanted && each.getClientRects().length > 0), text);
     await tab.evaluate((wanted) => [...document.querySelectorAll('.reading .first, .verb-row .first')]
-        .find((each) => each.textContent === wanted && each.getClientRects().length > 0).click(), text);
+        .find((each) => each.textContent.trim() === wanted && each.getClientRects().length > 0).click(), text);
     await until(tab, (wanted) => document.title.startsWith(wanted) && document.querySelector('.form-row'), text);
 }

@@ -45,7 +45,7 @@ export function icon(name: string): SVGElement | null {
 
 export function button(label: string, kind: string, press: (event: MouseEvent) => void, ...children: Child[]):
     HTMLButtonElement {
-    return el('button', { type: 'button', class: kind, 'aria-label': children.length > 0 ? label : null, click: press },
+    return el('button', { type: 'button', class: kind, 'aria-label': children.length > 0 && label !== '' ? label : null, click: press },
         ...(children.length > 0 ? children : [label]));
 }
 

@@ -123,10 +123,10 @@ export class HomeView extends ScreenView<HomeState> {
     }
 
     private card(card: Reading, at: number): HTMLElement {
-        return button([card.headword, card.detail, card.way].filter(Boolean).join(', '), 'reading',
+        return button('', 'reading',
             () => this.channel.send('openReading', { card: at }),
-            el('span', { class: 'first', lang: 'fr' }, card.headword),
-            el('span', { class: 'second' }, card.detail),
+            el('span', { class: 'first', lang: 'fr' }, `${card.headword} `),
+            el('span', { class: 'second' }, `${card.detail} `),
             card.way !== '' && el('span', { class: 'way' }, card.way));
     }
 

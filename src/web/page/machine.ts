@@ -91,10 +91,10 @@ function plainText(html: string): string {
 // In a page of its own inside this one. Its styles are handed over as objects, for
 // the policy lets none in as texts.
 export function printPage(html: string): void {
-    const parsed = new DOMParser().parseFromString(html, 'text/html');
+    const styles = /<style[^>]*>([\s\S]*?)<\/style>/g;
+    const css = [...html.matchAll(styles)].map((style) => style[1] ?? '').join('\n');
+    const parsed = new DOMParser().parseFromString(html.replace(styles, ''), 'text/html');
     parsed.querySelectorAll('script').forEach((script) => script.remove());
-    const css = [...parsed.querySelectorAll('style')].map((style) => style.textContent).join('\n');
-    parsed.querySelectorAll('style').forEach((style) => style.remove());
     document.getElementById('printed')?.remove();
     const frame = el('iframe', { id: 'printed', 'aria-hidden': true, tabindex: -1 });
     document.body.append(frame);

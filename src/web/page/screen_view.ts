@@ -37,7 +37,7 @@ export abstract class ScreenView<Kind extends ScreenState = ScreenState> {
             }, () => this.channel.send('back')),
             bar.left && this.make(bar.left));
         const right = el('div', { class: 'bar-side right' }, ...bar.right.map((each) => this.make(each)));
-        this.bar.replaceChildren(left, el('h1', { lang: this.number ? null : 'fr' }, bar.title), right);
+        this.bar.replaceChildren(left, el(bar.title === '' ? 'span' : 'h1', {}, bar.title), right);
         if (focused) {
             this.bar.querySelector<HTMLElement>(`[data-button="${focused}"]`)?.focus();
         }

@@ -215,7 +215,7 @@ export class TableList {
         const place = `top:${line.top}px;height:${line.height}px`;
         let element: HTMLElement;
         if (line.kind !== 'cell') {
-            element = el('div', { class: `section-${line.kind}`, 'aria-hidden': true }, line.title);
+            element = el('div', { class: `section-${line.kind}`, role: 'presentation' }, line.title);
         } else {
             element = this.makeCell(row);
         }
@@ -230,21 +230,22 @@ export class TableList {
             'aria-selected': row === this.state?.open ? 'true' : 'false',
         });
         if (!cell) {
-            element.setAttribute('aria-label', '…');
+            element.append('…');
             return element;
         }
         const translation = cell.detail === cell.text ? '' : cell.detail;
         const star = cell.image === '' ? null : icon(cell.image);
-        const parts = [cell.label || cell.text, cell.note, translation, star && this.channel.text('button.favourite')];
-        element.setAttribute('aria-label', parts.filter(Boolean).join(', '));
         element.classList.toggle('current', row === this.current);
         element.append(
             el('div', { class: 'texts' },
-                el('div', { class: 'first', lang: 'fr' }, cell.text,
+                el('div', { class: 'first', lang: 'fr' }, `${cell.text} `,
                     cell.note !== '' && el('span', { class: 'note' }, ` (${cell.note})`)),
                 translation !== '' && el('div', { class: 'second' }, translation)));
         if (star) {
             star.classList.add('star');
+            star.removeAttribute('aria-hidden');
+            star.setAttribute('role', 'img');
+            star.setAttribute('aria-label', this.channel.text('button.favourite'));
             element.append(star);
         }
         return element;

@@ -44,7 +44,7 @@ abstract class GroupedView<Kind extends OptionsState | TableScreenState> extends
     private cell(cell: Cell, row: number, table: number): HTMLElement {
         const send = (event: string, parts: Record<string, unknown> = {}): void =>
             this.channel.send(event, { table, row, ...parts });
-        const label = el('span', { class: 'label' }, cell.text);
+        const label = el('span', { class: 'label' }, `${cell.text} `);
         const control = cell.control;
         if (control && 'on' in control) {
             const made = el('button', {
@@ -67,7 +67,7 @@ abstract class GroupedView<Kind extends OptionsState | TableScreenState> extends
         if (!cell.selectable) {
             return el('div', { class: 'option', 'data-row': row }, ...parts);
         }
-        const made = button(cell.label || [cell.text, cell.detail].filter(Boolean).join(', '), 'option',
+        const made = button(cell.label === cell.text ? '' : cell.label, 'option',
             () => send('tap'), ...parts);
         made.dataset['row'] = String(row);
         return made;

@@ -26,7 +26,7 @@ function leadingText(text: string, setting: LineSetting): HTMLElement {
 export class VerbView extends ScreenView<VerbState> {
     private readonly select = el('p', { class: 'select' });
     private readonly moods = el('div', { class: 'moods segments', role: 'group' });
-    private readonly page = el('div', { class: 'verb-page', tabindex: 0, role: 'region' });
+    private readonly page = el('div', { class: 'verb-page', tabindex: 0, role: 'group' });
     private readonly card = el('div', { class: 'card' });
     private readonly tools = el('div', { class: 'tools' });
     private readonly rows = el('div', { class: 'tense-rows' });
@@ -99,8 +99,7 @@ export class VerbView extends ScreenView<VerbState> {
         this.card.hidden = state.summary === '' && state.card.length === 0;
         const toggle = button('', 'summary', () => this.send('card', { open: !state.cardOpen }),
             el('span', {}, state.summary || this.channel.text('card.about')), icon('disclosure'));
-        toggle.removeAttribute('aria-label');
-        toggle.setAttribute('aria-expanded', String(state.cardOpen));
+                toggle.setAttribute('aria-expanded', String(state.cardOpen));
         this.card.append(toggle);
         if (state.cardOpen) {
             this.card.append(el('dl', {}, ...state.card.flatMap((line) => [
@@ -175,7 +174,7 @@ export class VerbView extends ScreenView<VerbState> {
         const made = el('div', { class: 'form-row', 'data-row': row },
             button(cell.label || `${cell.text} ${cell.detail}`, 'form-line',
                 () => void this.showForm(cell.section - 1, cell.row),
-                leadingText(cell.text, cell.setting), formText(cell.detail, cell.setting)),
+                leadingText(cell.text, cell.setting), ' ', formText(cell.detail, cell.setting)),
             ring && playControl(ring, `${this.channel.text('action.play')}: ${cell.text} ${cell.detail}`,
                 () => this.channel.send('accessory', { table, row })));
         made.classList.toggle('opened', row === state.opened);
@@ -191,7 +190,7 @@ export class VerbView extends ScreenView<VerbState> {
                 ...item.rows.map((line, index) => el('div', { class: 'form-row' },
                     button(line.label || `${line.leading} ${line.trailing}`, 'form-line',
                         () => void this.showForm(at, index),
-                        leadingText(line.leading, line.setting), formText(line.trailing, line.setting)),
+                        leadingText(line.leading, line.setting), ' ', formText(line.trailing, line.setting)),
                     line.control && playControl(line.control, `${play}: ${line.leading} ${line.trailing}`,
                         () => this.send('audio', { item: at, line: index })))))));
     }

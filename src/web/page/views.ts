@@ -58,7 +58,9 @@ export class Views {
         document.documentElement.toggleAttribute('data-two-panes', !state.collapsed);
         this.primary.hidden = state.primaryHidden && !state.collapsed;
         this.secondary.hidden = state.collapsed;
-        this.secondary.setAttribute('aria-label', state.secondary.at(-1)?.bar.title ?? '');
+        const beside = state.secondary.at(-1);
+        this.secondary.setAttribute('aria-label',
+            beside?.bar.title || (beside?.kind === 'verb' && beside.select) || 'Lumora');
         this.drawModals(state);
         this.drawStack(this.primary, state.primary, used);
         this.drawStack(this.secondary, state.secondary, used);
