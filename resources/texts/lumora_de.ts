@@ -1186,5 +1186,45 @@ Du musst heute Abend kommen.</translation>
         <source></source>
         <translation>Die Lautstärke ist sehr niedrig. Erhöhen Sie sie, um die Aussprache zu hören.</translation>
     </message>
+    <message id="web.again">
+        <source></source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message id="web.failed">
+        <source></source>
+        <translation>Lumora konnte in diesem Browser nicht starten. Versuchen Sie es erneut oder schließen Sie vorher andere Tabs mit Lumora.</translation>
+    </message>
+    <message id="web.kept.copy">
+        <source></source>
+        <translation>Favoriten, Verlauf und Einstellungen werden in diesem Browser als Kopie aufbewahrt. Sichern Sie sie ab und zu in einer Datei.</translation>
+    </message>
+    <message id="web.kept.files">
+        <source></source>
+        <translation>Favoriten, Verlauf und Einstellungen bleiben in diesem Browser auf diesem Gerät. Löschen Sie dessen Daten, gehen sie verloren: Eine Sicherungsdatei bewahrt sie.</translation>
+    </message>
+    <message id="web.kept.nothing">
+        <source></source>
+        <translation>Dieser Browser bewahrt nichts auf: Favoriten, Verlauf und Einstellungen gehen mit dem Schließen des Tabs verloren. Sichern Sie sie in einer Datei.</translation>
+    </message>
+    <message id="web.share">
+        <source></source>
+        <translation>Teilen</translation>
+    </message>
+    <message id="web.tab.open">
+        <source></source>
+        <translation>Lumora ist in einem anderen Tab dieses Browsers geöffnet.</translation>
+    </message>
+    <message id="web.tab.take">
+        <source></source>
+        <translation>Hier verwenden</translation>
+    </message>
+    <message id="web.tab.taken">
+        <source></source>
+        <translation>Lumora läuft jetzt in einem anderen Tab weiter.</translation>
+    </message>
+    <message id="web.voice.none">
+        <source></source>
+        <translation>Dieser Browser hat keine französische Stimme.</translation>
+    </message>
 </context>
 </TS>

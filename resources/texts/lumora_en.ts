@@ -1186,5 +1186,45 @@ You have to come tonight.</translation>
         <source></source>
         <translation>The volume is very low. Turn it up to hear the pronunciation.</translation>
     </message>
+    <message id="web.again">
+        <source></source>
+        <translation>Try again</translation>
+    </message>
+    <message id="web.failed">
+        <source></source>
+        <translation>Lumora could not start in this browser. Try again, or close other tabs with Lumora first.</translation>
+    </message>
+    <message id="web.kept.copy">
+        <source></source>
+        <translation>Favourites, history and settings are kept in this browser as a copy. Save a backup file now and then.</translation>
+    </message>
+    <message id="web.kept.files">
+        <source></source>
+        <translation>Favourites, history and settings are kept in this browser on this device. They go when you delete its data: a backup file keeps them.</translation>
+    </message>
+    <message id="web.kept.nothing">
+        <source></source>
+        <translation>This browser keeps nothing: favourites, history and settings are lost when the tab is closed. Save them in a backup file.</translation>
+    </message>
+    <message id="web.share">
+        <source></source>
+        <translation>Share</translation>
+    </message>
+    <message id="web.tab.open">
+        <source></source>
+        <translation>Lumora is open in another tab of this browser.</translation>
+    </message>
+    <message id="web.tab.take">
+        <source></source>
+        <translation>Use it here</translation>
+    </message>
+    <message id="web.tab.taken">
+        <source></source>
+        <translation>Lumora now goes on in another tab.</translation>
+    </message>
+    <message id="web.voice.none">
+        <source></source>
+        <translation>This browser has no French voice.</translation>
+    </message>
 </context>
 </TS>

@@ -1186,5 +1186,45 @@ Hace falta que vengas esta noche.</translation>
         <source></source>
         <translation>El volumen está muy bajo. Súbelo para oír la pronunciación.</translation>
     </message>
+    <message id="web.again">
+        <source></source>
+        <translation>Intentarlo de nuevo</translation>
+    </message>
+    <message id="web.failed">
+        <source></source>
+        <translation>Lumora no ha podido iniciarse en este navegador. Inténtelo de nuevo o cierre antes las otras pestañas de Lumora.</translation>
+    </message>
+    <message id="web.kept.copy">
+        <source></source>
+        <translation>Los favoritos, el historial y los ajustes se guardan como copia en este navegador. Guarde de vez en cuando un archivo de copia de seguridad.</translation>
+    </message>
+    <message id="web.kept.files">
+        <source></source>
+        <translation>Los favoritos, el historial y los ajustes se guardan en este navegador, en este dispositivo. Se pierden si borra sus datos: un archivo de copia de seguridad los conserva.</translation>
+    </message>
+    <message id="web.kept.nothing">
+        <source></source>
+        <translation>Este navegador no guarda nada: los favoritos, el historial y los ajustes se pierden al cerrar la pestaña. Guárdelos en un archivo de copia de seguridad.</translation>
+    </message>
+    <message id="web.share">
+        <source></source>
+        <translation>Compartir</translation>
+    </message>
+    <message id="web.tab.open">
+        <source></source>
+        <translation>Lumora está abierto en otra pestaña de este navegador.</translation>
+    </message>
+    <message id="web.tab.take">
+        <source></source>
+        <translation>Usarlo aquí</translation>
+    </message>
+    <message id="web.tab.taken">
+        <source></source>
+        <translation>Lumora continúa ahora en otra pestaña.</translation>
+    </message>
+    <message id="web.voice.none">
+        <source></source>
+        <translation>Este navegador no tiene ninguna voz francesa.</translation>
+    </message>
 </context>
 </TS>

@@ -1169,5 +1169,45 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Le volume est très bas. Augmentez-le pour entendre la prononciation.</translation>
     </message>
+    <message id="web.again">
+        <source></source>
+        <translation>Réessayer</translation>
+    </message>
+    <message id="web.failed">
+        <source></source>
+        <translation>Lumora n’a pas pu démarrer dans ce navigateur. Réessayez, ou fermez d’abord les autres onglets de Lumora.</translation>
+    </message>
+    <message id="web.kept.copy">
+        <source></source>
+        <translation>Les favoris, l’historique et les réglages sont conservés en copie dans ce navigateur. Enregistrez de temps en temps un fichier de sauvegarde.</translation>
+    </message>
+    <message id="web.kept.files">
+        <source></source>
+        <translation>Les favoris, l’historique et les réglages sont conservés dans ce navigateur, sur cet appareil. Ils disparaissent si vous effacez ses données : un fichier de sauvegarde les conserve.</translation>
+    </message>
+    <message id="web.kept.nothing">
+        <source></source>
+        <translation>Ce navigateur ne conserve rien : les favoris, l’historique et les réglages sont perdus à la fermeture de l’onglet. Enregistrez-les dans un fichier de sauvegarde.</translation>
+    </message>
+    <message id="web.share">
+        <source></source>
+        <translation>Partager</translation>
+    </message>
+    <message id="web.tab.open">
+        <source></source>
+        <translation>Lumora est ouvert dans un autre onglet de ce navigateur.</translation>
+    </message>
+    <message id="web.tab.take">
+        <source></source>
+        <translation>L’utiliser ici</translation>
+    </message>
+    <message id="web.tab.taken">
+        <source></source>
+        <translation>Lumora continue maintenant dans un autre onglet.</translation>
+    </message>
+    <message id="web.voice.none">
+        <source></source>
+        <translation>Ce navigateur n’a pas de voix française.</translation>
+    </message>
 </context>
 </TS>

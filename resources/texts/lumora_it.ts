@@ -1186,5 +1186,45 @@ Bisogna che tu venga stasera.</translation>
         <source></source>
         <translation>Il volume è molto basso. Alzalo per sentire la pronuncia.</translation>
     </message>
+    <message id="web.again">
+        <source></source>
+        <translation>Riprova</translation>
+    </message>
+    <message id="web.failed">
+        <source></source>
+        <translation>Lumora non ha potuto avviarsi in questo browser. Riprova, oppure chiudi prima le altre schede di Lumora.</translation>
+    </message>
+    <message id="web.kept.copy">
+        <source></source>
+        <translation>Preferiti, cronologia e impostazioni sono conservati in copia in questo browser. Salva di tanto in tanto un file di backup.</translation>
+    </message>
+    <message id="web.kept.files">
+        <source></source>
+        <translation>Preferiti, cronologia e impostazioni sono conservati in questo browser, su questo dispositivo. Se ne cancelli i dati vanno persi: un file di backup li conserva.</translation>
+    </message>
+    <message id="web.kept.nothing">
+        <source></source>
+        <translation>Questo browser non conserva nulla: preferiti, cronologia e impostazioni vanno persi alla chiusura della scheda. Salvali in un file di backup.</translation>
+    </message>
+    <message id="web.share">
+        <source></source>
+        <translation>Condividi</translation>
+    </message>
+    <message id="web.tab.open">
+        <source></source>
+        <translation>Lumora è aperto in un’altra scheda di questo browser.</translation>
+    </message>
+    <message id="web.tab.take">
+        <source></source>
+        <translation>Usalo qui</translation>
+    </message>
+    <message id="web.tab.taken">
+        <source></source>
+        <translation>Lumora ora prosegue in un’altra scheda.</translation>
+    </message>
+    <message id="web.voice.none">
+        <source></source>
+        <translation>Questo browser non ha una voce francese.</translation>
+    </message>
 </context>
 </TS>

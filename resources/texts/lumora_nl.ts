@@ -1186,5 +1186,45 @@ Je moet vanavond komen.</translation>
         <source></source>
         <translation>Het volume staat erg laag. Zet het hoger om de uitspraak te horen.</translation>
     </message>
+    <message id="web.again">
+        <source></source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+    <message id="web.failed">
+        <source></source>
+        <translation>Lumora kon niet starten in deze browser. Probeer het opnieuw of sluit eerst andere tabbladen met Lumora.</translation>
+    </message>
+    <message id="web.kept.copy">
+        <source></source>
+        <translation>Favorieten, geschiedenis en instellingen worden als kopie in deze browser bewaard. Sla af en toe een back-upbestand op.</translation>
+    </message>
+    <message id="web.kept.files">
+        <source></source>
+        <translation>Favorieten, geschiedenis en instellingen worden in deze browser op dit apparaat bewaard. Ze verdwijnen als u de gegevens ervan wist: een back-upbestand bewaart ze.</translation>
+    </message>
+    <message id="web.kept.nothing">
+        <source></source>
+        <translation>Deze browser bewaart niets: favorieten, geschiedenis en instellingen gaan verloren als het tabblad wordt gesloten. Sla ze op in een back-upbestand.</translation>
+    </message>
+    <message id="web.share">
+        <source></source>
+        <translation>Delen</translation>
+    </message>
+    <message id="web.tab.open">
+        <source></source>
+        <translation>Lumora is geopend in een ander tabblad van deze browser.</translation>
+    </message>
+    <message id="web.tab.take">
+        <source></source>
+        <translation>Hier gebruiken</translation>
+    </message>
+    <message id="web.tab.taken">
+        <source></source>
+        <translation>Lumora gaat nu verder in een ander tabblad.</translation>
+    </message>
+    <message id="web.voice.none">
+        <source></source>
+        <translation>Deze browser heeft geen Franse stem.</translation>
+    </message>
 </context>
 </TS>

@@ -1186,5 +1186,45 @@ Lamentava que ela tivesse partido sem mim.</translation>
         <source></source>
         <translation>O volume está muito baixo. Aumente-o para ouvir a pronúncia.</translation>
     </message>
+    <message id="web.again">
+        <source></source>
+        <translation>Tentar de novo</translation>
+    </message>
+    <message id="web.failed">
+        <source></source>
+        <translation>O Lumora não pôde iniciar neste navegador. Tente de novo ou feche primeiro os outros separadores do Lumora.</translation>
+    </message>
+    <message id="web.kept.copy">
+        <source></source>
+        <translation>Os favoritos, o histórico e as definições são guardados em cópia neste navegador. Guarde de vez em quando um ficheiro de cópia de segurança.</translation>
+    </message>
+    <message id="web.kept.files">
+        <source></source>
+        <translation>Os favoritos, o histórico e as definições são guardados neste navegador, neste dispositivo. Perdem-se se apagar os dados dele: um ficheiro de cópia de segurança conserva-os.</translation>
+    </message>
+    <message id="web.kept.nothing">
+        <source></source>
+        <translation>Este navegador não guarda nada: os favoritos, o histórico e as definições perdem-se ao fechar o separador. Guarde-os num ficheiro de cópia de segurança.</translation>
+    </message>
+    <message id="web.share">
+        <source></source>
+        <translation>Partilhar</translation>
+    </message>
+    <message id="web.tab.open">
+        <source></source>
+        <translation>O Lumora está aberto noutro separador deste navegador.</translation>
+    </message>
+    <message id="web.tab.take">
+        <source></source>
+        <translation>Usar aqui</translation>
+    </message>
+    <message id="web.tab.taken">
+        <source></source>
+        <translation>O Lumora continua agora noutro separador.</translation>
+    </message>
+    <message id="web.voice.none">
+        <source></source>
+        <translation>Este navegador não tem nenhuma voz francesa.</translation>
+    </message>
 </context>
 </TS>

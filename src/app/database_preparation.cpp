@@ -93,7 +93,7 @@ SavedData readUserData(const std::filesystem::path& file, platform::CrashReporte
         return saved;
     }
     queue->inDatabase([&](Database& database) {
-        if (!readFavourites(database, saved.data) || !readHistory(database, saved.data)) {
+        if (!readUserRows(database, saved.data)) {
             saved.failure = platform::Error{database.lastErrorMessage(), database.lastErrorCode()};
             if (crashReporter != nullptr) {
                 crashReporter->logWithFormat(
@@ -358,6 +358,11 @@ Result<void> replaceDatabase(const std::filesystem::path& file, bool exists,
 }
 
 } // namespace
+
+bool readUserRows(Database& database, UserData& data)
+{
+    return readFavourites(database, data) && readHistory(database, data);
+}
 
 std::filesystem::path workingDatabase(const std::filesystem::path& documents)
 {

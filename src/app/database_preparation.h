@@ -11,10 +11,13 @@
 namespace lumora::platform {
 class Bundle;
 class CrashReporter;
+class Database;
 class SettingsStore;
 } // namespace lumora::platform
 
 namespace lumora::app {
+
+struct UserData;
 
 /// The working database in a documents directory.
 std::filesystem::path workingDatabase(const std::filesystem::path& documents);
@@ -22,6 +25,10 @@ std::filesystem::path workingDatabase(const std::filesystem::path& documents);
 /// For other programs that work on the database: no start replaces it
 /// meanwhile. Waits for one that does; an error should it take too long.
 platform::Result<platform::FolderLock> lockDocuments(const std::filesystem::path& documents);
+
+/// Adds what a person put into the database. False when a statement fails: its reason
+/// is the database's last error.
+bool readUserRows(platform::Database& database, UserData& data);
 
 /// Brings the working database to the program's version and carries favourites
 /// and history over; records the version in the settings. Another process that

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "verbdb/content.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace lumora::web {
+
+/// The tables that the forms are made of, read when they are first needed: the list
+/// of verbs does without.
+class ContentSource {
+public:
+    explicit ContentSource(std::filesystem::path folder) : folder_{std::move(folder)} {}
+
+    /// Null where the tables are missing or spoilt; why is on the console.
+    const verbdb::Content* get();
+
+private:
+    std::filesystem::path folder_;
+    bool read_ = false;
+    std::optional<verbdb::Content> content_;
+};
+
+} // namespace lumora::web

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Elements made in one expression. Texts become text nodes, never mark-up.
+
+import icons from 'lumora-icons';
+
+type Child = Node | string | null | false | undefined;
+type Props = Record<string, string | number | boolean | null | undefined | ((event: never) => void)>;
+
+export function el<Tag extends keyof HTMLElementTagNameMap>(
+    tag: Tag, props: Props = {}, ...children: Child[]): HTMLElementTagNameMap[Tag] {
+    const element = document.createElement(tag);
+    for (const [name, value] of Object.entries(props)) {
+        if (typeof value === 'function') {
+            element.addEventListener(name, value as EventListener);
+        } else if (value === true) {
+            element.setAttribute(name, '');
+        } else if (value !== false && value !== null && value !== undefined) {
+            element.setAttribute(name, String(value));
+        }
+    }
+    element.append(...children.filter((child): child is Node | string => Boolean(child)));
+    return element;
+}
+
+const drawn = new Map<string, SVGElement>();
+
+// A picture in the colour of the text around it.
+export function icon(name: string): SVGElement | null {
+    let picture = drawn.get(name);
+    if (!picture) {
+        const source = icons[name];
+        if (source === undefined) {
+            return null;
+        }
+        const parsed = new DOMParser().parseFromString(source, 'image/svg+xml').documentElement;
+        picture = document.importNode(parsed, true) as unknown as SVGElement;
+        picture.setAttribute('aria-hidden', 'true');
+        picture.classList.add('icon');
+        drawn.set(name, picture);
+    }
+    return picture.cloneNode(true) as SVGElement;
+}
+
+export function button(label: string, kind: string, press: (event: MouseEvent) => void, ...children: Child[]):
+    HTMLButtonElement {
+    return el('button', { type: 'button', class: kind, 'aria-label': children.length > 0 && label !== '' ? label : null, click: press },
+        ...(children.length > 0 ? children : [label]));
+}
+
+export const reducedMotion = (): boolean => matchMedia('(prefers-reduced-motion: reduce)').matches;

@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The first screen: search field, list with its tabs, results and readings.
+
+import { button, el, icon } from './dom';
+import type { HomeState, Reading } from './messages';
+import { ScreenView } from './screen_view';
+import { TableList } from './table_list';
+
+export class HomeView extends ScreenView<HomeState> {
+    private readonly field = el('input', {
+        type: 'search', autocapitalize: 'none', autocomplete: 'off', spellcheck: 'false', enterkeyhint: 'search',
+        class: 'search-field',
+    });
+    private readonly clear = button(this.channel.text('search.clear'), 'clear', () => this.type(''), icon('clear'));
+    private readonly readings = el('div', { class: 'readings' });
+    private readonly lists = new Map<number, TableList>();
+    private readonly results = new TableList(this.channel, this.channel.text('settings.search'));
+    private readonly place = el('div', { class: 'lists' });
+    private readonly tabs = el('nav', { class: 'tabs' });
+    private told = '';
+    private toldTabs = '';
+    private shownText = '';
+    private sent = '';
+
+    constructor(...parts: ConstructorParameters<typeof ScreenView>) {
+        super(...parts);
+        const search = el('div', { class: 'search', role: 'search' }, icon('search'), this.field, this.clear);
+        this.content.append(el('div', { class: 'search-bar' }, search), this.readings, this.place, this.tabs);
+        this.field.addEventListener('input', () => this.type(this.field.value));
+        this.field.addEventListener('focus', () => this.channel.send('searchFocus', { on: true }));
+        this.field.addEventListener('blur', () => this.channel.send('searchFocus', { on: false }));
+        this.field.addEventListener('keydown', (event) => this.key(event));
+    }
+
+    focusField(): void {
+        this.field.focus();
+        this.field.select();
+    }
+
+    protected override update(state: HomeState): void {
+        this.field.placeholder = state.search.placeholder;
+        this.field.setAttribute('aria-label', state.search.placeholder);
+        // What the person typed meanwhile is newer than what comes back.
+        if (state.search.text !== this.field.value && (document.activeElement !== this.field || state.search.text === '' && this.sent === '')) {
+            this.field.value = state.search.text;
+        }
+        this.clear.hidden = this.field.value === '';
+        if (state.search.focus && document.activeElement !== this.field && document.activeElement === document.body) {
+            this.field.focus();
+        }
+        this.drawTabs(state);
+        this.drawReadings(state);
+        this.drawList(state);
+    }
+
+    private type(text: string): void {
+        this.field.value = text;
+        this.sent = text;
+        this.clear.hidden = text === '';
+        this.channel.send('search', { text });
+        if (text === '') {
+            this.field.focus();
+        }
+    }
+
+    private key(event: KeyboardEvent): void {
+        if (event.key === 'Enter') {
+            this.channel.send('openFirst');
+        } else if (event.key === 'Escape' && this.field.value !== '') {
+            this.type('');
+            event.stopPropagation();
+        } else if (event.key === 'ArrowDown') {
+            (this.results.element.isConnected ? this.results : this.current())?.focus();
+        } else {
+            return;
+        }
+        event.preventDefault();
+    }
+
+    private current(): TableList | undefined {
+        return [...this.lists.values()].find((list) => list.element.isConnected);
+    }
+
+    private drawTabs(state: HomeState): void {
+        const told = JSON.stringify([state.tabs, state.tab]);
+        if (told === this.toldTabs) {
+            return;
+        }
+        this.toldTabs = told;
+        this.tabs.hidden = state.tabs.length < 2;
+        this.tabs.replaceChildren(...state.tabs.map((tab) => {
+            const made = button(tab.title, 'tab', () => this.channel.send('tab', { tag: tab.tag }),
+                icon(tab.image), el('span', {}, tab.title));
+            made.toggleAttribute('data-chosen', tab.tag === state.tab);
+            made.setAttribute('aria-pressed', String(tab.tag === state.tab));
+            return made;
+        }));
+    }
+
+    private drawReadings(state: HomeState): void {
+        const told = JSON.stringify([state.readings, state.nothingFound, state.formsOffered, state.search.text]);
+        if (told === this.told) {
+            return;
+        }
+        this.told = told;
+        const cards = state.results ? state.readings ?? [] : [];
+        const nothing = state.results?.empty;
+        this.readings.replaceChildren();
+        if (state.nothingFound && cards.length > 0) {
+            this.readings.append(el('p', { class: 'readings-title' }, this.channel.text('search.did_you_mean')));
+        }
+        this.readings.append(...cards.map((card, at) => this.card(card, at)));
+        if (nothing && cards.length === 0) {
+            this.readings.append(el('p', { class: 'empty' }, nothing.text || this.channel.text('search.empty')));
+        }
+        if (state.results && state.formsOffered) {
+            this.readings.append(button(this.channel.text('search.in_forms'), 'link',
+                () => this.channel.send('formsOption')));
+        }
+        this.readings.classList.toggle('all', state.nothingFound ?? false);
+    }
+
+    private card(card: Reading, at: number): HTMLElement {
+        return button('', 'reading',
+            () => this.channel.send('openReading', { card: at }),
+            el('span', { class: 'first', lang: 'fr' }, `${card.headword} `),
+            el('span', { class: 'second' }, `${card.detail} `),
+            card.way !== '' && el('span', { class: 'way' }, card.way));
+    }
+
+    private drawList(state: HomeState): void {
+        const results = state.results;
+        if (results) {
+            // Before it is filled, so that it has a height.
+            this.put(this.results);
+            this.results.element.hidden = state.nothingFound ?? false;
+            this.results.update(results.empty ? { ...results, empty: null } : results);
+            if (this.shownText !== state.search.text) {
+                this.results.scrollToTop();
+            }
+        }
+        this.shownText = state.search.text;
+        if (!state.list) {
+            return;
+        }
+        let list = this.lists.get(state.tab);
+        if (!list) {
+            const title = state.tabs.find((tab) => tab.tag === state.tab)?.title ?? '';
+            list = new TableList(this.channel, title || state.bar.title);
+            this.lists.set(state.tab, list);
+            this.place.append(list.element);
+        }
+        for (const each of this.lists.values()) {
+            each.element.hidden = Boolean(results) || each !== list;
+        }
+        if (!results) {
+            this.results.element.hidden = true;
+        }
+        list.update(state.list);
+    }
+
+    private put(list: TableList): void {
+        if (!list.element.isConnected || list.element.parentElement !== this.place) {
+            this.place.append(list.element);
+        }
+    }
+}

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: The Lumora authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The site in a browser, for the tests: served, opened, touched.
+
+import { cpSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { createRequire } from 'node:module';
+import { tmpdir } from 'node:os';
+import { dirname, join } from 'node:path';
+import { fileURLToPath } from 'node:url';
+import { serve } from '../../src/web/page/serve.mjs';
+
+const root = join(dirname(fileURLToPath(import.meta.url)), '../..');
+export const page = join(root, 'src/web/page');
+export const site = join(root, 'build/wasm/site');
+const require = createRequire(join(page, 'package.json'));
+export const puppeteer = require('puppeteer-core');
+export const axeSource = readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
+// The machine may have much else to do.
+export const patience = 60000;
+export const phone = { width: 390, height: 844 };
+export const tablet = { width: 1024, height: 768 };
+
+export class World {
+    static async make() {
+        const world = new World();
+        world.profile = mkdtempSync(join(tmpdir(), 'lumora-web-'));
+        world.server = await serve(site);
+        world.port = world.server.address().port;
+        return world;
+    }
+
+    get url() {
+        return `http://localhost:${this.port}/`;
+    }
+
+    async stopServing() {
+        this.server?.closeAllConnections();
+        await new Promise((done) => (this.server ? this.server.close(done) : done()));
+        this.server = undefined;
+    }
+
+    // Another version of the site at the same address.
+    async serveUpdate() {
+        await this.stopServing();
+        const folder = join(this.profile, 'update');
+        cpSync(site, folder, { recursive: true });
+        const bundle = JSON.parse(readFileSync(join(folder, 'bundle.json'), 'utf8'));
+        bundle.CFBundleShortVersionString = '9.9.9-updated';
+        writeFileSync(join(folder, 'bundle.json'), JSON.stringify(bundle));
+        const worker = join(folder, 'service_worker.js');
+        writeFileSync(worker, readFileSync(worker, 'utf8').replace(/[0-9a-f]{8}(?=["`])/, '99999999'));
+        this.server = await serve(folder, this.port);
+    }
+
+    async launch() {
+        this.browser = await puppeteer.launch({
+            executablePath: '/usr/bin/chromium', userDataDir: join(this.profile, 'chromium'),
+            args: ['--no-sandbox', '--disable-gpu'],
+        });
+        return this.browser;
+    }
+
+    // As a power cut would: nothing is asked first.
+    async kill() {
+        const gone = new Promise((done) => this.browser.process().once('exit', done));
+        this.browser.process().kill('SIGKILL');
+        await gone;
+    }
+
+    // A tab with the list on show. What it says or asks for in error is kept.
+    async open(viewport = phone, { languages, dark, hash = '' } = {}) {
+        const tab = await this.browser.newPage();
+        tab.complaints = [];
+        tab.on('console', (line) => {
+            if (['error', 'warn'].includes(line.type())) {
+                tab.complaints.push(line.text());
+            }
+        });
+        tab.on('pageerror', (error) => tab.complaints.push(String(error)));
+        tab.on('request', (request) => {
+            const url = new URL(request.url());
+            if (!['blob:', 'data:'].includes(url.protocol) && url.port !== String(this.port)) {
+                tab.complaints.push(`asks for ${url}`);
+            }
+        });
+        tab.setDefaultTimeout(patience);
+        await tab.setViewport(viewport);
+        await tab.emulateMediaFeatures([
+            { name: 'prefers-color-scheme', value: dark ? 'dark' : 'light' },
+            { name: 'prefers-reduced-motion', value: 'reduce' }]);
+        if (languages) {
+            await tab.evaluateOnNewDocument((wanted) => {
+                Object.defineProperty(navigator, 'languages', { get: () => wanted });
+            }, languages);
+        }
+        await tab.goto(this.url + hash);
+        return tab;
+    }
+
+    async openList(...parts) {
+        const tab = await this.open(...parts);
+        await tab.waitForSelector('.verb-row .first');
+        await tab.waitForSelector('[data-prepared]');
+        return tab;
+    }
+
+    async end() {
+        await this.browser?.close().catch(() => undefined);
+        await this.stopServing();
+        rmSync(this.profile, { recursive: true, force: true, maxRetries: 5 });
+    }
+}
+
+// In the page, where an element under another can be pressed too.
+export async function press(tab, selector, at = 0) {
+    await tab.waitForSelector(selector);
+    await tab.evaluate((wanted, index) => {
+        const found = [...document.querySelectorAll(wanted)].filter((each) => each.getClientRects().length > 0);
+        found.at(index).click();
+    }, selector, at);
+}
+
+export async function type(tab, text) {
+    await tab.evaluate((wanted) => {
+        const field = document.querySelector('.search-field');
+        field.focus();
+        field.value = wanted;
+        field.dispatchEvent(new InputEvent('input', { bubbles: true }));
+    }, text);
+}
+
+export const texts = (tab, selector) => tab.evaluate((wanted) => [...document.querySelectorAll(wanted)]
+    .filter((each) => each.getClientRects().length > 0).map((each) => each.textContent.trim()), selector);
+
+export const until = (tab, condition, ...parts) => tab.waitForFunction(condition, { timeout: patience }, ...parts);
+
+// Opens what the text means, and waits for its forms.
+export async function openVerb(tab, text) {
+    await type(tab, text);
+    await until(tab, (wanted) => [...document.querySelectorAll('.reading .first, .verb-row .first')]
+        .some((each) => each.textContent.trim() === wanted && each.getClientRects().length > 0), text);
+    await tab.evaluate((wanted) => [...document.querySelectorAll('.reading .first, .verb-row .first')]
+        .find((each) => each.textContent.trim() === wanted && each.getClientRects().length > 0).click(), text);
+    await until(tab, (wanted) => document.title.startsWith(wanted) && document.querySelector('.form-row'), text);
+}
