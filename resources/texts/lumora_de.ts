@@ -295,7 +295,7 @@ Verben im Verlauf: %d</translation>
     </message>
     <message id="drawer.here">
         <source></source>
-        <translation>Sie sind hier: %1</translation>
+        <translation>Sie sind hier</translation>
     </message>
     <message id="export.cancel">
         <source></source>

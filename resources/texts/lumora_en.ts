@@ -295,7 +295,7 @@ Verbs in the history: %d</translation>
     </message>
     <message id="drawer.here">
         <source></source>
-        <translation>You are here: %1</translation>
+        <translation>You are here</translation>
     </message>
     <message id="export.cancel">
         <source></source>

@@ -295,7 +295,7 @@ Verbos en el historial: %d</translation>
     </message>
     <message id="drawer.here">
         <source></source>
-        <translation>Estás aquí: %1</translation>
+        <translation>Estás aquí</translation>
     </message>
     <message id="export.cancel">
         <source></source>

@@ -295,7 +295,7 @@ Verbes dans l’historique : %d</translation>
     </message>
     <message id="drawer.here">
         <source></source>
-        <translation>Vous êtes ici : %1</translation>
+        <translation>Vous êtes ici</translation>
     </message>
     <message id="export.cancel">
         <source></source>

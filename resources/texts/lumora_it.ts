@@ -295,7 +295,7 @@ Verbi nella cronologia: %d</translation>
     </message>
     <message id="drawer.here">
         <source></source>
-        <translation>Ti trovi qui: %1</translation>
+        <translation>Ti trovi qui</translation>
     </message>
     <message id="export.cancel">
         <source></source>

@@ -295,7 +295,7 @@ Werkwoorden in de geschiedenis: %d</translation>
     </message>
     <message id="drawer.here">
         <source></source>
-        <translation>Je bent hier: %1</translation>
+        <translation>Je bent hier</translation>
     </message>
     <message id="export.cancel">
         <source></source>

@@ -295,7 +295,7 @@ Verbos no histórico: %d</translation>
     </message>
     <message id="drawer.here">
         <source></source>
-        <translation>Está aqui: %1</translation>
+        <translation>Está aqui</translation>
     </message>
     <message id="export.cancel">
         <source></source>

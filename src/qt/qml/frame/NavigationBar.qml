@@ -73,6 +73,7 @@ Rectangle {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
+        Accessible.ignored: text === ""
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }

@@ -93,7 +93,7 @@ FocusScope {
             visible: tab !== null
             color: "#26ffffff"
             Accessible.role: Accessible.StaticText
-            Accessible.name: qsTrId("drawer.here").arg(tabName.text)
+            Accessible.name: qsTrId("drawer.here") + ": " + tabName.text
 
             Rectangle {
                 width: 4

@@ -47,7 +47,8 @@ T.SwipeDelegate {
     objectName: identifier
     implicitHeight: isCell ? cellHeight : texts.implicitHeight
     focusPolicy: Qt.NoFocus
-    swipe.enabled: isCell && canEdit
+    // What begins at the edge pulls the side menu in.
+    swipe.enabled: isCell && canEdit && !(pressed && pressX < 20)
     swipe.right: isCell && canEdit ? actions : null
     // A list item by itself; headers and footers have texts that speak.
     Accessible.ignored: !isCell

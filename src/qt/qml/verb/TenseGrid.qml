@@ -122,6 +122,7 @@ Item {
                 font.pixelSize: Theme.headline
                 font.weight: Font.DemiBold
                 wrapMode: Text.WordWrap
+                Accessible.ignored: text === ""
                 Accessible.role: Accessible.Heading
                 Accessible.name: root.collection.headerText
             }
