@@ -109,10 +109,4 @@ SearchResultsTableViewController::pathOfVerb(std::int64_t id) const
     return platform::IndexPath{0, static_cast<int>(found - verbs.begin())};
 }
 
-detail::VerbSequence SearchResultsTableViewController::sequenceFrom(const data::VerbPtr& verb) const
-{
-    const auto found = std::find(verbs.begin(), verbs.end(), verb);
-    return {verbs, static_cast<std::size_t>(found - verbs.begin())};
-}
-
 } // namespace lumora::lists

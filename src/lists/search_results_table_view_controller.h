@@ -4,7 +4,6 @@
 #pragma once
 
 #include "data/verb.h"
-#include "detail/verb_sequence.h"
 #include "platform/form_search/form_search.h"
 #include "platform/screens/table_view_controller.h"
 
@@ -56,8 +55,6 @@ public:
 
     /// The row that shows the verb now; none when no row does.
     std::optional<platform::IndexPath> pathOfVerb(std::int64_t id) const;
-    /// The results as they stand, seen from one of them.
-    detail::VerbSequence sequenceFrom(const data::VerbPtr& verb) const;
 
 private:
     const data::VerbPtr& verbAt(platform::IndexPath path) const;

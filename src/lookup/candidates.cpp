@@ -17,6 +17,28 @@ namespace {
 constexpr std::size_t kMostReadings = 5;
 constexpr int kWrongPronoun = 1;
 
+bool isGuess(Way way)
+{
+    return way == Way::Slip || way == Way::Sound;
+}
+
+/// Of one verb and its pronominal one the closer is guessed.
+bool sameGuess(const Reading& reading, const Reading& other)
+{
+    const auto nameOf = [](const Reading& named) {
+        return std::string_view{named.headword}.substr(0, named.headword.find(" (s"));
+    };
+    return isGuess(reading.way) &&
+           (other.verb == reading.verb ||
+            (other.headword != reading.headword && nameOf(other) == nameOf(reading)));
+}
+
+/// A slip and a likeness of sound are as sure as each other: their penalties tell.
+Way rankOf(Way way)
+{
+    return way == Way::Sound ? Way::Slip : way;
+}
+
 /// As people use them.
 constexpr std::string_view kTenses[] = {"infinitif",
                                         "indicatifPresent",
@@ -80,6 +102,7 @@ void Candidates::add(std::uint32_t verb, const std::vector<RowMatch>& matches, W
                          [&](const Place& other) { return other.order == place.order; })) {
             places.push_back(place);
         }
+        known->penalty = std::min(known->penalty, penalty);
         known->tense = std::min(known->tense, rankOfTense(place));
         known->sameLetters = known->sameLetters || match.sameLetters;
     }
@@ -98,7 +121,8 @@ void Candidates::addInfinitive(std::uint32_t verb, Way way, int penalty)
                    candidate.spellings.front().auxiliary.empty();
         });
     if (row != found->rows().end()) {
-        add(verb, {{&*row, row->spellings.front().word, true}}, way, penalty);
+        const auto& spelling = row->spellings.front();
+        add(verb, {{&*row, &spelling, spelling.word, true}}, way, penalty);
         return;
     }
     Candidate candidate;
@@ -175,8 +199,8 @@ std::vector<Reading> Candidates::ranked() &&
     std::stable_sort(
         found_.begin(), found_.end(), [](const Candidate& left, const Candidate& right) {
             const auto key = [](const Candidate& candidate) {
-                return std::make_tuple(candidate.reading.way, candidate.penalty, candidate.use,
-                                       candidate.tense, candidate.reading.verb);
+                return std::make_tuple(rankOf(candidate.reading.way), candidate.penalty,
+                                       candidate.use, candidate.tense, candidate.reading.verb);
             };
             return key(left) < key(right);
         });
@@ -184,8 +208,9 @@ std::vector<Reading> Candidates::ranked() &&
     for (auto& candidate : found_) {
         const auto& reading = candidate.reading;
         const bool known = std::any_of(readings.begin(), readings.end(), [&](const Reading& other) {
-            return other.verb == reading.verb &&
-                   (other.way != reading.way || other.form == reading.form);
+            return sameGuess(reading, other) ||
+                   (other.verb == reading.verb &&
+                    (other.way != reading.way || other.form == reading.form));
         });
         if (!known && readings.size() < kMostReadings) {
             readings.push_back(std::move(candidate.reading));

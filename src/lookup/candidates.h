@@ -50,7 +50,7 @@ public:
     std::vector<Candidate>& found() { return found_; }
     const platform::Result<void>& state() const { return state_; }
 
-    /// The best, one a verb and form, a handful at most.
+    /// The best, one a verb and form, one a verb of what is guessed, a handful at most.
     std::vector<Reading> ranked() &&;
 
 private:

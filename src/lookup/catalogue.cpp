@@ -15,8 +15,10 @@ namespace lumora::lookup {
 
 namespace {
 
-constexpr std::string_view kVerbs = "SELECT _id, french, use_class FROM verb "
-                                    "LEFT JOIN verb_facts ON verbid = _id ORDER BY _id";
+constexpr std::string_view kVerbs =
+    "SELECT _id, french, use_class, "
+    "instr(english, '(vulgar)') > 0 OR instr(english, '(slang)') > 0 FROM verb "
+    "LEFT JOIN verb_facts ON verbid = _id ORDER BY _id";
 
 /// Compound forms are found by their participles; "se lavant" is none.
 constexpr std::string_view kForms =
@@ -115,7 +117,8 @@ platform::Result<void> Catalogue::readVerbs(platform::Database& database)
     while (rows->next()) {
         verbs_.push_back(nameOf(rows->longForColumn(0), rows->stringForColumn(1),
                                 static_cast<int>(rows->longForColumn(2))));
-        const auto& verb = verbs_.back();
+        auto& verb = verbs_.back();
+        verb.coarse = rows->longForColumn(3) != 0;
         if (verb.headword == "avoir" || verb.headword == "être") {
             auxiliaries_.push_back(static_cast<std::uint32_t>(verbs_.size() - 1));
         }

@@ -27,6 +27,8 @@ struct VerbName {
     std::string folded;
     /// From 1, among the commonest, to 5.
     int use = 0;
+    /// A word that not everybody wants to meet: nobody is offered it for a likeness.
+    bool coarse = false;
     bool pronominal = false;
     /// As in s'en aller.
     bool en = false;

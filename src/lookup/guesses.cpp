@@ -23,6 +23,16 @@ constexpr std::size_t kLong = 7;
 constexpr std::size_t kMostWords = 24;
 constexpr std::size_t kMostSoundAlikes = 40;
 
+// What makes a guess less likely, beside four for each point that a slip costs.
+constexpr int kAPointOfSlip = 4;
+constexpr int kSound = 12;
+constexpr int kNearSound = 20;
+constexpr int kAClassOfUse = 2;
+constexpr int kForm = 2;
+constexpr int kFirstLetter = 4;
+constexpr int kOtherPronoun = 4;
+constexpr int kCoarse = 6;
+
 bool isInfinitive(const RowMatch& match)
 {
     return match.row->place.tense == "infinitif";
@@ -35,13 +45,74 @@ void keepInfinitives(std::vector<RowMatch>& matches)
                   matches.end());
 }
 
-/// Whether a form that is no infinitive may be meant so.
-bool mayBeForm(const Phrase& phrase, std::size_t length, int cost)
+std::string_view endOf(std::string_view word)
 {
-    if (!phrase.bare) {
-        return length >= kShortestBesidePronoun;
+    if (word.size() > 3 && word.substr(word.size() - 3) == "ire") {
+        word.remove_suffix(1);
     }
-    return length >= kLong || (length >= kShortestDouble && cost <= kSlipOfDouble);
+    return word.substr(word.size() - std::min<std::size_t>(word.size(), 2));
+}
+
+bool endsAsInfinitive(std::string_view word)
+{
+    const auto end = endOf(word);
+    return end == "er" || end == "ir" || end == "re";
+}
+
+/// How rare a verb may be that is guessed for a word that stands alone: each short
+/// word is like some rare verb, and most are no verbs.
+int rarestFor(std::string_view word)
+{
+    constexpr int kCommon = 3;
+    constexpr int kKnown = 4;
+    constexpr int kAny = 5;
+
+    if (word.size() < kShortestDouble) {
+        return kCommon;
+    }
+    if (word.size() >= kLong || endsAsInfinitive(word)) {
+        return kAny;
+    }
+    return word.size() == kShortestDouble ? kCommon : kKnown;
+}
+
+bool mayBeMeant(const Phrase& phrase, std::string_view word, const VerbName& verb)
+{
+    return !phrase.bare || (verb.use <= rarestFor(word) && (word.size() >= kLong || !verb.coarse));
+}
+
+/// Whether a form that is no infinitive may be meant so. Nobody who begins with
+/// another letter can expect that of a word that stands alone.
+bool mayBeForm(const Phrase& phrase, std::string_view word, const Slip& slip, const VerbName& verb)
+{
+    constexpr int kCommon = 2;
+    constexpr int kKnown = 3;
+
+    if (!phrase.bare) {
+        return word.size() >= kShortestBesidePronoun;
+    }
+    if (word.front() != slip.word.front()) {
+        return false;
+    }
+    if (word.size() >= kLong) {
+        return verb.use <= kKnown;
+    }
+    // "apelle" for appelle, but not "fille" for file.
+    return word.size() >= kShortestDouble && slip.cost <= kSlipOfDouble &&
+           slip.word.size() > word.size() && verb.use <= kCommon;
+}
+
+/// Whether the slip itself is likely in a word that stands alone.
+bool isLikely(const Phrase& phrase, std::string_view word, const Slip& slip)
+{
+    const bool firstTold =
+        word.size() < kShortestDouble || (word.size() < kLong && !endsAsInfinitive(word));
+    return !phrase.bare || !firstTold || word.front() == slip.word.front();
+}
+
+int penaltyOf(const VerbName& verb)
+{
+    return kAClassOfUse * verb.use + (verb.coarse ? kCoarse : 0);
 }
 
 /// Whether an infinitive may stand in it.
@@ -51,45 +122,71 @@ bool isSimple(const Phrase& phrase)
            !phrase.conjunction;
 }
 
-void addOneSlip(const Phrase& phrase, const std::string& word, Candidates& candidates)
+/// Adds the verbs of one word in the place of the phrase's.
+void addSlip(const Phrase& phrase, std::string_view word, const Slip& slip, Candidates& candidates)
 {
-    auto slips = wordsOneSlipAway(word, candidates.catalogue().words());
-    slips.resize(std::min(slips.size(), kMostWords));
-    for (const auto& slip : slips) {
-        auto meant = phrase;
-        meant.word = slip.word;
-        for (const auto verb : candidates.catalogue().verbsOf(slip.word)) {
-            const auto rows = candidates.rows(verb);
-            if (rows == nullptr) {
-                return;
-            }
-            auto matches = rows->matches(meant);
-            if (!mayBeForm(phrase, word.size(), slip.cost)) {
-                keepInfinitives(matches);
-            }
-            if (matches.empty() && isSimple(phrase) &&
-                candidates.catalogue().verb(verb).folded == slip.word) {
-                candidates.addInfinitive(verb, Way::Slip, 4 * slip.cost);
-            }
-            const bool infinitive = std::any_of(matches.begin(), matches.end(), isInfinitive);
-            const int pronoun = rows->differsInPronoun(phrase) ? 1 : 0;
-            candidates.add(verb, matches, Way::Slip,
-                           4 * slip.cost + (infinitive ? 0 : 2) + pronoun);
+    auto meant = phrase;
+    meant.word = slip.word;
+    for (const auto number : candidates.catalogue().verbsOf(slip.word)) {
+        const auto& verb = candidates.catalogue().verb(number);
+        if (!mayBeMeant(phrase, word, verb)) {
+            continue;
         }
+        const auto rows = candidates.rows(number);
+        if (rows == nullptr) {
+            return;
+        }
+        auto matches = rows->matches(meant);
+        if (!mayBeForm(phrase, word, slip, verb)) {
+            keepInfinitives(matches);
+        }
+        const int penalty = kAPointOfSlip * slip.cost + penaltyOf(verb) +
+                            (word.front() == slip.word.front() ? 0 : kFirstLetter);
+        if (matches.empty() && isSimple(phrase) && verb.folded == slip.word) {
+            candidates.addInfinitive(number, Way::Slip, penalty);
+        }
+        for (auto& match : matches) {
+            // Whom a slipped participle agrees with its row knows better.
+            if (!phrase.auxiliary.empty()) {
+                match.form = formOf(*match.spelling, match.spelling->word);
+            }
+        }
+        const bool infinitive = std::any_of(matches.begin(), matches.end(), isInfinitive);
+        candidates.add(number, matches, Way::Slip,
+                       penalty + (infinitive ? 0 : kForm) +
+                           (rows->differsInPronoun(phrase) ? kOtherPronoun : 0));
     }
 }
 
+void addOneSlip(const Phrase& phrase, const std::string& word, Candidates& candidates)
+{
+    auto slips = wordsOneSlipAway(word, candidates.catalogue().words());
+    slips.erase(std::remove_if(slips.begin(), slips.end(),
+                               [&](const Slip& slip) { return !isLikely(phrase, word, slip); }),
+                slips.end());
+    slips.resize(std::min(slips.size(), kMostWords));
+    for (const auto& slip : slips) {
+        addSlip(phrase, word, slip, candidates);
+    }
+}
+
+/// Two slips leave both ends of an infinitive alone, but for the e of "finire".
 void addTwoSlips(const std::string& word, Candidates& candidates)
 {
+    constexpr int kKnown = 4;
+
     const auto& verbs = candidates.catalogue().verbs();
     for (std::uint32_t number = 0; number < verbs.size(); ++number) {
         const auto& name = verbs[number].folded;
-        if (name.size() + 2 < word.size() || word.size() + 2 < name.size()) {
+        if (name.size() + 2 < word.size() || word.size() + 2 < name.size() ||
+            name.front() != word.front() || endOf(name) != endOf(word) ||
+            verbs[number].use > kKnown) {
             continue;
         }
         const int cost = slipCost(word, name, kTwoSlips);
         if (cost > 0 && cost <= kTwoSlips) {
-            candidates.addInfinitive(number, Way::Slip, 4 * cost);
+            candidates.addInfinitive(number, Way::Slip,
+                                     kAPointOfSlip * cost + penaltyOf(verbs[number]));
         }
     }
 }
@@ -104,7 +201,8 @@ void addSlips(const std::vector<Phrase>& phrases, Candidates& candidates)
             continue;
         }
         addOneSlip(phrase, word, candidates);
-        if (word.size() >= kLong && isSimple(phrase)) {
+        if (candidates.empty() && word.size() >= kLong && isSimple(phrase) &&
+            endsAsInfinitive(word)) {
             addTwoSlips(word, candidates);
         }
     }
@@ -118,7 +216,8 @@ void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::u
         if (soundKey(phrase.word).size() < 2) {
             continue;
         }
-        const auto wanted = looseSound(foldedWord(phrase.word));
+        const auto word = foldedWord(phrase.word);
+        const auto wanted = looseSound(word);
         std::vector<std::uint32_t> verbs;
         for (auto at = std::find(sounds.begin(), sounds.end(), wanted); at != sounds.end();
              at = std::find(at + 1, sounds.end(), wanted)) {
@@ -132,16 +231,26 @@ void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::u
             return catalogue.verb(left).use < catalogue.verb(right).use;
         });
         verbs.resize(std::min(verbs.size(), kMostSoundAlikes));
-        for (const auto verb : verbs) {
-            const auto rows = candidates.rows(verb);
+        for (const auto number : verbs) {
+            const auto& verb = catalogue.verb(number);
+            if (!mayBeMeant(phrase, word, verb)) {
+                continue;
+            }
+            const auto rows = candidates.rows(number);
             if (rows == nullptr) {
                 return;
             }
             auto matches = rows->soundAlikes(phrase);
+            int penalty = kSound;
             if (phrase.bare) {
                 keepInfinitives(matches);
+            } else if (matches.empty()) {
+                matches = rows->nearSoundAlikes(phrase);
+                penalty = kNearSound;
             }
-            candidates.add(verb, matches, Way::Sound, rows->differsInPronoun(phrase) ? 1 : 0);
+            candidates.add(number, matches, Way::Sound,
+                           penalty + penaltyOf(verb) +
+                               (rows->differsInPronoun(phrase) ? kOtherPronoun : 0));
         }
     }
 }

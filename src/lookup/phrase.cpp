@@ -41,9 +41,10 @@ std::optional<Phrase> leadOf(const Tokens& tokens, std::size_t end)
     Phrase phrase;
     std::size_t at = 0;
     const auto is = [&](auto&& test) { return at < end && test(std::string_view{tokens[at]}); };
-    if (is(isConjunction) || (is([](auto token) { return token == "s'"; }) && at + 1 < end &&
-                              tokens[1].substr(0, 2) == "il")) {
-        phrase.conjunction = true;
+    phrase.conjunction = is(isQue);
+    const bool beforeIl = is([](auto token) { return token == "s'"; }) && at + 1 < end &&
+                          tokens[1].substr(0, 2) == "il";
+    if (phrase.conjunction || is(isSi) || beforeIl) {
         ++at;
     }
     if (is([](auto token) { return subjectPersons(token) != kAnyPerson; })) {

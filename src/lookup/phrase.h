@@ -21,6 +21,7 @@ struct Phrase {
     std::string word;
     /// Who the subject may be, as bits.
     Persons persons = kAnyPerson;
+    /// With "que".
     bool conjunction = false;
     /// "se laver", "lave-toi".
     bool reflexive = false;

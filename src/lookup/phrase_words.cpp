@@ -37,8 +37,8 @@ constexpr Pronoun kReflexives[] = {
     {"vous", person(5)},
 };
 
-constexpr std::string_view kConjunctions[] = {"que",     "qu'",     "si",    "lorsque", "lorsqu'",
-                                              "puisque", "puisqu'", "quand", "quoique", "quoiqu'"};
+constexpr std::string_view kQue[] = {"que", "qu'", "quoique", "quoiqu'"};
+constexpr std::string_view kSi[] = {"si", "lorsque", "lorsqu'", "puisque", "puisqu'", "quand"};
 constexpr std::string_view kElided[] = {"j'", "t'",  "m'",      "s'",      "n'",      "l'",    "d'",
                                         "c'", "qu'", "lorsqu'", "puisqu'", "quoiqu'", "jusqu'"};
 constexpr std::string_view kJoined[] = {"je",   "tu",  "il",    "elle", "on",  "ce", "nous",
@@ -158,9 +158,14 @@ Persons reflexivePersons(std::string_view token)
     return personsIn(kReflexives, token);
 }
 
-bool isConjunction(std::string_view token)
+bool isQue(std::string_view token)
 {
-    return contains(kConjunctions, token);
+    return contains(kQue, token);
+}
+
+bool isSi(std::string_view token)
+{
+    return contains(kSi, token);
 }
 
 bool isNegation(std::string_view token)
@@ -191,7 +196,8 @@ bool isDeterminer(std::string_view token)
 bool isGrammarWord(std::string_view token)
 {
     return contains(kGrammarWords, token) || subjectPersons(token) != kAnyPerson ||
-           isObject(token) || isConjunction(token) || isNegation(token) || isDeterminer(token);
+           isObject(token) || isQue(token) || isSi(token) || isNegation(token) ||
+           isDeterminer(token);
 }
 
 } // namespace lumora::lookup

@@ -29,8 +29,10 @@ Persons subjectPersons(std::string_view token);
 /// Those that a reflexive pronoun stands for: "me", "s'", "nous".
 Persons reflexivePersons(std::string_view token);
 
-/// "que", "qu'", "si", "lorsque".
-bool isConjunction(std::string_view token);
+/// "que", "quoiqu'", with which the subjunctive stands; "si", "lorsque", "quand", with
+/// which it does not.
+bool isQue(std::string_view token);
+bool isSi(std::string_view token);
 /// "ne", "n'".
 bool isNegation(std::string_view token);
 /// "pas", "jamais", "plus" and the short adverbs between auxiliary and participle.

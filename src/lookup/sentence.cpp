@@ -63,10 +63,14 @@ bool addPart(const std::vector<std::string>& tokens, std::size_t begin, std::siz
                 return true;
             }
             auto matches = rows->matches(phrase);
-            // A likeness without accents is too easy among so many words.
-            matches.erase(std::remove_if(matches.begin(), matches.end(),
-                                         [](const RowMatch& match) { return !match.sameLetters; }),
-                          matches.end());
+            // A likeness without accents is too easy among so many words, but for one
+            // behind its auxiliary.
+            if (phrase.auxiliary.empty()) {
+                matches.erase(
+                    std::remove_if(matches.begin(), matches.end(),
+                                   [](const RowMatch& match) { return !match.sameLetters; }),
+                    matches.end());
+            }
             if (matches.empty() ||
                 (rows->differsInPronoun(phrase) && !phrase.reflexive && !phrase.bare)) {
                 continue;

@@ -11,8 +11,6 @@ namespace lumora::lookup {
 
 namespace {
 
-constexpr int kSwap = 3;
-
 /// Of a letter that stands in one word only, after this one.
 int extraCost(std::string_view word, std::size_t at)
 {
@@ -38,7 +36,7 @@ int slipCost(std::string_view typed, std::string_view meant, int most)
                 std::min({last[j] + (typed[i] == meant[j] ? 0 : kOneSlip),
                           last[j + 1] + extraCost(typed, i), row[j] + extraCost(meant, j)});
             if (i > 0 && j > 0 && typed[i] == meant[j - 1] && typed[i - 1] == meant[j]) {
-                row[j + 1] = std::min(row[j + 1], beforeLast[j - 1] + kSwap);
+                row[j + 1] = std::min(row[j + 1], beforeLast[j - 1] + kOneSlip);
             }
             least = std::min(least, row[j + 1]);
         }

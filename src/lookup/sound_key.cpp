@@ -87,6 +87,8 @@ constexpr Rule kRules[] = {
     {"ch", "S"},
     {"sch", "S"},
     {"ph", "f"},
+    // Nous faisons, je faisais.
+    {"fais", "fz", Next::Vowel},
     {"gn", "N"},
     {"qu", "k"},
     {"q", "k"},
@@ -243,14 +245,19 @@ std::string soundKey(std::string_view tidy)
     return keyOf(tidy);
 }
 
-std::uint16_t looseSound(std::string_view folded)
+std::string looseKey(std::string_view folded)
 {
     auto key = keyOf(folded);
     // Without accents nothing tells é from e, before a consonant as little as at
     // the end.
     key.erase(std::remove(key.begin(), key.end(), 'E'), key.end());
+    return key;
+}
+
+std::uint16_t looseSound(std::string_view folded)
+{
     auto hash = kHashStart;
-    for (const char c : key) {
+    for (const char c : looseKey(folded)) {
         hash = (hash ^ static_cast<unsigned char>(c)) * kHashFactor;
     }
     return static_cast<std::uint16_t>(hash ^ (hash >> 16U));

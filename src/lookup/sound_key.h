@@ -14,8 +14,9 @@ namespace lumora::lookup {
 /// comparison only, a transcription is lumora::sound's.
 std::string soundKey(std::string_view tidy);
 
-/// The same of a folded word, where an e at the end may be é: a number that two
+/// The same of a folded word, where an e may be é or none; and as a number that two
 /// words have in common when they may sound alike.
+std::string looseKey(std::string_view folded);
 std::uint16_t looseSound(std::string_view folded);
 
 } // namespace lumora::lookup

@@ -27,7 +27,7 @@ void readPronoun(VerbRow& row)
 {
     const auto tokens = tokensOf(tidied(row.place.pronoun + " x"));
     for (const auto& token : tokens) {
-        row.conjunction = row.conjunction || isConjunction(token);
+        row.conjunction = row.conjunction || isQue(token);
         if (row.persons == kAnyPerson) {
             row.persons = subjectPersons(token);
         }
@@ -47,7 +47,8 @@ RowSpelling spellingOf(const std::string& form)
     const auto blank = tidy.rfind(' ');
     RowSpelling spelling;
     if (blank != std::string::npos) {
-        spelling.auxiliary = foldedWord(tidy.substr(0, blank));
+        spelling.auxiliary = tidy.substr(0, blank);
+        spelling.foldedAuxiliary = foldedWord(spelling.auxiliary);
         spelling.word = tidy.substr(blank + 1);
     } else {
         spelling.word = tidy;
@@ -86,6 +87,11 @@ void keepMood(const Phrase& phrase, std::vector<RowMatch>& matches)
 
 } // namespace
 
+std::string formOf(const RowSpelling& spelling, const std::string& word)
+{
+    return spelling.auxiliary.empty() ? word : spelling.auxiliary + " " + word;
+}
+
 platform::Result<VerbRows> VerbRows::read(platform::Database& database, std::int64_t verb,
                                           bool pronominal, bool en)
 {
@@ -103,7 +109,7 @@ platform::Result<VerbRows> VerbRows::read(platform::Database& database, std::int
         for (const auto& form : data::spellingsOf(row.place.form)) {
             row.spellings.push_back(spellingOf(form));
             if (row.place.tense == "participe" && row.spellings.back().auxiliary.empty()) {
-                result.participles_.push_back(row.spellings.back().folded);
+                result.participles_.push_back(row.spellings.back());
             }
         }
         readPronoun(row);
@@ -131,16 +137,19 @@ bool VerbRows::agrees(const Phrase& phrase, const VerbRow& row) const
     return !phrase.conjunction || row.persons != kAnyPerson;
 }
 
-bool VerbRows::isParticiple(std::string_view folded) const
+const RowSpelling* VerbRows::participleOf(std::string_view folded) const
 {
-    return std::find(participles_.begin(), participles_.end(), folded) != participles_.end();
+    const auto found =
+        std::find_if(participles_.begin(), participles_.end(),
+                     [&](const RowSpelling& participle) { return participle.folded == folded; });
+    return found == participles_.end() ? nullptr : &*found;
 }
 
 std::vector<RowMatch> VerbRows::matches(const Phrase& phrase) const
 {
     const auto word = foldedWord(phrase.word);
     const auto auxiliary = foldedWord(phrase.auxiliary);
-    const bool participle = !auxiliary.empty() && isParticiple(word);
+    const auto* const participle = auxiliary.empty() ? nullptr : participleOf(word);
     std::vector<RowMatch> result;
     for (const auto& row : rows_) {
         if (!agrees(phrase, row)) {
@@ -150,14 +159,13 @@ std::vector<RowMatch> VerbRows::matches(const Phrase& phrase) const
         RowMatch best;
         for (const auto& spelling : row.spellings) {
             const bool same = isSameWord(phrase, row, word, spelling);
-            if (spelling.auxiliary != auxiliary || (!same && !participle)) {
+            if (spelling.foldedAuxiliary != auxiliary || (!same && participle == nullptr)) {
                 continue;
             }
-            const bool sameLetters = spelling.word == phrase.word || (!same && participle);
+            const auto& meant = same ? spelling.word : participle->word;
+            const bool sameLetters = meant == phrase.word;
             if (best.row == nullptr || (sameLetters && !best.sameLetters)) {
-                const auto lead = auxiliary.empty() ? std::string{} : phrase.auxiliary + " ";
-                const bool own = same && auxiliary.empty();
-                best = {&row, lead + (own ? spelling.word : phrase.word), sameLetters};
+                best = {&row, &spelling, formOf(spelling, meant), sameLetters};
             }
         }
         if (best.row != nullptr) {
@@ -171,16 +179,30 @@ std::vector<RowMatch> VerbRows::matches(const Phrase& phrase) const
 std::vector<RowMatch> VerbRows::soundAlikes(const Phrase& phrase) const
 {
     const auto sound = soundKey(phrase.word);
+    return spelledAs(phrase,
+                     [&](const RowSpelling& spelling) { return soundKey(spelling.word) == sound; });
+}
+
+std::vector<RowMatch> VerbRows::nearSoundAlikes(const Phrase& phrase) const
+{
+    const auto sound = looseKey(foldedWord(phrase.word));
+    return spelledAs(
+        phrase, [&](const RowSpelling& spelling) { return looseKey(spelling.folded) == sound; });
+}
+
+std::vector<RowMatch>
+VerbRows::spelledAs(const Phrase& phrase,
+                    const std::function<bool(const RowSpelling&)>& isMeant) const
+{
+    const auto auxiliary = foldedWord(phrase.auxiliary);
     std::vector<RowMatch> result;
     for (const auto& row : rows_) {
         if (!agrees(phrase, row)) {
             continue;
         }
         for (const auto& spelling : row.spellings) {
-            if (spelling.auxiliary == foldedWord(phrase.auxiliary) &&
-                soundKey(spelling.word) == sound) {
-                const auto lead = phrase.auxiliary.empty() ? "" : phrase.auxiliary + " ";
-                result.push_back({&row, lead + spelling.word, false});
+            if (spelling.foldedAuxiliary == auxiliary && isMeant(spelling)) {
+                result.push_back({&row, &spelling, formOf(spelling, spelling.word), false});
                 break;
             }
         }

@@ -8,6 +8,7 @@
 #include "platform/base/error.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,8 +25,9 @@ struct RowSpelling {
     /// participle.
     std::string word;
     std::string folded;
-    /// Folded; empty for a simple form.
+    /// The same of the auxiliary; empty for a simple form.
     std::string auxiliary;
+    std::string foldedAuxiliary;
 };
 
 struct VerbRow {
@@ -36,12 +38,17 @@ struct VerbRow {
     bool conjunction = false;
 };
 
+/// "suis allé": a word of the verb behind the auxiliary of the spelling, if any.
+std::string formOf(const RowSpelling& spelling, const std::string& word);
+
 /// A phrase and a row that agree.
 struct RowMatch {
     const VerbRow* row = nullptr;
-    /// "évanouis", "suis allée".
+    /// The one of the row's that was meant.
+    const RowSpelling* spelling = nullptr;
+    /// "évanouis", "suis allée": with the accents it has, whatever was typed.
     std::string form;
-    /// The form is the row's letter by letter, but for its case.
+    /// The phrase has these letters, but for their case.
     bool sameLetters = false;
 };
 
@@ -56,8 +63,9 @@ public:
     /// The rows that the phrase may mean, those with its mood only where some have
     /// it: "que j'aille" is no indicative.
     std::vector<RowMatch> matches(const Phrase& phrase) const;
-    /// The rows that sound as the phrase.
+    /// The rows that sound as the phrase, or would with é and è for e.
     std::vector<RowMatch> soundAlikes(const Phrase& phrase) const;
+    std::vector<RowMatch> nearSoundAlikes(const Phrase& phrase) const;
 
     /// Whether the verb has its reflexive pronoun though the phrase has none, or
     /// the other way round.
@@ -65,11 +73,15 @@ public:
 
 private:
     bool agrees(const Phrase& phrase, const VerbRow& row) const;
-    bool isParticiple(std::string_view folded) const;
+    /// The rows that agree with the phrase but for the spelling, which is tested.
+    std::vector<RowMatch> spelledAs(const Phrase& phrase,
+                                    const std::function<bool(const RowSpelling&)>& isMeant) const;
+    /// The participle of that spelling, agreed; null for another word.
+    const RowSpelling* participleOf(std::string_view folded) const;
 
     std::vector<VerbRow> rows_;
-    /// Of the verb, agreed, folded.
-    std::vector<std::string> participles_;
+    /// Of the verb, in each agreement.
+    std::vector<RowSpelling> participles_;
     bool pronominal_ = false;
     bool en_ = false;
 };

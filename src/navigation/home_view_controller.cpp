@@ -298,6 +298,26 @@ void HomeViewController::showSearchResult(const data::VerbPtr& verb,
     }
 }
 
+detail::VerbSequence HomeViewController::shownFrom(const data::VerbPtr& verb) const
+{
+    const auto& results = *searchResultsController_;
+    std::vector<data::VerbPtr> shown;
+    for (const auto& card : readings_->cards()) {
+        const bool known = results.pathOfVerb(card.verb->id) ||
+                           std::any_of(shown.begin(), shown.end(), [&](const data::VerbPtr& other) {
+                               return other->id == card.verb->id;
+                           });
+        if (!known) {
+            shown.push_back(card.verb);
+        }
+    }
+    shown.insert(shown.end(), results.verbs.begin(), results.verbs.end());
+    // A verb of elsewhere is no neighbour of what was once found.
+    const auto at = std::find(shown.begin(), shown.end(), verb);
+    const auto place = static_cast<std::size_t>(at - shown.begin());
+    return {std::move(shown), place};
+}
+
 void HomeViewController::showFormsOption()
 {
     firstOption_ = pathOfOption(settings::kIncludeConjugations);
@@ -321,7 +341,7 @@ void HomeViewController::prepareForSegue(const platform::Segue& segue)
     if (segue.identifier == platform::kShowSearchResultSegue) {
         auto& detail = topOf<detail::VerbDetailTableViewController>(segue.destination);
         detail.selectedVerb = selectedSearchResult;
-        detail.sequence = searchResultsController_->sequenceFrom(selectedSearchResult);
+        detail.sequence = shownFrom(selectedSearchResult);
         detail.queue = queue;
         detail.isPeeking = false;
         detail.openedForm = openedForm_;

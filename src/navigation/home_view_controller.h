@@ -5,6 +5,7 @@
 
 #include "data/news.h"
 #include "data/verb.h"
+#include "detail/verb_sequence.h"
 #include "lists/search_results_table_view_controller.h"
 #include "navigation/navigation_drawer_table_table_view_controller.h"
 #include "navigation/options_table_view_controller.h"
@@ -153,6 +154,9 @@ private:
     void showTab(Tab tab);
     void buildTabBarItems();
     std::shared_ptr<lists::InterstitialTableViewController> listFor(Tab tab);
+    /// What the search shows from the top, each verb once: the cards that the list does
+    /// not have, then the list.
+    detail::VerbSequence shownFrom(const data::VerbPtr& verb) const;
     void outletsChanged();
 
     const platform::Services& services_;

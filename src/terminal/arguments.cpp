@@ -3,6 +3,7 @@
 
 #include "terminal/arguments.h"
 
+#include "terminal/output.h"
 #include "text/text.h"
 
 #include <algorithm>
@@ -167,11 +168,6 @@ tl::unexpected<platform::Error> refusal(std::string message)
     return tl::unexpected(platform::Error{std::move(message), EINVAL});
 }
 
-std::string quoted(std::string_view word)
-{
-    return "\"" + std::string{word} + "\"";
-}
-
 template <typename Table>
 auto lookUp(const Table& table, std::string_view word)
 {
@@ -229,13 +225,13 @@ platform::Result<void> setOption(Arguments& arguments, std::string_view word)
         arguments.format = format->second;
         return {};
     }
-    return refusal("this command has no option " + quoted(word));
+    return refusal("this command has no option " + inQuotes(word));
 }
 
 platform::Result<void> setLanguage(Arguments& arguments, std::string_view code)
 {
     if (std::find(std::begin(kLanguages), std::end(kLanguages), code) == std::end(kLanguages)) {
-        return refusal("there are no translations into " + quoted(code) +
+        return refusal("there are no translations into " + inQuotes(code) +
                        ", only into en, fr, de, es, pt, it and nl");
     }
     arguments.language = code;
@@ -250,7 +246,7 @@ platform::Result<void> setNumber(Arguments& arguments, std::string_view text)
     std::size_t number = 0;
     const auto* const end = text.data() + text.size();
     if (std::from_chars(text.data(), end, number).ptr != end || number == 0) {
-        return refusal("--number counts verbs from 1, not " + quoted(text));
+        return refusal("--number counts verbs from 1, not " + inQuotes(text));
     }
     arguments.number = number;
     return {};
@@ -327,7 +323,7 @@ platform::Result<void> readWords(Arguments& arguments, const Words& words)
             arguments.topic = std::exchange(arguments.command, Command::Help);
             return {};
         } else if (takesFile(arguments.command)) {
-            read = refusal("this command has no option " + quoted(*word));
+            read = refusal("this command has no option " + inQuotes(*word));
         } else if (const auto* const option = valuedOption(*word)) {
             read = setValued(*option, arguments, word, words.end());
         } else {
@@ -342,7 +338,7 @@ platform::Result<void> readWords(Arguments& arguments, const Words& words)
 
 platform::Result<void> checkCount(const std::vector<std::string>& words, std::size_t most)
 {
-    return words.size() > most ? refusal("one word too many: " + quoted(words[most]))
+    return words.size() > most ? refusal("one word too many: " + inQuotes(words[most]))
                                : platform::Result<void>{};
 }
 
@@ -350,7 +346,7 @@ platform::Result<Command> commandNamed(std::string_view word)
 {
     const auto* const command = lookUp(kCommands, word);
     if (command == std::end(kCommands)) {
-        return refusal("no command " + quoted(word) + "; try --help");
+        return refusal("no command " + inQuotes(word) + "; try --help");
     }
     return command->second;
 }

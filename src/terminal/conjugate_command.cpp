@@ -212,9 +212,9 @@ public:
         }
         if (readings->size() > 1) {
             return tl::unexpected(platform::Error{
-                "\"" + typed + "\" is a form of " + namesOf(*readings) + "; which verb?", EINVAL});
+                inQuotes(typed) + " is a form of " + namesOf(*readings) + "; which verb?", EINVAL});
         }
-        tell("\"" + typed + "\" is a form of " + readings->front().headword, output_.errors);
+        tell(inQuotes(typed) + " is a form of " + readings->front().headword, output_.errors);
         return directory_.named(readings->front().headword);
     }
 

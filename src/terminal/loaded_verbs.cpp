@@ -4,6 +4,7 @@
 #include "terminal/loaded_verbs.h"
 
 #include "lists/verb_list_table_view_controller.h"
+#include "terminal/output.h"
 #include "terminal/session.h"
 
 #include <algorithm>
@@ -17,7 +18,7 @@ namespace {
 
 platform::Error unknownVerb(std::string_view name, const std::vector<std::string>& near)
 {
-    std::string message = "no verb \"" + std::string{name} + "\"";
+    auto message = "no verb " + inQuotes(name);
     for (std::size_t i = 0; i < near.size(); ++i) {
         message += i == 0 ? "; did you mean " : i + 1 == near.size() ? " or " : ", ";
         message += near[i];

@@ -207,7 +207,7 @@ platform::Result<void> lookUp(Session& session, const Arguments& arguments, cons
         .and_then([&](const std::vector<lookup::Reading>& readings) -> platform::Result<void> {
             if (readings.empty()) {
                 return tl::unexpected(
-                    platform::Error{"\"" + arguments.text + "\" is no form of a verb", ENOENT});
+                    platform::Error{inQuotes(arguments.text) + " is no form of a verb", ENOENT});
             }
             printLines(linesOf(readings, session), output);
             return {};

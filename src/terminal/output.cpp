@@ -49,6 +49,20 @@ void tell(const std::string& message, std::ostream& errors)
     errors << "lumora-cli: " << line << '\n';
 }
 
+std::string inQuotes(std::string_view typed)
+{
+    constexpr std::size_t kMost = 60;
+
+    std::size_t count = 0;
+    const auto* const cut = std::find_if(typed.begin(), typed.end(), [&](char byte) {
+        const bool begins = (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+        return begins && ++count > kMost;
+    });
+    const auto length = static_cast<std::size_t>(cut - typed.begin());
+    return "\"" + std::string{typed.substr(0, length)} +
+           (length < typed.size() ? "\u2026\"" : "\"");
+}
+
 Output standardOutput()
 {
     if (isatty(STDOUT_FILENO) == 0) {

@@ -24,6 +24,9 @@ struct Output {
 /// Tells the user something, in one line and without what a terminal would obey.
 void tell(const std::string& message, std::ostream& errors);
 
+/// What the user typed, in quotes for a message; of a long text the beginning.
+std::string inQuotes(std::string_view typed);
+
 /// Standard output as it is now, and standard error.
 Output standardOutput();
 

@@ -40,7 +40,7 @@ void hint(Session& session, const std::string& text, const std::vector<data::Ver
     const auto readings = TextReader{session}.verbsOfForm(text);
     if (readings && !readings->empty() &&
         (verbs.empty() || verbs.front()->id != readings->front().verb)) {
-        tell("\"" + text + "\" is a form of " + namesOf(*readings), output.errors);
+        tell(inQuotes(text) + " is a form of " + namesOf(*readings), output.errors);
     }
 }
 
@@ -57,7 +57,7 @@ platform::Result<void> search(Session& session, const Arguments& arguments, cons
     hint(session, arguments.text, results.verbs, output);
     if (results.verbs.empty()) {
         return tl::unexpected(
-            platform::Error{"nothing found for \"" + arguments.text + "\"", ENOENT});
+            platform::Error{"nothing found for " + inQuotes(arguments.text), ENOENT});
     }
     for (const auto& section : TerminalTableView::of(results.tableView()).sections()) {
         printRows(section.rows, output);

@@ -6,6 +6,7 @@
 #include "detail/verb_detail_table_view_controller.h"
 #include "navigation/home_view_controller.h"
 #include "platform/screens/navigation_controller.h"
+#include "settings/setting_keys.h"
 #include "support/world.h"
 
 #include <gmock/gmock.h>
@@ -118,6 +119,28 @@ TEST_F(SearchReadings, OpenTheVerbAtTheFormThatWasMeant)
         home->didSelectReading(0);
     }
     EXPECT_EQ(world.presenter.segues.size(), steps) << "nothing to open";
+}
+
+TEST_F(SearchReadings, AreNeighboursOfWhatIsFound)
+{
+    world.settings.setValue("W", settings::kSearchFrom);
+    EXPECT_THAT(cardsOf("va"), testing::SizeIs(1));
+    home->searchBarSearchButtonClicked();
+    const auto card = world.shownDetail();
+    ASSERT_TRUE(card);
+    EXPECT_EQ(card->sequence.away(0)->french, "aller");
+    EXPECT_EQ(card->sequence.away(-1), nullptr);
+    EXPECT_EQ(card->sequence.away(1)->french, "\u00E9vanouir (s')");
+    EXPECT_EQ(card->sequence.away(2), nullptr);
+    home->searchResultsController()->rowTapped({0, 0});
+    EXPECT_EQ(world.shownDetail()->sequence.away(-1)->french, "aller");
+    // Not twice where the list has it as well.
+    world.settings.setValue(true, settings::kIncludeConjugations);
+    home->searchTextChanged("vai");
+    home->searchTextChanged("vais");
+    home->searchBarSearchButtonClicked();
+    EXPECT_EQ(world.shownDetail()->sequence.away(0)->french, "aller");
+    EXPECT_EQ(world.shownDetail()->sequence.away(1), nullptr);
 }
 
 TEST_F(SearchReadings, LeadToTheOptionThatFindsTheForm)

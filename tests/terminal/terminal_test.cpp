@@ -289,6 +289,10 @@ TEST_F(TerminalTest, SaysWhatIsWrongInOneLine)
          1,
          "no verb is number 2, there is only aimer"},
         {{"conjugate", "s'aller"}, 1, "no verb \"s'aller\"; did you mean aller?"},
+        {{"lookup", std::string(10000, 'q')},
+         1,
+         "\"qqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqqq\u2026\" is no form of a "
+         "verb"},
         {{"conjugate", "caf\xE9"}, 1, "no verb \"caf\uFFFD\""},
     };
     for (const auto& c : cases) {
