@@ -37,7 +37,8 @@ int main(int argc, char** argv)
 {
     const lumora::support::TemporaryFolder home;
     makeDesktop(home);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // On a screen only where a test says so.
+    qputenv("QT_QPA_PLATFORM", qEnvironmentVariable("LUMORA_TEST_PLATFORM", "offscreen").toUtf8());
     qputenv("QML_DISABLE_DISK_CACHE", "1");
     // No sound, whatever this machine has.
     qputenv("PULSE_SERVER", "unix:/nonexistent/native");
