@@ -14,8 +14,8 @@ namespace lumora::qt {
 
 namespace {
 
-const QString kService = QStringLiteral("sm.puri.OSK0");
-const QString kPath = QStringLiteral("/sm/puri/OSK0");
+const QString kKeyboardService = QStringLiteral("sm.puri.OSK0");
+const QString kKeyboardPath = QStringLiteral("/sm/puri/OSK0");
 
 bool takesText(QObject* object)
 {
@@ -43,8 +43,8 @@ void OnScreenKeyboard::follow(QObject* focused)
         return;
     }
     asked_ = wanted;
-    auto call =
-        QDBusMessage::createMethodCall(kService, kPath, kService, QStringLiteral("SetVisible"));
+    auto call = QDBusMessage::createMethodCall(kKeyboardService, kKeyboardPath, kKeyboardService,
+                                               QStringLiteral("SetVisible"));
     call.setAutoStartService(false);
     call << wanted;
     bus_.send(call);
