@@ -73,8 +73,13 @@ TEST_F(VerbPage, ARowLeadsToItsSheetByFingerMouseAndKeyboard)
     hold(wordsOf(row));
     touch("copyRow");
     EXPECT_TRUE(until([] { return QGuiApplication::clipboard()->text() == "tu vas"; }));
+    expectGone("saySlowly");
+    EXPECT_NE(find("notice"), nullptr) << "says that it was copied";
+    hold(wordsOf(row));
     touch("copyForm");
     EXPECT_TRUE(until([] { return QGuiApplication::clipboard()->text() == "vas"; }));
+    expectGone("saySlowly");
+    hold(wordsOf(row));
     touch("formTense");
     expectGone("saySlowly");
     touch("sheetDone");
