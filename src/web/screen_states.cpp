@@ -6,6 +6,7 @@
 #include "detail/verb_card.h"
 #include "detail/verb_detail_table_view_controller.h"
 #include "detail/verb_guide.h"
+#include "detail/verb_page.h"
 #include "lists/interstitial_table_view_controller.h"
 #include "lists/search_results_table_view_controller.h"
 #include "navigation/home_view_controller.h"
@@ -113,9 +114,9 @@ Json toJson(const detail::TenseName& name)
     return {{"title", name.title}, {"other", name.otherTitle}};
 }
 
-Json wordsOf(const VerbDetailTableViewController& screen)
+Json wordsOf(VerbDetailTableViewController& screen)
 {
-    const auto guide = screen.guide();
+    const auto guide = screen.page().guide();
     Json card = Json::array();
     for (const auto& line : guide.card()) {
         Json links = Json::array();
@@ -189,11 +190,11 @@ Json ScreenStates::verb(VerbDetailTableViewController& screen, Entry& entry)
                   {"table", table.describe()},
                   {"collection", collection.describe()},
                   {"opened", opened ? table.listRow(*opened) : -1},
-                  {"voice", static_cast<int>(screen.voice())},
+                  {"voice", static_cast<int>(screen.page().voice())},
                   {"marks", screen.marksForms()},
-                  {"hasForms", screen.hasForms()},
+                  {"hasForms", screen.page().hasForms()},
                   {"spoken", screen.spokenText()},
-                  {"cardOpen", screen.isCardOpen(false)}});
+                  {"cardOpen", screen.page().isCardOpen(false)}});
     return state;
 }
 
@@ -220,11 +221,11 @@ Json ScreenStates::describe(const std::shared_ptr<platform::ViewController>& scr
     return state;
 }
 
-Json formSheetOf(const VerbDetailTableViewController& screen, int tense, int line)
+Json formSheetOf(VerbDetailTableViewController& screen, int tense, int line)
 {
     const auto sheet =
         screen.selectedVerb
-            ? screen.guide().sheet({screen.verbTypeSegmentedControl.selected, tense, line})
+            ? screen.page().guide().sheet({screen.verbTypeSegmentedControl.selected, tense, line})
             : std::nullopt;
     if (!sheet) {
         return nullptr;
@@ -242,11 +243,12 @@ Json formSheetOf(const VerbDetailTableViewController& screen, int tense, int lin
             {"person", sheet->person}, {"others", std::move(others)}};
 }
 
-Json tenseNoteOf(const VerbDetailTableViewController& screen, int tense)
+Json tenseNoteOf(VerbDetailTableViewController& screen, int tense)
 {
-    const auto note = screen.selectedVerb
-                          ? screen.guide().note(screen.verbTypeSegmentedControl.selected, tense)
-                          : std::nullopt;
+    const auto note =
+        screen.selectedVerb
+            ? screen.page().guide().note(screen.verbTypeSegmentedControl.selected, tense)
+            : std::nullopt;
     if (!note) {
         return nullptr;
     }

@@ -44,7 +44,7 @@ private:
 };
 
 /// The form sheet and the note of a tense; null where there is nothing to tell.
-Json formSheetOf(const detail::VerbDetailTableViewController& screen, int tense, int line);
-Json tenseNoteOf(const detail::VerbDetailTableViewController& screen, int tense);
+Json formSheetOf(detail::VerbDetailTableViewController& screen, int tense, int line);
+Json tenseNoteOf(detail::VerbDetailTableViewController& screen, int tense);
 
 } // namespace lumora::web

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "detail/verb_detail_table_view_controller.h"
+#include "detail/verb_page.h"
 #include "navigation/home_view_controller.h"
 #include "navigation/options_table_view_controller.h"
 #include "platform/screens/navigation_controller.h"
@@ -136,11 +137,11 @@ bool WebApplication::handleVerb(std::string_view kind, const Json& event, Json& 
     if (kind == "mood") {
         verb->selectVerbTypes(event.value("segment", 0));
     } else if (kind == "voice") {
-        verb->chooseVoice(static_cast<platform::Voice>(event.value("voice", 0) == 1));
+        verb->page().chooseVoice(static_cast<platform::Voice>(event.value("voice", 0) == 1));
     } else if (kind == "marks") {
         verb->setMarksForms(event.value("on", true));
     } else if (kind == "playTense") {
-        verb->playTense(tense);
+        verb->page().playTense(tense);
     } else if (kind == "stop") {
         verb->stopSpeaking();
     } else if (kind == "sheet") {
@@ -148,16 +149,16 @@ bool WebApplication::handleVerb(std::string_view kind, const Json& event, Json& 
     } else if (kind == "note") {
         reply = tenseNoteOf(*verb, tense);
     } else if (kind == "slowly") {
-        verb->saySlowly({verb->verbTypeSegmentedControl.selected, tense, line},
-                        event.value("squares", false));
+        verb->page().saySlowly({verb->verbTypeSegmentedControl.selected, tense, line},
+                               event.value("squares", false));
     } else if (kind == "audio") {
         verb->audioTapped(event.value("item", 0), line);
     } else if (kind == "neighbour") {
-        verb->showNeighbour(event.value("places", 1));
+        verb->page().showNeighbour(event.value("places", 1));
     } else if (kind == "related") {
-        verb->showRelated(event.value("verb", std::int64_t{-1}));
+        verb->page().showRelated(event.value("verb", std::int64_t{-1}));
     } else if (kind == "card") {
-        verb->keepCardOpen(event.value("open", true));
+        verb->page().keepCardOpen(event.value("open", true));
     } else {
         return false;
     }
@@ -218,7 +219,7 @@ Json WebApplication::previewState()
     if (path) {
         actions = table->trailingActions(table->listRow(*path));
     }
-    const auto guide = preview->verb->guide();
+    const auto guide = preview->verb->page().guide();
     return {{"title", preview->verb->selectedVerb->french},
             {"translation", preview->verb->selectedVerb->translation(settings_, device_)},
             {"summary", guide.summary()},
