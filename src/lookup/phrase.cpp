@@ -28,6 +28,7 @@ void addReflexive(Phrase& phrase, std::string_view token)
     const bool se = token == "se" || token == "s'";
     if (phrase.persons == kAnyPerson) {
         phrase.reflexive = true;
+        phrase.se = se;
         // "se" stands before infinitives and participles as well.
         phrase.persons = se ? kAnyPerson : own;
     } else if ((phrase.persons & own) != 0) {

@@ -25,6 +25,8 @@ struct Phrase {
     bool conjunction = false;
     /// "se laver", "lave-toi".
     bool reflexive = false;
+    /// "se" stands before it, which is of il and ils where it is of a person at all.
+    bool se = false;
     /// With "en" beside the reflexive pronoun, as s'en aller has it.
     bool en = false;
     /// "mange-t-il": the subject stands behind.

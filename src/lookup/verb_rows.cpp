@@ -131,6 +131,10 @@ bool VerbRows::agrees(const Phrase& phrase, const VerbRow& row) const
     if (phrase.inverted && row.conjunction) {
         return false;
     }
+    const bool ofOther = row.persons != kAnyPerson && (row.persons & reflexivePersons("se")) == 0;
+    if (phrase.se && (imperative || ofOther)) {
+        return false;
+    }
     if (phrase.persons != kAnyPerson && (row.persons & phrase.persons) == 0) {
         return false;
     }
@@ -163,7 +167,7 @@ std::vector<RowMatch> VerbRows::matches(const Phrase& phrase) const
                 continue;
             }
             const auto& meant = same ? spelling.word : participle->word;
-            const bool sameLetters = meant == phrase.word;
+            const bool sameLetters = meant == phrase.word && spelling.auxiliary == phrase.auxiliary;
             if (best.row == nullptr || (sameLetters && !best.sameLetters)) {
                 best = {&row, &spelling, formOf(spelling, meant), sameLetters};
             }

@@ -79,6 +79,9 @@ TEST_F(LookupTest, TakesATextForTheFormThatIsMeant)
         {"je parle", "parler parle phrase: indicatifPresent je"},
         {"que je parle", "parler parle phrase: subjonctifPresent que je"},
         {"que j\u2019aille", "aller aille phrase: subjonctifPresent que j'"},
+        {"il eût mangé", "manger eût mangé phrase: conditionnelPasse2eForme il/elle/on"},
+        {"se lave", "laver (se) lave phrase: indicatifPresent il/elle/on se, subjonctifPresent "
+                    "qu'il/elle/on se"},
         {"s'il mange", "manger mange phrase: indicatifPresent il/elle/on"},
         {"j'irai", "aller irai phrase: indicatifFuturSimple j'"},
         {"qu'elles aillent", "aller aillent phrase: subjonctifPresent qu'ils/elles"},
