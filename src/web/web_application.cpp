@@ -94,7 +94,7 @@ Json WebApplication::handle(const Json& event)
     return answer;
 }
 
-Json WebApplication::state()
+Json WebApplication::state() const
 {
     auto state = panes_->describe();
     state["question"] = presenter_.question();
@@ -123,7 +123,7 @@ void WebApplication::fireTimers()
     }
 }
 
-std::string WebApplication::userRows()
+std::string WebApplication::userRows() const
 {
     const auto file = folders_.temporary / "rows.json";
     app::UserData rows;

@@ -58,20 +58,20 @@ public:
     bool prepareMore();
     /// The person's rows, as a rescue file holds them, for a browser whose files are
     /// in memory only.
-    std::string userRows();
+    std::string userRows() const;
 
 private:
     std::filesystem::path makeDatabase();
     Json dispatch(std::string_view kind, const Json& event);
-    bool handleTable(std::string_view kind, const Json& event, Json& reply);
-    bool handleHome(std::string_view kind, const Json& event);
-    bool handleVerb(std::string_view kind, const Json& event, Json& reply);
+    bool handleTable(std::string_view kind, const Json& event, Json& reply) const;
+    bool handleHome(std::string_view kind, const Json& event) const;
+    bool handleVerb(std::string_view kind, const Json& event, Json& reply) const;
     bool handleQuestion(std::string_view kind, const Json& event, Json& reply);
     void handleMachine(std::string_view kind, const Json& event);
-    void press(int screen, const std::string& identifier);
+    void press(int screen, const std::string& identifier) const;
     void triggerPreview(int action);
-    Json previewState();
-    Json state();
+    Json previewState() const;
+    Json state() const;
     void fireTimers();
     navigation::HomeViewController* home() const;
 

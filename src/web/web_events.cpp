@@ -60,7 +60,7 @@ navigation::HomeViewController* WebApplication::home() const
                      stack->viewControllers().front().get());
 }
 
-bool WebApplication::handleTable(std::string_view kind, const Json& event, Json& reply)
+bool WebApplication::handleTable(std::string_view kind, const Json& event, Json& reply) const
 {
     if (!event.contains("table")) {
         return false;
@@ -83,7 +83,7 @@ bool WebApplication::handleTable(std::string_view kind, const Json& event, Json&
     return true;
 }
 
-bool WebApplication::handleHome(std::string_view kind, const Json& event)
+bool WebApplication::handleHome(std::string_view kind, const Json& event) const
 {
     auto* screen = home();
     if (screen == nullptr) {
@@ -114,7 +114,7 @@ bool WebApplication::handleHome(std::string_view kind, const Json& event)
     return true;
 }
 
-bool WebApplication::handleVerb(std::string_view kind, const Json& event, Json& reply)
+bool WebApplication::handleVerb(std::string_view kind, const Json& event, Json& reply) const
 {
     // Kept: what it does may take its screen away.
     const auto controller = panes_ ? panes_->screen(event.value("screen", 0)) : nullptr;
@@ -187,7 +187,7 @@ bool WebApplication::handleQuestion(std::string_view kind, const Json& event, Js
     return true;
 }
 
-void WebApplication::press(int number, const std::string& identifier)
+void WebApplication::press(int number, const std::string& identifier) const
 {
     const auto screen = panes_ ? panes_->screen(number) : nullptr;
     if (!screen) {
@@ -207,7 +207,7 @@ void WebApplication::press(int number, const std::string& identifier)
     }
 }
 
-Json WebApplication::previewState()
+Json WebApplication::previewState() const
 {
     const auto& preview = presenter_.preview();
     if (!preview) {

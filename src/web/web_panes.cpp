@@ -82,7 +82,7 @@ void WebPanes::setWidth(double points)
     synchronize();
 }
 
-bool WebPanes::back()
+bool WebPanes::back() const
 {
     auto panes = split_->viewControllers();
     std::reverse(panes.begin(), panes.end());

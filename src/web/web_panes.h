@@ -36,7 +36,7 @@ public:
     /// The first call shows the screens.
     void setWidth(double points);
     /// Takes the top screen away; false when there is none to go back from.
-    bool back();
+    bool back() const;
     /// The screens changed, or what they show inside them.
     void synchronize();
     /// All that is on show.

@@ -23,8 +23,7 @@ SpokenText::SpokenText(std::string_view written)
 {
     std::size_t place = 0;
     bool bracketed = false;
-    for (std::size_t at = 0; at < written.size(); ++at) {
-        const char byte = written[at];
+    for (const char byte : written) {
         const bool first = !continuesCharacter(byte);
         // Only behind a letter: a text may begin with a bracket.
         bracketed = bracketed || (byte == '(' && !text.empty() && text.back() != ' ');
@@ -86,7 +85,7 @@ public:
 
     bool isSpeaking() const override { return speech_.speaking_ == this; }
 
-    void hear(int utterance, std::string_view news, const Json& event)
+    void hear(int utterance, std::string_view news, const Json& event) const
     {
         if (utterance != number_) {
             return;
@@ -110,7 +109,7 @@ public:
     }
 
 private:
-    void quiet()
+    void quiet() const
     {
         speech_.speaking_ = nullptr;
         speech_.outbox_.add({{"do", "silence"}});
@@ -128,7 +127,7 @@ std::unique_ptr<platform::SpeechSynthesizer> WebSpeech::makeSpeechSynthesizer()
     return std::make_unique<WebSpeechSynthesizer>(*this);
 }
 
-void WebSpeech::handle(int utterance, std::string_view news, const Json& event)
+void WebSpeech::handle(int utterance, std::string_view news, const Json& event) const
 {
     if (speaking_ != nullptr) {
         speaking_->hear(utterance, news, event);

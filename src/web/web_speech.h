@@ -24,7 +24,7 @@ public:
     std::unique_ptr<platform::SpeechSynthesizer> makeSpeechSynthesizer() override;
     /// What the page heard: "word" with "location" and "length" in what is spoken,
     /// "end" or "cancel". News of an utterance that is over is nothing.
-    void handle(int utterance, std::string_view news, const Json& event);
+    void handle(int utterance, std::string_view news, const Json& event) const;
 
 private:
     friend class WebSpeechSynthesizer;

@@ -176,7 +176,7 @@ Json WebTableView::layout() const
     return runs;
 }
 
-Json WebTableView::index()
+Json WebTableView::index() const
 {
     Json entries = Json::array();
     const auto titles = source_.sectionIndexTitles();
@@ -227,7 +227,7 @@ Json WebTableView::rows(int from, int count)
     return rows;
 }
 
-Json WebTableView::rowAt(int row)
+Json WebTableView::rowAt(int row) const
 {
     const auto path = cellPath(row);
     if (!path) {

@@ -24,8 +24,6 @@ public:
     ~WebTableView() override;
 
     int number() const { return number_; }
-    platform::TableDataSource& source() { return source_; }
-
     /// Looks and layout; with the first rows, or all of a short table, unless the
     /// page has this revision already.
     Json describe();
@@ -57,8 +55,8 @@ private:
 
     void load();
     Json layout() const;
-    Json index();
-    Json rowAt(int row);
+    Json index() const;
+    Json rowAt(int row) const;
     std::optional<platform::IndexPath> cellPath(int row) const;
     void hide(platform::IndexPath path);
 
@@ -92,7 +90,6 @@ public:
 
     /// Null where the page has it already.
     Json describe();
-    platform::CollectionDataSource& source() { return source_; }
 
     void reloadData() override { changed_ = true; }
 

@@ -272,6 +272,15 @@ export class TableList {
     }
 
     private key(event: KeyboardEvent): void {
+        if (event.target !== this.scroller) {
+            // A button behind a row has keys of its own.
+            if (event.key === 'Escape') {
+                this.swipe.close();
+                this.scroller.focus();
+                event.stopPropagation();
+            }
+            return;
+        }
         const page = Math.max(1, Math.floor(this.scroller.clientHeight / 60) - 1);
         const steps: Record<string, number> = {
             ArrowDown: 1, ArrowUp: -1, PageDown: page, PageUp: -page, Home: -Infinity, End: Infinity,
