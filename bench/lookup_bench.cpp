@@ -16,7 +16,7 @@ namespace {
 
 /// What a key may cost in the window beside its search alone.
 constexpr double kTimesSearch = 4.0 / 3;
-constexpr int kRounds = 5;
+constexpr int kReadings = 5;
 
 /// As the window does it once it is open.
 double millisecondsToPrepare(platform::DatabaseQueue& queue)
@@ -43,7 +43,7 @@ Figure keyFigure(DatabaseWorld& world, const char* what, bool forms, const Texts
     Figure figure{what, {}, "its search alone", {}, {}, {}};
     home->searchTextChanged("il fo");
     alone.search("il fo");
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < kReadings; ++round) {
         for (const char* text : texts) {
             figure.referenceSamples.add(millisecondsOf([&] { alone.search(text); }));
             figure.own.add(millisecondsOf([&] { home->searchTextChanged(text); }));
@@ -76,7 +76,7 @@ void measureLookup(Report& report, const std::filesystem::path& database)
     DatabaseWorld world{database};
     world.settings().setValue(true, "IncludeEnglish");
     Figure making{"the index, once", {}, {}, {}, {}, {}};
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < kReadings; ++round) {
         making.own.add(millisecondsToPrepare(world.queue()));
     }
     report.add(making);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "qt/base/translations.h"
 #include "session/random_session.h"
 #include "support/temporary_folder.h"
 
@@ -149,6 +150,7 @@ int main(int argc, char** argv)
                           {"actions", "How many.", "N", "10000"},
                           {"verbose", "Names every action."}});
     arguments.process(toolkit);
+    const qt::Translations texts{{QStringLiteral("en")}};
     const auto actions = arguments.value("actions").toULongLong();
     if (actions == 0) {
         std::cerr << "random-session: --actions wants a whole number\n";

@@ -95,11 +95,11 @@ TEST(Translations, EveryLanguageHasEveryKeyWithTheSamePlaceholders)
 std::set<std::string> keysInSources()
 {
     // Whole ones, and beginnings and ends that are put together.
-    static const std::regex kKey{R"~("(\.?[a-z][a-zA-Z]*(\.[a-zA-Z0-9_]+)*\.?)")~"};
+    static const std::regex kKey{R"~(["'`](\.?[a-z][a-zA-Z]*(\.[a-zA-Z0-9_]+)*\.?)["'$])~"};
     std::set<std::string> keys;
     for (const auto& entry : std::filesystem::recursive_directory_iterator{LUMORA_SOURCES}) {
         const auto extension = entry.path().extension();
-        if (extension != ".cpp" && extension != ".qml") {
+        if (extension != ".cpp" && extension != ".qml" && extension != ".ts") {
             continue;
         }
         const auto content = support::contentOf(entry.path());

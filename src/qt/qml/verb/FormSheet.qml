@@ -20,8 +20,8 @@ VerbSheet {
 
     function copy(text) {
         screen.copy(text);
-        close();
         (room.Window.window as Main)?.tell(qsTrId("notice.copied"));
+        close();
     }
 
     objectName: "formSheet"
