@@ -53,7 +53,7 @@ WebApplication::~WebApplication() = default;
 std::filesystem::path WebApplication::makeDatabase()
 {
     const auto* content = content_.get();
-    const auto file = folders_.temporary / "verbs.db";
+    auto file = folders_.temporary / "verbs.db";
     try {
         if (content != nullptr) {
             verbdb::writeDatabaseWithoutForms(*content, file);
