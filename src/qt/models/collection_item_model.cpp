@@ -19,11 +19,15 @@ int CollectionItemModel::rowCount(const QModelIndex& parent) const
 
 QHash<int, QByteArray> CollectionItemModel::roleNames() const
 {
-    QHash<int, QByteArray> names{{TitleRole, "title"}};
-    for (int number = 0; number < kLines; ++number) {
-        names.insert(FirstLineRole + number, "line" + QByteArray::number(number));
-    }
-    return names;
+    // Asked for every cell that a view makes.
+    static const auto kNames = [] {
+        QHash<int, QByteArray> names{{TitleRole, "title"}};
+        for (int number = 0; number < kLines; ++number) {
+            names.insert(FirstLineRole + number, "line" + QByteArray::number(number));
+        }
+        return names;
+    }();
+    return kNames;
 }
 
 QVariant CollectionItemModel::data(const QModelIndex& index, int role) const
