@@ -1134,6 +1134,10 @@ Du musst heute Abend kommen.</translation>
         <source></source>
         <translation>nicht gebräuchlich</translation>
     </message>
+    <message id="text.colon">
+        <source></source>
+        <translation>: </translation>
+    </message>
     <message id="type.conditional.full">
         <source></source>
         <translation>Konditional</translation>

@@ -271,7 +271,7 @@ Verbs in the history: %d</translation>
     </message>
     <message id="card.use.4">
         <source></source>
-        <translation>in living use</translation>
+        <translation>in current use</translation>
     </message>
     <message id="card.use.5">
         <source></source>
@@ -1133,6 +1133,10 @@ You have to come tonight.</translation>
     <message id="tense.unused">
         <source></source>
         <translation>not in use</translation>
+    </message>
+    <message id="text.colon">
+        <source></source>
+        <translation>: </translation>
     </message>
     <message id="type.conditional.full">
         <source></source>

@@ -1134,6 +1134,10 @@ Hace falta que vengas esta noche.</translation>
         <source></source>
         <translation>no se usa</translation>
     </message>
+    <message id="text.colon">
+        <source></source>
+        <translation>: </translation>
+    </message>
     <message id="type.conditional.full">
         <source></source>
         <translation>Condicional</translation>

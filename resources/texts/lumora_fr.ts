@@ -1117,6 +1117,10 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>inusité</translation>
     </message>
+    <message id="text.colon">
+        <source></source>
+        <translation> : </translation>
+    </message>
     <message id="type.conditional.full">
         <source></source>
         <translation>Conditionnel</translation>

@@ -1134,6 +1134,10 @@ Bisogna che tu venga stasera.</translation>
         <source></source>
         <translation>non in uso</translation>
     </message>
+    <message id="text.colon">
+        <source></source>
+        <translation>: </translation>
+    </message>
     <message id="type.conditional.full">
         <source></source>
         <translation>Condizionale</translation>

@@ -1134,6 +1134,10 @@ Je moet vanavond komen.</translation>
         <source></source>
         <translation>niet in gebruik</translation>
     </message>
+    <message id="text.colon">
+        <source></source>
+        <translation>: </translation>
+    </message>
     <message id="type.conditional.full">
         <source></source>
         <translation>Conditionalis</translation>

@@ -1134,6 +1134,10 @@ Lamentava que ela tivesse partido sem mim.</translation>
         <source></source>
         <translation>não se usa</translation>
     </message>
+    <message id="text.colon">
+        <source></source>
+        <translation>: </translation>
+    </message>
     <message id="type.conditional.full">
         <source></source>
         <translation>Condicional</translation>

@@ -128,9 +128,13 @@ std::optional<FormSheet> formSheet(const data::Verb& verb, const RowPlace& place
     forEachForm(verb, [&](const RowPlace& there, const data::TenseBlock& block,
                           const data::Conjugation& other) {
         if (there != place && haveSpellingInCommon(*form, other)) {
-            sheet.others.push_back(
-                {there, rowOf(other),
-                 data::tenseTitle(block.titleKey, wording.bundle, wording.settings)});
+            auto title = data::tenseTitle(block.titleKey, wording.bundle, wording.settings);
+            // What a pronoun would tell.
+            if (other.pronoun.empty()) {
+                title += ", " + personInWords(block, verb.*block.tense.forms,
+                                              static_cast<std::size_t>(there.row), wording);
+            }
+            sheet.others.push_back({there, rowOf(other), std::move(title)});
         }
     });
     return sheet;

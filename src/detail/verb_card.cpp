@@ -106,7 +106,7 @@ private:
                          : verbs.size() > 1              ? "card.participle.both"
                          : verbs.front() == "avoir"      ? "card.participle.avoir"
                                                          : "card.participle.etre";
-        add("card.auxiliary", joined(verbs, ", ") + ": " + text(key));
+        add("card.auxiliary", joined(verbs, ", ") + text("text.colon") + text(key));
     }
 
     void notes()

@@ -42,6 +42,8 @@ void showVerb(VerbDetailTableViewController& from, data::VerbPtr verb, VerbSeque
     screen->firstMood = from.verbTypeSegmentedControl.selected;
     screen->offerDisplayModeButton(from.splitViewController());
     if (step == VerbStep::Cover) {
+        // Under the page that comes nobody could stop it.
+        from.stopSpeaking();
         stack->pushViewController(std::move(screen));
         return;
     }

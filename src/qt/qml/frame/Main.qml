@@ -44,6 +44,8 @@ Window {
     visible: true
     title: "Lumora"
     color: Theme.background
+    palette.toolTipBase: Theme.raised
+    palette.toolTipText: Theme.text
     onWidthChanged: root.split?.setWidth(width)
 
     Binding {

@@ -126,10 +126,8 @@ Rectangle {
                 input.text = root.home.searchText;
             if (root.home.searchFocus && !input.activeFocus)
                 input.forceActiveFocus();
-            else if (!root.home.searchFocus && input.activeFocus && root.home.searchText === "")
-                root.ended();
             else if (!root.home.searchFocus && input.activeFocus)
-                input.focus = false;
+                root.ended();
         }
     }
 }

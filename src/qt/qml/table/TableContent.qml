@@ -44,10 +44,24 @@ T.Control {
             list.positionViewAtBeginning();
         if (table.model.cellAway(row, 1) < 0)
             list.positionViewAtEnd();
+        bringIntoSight(row);
+    }
+    // Below the header that stays on top.
+    function bringIntoSight(row) {
         list.positionViewAtIndex(row, ListView.Contain);
-        const hidden = stickyHeaders && list.currentItem ? list.contentY + sticky.height - list.currentItem.y : 0;
+        const item = list.itemAtIndex(row);
+        const hidden = stickyHeaders && item !== null ? list.contentY + sticky.height - item.y : 0;
         if (hidden > 0)
             list.contentY = Math.max(list.originY, list.contentY - hidden);
+    }
+    // The section whose header stays on top at that height; -1 where none does.
+    function sectionOnTop(y) {
+        return sticky.visible && y >= 0 && y < sticky.height ? sticky.section : -1;
+    }
+    // What is seen at a point of the table; -1 for nothing.
+    function rowSeenAt(point) {
+        const section = sectionOnTop(point.y);
+        return section < 0 ? list.indexAt(point.x, point.y + list.contentY) : table.model.firstRow(section);
     }
     function move(steps) {
         if (!activeFocus) {
@@ -107,7 +121,7 @@ T.Control {
             moveTo(table.model.cellAway(list.count, -1));
         else if (event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
             showMenuOfCurrent();
-        else if (row !== null && [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key))
+        else if (row !== null && !(event.modifiers & Qt.ControlModifier) && [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key))
             row.activate(event.key);
         else if (row !== null && (event.key === Qt.Key_Left || event.key === Qt.Key_Right))
             event.accepted = row.adjust(event.key === Qt.Key_Left ? -1 : 1);
@@ -187,7 +201,7 @@ T.Control {
         acceptedButtons: Qt.RightButton
         // A finger has no buttons, and would count as any.
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad | PointerDevice.Stylus
-        onTapped: eventPoint => root.showMenu(list.indexAt(eventPoint.position.x, eventPoint.position.y + list.contentY), eventPoint.position)
+        onTapped: eventPoint => root.showMenu(root.rowSeenAt(eventPoint.position), eventPoint.position)
     }
     Loader {
         id: menu

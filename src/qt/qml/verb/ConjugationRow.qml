@@ -52,7 +52,7 @@ Rectangle {
     function comeIntoSight() {
         const list = ListView.view;
         if (play.running && list !== null && !list.moving)
-            list.positionViewAtIndex(index, ListView.Contain);
+            (list.parent as TableContent).bringIntoSight(index);
     }
 
     // Laid aside it would still be in the tree that a screen reader sees.

@@ -76,6 +76,7 @@ Rectangle {
         x: parent.width - width
         height: parent.height
         width: root.line.audioWidth
+        pressedByReturn: false
         visible: !root.line.controlHidden
         source: root.line.indicator
         spoken: root.line.accessibleName

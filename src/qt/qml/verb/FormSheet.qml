@@ -13,6 +13,7 @@ VerbSheet {
     required property formSheet sheet
     // The page shows squares.
     property bool squares: false
+    readonly property bool speaking: screen.spokenText !== ""
 
     // To where the same form stands too.
     signal followed(int segment, int tense, int line)
@@ -76,9 +77,19 @@ VerbSheet {
     SheetRow {
         id: slowly
         objectName: "saySlowly"
-        text: qsTrId("sheet.slowly")
-        image: "Play"
-        onClicked: root.screen.saySlowly(root.sheet.tense, root.sheet.line, root.squares)
+        text: root.speaking ? qsTrId("action.stop") : qsTrId("sheet.slowly")
+        image: root.speaking ? "Stop" : "Play"
+        onClicked: {
+            if (root.speaking)
+                root.screen.stopSpeaking();
+            else
+                root.screen.saySlowly(root.sheet.tense, root.sheet.line, root.squares);
+        }
+    }
+    Shortcut {
+        sequences: [StandardKey.Cancel] // qmllint disable unqualified
+        enabled: root.opened && root.speaking
+        onActivated: root.screen.stopSpeaking()
     }
     SheetRow {
         objectName: "copyForm"
@@ -115,6 +126,10 @@ VerbSheet {
                 root.followed(modelData.segment, modelData.tense, modelData.line);
             }
         }
+    }
+    Item {
+        width: parent.width
+        height: Theme.gap
     }
     SheetButton {
         objectName: "sheetDone"

@@ -16,7 +16,7 @@ TouchButton {
     readonly property int most: 150
 
     enabled: verb !== ""
-    text: (forward ? qsTrId("card.next") : qsTrId("card.previous")) + (verb === "" ? "" : ": " + verb)
+    text: (forward ? qsTrId("card.next") : qsTrId("card.previous")) + (verb === "" ? "" : qsTrId("text.colon") + verb)
     leftPadding: 10
     rightPadding: 10
     Accessible.onPressAction: clicked()

@@ -15,6 +15,8 @@ T.AbstractButton {
     property string spoken
     // Reads all forms of a tense.
     property bool ofTense: false
+    // Space always does.
+    property bool pressedByReturn: true
     readonly property bool running: source !== null && source.running
 
     implicitWidth: 30
@@ -24,8 +26,11 @@ T.AbstractButton {
     opacity: down ? 0.6 : 1
     Accessible.name: ofTense ? qsTrId("action.play.tense") + ": " + spoken : qsTrId("action.play") + " " + spoken
     Accessible.onPressAction: clicked()
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    Keys.onPressed: event => {
+        event.accepted = pressedByReturn && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter);
+        if (event.accepted)
+            clicked();
+    }
 
     contentItem: Image {
         source: root.running ? "" : root.ofTense ? Theme.playTensePicture : Theme.playPicture

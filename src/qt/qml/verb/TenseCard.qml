@@ -55,6 +55,10 @@ Rectangle {
     }
 
     objectName: "tense" + index
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label.Accessible.name
+    Accessible.focusable: true
+    Accessible.focused: isCurrent
     radius: Theme.radius
     color: Theme.raised
     border.width: isCurrent ? 2 : 1

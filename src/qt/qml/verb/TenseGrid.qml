@@ -21,6 +21,9 @@ Item {
     readonly property int columns: fitting >= 4 ? 4 : fitting >= 2 ? 2 : 1
     readonly property real usedWidth: columns * grid.cellWidth - spacing
 
+    // What is current from now on was chosen.
+    property bool shown: false
+
     // Under the verb's name.
     property Component card: null
 
@@ -35,6 +38,7 @@ Item {
             grid.positionViewAtIndex(tense, GridView.Beginning);
         if (openedTense >= 0)
             grid.currentIndex = openedTense;
+        shown = true;
     }
     function showPlace(tense, line) {
         grid.forceLayout();
@@ -99,7 +103,9 @@ Item {
                 contentY = originY;
             beginning = originY;
         }
-        onContentYChanged: if (moving)
+        onCurrentIndexChanged: if (root.shown && currentIndex >= 0)
+            root.movedTo(currentIndex)
+        onContentYChanged: if (moving || ScrollBar.vertical.pressed)
             root.movedTo(Math.max(0, Math.round((contentY - originY - headerItem.height) / cellHeight)) * root.columns)
 
         ScrollBar.vertical: ScrollBar {

@@ -51,6 +51,10 @@ VerbSheet {
         text: root.note.translation
         color: Theme.textSecondary
     }
+    Item {
+        width: parent.width
+        height: Theme.gap
+    }
     SheetButton {
         id: done
         objectName: "sheetDone"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
+import QtQuick.Controls.Basic
 import Lumora
 
 // A verb's tenses one below the other, under its card. A finger that moves
@@ -27,10 +28,9 @@ TableContent {
         return row - table.model.firstRow(tenseOf(row) + 1) - 1;
     }
     function ask(row) {
-        const item = list.itemAtIndex(row) as ConjugationRow;
-        if (item === null || tenseOf(row) < 0)
+        if (row < 0 || tenseOf(row) < 0)
             return;
-        if (item.isCell)
+        if (lineOf(row) >= 0)
             formAsked(tenseOf(row), lineOf(row));
         else
             tenseAsked(tenseOf(row));
@@ -48,8 +48,10 @@ TableContent {
     }
     // At a point of the window.
     function rowAt(point) {
-        const spot = list.contentItem.mapFromItem(null, point);
-        return list.indexAt(spot.x, spot.y);
+        return rowSeenAt(mapFromItem(null, point));
+    }
+    function isCurrentChosen() {
+        return activeFocus && list.currentIndex >= 0;
     }
     function showPlace(tense, line) {
         forceActiveFocus(Qt.OtherFocusReason);
@@ -73,6 +75,7 @@ TableContent {
         readonly property int section: parent.section // qmllint disable
 
         implicitWidth: 50
+        visible: section > 0 && root.screen.selectedMood >= 0 && root.screen.formsOf(section - 1).length > 0
         ofTense: true
         focusPolicy: Qt.NoFocus
         // That of the heading below it speaks for both.
@@ -133,8 +136,12 @@ TableContent {
                 root.list.contentY = root.list.originY;
             root.beginning = root.list.originY;
         }
+        function onCurrentIndexChanged() {
+            if (root.isCurrentChosen())
+                root.screen.topTense = Math.max(0, root.tenseOf(root.list.currentIndex));
+        }
         function onContentYChanged() {
-            if (root.list.moving)
+            if (root.list.moving || root.list.ScrollBar.vertical.pressed)
                 root.screen.topTense = Math.max(0, root.tenseOf(root.list.indexAt(0, root.list.contentY + Theme.headerHeight)));
         }
     }
@@ -142,14 +149,13 @@ TableContent {
         parent: root.list
         onLongPressed: {
             const row = root.rowAt(point.scenePosition);
-            const item = root.list.itemAtIndex(row) as ConjugationRow;
-            if (item?.isCell ?? false)
+            if (row >= 0 && root.lineOf(row) >= 0)
                 root.ask(row);
         }
         onTapped: eventPoint => {
             const row = root.rowAt(eventPoint.scenePosition);
-            const item = root.list.itemAtIndex(row) as ConjugationRow;
-            if (item !== null && !item.isCell && eventPoint.position.x < item.textEnd)
+            // Right of a heading is its control.
+            if (row >= 0 && root.lineOf(row) < 0 && eventPoint.position.x < root.width - 50 - Theme.gap)
                 root.ask(row);
         }
     }

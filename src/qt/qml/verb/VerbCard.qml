@@ -22,6 +22,13 @@ Item {
     // It is leaving the card for what is below it.
     signal passed
 
+    function flip() {
+        // It opens downwards.
+        focused();
+        open = !open;
+        screen.keepCardOpen(open);
+    }
+
     width: parent?.width ?? 0
     implicitHeight: column.height + Theme.gap
     onActiveFocusChanged: if (activeFocus)
@@ -54,13 +61,9 @@ Item {
                 checkable: true
                 checked: root.open
                 Accessible.name: root.summary === "" ? text : qsTrId("card.about") + ": " + text
-                Accessible.onPressAction: clicked()
-                onClicked: {
-                    // It opens downwards.
-                    root.focused();
-                    root.open = checked;
-                    root.screen.keepCardOpen(checked);
-                }
+                Accessible.onPressAction: root.flip()
+                Accessible.onToggleAction: root.flip()
+                onClicked: root.flip()
 
                 contentItem: Item { // qmllint disable deferred-property-id
                     implicitHeight: words.implicitHeight

@@ -12,21 +12,24 @@ Item {
     required property verbCardLine modelData
     property bool wide: false
     readonly property real inset: wide ? 0 : Theme.margin
-    readonly property real labelWidth: Math.round((width - 2 * inset) * (wide ? 0.26 : 0.33))
+    // Large labels would be broken within their words beside a text.
+    readonly property bool stacked: Theme.largeText
+    readonly property real labelWidth: stacked ? 0 : Math.round((width - 2 * inset) * (wide ? 0.26 : 0.33))
+    readonly property real textY: stacked ? label.height : 0
     readonly property bool leads: modelData.links.length > 0
 
     signal followed(int id)
 
-    implicitHeight: Math.max(label.y + label.height, leads ? links.height : words.height)
+    implicitHeight: Math.max(label.y + label.height, textY + (leads ? links.height : words.height))
     Accessible.role: Accessible.StaticText
     Accessible.name: modelData.label + (leads ? "" : ": " + modelData.text)
 
     Text {
         id: label
         x: root.inset
-        width: root.labelWidth - Theme.gap
+        width: root.stacked ? root.width - 2 * root.inset : root.labelWidth - Theme.gap
         // In line with what is beside it.
-        y: root.leads ? Math.max(0, Math.round((Theme.touch - font.pixelSize * 1.4) / 2)) : 2
+        y: root.stacked ? 0 : root.leads ? Math.max(0, Math.round((Theme.touch - font.pixelSize * 1.4) / 2)) : 2
         text: root.modelData.label
         color: Theme.textSecondary
         font.pixelSize: Theme.small + 1
@@ -35,6 +38,7 @@ Item {
     Text {
         id: words
         x: root.inset + root.labelWidth
+        y: root.textY
         width: root.width - x - root.inset
         visible: !root.leads
         text: root.modelData.text
@@ -45,6 +49,7 @@ Item {
     Flow {
         id: links
         x: words.x - Theme.gap
+        y: root.textY
         width: root.width - x - root.inset
 
         Repeater {

@@ -13,6 +13,9 @@ Menu {
 
     required property VerbDetailScreen screen
 
+    // Beside a mark, in the narrowest of windows.
+    readonly property real widestText: (parent?.Window.width ?? 320) - 2 * margins - 2 * padding - 12 - 16 - 30
+
     function openBelow(button) {
         popup(button, 0, button.height, itemAt(0));
     }
@@ -71,6 +74,8 @@ Menu {
                 text: item.text
                 color: Theme.text
                 font.pixelSize: Theme.body
+                width: Math.min(implicitWidth, root.widestText)
+                wrapMode: Text.WordWrap
             }
         }
         background: Rectangle {
@@ -126,6 +131,8 @@ Menu {
                 text: marks.text
                 color: Theme.text
                 font.pixelSize: Theme.body
+                width: Math.min(implicitWidth, root.widestText)
+                wrapMode: Text.WordWrap
             }
         }
         background: Rectangle {

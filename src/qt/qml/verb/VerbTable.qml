@@ -18,7 +18,12 @@ TableContent {
         openVerbRow = openVerb === 0 ? -1 : screen.rowOfVerb(openVerb);
     }
 
-    onOpenVerbChanged: findOpenVerb()
+    onOpenVerbChanged: {
+        findOpenVerb();
+        // One may have gone on from verb to verb.
+        if (openVerbRow >= 0)
+            bringIntoSight(openVerbRow);
+    }
 
     table: screen.table
     name: screen.title
