@@ -49,4 +49,32 @@ export function button(label: string, kind: string, press: (event: MouseEvent) =
         ...(children.length > 0 ? children : [label]));
 }
 
+// One of several; the arrows go from one to the next.
+export function fillSegments(
+    place: HTMLElement, titles: string[], chosen: number, choose: (segment: number) => void): HTMLElement {
+    const hadFocus = place.contains(document.activeElement);
+    const made = titles.map((title, segment) => {
+        const each = button(title, 'segment', () => choose(segment));
+        each.setAttribute('aria-pressed', String(segment === chosen));
+        return each;
+    });
+    place.classList.add('segments');
+    place.replaceChildren(...made);
+    place.onkeydown = (event) => {
+        const step = { ArrowLeft: -1, ArrowRight: 1 }[event.key];
+        const next = made[made.findIndex((each) => each === document.activeElement) + (step ?? 0)];
+        if (step !== undefined && next) {
+            event.preventDefault();
+            next.focus();
+            next.click();
+        }
+    };
+    if (hadFocus) {
+        made[chosen]?.focus();
+    }
+    return place;
+}
+
+export const isShown = (element: Element): boolean => element.getClientRects().length > 0;
+
 export const reducedMotion = (): boolean => matchMedia('(prefers-reduced-motion: reduce)').matches;
