@@ -32,6 +32,7 @@ function addVoice(tellsOfWords) {
         cancel: () => undefined,
         speak: (said) => {
             globalThis.spokenTexts.push(said.text);
+            setTimeout(() => said.onstart({}), 5);
             if (tellsOfWords) {
                 setTimeout(() => said.onboundary({ charIndex: 0, charLength: 2 }), 10);
                 setTimeout(() => said.onend({}), 300);
