@@ -42,6 +42,8 @@ struct Guide : testing::Test {
         return verb;
     }
 
+    Guide() { world.bundle.texts["text.colon"] = ": "; }
+
     VerbGuide guide(const data::Verb& verb)
     {
         return {
@@ -149,7 +151,7 @@ TEST_F(Guide, TheSheetOfAFormNamesItAndLeadsToItsOtherPlaces)
     EXPECT_THAT(others, ElementsAre("il/elle/on parle, tense.ind.present",
                                     "que je parle, tense.sub.present",
                                     "qu'il/elle/on parle, tense.sub.present",
-                                    "parle, tense.other.imperative"));
+                                    "parle, tense.other.imperative, person.2.singular, hint.present"));
 
     const std::pair<RowPlace, const char*> commands[] = {
         {{3, 0, 1}, "person.1.plural, hint.present"},

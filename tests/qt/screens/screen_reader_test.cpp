@@ -231,6 +231,13 @@ TEST_F(ScreenReaderTest, PressesOneOfEveryKind)
 
     press(QAccessible::ListItem, "aller, go");
     settled("mood2");
+    for (const auto& action :
+         {QAccessibleActionInterface::pressAction(), QAccessibleActionInterface::toggleAction()}) {
+        const auto isOpen = [&] { return find("verbCard")->property("checked").toBool(); };
+        const bool before = isOpen();
+        press(QAccessible::CheckBox, "About this verb", action);
+        EXPECT_NE(isOpen(), before);
+    }
     press(QAccessible::CheckBox, "Favourite");
     press(QAccessible::RadioButton, "Subjunctive");
     expectHeard("pressed", {"CheckBox: Favourite (checked)", "RadioButton: Subjunctive (checked)",

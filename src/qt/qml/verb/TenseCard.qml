@@ -55,7 +55,7 @@ Rectangle {
     }
 
     objectName: "tense" + index
-    Accessible.role: Accessible.Grouping
+    Accessible.role: Accessible.ListItem
     Accessible.name: label.Accessible.name
     Accessible.focusable: true
     Accessible.focused: isCurrent
