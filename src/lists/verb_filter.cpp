@@ -49,7 +49,8 @@ platform::Result<void> VerbFilter::load(platform::Database& database)
         return tl::unexpected(
             platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
     }
-    loaded_ = true;
+    // A database that was made a moment ago gets them later.
+    loaded_ = !verbs_[0].empty();
     return {};
 }
 
