@@ -61,7 +61,6 @@ Item {
                 checkable: true
                 checked: root.open
                 Accessible.name: root.summary === "" ? text : qsTrId("card.about") + ": " + text
-                Accessible.onPressAction: root.flip()
                 Accessible.onToggleAction: root.flip()
                 onClicked: root.flip()
 
