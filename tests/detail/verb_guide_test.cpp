@@ -148,10 +148,11 @@ TEST_F(Guide, TheSheetOfAFormNamesItAndLeadsToItsOtherPlaces)
         EXPECT_EQ(formAt(*parler, place)->verb, "parle");
         others.push_back(row + ", " + tense);
     }
-    EXPECT_THAT(others, ElementsAre("il/elle/on parle, tense.ind.present",
-                                    "que je parle, tense.sub.present",
-                                    "qu'il/elle/on parle, tense.sub.present",
-                                    "parle, tense.other.imperative, person.2.singular, hint.present"));
+    EXPECT_THAT(others,
+                ElementsAre("il/elle/on parle, tense.ind.present",
+                            "que je parle, tense.sub.present",
+                            "qu'il/elle/on parle, tense.sub.present",
+                            "parle, tense.other.imperative, person.2.singular, hint.present"));
 
     const std::pair<RowPlace, const char*> commands[] = {
         {{3, 0, 1}, "person.1.plural, hint.present"},
