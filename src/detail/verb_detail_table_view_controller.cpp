@@ -281,7 +281,7 @@ void VerbDetailTableViewController::updateEmptyState(double toolbarHeight)
 
 int VerbDetailTableViewController::numberOfSections()
 {
-    // Only the table knows of previews; the collection always shows the toolbar.
+    // A preview hides the toolbar of the table only; the collection always shows it.
     updateEmptyState(isPeeking ? 0 : defaultToolbarHeight.value_or(0));
     return ConjugationGrid::numberOfSections(shown());
 }

@@ -317,7 +317,7 @@ detail::VerbSequence HomeViewController::shownFrom(const data::VerbPtr& verb) co
         }
     }
     shown.insert(shown.end(), results.verbs.begin(), results.verbs.end());
-    // A verb of elsewhere is no neighbour of what was once found.
+    // A verb that was not found by this search has no neighbours in its results.
     const auto at = std::find(shown.begin(), shown.end(), verb);
     const auto place = static_cast<std::size_t>(at - shown.begin());
     return {std::move(shown), place};
@@ -389,7 +389,7 @@ void HomeViewController::optionsClosed(bool fieldsChanged)
     dynamic_cast<lists::HistoryTableViewController&>(*listFor(Tab::History)).reloadHistory();
     data::post(services_.notifications, data::RefreshConjugations{});
     sendCrashReportValues(services_);
-    // One that was never shown reads its favourites when it is.
+    // A list that was never shown reads its favourites when it is first shown.
     if (const auto& favourites = children_.at(static_cast<std::size_t>(Tab::Favourites))) {
         dynamic_cast<lists::FavouritesTableViewController&>(*favourites).reloadFavourites();
     }

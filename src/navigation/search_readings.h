@@ -43,7 +43,7 @@ public:
     platform::DatabaseQueue* queue = nullptr;
 
     lookup::Lookup& lookup() { return lookup_; }
-    /// Takes the index, so that the first text need not wait for it.
+    /// Loads the index, so that the first text need not wait for it.
     void prepare();
     /// Reads the text, whose search has found `results`.
     void read(const std::string& text, const std::vector<data::VerbPtr>& results);

@@ -73,8 +73,8 @@ public:
     void close();
     bool isOpen() const { return connection_ != nullptr; }
 
-    /// The connection itself, for what adds tables of its own to it; null while
-    /// closed. Not to be closed but by `close`.
+    /// The connection itself, for code that adds tables of its own to it; null while
+    /// closed. Only `close` may close it.
     sqlite3* handle() const { return connection_; }
 
 private:

@@ -11,12 +11,12 @@
 
 namespace lumora::qt {
 
-/// How a line is set, as QML sees it.
+/// How the texts of a line are set, as QML sees it.
 struct LineSettingValue {
     Q_GADGET
     QML_VALUE_TYPE(lineSetting)
     /// The line's second text in the toolkit's small mark-up. The colours are
-    /// called "accent" and "light": which they are is the theme's matter.
+    /// called "accent" and "light"; the theme says which colours these are.
     Q_PROPERTY(QString markup MEMBER markup FINAL)
     Q_PROPERTY(QString hint MEMBER hint FINAL)
     Q_PROPERTY(QString caption MEMBER caption FINAL)

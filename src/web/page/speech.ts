@@ -59,7 +59,7 @@ export class Speech {
 
     private voice(order: Utterance): SpeechSynthesisVoice | undefined {
         const fitting = this.voices().filter((each) => each.lang.toLowerCase().startsWith(order.language));
-        // A browser names no voice's kind but in its name.
+        // Only its name tells whether a voice is a woman's or a man's.
         const wanted = order.man ? /\b(male|homme|thomas|henri|paul|nicolas|daniel)\b/i
             : /female|femme|amélie|amelie|marie|denise|audrey|aurélie|hortense|julie/i;
         return fitting.find((each) => wanted.test(each.name)) ?? fitting.find((each) => each.default) ?? fitting[0];

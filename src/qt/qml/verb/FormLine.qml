@@ -16,7 +16,7 @@ Rectangle {
     property bool opened: false
 
     signal played
-    // For what is to be told of the form.
+    // The sheet of the form is asked for.
     signal asked
 
     function takeKeyboard() {
