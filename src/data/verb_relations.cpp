@@ -41,8 +41,7 @@ platform::Result<std::vector<VerbPtr>> verbsOf(platform::Database& database,
     std::vector<VerbPtr> verbs;
     auto rows = database.executeQuery(std::string{kColumns} += condition, values);
     if (!readVerbs(rows, VerbReader::Spellings::Plain, verbs)) {
-        return tl::unexpected(
-            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+        return tl::unexpected(database.lastError());
     }
     return verbs;
 }

@@ -66,6 +66,7 @@ public:
     Result<void> executeUpdate(std::string_view sql, const std::vector<SqlValue>& values);
 
     /// Of the last failing call; SQLite's words and primary code.
+    Error lastError() const { return lastError_; }
     std::string lastErrorMessage() const;
     int lastErrorCode() const;
 
