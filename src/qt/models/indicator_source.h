@@ -30,10 +30,7 @@ public:
     bool isRunning() const { return running_; }
     /// Where the animation has come to; the view's own number while none runs.
     float shownValue() const;
-    void draw(platform::VectorContext& context, platform::Size bounds) const
-    {
-        view_->draw(context, bounds, shownValue());
-    }
+    const platform::AnimatedView& view() const { return *view_; }
     /// Whether nobody but this object keeps the view any more.
     bool isOrphaned() const { return view_.use_count() == 1; }
     bool isFor(const platform::AnimatedView* view) const { return view_.get() == view; }
