@@ -109,6 +109,7 @@ platform::LineSetting ConjugationGrid::setting(ShownMood shown, int position, st
         return data::tenseTitle(key, bundle_, settings_);
     });
     auto setting = std::move(hints[row]);
+    setting.joined = text::isElided(rows[row]->pronoun);
     if (shown.divisions != nullptr) {
         auto [runs, noteKey] = markedForm(*rows[row], *shown.divisions);
         setting.runs = std::move(runs);

@@ -29,6 +29,8 @@ struct LineSetting {
     std::string caption;
     /// What a screen reader says after the line.
     std::string accessibilityHint;
+    /// The second text follows the first without a blank.
+    bool joined = false;
 };
 
 } // namespace lumora::platform

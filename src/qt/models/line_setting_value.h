@@ -21,12 +21,15 @@ struct LineSettingValue {
     Q_PROPERTY(QString hint MEMBER hint FINAL)
     Q_PROPERTY(QString caption MEMBER caption FINAL)
     Q_PROPERTY(QString description MEMBER description FINAL)
+    /// The second text follows the first without a blank.
+    Q_PROPERTY(bool joined MEMBER joined FINAL)
 
 public:
     QString markup;
     QString hint;
     QString caption;
     QString description;
+    bool joined = false;
 
     bool operator==(const LineSettingValue&) const = default;
 };

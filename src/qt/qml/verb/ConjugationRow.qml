@@ -88,7 +88,7 @@ Rectangle {
     FormText {
         id: form
         visible: root.isForm
-        x: leading.x + (root.stacked || leading.width === 0 ? 0 : leading.width + (root.text.endsWith("'") ? 0 : root.fit?.blank ?? 0))
+        x: leading.x + (root.stacked || leading.width === 0 ? 0 : leading.width + (root.setting.joined ? 0 : root.fit?.blank ?? 0))
         y: (root.height - height + leading.captionHeight + (root.stacked ? leading.height : 0)) / 2
         width: play.x - x
         markup: root.setting.markup
