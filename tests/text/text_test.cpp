@@ -64,6 +64,18 @@ TEST(Text, OrdersByTheScalarsOfTheComposedForms)
     EXPECT_TRUE(scalarLess("f", "e\u0301")) << "composed, é comes after f";
 }
 
+TEST(Text, FoldsCaseAccentsAndLigatures)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"Œuvrer", "oeuvrer"}, {"Ǽ", "ae"},          {"naître, ÉTÉ", "naitre, ete"},
+        {"straße", "strasse"}, {"e\u0301te", "ete"}, {"ça (s')", "ca (s')"},
+    };
+    for (const auto& [text, plain] : cases) {
+        EXPECT_EQ(folded(text), plain);
+    }
+    EXPECT_EQ(withoutLigatures("désœuvré, œ"), "désoeuvré, oe");
+}
+
 TEST(Text, AnElidedPronounStandsRightBeforeItsForm)
 {
     const std::pair<const char*, const char*> cases[] = {
