@@ -365,7 +365,12 @@ void VerbDetailTableViewController::play(const std::vector<PlayableRow>& rows, f
 
 VerbPage VerbDetailTableViewController::page()
 {
-    return {*this, services_};
+    return {*this,
+            {services_.bundle, services_.settings, services_.device},
+            services_.viewMemory,
+            services_.storyboard,
+            services_.crashReporter,
+            services_.console};
 }
 
 void VerbDetailTableViewController::setSpeechListener(std::function<void()> listener)

@@ -7,9 +7,15 @@
 #include "detail/conjugation_grid.h"
 #include "detail/verb_guide.h"
 #include "platform/machine/speech_synthesizer.h"
-#include "platform/screens/services.h"
 
 #include <cstdint>
+#include <iosfwd>
+
+namespace lumora::platform {
+class CrashReporter;
+class SettingsStore;
+class Storyboard;
+} // namespace lumora::platform
 
 namespace lumora::detail {
 
@@ -18,11 +24,18 @@ class VerbDetailTableViewController;
 /// What the page of a verb offers around its tables: the verb's card, the sheets
 /// of its forms, saying a whole tense, the way to other verbs.
 ///
-/// Made for one call and not kept; the screen must outlive it.
+/// Made for one call and not kept; what is passed must outlive it.
 class VerbPage {
 public:
-    VerbPage(VerbDetailTableViewController& screen, const platform::Services& services)
-        : screen_{screen}, services_{services}
+    VerbPage(VerbDetailTableViewController& screen, const Wording& wording,
+             platform::SettingsStore& viewMemory, platform::Storyboard& storyboard,
+             platform::CrashReporter& crashReporter, std::ostream& console)
+        : screen_{screen},
+          wording_{wording},
+          viewMemory_{viewMemory},
+          storyboard_{storyboard},
+          crashReporter_{crashReporter},
+          console_{console}
     {}
 
     /// The voice that speaks, from the next row on and on every verb's screen.
@@ -56,7 +69,11 @@ public:
 
 private:
     VerbDetailTableViewController& screen_;
-    const platform::Services& services_;
+    Wording wording_;
+    platform::SettingsStore& viewMemory_;
+    platform::Storyboard& storyboard_;
+    platform::CrashReporter& crashReporter_;
+    std::ostream& console_;
 };
 
 } // namespace lumora::detail

@@ -48,7 +48,8 @@ constexpr std::string_view kScreenOfTab[] = {platform::kVerbListScreen, platform
 
 HomeViewController::HomeViewController(const platform::Services& services)
     : services_{services},
-      readings_{std::make_shared<SearchReadings>(services)},
+      readings_{std::make_shared<SearchReadings>(services.bundle, services.settings,
+                                                 services.device, services.crashReporter)},
       children_(std::size(kScreenOfTab))
 {}
 
@@ -142,7 +143,7 @@ void HomeViewController::findDetailViewController()
 
 void HomeViewController::viewWillAppear()
 {
-    sendCrashReportValues(services_);
+    sendCrashReportValues(services_.settings, services_.device, services_.crashReporter);
 }
 
 void HomeViewController::setSplitViewController(platform::SplitViewController* splitView)
@@ -388,7 +389,7 @@ void HomeViewController::optionsClosed(bool fieldsChanged)
     verbList().reloadVerbs();
     dynamic_cast<lists::HistoryTableViewController&>(*listFor(Tab::History)).reloadHistory();
     data::post(services_.notifications, data::RefreshConjugations{});
-    sendCrashReportValues(services_);
+    sendCrashReportValues(services_.settings, services_.device, services_.crashReporter);
     // A list that was never shown reads its favourites when it is first shown.
     if (const auto& favourites = children_.at(static_cast<std::size_t>(Tab::Favourites))) {
         dynamic_cast<lists::FavouritesTableViewController&>(*favourites).reloadFavourites();
