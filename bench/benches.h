@@ -24,6 +24,8 @@ void measureList(Report& report, const std::filesystem::path& database);
 /// statement by SQLite's own plan. A stride leaves texts of the list out.
 struct SearchFigures {
     Figure withConjugations;
+    /// Texts with a wildcard that was typed.
+    Figure withWildcards;
     Figure fewVerbs;
     Figure allVerbs;
 };

@@ -67,8 +67,8 @@ void measureExport(Report& report, const std::filesystem::path& database)
             figure.referenceSamples.add(reference);
         }
     }
-    figure.asked = "95 % in 20 ms";
-    figure.holds = figure.own.p95() <= 20;
+    // Measured: 8.3 to 8.9, 95 % 7.3 to 8.9; the engine starts and compiles each time.
+    holdAgainstReference(figure, {12, 12});
     report.add(figure);
 }
 

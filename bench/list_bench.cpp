@@ -71,7 +71,8 @@ Figure listFigure(const std::filesystem::path& database, int rounds)
 void measureList(Report& report, const std::filesystem::path& database)
 {
     auto figure = listFigure(database, 30);
-    holdAgainstReference(figure, 1.5);
+    // Measured: 0.87, 95 % 0.97.
+    holdAgainstReference(figure, {1.5, 2});
     report.add(figure);
 }
 

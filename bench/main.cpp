@@ -27,7 +27,8 @@ struct Section {
 void printUsage(std::ostream& output, const std::vector<Section>& sections)
 {
     output << "usage: lumora-bench [SECTION...]\n\n"
-              "Measures the program against references of the same run. Sections:";
+              "Measures the program against references of the same run; fails when a figure\n"
+              "misses what is asked of it. Sections:";
     for (const auto& section : sections) {
         output << ' ' << section.name;
     }
@@ -67,7 +68,7 @@ int run(const std::string& program, const std::vector<std::string>& asked)
             section.measure(report);
         }
     }
-    return 0;
+    return report.holds() ? 0 : 1;
 }
 
 } // namespace

@@ -17,12 +17,19 @@ std::string number(double value)
     return fmt::format("{:.{}f}", value, value >= 100 ? 0 : value >= 10 ? 1 : value >= 1 ? 2 : 3);
 }
 
+/// "1/35" or "1.5 times".
+std::string part(double of)
+{
+    return of < 1 ? fmt::format("1/{:.3g}", 1 / of) : fmt::format("{:.3g} times", of);
+}
+
 } // namespace
 
-void holdAgainstReference(Figure& figure, double times)
+void holdAgainstReference(Figure& figure, const Limits& limits)
 {
-    figure.asked = fmt::format("{} times it", times);
-    figure.holds = figure.own.median() <= times * figure.referenceSamples.median();
+    figure.asked = fmt::format("{}, 95 % {} of it", part(limits.median), part(limits.p95));
+    figure.holds = figure.own.median() <= limits.median * figure.referenceSamples.median() &&
+                   figure.own.p95() <= limits.p95 * figure.referenceSamples.p95();
 }
 
 void Report::section(const std::string& title)
@@ -47,6 +54,7 @@ void Report::add(const Figure& figure)
     line += figure.asked;
     if (figure.holds) {
         line += *figure.holds ? ": holds" : ": MISSED";
+        holds_ = holds_ && *figure.holds;
     }
     output_ << line << std::endl;
 }

@@ -1206,6 +1206,10 @@ Du musst heute Abend kommen.</translation>
         <source></source>
         <translation>Dieser Browser bewahrt nichts auf: Favoriten, Verlauf und Einstellungen gehen mit dem Schließen des Tabs verloren. Sichern Sie sie in einer Datei.</translation>
     </message>
+    <message id="web.print">
+        <source></source>
+        <translation>Drucken oder als PDF speichern</translation>
+    </message>
     <message id="web.share">
         <source></source>
         <translation>Teilen</translation>

@@ -1206,6 +1206,10 @@ You have to come tonight.</translation>
         <source></source>
         <translation>This browser keeps nothing: favourites, history and settings are lost when the tab is closed. Save them in a backup file.</translation>
     </message>
+    <message id="web.print">
+        <source></source>
+        <translation>Print, or save as PDF</translation>
+    </message>
     <message id="web.share">
         <source></source>
         <translation>Share</translation>

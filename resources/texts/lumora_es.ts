@@ -1206,6 +1206,10 @@ Hace falta que vengas esta noche.</translation>
         <source></source>
         <translation>Este navegador no guarda nada: los favoritos, el historial y los ajustes se pierden al cerrar la pestaña. Guárdelos en un archivo de copia de seguridad.</translation>
     </message>
+    <message id="web.print">
+        <source></source>
+        <translation>Imprimir o guardar como PDF</translation>
+    </message>
     <message id="web.share">
         <source></source>
         <translation>Compartir</translation>

@@ -1189,6 +1189,10 @@ Verbes dans l’historique : %d</translation>
         <source></source>
         <translation>Ce navigateur ne conserve rien : les favoris, l’historique et les réglages sont perdus à la fermeture de l’onglet. Enregistrez-les dans un fichier de sauvegarde.</translation>
     </message>
+    <message id="web.print">
+        <source></source>
+        <translation>Imprimer ou enregistrer en PDF</translation>
+    </message>
     <message id="web.share">
         <source></source>
         <translation>Partager</translation>

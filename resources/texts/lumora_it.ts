@@ -1206,6 +1206,10 @@ Bisogna che tu venga stasera.</translation>
         <source></source>
         <translation>Questo browser non conserva nulla: preferiti, cronologia e impostazioni vanno persi alla chiusura della scheda. Salvali in un file di backup.</translation>
     </message>
+    <message id="web.print">
+        <source></source>
+        <translation>Stampa o salva come PDF</translation>
+    </message>
     <message id="web.share">
         <source></source>
         <translation>Condividi</translation>

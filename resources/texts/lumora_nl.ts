@@ -1206,6 +1206,10 @@ Je moet vanavond komen.</translation>
         <source></source>
         <translation>Deze browser bewaart niets: favorieten, geschiedenis en instellingen gaan verloren als het tabblad wordt gesloten. Sla ze op in een back-upbestand.</translation>
     </message>
+    <message id="web.print">
+        <source></source>
+        <translation>Afdrukken of opslaan als pdf</translation>
+    </message>
     <message id="web.share">
         <source></source>
         <translation>Delen</translation>

@@ -1206,6 +1206,10 @@ Lamentava que ela tivesse partido sem mim.</translation>
         <source></source>
         <translation>Este navegador não guarda nada: os favoritos, o histórico e as definições perdem-se ao fechar o separador. Guarde-os num ficheiro de cópia de segurança.</translation>
     </message>
+    <message id="web.print">
+        <source></source>
+        <translation>Imprimir ou guardar como PDF</translation>
+    </message>
     <message id="web.share">
         <source></source>
         <translation>Partilhar</translation>

@@ -48,7 +48,8 @@ platform::Result<void> VerbFilter::load(platform::Database& database)
     if (rows->failed()) {
         return tl::unexpected(database.lastError());
     }
-    loaded_ = true;
+    // A database that was made a moment ago gets them later.
+    loaded_ = !verbs_[0].empty();
     return {};
 }
 

@@ -9,6 +9,7 @@
 #include "detail/verb_page.h"
 #include "lists/interstitial_table_view_controller.h"
 #include "lists/search_results_table_view_controller.h"
+#include "lists/verb_list_table_view_controller.h"
 #include "navigation/home_view_controller.h"
 #include "navigation/more_apps_table_view_controller.h"
 #include "navigation/options_table_view_controller.h"
@@ -24,6 +25,7 @@ namespace {
 using detail::VerbDetailTableViewController;
 using lists::InterstitialTableViewController;
 using lists::SearchResultsTableViewController;
+using lists::VerbChip;
 using navigation::HomeViewController;
 using navigation::OptionsTableViewController;
 
@@ -86,6 +88,12 @@ Json homeState(HomeViewController& home, std::int64_t openVerb)
                {"results", nullptr}};
     if (auto* list = dynamic_cast<InterstitialTableViewController*>(home.currentChild().get())) {
         state["list"] = listState(*list, openVerb);
+    }
+    if (home.tabBar.selectedItem == navigation::Tab::List && search.text.empty()) {
+        const auto& filter = home.verbList().filter();
+        state["chips"] = {
+            {{"title", "list.common"}, {"on", filter.isChosen(VerbChip::Common)}},
+            {{"title", "list.irregular"}, {"on", filter.isChosen(VerbChip::Irregular)}}};
     }
     if (home.searchResultsController() && !search.text.empty()) {
         state["results"] = listState(*home.searchResultsController(), openVerb);
@@ -160,7 +168,7 @@ std::shared_ptr<platform::ViewController> ScreenStates::screen(int number) const
     return nullptr;
 }
 
-Json ScreenStates::verb(VerbDetailTableViewController& screen, Entry& entry)
+Json ScreenStates::verb(VerbDetailTableViewController& screen, Entry& entry, bool beside)
 {
     auto& table = dynamic_cast<WebTableView&>(*screen.tableView);
     auto& collection = dynamic_cast<WebCollectionView&>(*screen.collectionView);
@@ -194,19 +202,19 @@ Json ScreenStates::verb(VerbDetailTableViewController& screen, Entry& entry)
                   {"marks", screen.marksForms()},
                   {"hasForms", screen.page().hasForms()},
                   {"spoken", screen.spokenText()},
-                  {"cardOpen", screen.page().isCardOpen(false)}});
+                  {"cardOpen", screen.page().isCardOpen(beside)}});
     return state;
 }
 
 Json ScreenStates::describe(const std::shared_ptr<platform::ViewController>& screen,
-                            std::int64_t openVerb)
+                            std::int64_t openVerb, bool beside)
 {
     auto& entry = entryOf(screen);
     Json state;
     if (auto* home = dynamic_cast<HomeViewController*>(screen.get())) {
         state = homeState(*home, openVerb);
     } else if (auto* detail = dynamic_cast<VerbDetailTableViewController*>(screen.get())) {
-        state = verb(*detail, entry);
+        state = verb(*detail, entry, beside);
     } else if (auto* options = dynamic_cast<OptionsTableViewController*>(screen.get())) {
         state = optionsState(*options);
     } else if (auto* list = dynamic_cast<platform::TableViewController*>(screen.get())) {

@@ -24,7 +24,9 @@ namespace lumora::web {
 class ScreenStates {
 public:
     /// `openVerb`: the id of the verb that stands beside the lists; 0 for none.
-    Json describe(const std::shared_ptr<platform::ViewController>& screen, std::int64_t openVerb);
+    /// `beside`: whether the screen stands there.
+    Json describe(const std::shared_ptr<platform::ViewController>& screen, std::int64_t openVerb,
+                  bool beside);
     /// Null where there is none of that number any more.
     std::shared_ptr<platform::ViewController> screen(int number) const;
 
@@ -37,7 +39,7 @@ private:
     };
 
     Entry& entryOf(const std::shared_ptr<platform::ViewController>& screen);
-    Json verb(detail::VerbDetailTableViewController& screen, Entry& entry);
+    Json verb(detail::VerbDetailTableViewController& screen, Entry& entry, bool beside);
 
     int last_ = 0;
     std::map<const platform::ViewController*, Entry> entries_;

@@ -5,6 +5,8 @@
 
 #include "app/database_preparation.h"
 #include "app/rescue_file.h"
+#include "lists/verb_list_table_view_controller.h"
+#include "navigation/home_view_controller.h"
 #include "platform/files/atomic_file.h"
 #include "verbdb/database_writer.h"
 
@@ -109,15 +111,19 @@ bool WebApplication::prepareMore()
         if (!helpers_->isDone()) {
             return true;
         }
-        fireTimers();
+        helpersAreDone();
     }
     // A later start reads the tables before the first verb is opened.
     static_cast<void>(content_.get());
     return false;
 }
 
-void WebApplication::fireTimers()
+void WebApplication::helpersAreDone()
 {
+    // What narrows the list is known only now.
+    if (auto* lists = home(); lists != nullptr && lists->verbList().filter().isAnyChosen()) {
+        lists->verbList().reloadVerbs();
+    }
     for (const int timer : std::exchange(due_, {})) {
         clock_.fire(timer);
     }

@@ -72,7 +72,7 @@ private:
     void triggerPreview(int action);
     Json previewState() const;
     Json state() const;
-    void fireTimers();
+    void helpersAreDone();
     navigation::HomeViewController* home() const;
 
     WebFolders folders_;

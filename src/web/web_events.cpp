@@ -3,6 +3,7 @@
 
 #include "detail/verb_detail_table_view_controller.h"
 #include "detail/verb_page.h"
+#include "lists/verb_list_table_view_controller.h"
 #include "navigation/home_view_controller.h"
 #include "navigation/options_table_view_controller.h"
 #include "platform/screens/navigation_controller.h"
@@ -23,9 +24,9 @@ using detail::VerbDetailTableViewController;
 /// What cannot do without the helper tables, or would be slow.
 bool needsHelpers(std::string_view kind)
 {
-    static const std::set<std::string_view> kKinds{"search",    "openReading", "openFirst",
-                                                   "tap",       "hold",        "link",
-                                                   "neighbour", "related",     "openPreview"};
+    static const std::set<std::string_view> kKinds{
+        "search", "openReading", "openFirst", "tap",         "hold",
+        "link",   "neighbour",   "related",   "openPreview", "chip"};
     return kKinds.contains(kind);
 }
 
@@ -35,7 +36,7 @@ Json WebApplication::dispatch(std::string_view kind, const Json& event)
 {
     if (helpers_ && !helpers_->isDone() && needsHelpers(kind)) {
         helpers_->finish();
-        fireTimers();
+        helpersAreDone();
     }
     Json reply;
     if (handleTable(kind, event, reply) || handleHome(kind, event) ||
@@ -104,8 +105,12 @@ bool WebApplication::handleHome(std::string_view kind, const Json& event) const
         screen->searchBarSearchButtonClicked();
     } else if (kind == "formsOption") {
         screen->showFormsOption();
-    } else if (kind == "focusSearch") {
-        screen->focusSearchBar();
+    } else if (kind == "chip") {
+        screen->verbList().choose(event.value("chip", 0) == 0 ? lists::VerbChip::Common
+                                                              : lists::VerbChip::Irregular,
+                                  event.value("on", false));
+    } else if (kind == "home") {
+        panes_->backToHome();
     } else if (kind == "showOptions") {
         screen->showOptions();
     } else {

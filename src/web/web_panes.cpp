@@ -5,28 +5,15 @@
 
 #include "detail/verb_detail_table_view_controller.h"
 #include "navigation/home_view_controller.h"
-#include "platform/screens/navigation_controller.h"
 #include "web/web_presenter.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace lumora::web {
 
-using platform::NavigationController;
 using platform::ViewController;
 
 namespace {
-
-bool popOne(NavigationController* stack)
-{
-    if (stack == nullptr) {
-        return false;
-    }
-    // The detail of a single pane is a stack inside the stack.
-    return popOne(dynamic_cast<NavigationController*>(stack->topViewController())) ||
-           stack->popViewController() != nullptr;
-}
 
 /// The screens shown inside a screen.
 std::vector<std::shared_ptr<ViewController>> childrenOf(const ViewController& screen)
@@ -48,75 +35,21 @@ std::vector<std::shared_ptr<ViewController>> childrenOf(const ViewController& sc
 
 WebPanes::WebPanes(std::shared_ptr<platform::SplitViewController> split,
                    const WebPresenter& presenter)
-    : split_{std::move(split)}, presenter_{presenter}
-{
-    split_->setPaneListener([this] { synchronize(); });
-}
-
-WebPanes::~WebPanes()
-{
-    split_->setPaneListener({});
-    for (const auto& weak : listened_) {
-        if (const auto stack = std::dynamic_pointer_cast<NavigationController>(weak.lock())) {
-            stack->setStackListener({});
-        }
-    }
-    for (auto* pane : split_->viewControllers()) {
-        if (auto* stack = dynamic_cast<NavigationController*>(pane)) {
-            stack->setStackListener({});
-        }
-    }
-}
+    : presenter_{presenter}, stacks_{std::move(split), [this] { synchronize(); }}
+{}
 
 void WebPanes::setWidth(double points)
 {
     const bool collapse = points < platform::kTwoPaneWidth;
-    if (shown_ && collapse == split_->isCollapsed()) {
+    if (shown_ && collapse == stacks_.split().isCollapsed()) {
         return;
     }
     // One picture of the panes when all is in its place, none in between.
     changing_ = true;
-    split_->setCollapsed(collapse);
+    stacks_.split().setCollapsed(collapse);
     changing_ = false;
     shown_ = true;
     synchronize();
-}
-
-bool WebPanes::back() const
-{
-    auto panes = split_->viewControllers();
-    std::reverse(panes.begin(), panes.end());
-    return std::any_of(panes.begin(), panes.end(), [](auto* pane) {
-        return popOne(dynamic_cast<NavigationController*>(pane));
-    });
-}
-
-WebPanes::Screens WebPanes::screensOf(const std::shared_ptr<ViewController>& container)
-{
-    const auto stack = std::dynamic_pointer_cast<NavigationController>(container);
-    if (stack == nullptr) {
-        return {container};
-    }
-    listened_.push_back(stack);
-    return flatten(*stack);
-}
-
-WebPanes::Screens WebPanes::flatten(NavigationController& stack)
-{
-    stack.setStackListener([this] { synchronize(); });
-    Screens screens;
-    for (const auto& controller : stack.viewControllers()) {
-        const auto within = screensOf(controller);
-        screens.insert(screens.end(), within.begin(), within.end());
-    }
-    return screens;
-}
-
-WebPanes::Screens WebPanes::paneAt(std::size_t pane)
-{
-    const auto panes = split_->viewControllers();
-    auto* stack = pane < panes.size() ? dynamic_cast<NavigationController*>(panes[pane]) : nullptr;
-    return stack == nullptr ? Screens{} : flatten(*stack);
 }
 
 void WebPanes::synchronize()
@@ -124,19 +57,19 @@ void WebPanes::synchronize()
     if (changing_ || !shown_) {
         return;
     }
-    listened_.clear();
+    stacks_.begin();
     Screens visible;
-    const auto lists = paneAt(0);
-    const auto details = paneAt(1);
-    if (!lists.empty() && (details.empty() || !split_->isPrimaryHidden())) {
+    const auto lists = stacks_.pane(0);
+    const auto details = stacks_.pane(1);
+    if (!lists.empty() && (details.empty() || !stacks_.split().isPrimaryHidden())) {
         visible.push_back(lists.back());
     }
     if (!details.empty()) {
         visible.push_back(details.back());
     }
     for (const auto& modal : presenter_.modals()) {
-        const auto screens = screensOf(modal.controller);
-        if (split_->isCollapsed() && !modal.sideMenu) {
+        const auto screens = stacks_.screensOf(modal.controller);
+        if (stacks_.split().isCollapsed() && !modal.sideMenu) {
             visible.clear();
         }
         visible.push_back(screens.back());
@@ -155,21 +88,21 @@ void WebPanes::synchronize()
     visibility_.setVisible(std::move(withChildren));
 }
 
-Json WebPanes::describe(const Screens& screens, std::int64_t openVerb)
+Json WebPanes::describe(const Screens& screens, std::int64_t openVerb, bool beside)
 {
     Json states = Json::array();
     for (const auto& screen : screens) {
         // Those below may never have been on show.
         screen->loadViewIfNeeded();
-        states.push_back(states_.describe(screen, openVerb));
+        states.push_back(states_.describe(screen, openVerb, beside));
     }
     return states;
 }
 
 Json WebPanes::describe()
 {
-    const auto lists = paneAt(0);
-    const auto details = paneAt(1);
+    const auto lists = stacks_.pane(0);
+    const auto details = stacks_.pane(1);
     const auto* beside =
         details.empty()
             ? nullptr
@@ -177,13 +110,13 @@ Json WebPanes::describe()
     const auto openVerb = beside == nullptr || !beside->selectedVerb ? 0 : beside->selectedVerb->id;
     Json modals = Json::array();
     for (const auto& modal : presenter_.modals()) {
-        modals.push_back(
-            {{"menu", modal.sideMenu}, {"screens", describe(screensOf(modal.controller), 0)}});
+        modals.push_back({{"menu", modal.sideMenu},
+                          {"screens", describe(stacks_.screensOf(modal.controller), 0, false)}});
     }
-    return {{"primary", describe(lists, openVerb)},
-            {"secondary", describe(details, 0)},
-            {"collapsed", split_->isCollapsed()},
-            {"primaryHidden", split_->isPrimaryHidden()},
+    return {{"primary", describe(lists, openVerb, false)},
+            {"secondary", describe(details, 0, true)},
+            {"collapsed", stacks_.split().isCollapsed()},
+            {"primaryHidden", stacks_.split().isPrimaryHidden()},
             {"modals", std::move(modals)}};
 }
 

@@ -3,21 +3,12 @@
 
 #pragma once
 
-#include "platform/screens/split_view_controller.h"
+#include "platform/screens/pane_stacks.h"
 #include "platform/screens/visibility_tracker.h"
 #include "web/outbox.h"
 #include "web/screen_states.h"
 
 #include <memory>
-#include <vector>
-
-namespace lumora::detail {
-class VerbDetailTableViewController;
-}
-
-namespace lumora::platform {
-class NavigationController;
-}
 
 namespace lumora::web {
 
@@ -29,14 +20,13 @@ class WebPanes {
 public:
     /// The presenter must outlive this.
     WebPanes(std::shared_ptr<platform::SplitViewController> split, const WebPresenter& presenter);
-    ~WebPanes();
-    WebPanes(const WebPanes&) = delete;
-    WebPanes& operator=(const WebPanes&) = delete;
 
     /// The first call shows the screens.
     void setWidth(double points);
     /// Takes the top screen away; false when there is none to go back from.
-    bool back() const;
+    bool back() const { return stacks_.back(); }
+    /// Brings the home screen into view, whatever hides it.
+    void backToHome() const { stacks_.backToHome(); }
     /// The screens changed, or what they show inside them.
     void synchronize();
     /// All that is on show.
@@ -48,20 +38,17 @@ public:
     }
 
 private:
-    using Screens = std::vector<std::shared_ptr<platform::ViewController>>;
+    using Screens = platform::PaneStacks::Screens;
 
-    Screens screensOf(const std::shared_ptr<platform::ViewController>& container);
-    Screens flatten(platform::NavigationController& stack);
-    Screens paneAt(std::size_t pane);
-    Json describe(const Screens& screens, std::int64_t openVerb);
+    Json describe(const Screens& screens, std::int64_t openVerb, bool beside);
 
-    std::shared_ptr<platform::SplitViewController> split_;
     const WebPresenter& presenter_;
     ScreenStates states_;
     platform::VisibilityTracker visibility_;
-    std::vector<std::weak_ptr<platform::ViewController>> listened_;
     bool shown_ = false;
     bool changing_ = false;
+    /// The first to go: what goes after it is not to be drawn.
+    platform::PaneStacks stacks_;
 };
 
 } // namespace lumora::web

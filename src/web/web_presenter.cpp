@@ -44,22 +44,10 @@ void findRow(Preview& preview, List& list)
 
 } // namespace
 
-std::shared_ptr<ViewController> WebPresenter::prepared(ViewController& source,
-                                                       std::string_view identifier,
-                                                       std::optional<platform::IndexPath> sender)
-{
-    if (!source.shouldPerformSegue(identifier)) {
-        return nullptr;
-    }
-    auto destination = storyboard_.instantiateDestination(identifier);
-    source.prepareForSegue({std::string{identifier}, *destination, sender});
-    return destination;
-}
-
 void WebPresenter::performSegue(ViewController& source, std::string_view identifier,
                                 std::optional<platform::IndexPath> sender)
 {
-    auto destination = prepared(source, identifier, sender);
+    auto destination = platform::prepareSegue(storyboard_, source, identifier, sender);
     if (!destination) {
         return;
     }
@@ -76,7 +64,7 @@ void WebPresenter::previewSegue(ViewController& source, std::string_view identif
                                 std::optional<platform::IndexPath> sender)
 {
     Preview preview;
-    preview.destination = prepared(source, identifier, sender);
+    preview.destination = platform::prepareSegue(storyboard_, source, identifier, sender);
     const auto* stack = dynamic_cast<NavigationController*>(preview.destination.get());
     preview.verb = stack == nullptr
                        ? nullptr

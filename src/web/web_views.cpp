@@ -148,9 +148,16 @@ void WebTableView::load()
             if (headers_.back()) {
                 rows_.push_back({Kind::Header, {section, 0}});
             }
+            const auto begin = rows_.size();
             const int count = source_.numberOfRowsInSection(section);
             for (int row = 0; row < count; ++row) {
-                rows_.push_back({Kind::Cell, {section, row}});
+                if (source_.showsRow({section, row})) {
+                    rows_.push_back({Kind::Cell, {section, row}});
+                }
+            }
+            // A section of which nothing is left has no header either.
+            if (headers_.back() && count > 0 && rows_.size() == begin) {
+                rows_.pop_back();
             }
             if (footers_.back()) {
                 rows_.push_back({Kind::Footer, {section, 0}});

@@ -8,9 +8,11 @@ import { existsSync, readdirSync, readFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { after, afterEach, before, describe, test } from 'node:test';
 import { brotliCompressSync, gzipSync } from 'node:zlib';
-import { axeSource, openVerb, phone, press, puppeteer, site, tablet, texts, type, until, World } from './site.mjs';
+import {
+    axeSource, favourites, noChromium, openVerb, phone, press, puppeteer, site, star, tablet, texts, toggleFavourite, type, until,
+    World,
+} from './site.mjs';
 
-const noChromium = existsSync('/usr/bin/chromium') ? false : 'there is no Chromium here';
 const noFirefox = existsSync('/usr/bin/firefox-esr') ? false : 'there is no Firefox here';
 
 test('the site is small', () => {
@@ -24,30 +26,6 @@ test('the site is small', () => {
     console.log(`brotli ${brotli}, gzip ${gzip} bytes`);
     assert.ok(brotli <= 1.3e6 && gzip <= 1.6e6);
 });
-
-const isStarred = () => document.querySelector('[data-button="favourite"] svg')?.outerHTML;
-
-async function toggleFavourite(tab) {
-    const old = await tab.evaluate(isStarred);
-    await press(tab, '[data-button="favourite"]', -1);
-    await until(tab, (before) => document.querySelector('[data-button="favourite"] svg')?.outerHTML !== before, old);
-}
-
-async function favourites(tab) {
-    await press(tab, '.tab', 1);
-    await until(tab, () => document.querySelectorAll('.tab')[1].hasAttribute('data-chosen'));
-    await new Promise((done) => setTimeout(done, 200));
-    return texts(tab, '.lists .verb-row .first');
-}
-
-async function star(tab, verb) {
-    if (!(await favourites(tab)).includes(verb)) {
-        await openVerb(tab, verb);
-        await toggleFavourite(tab);
-        await tab.goBack();
-        await until(tab, () => document.title === 'Lumora');
-    }
-}
 
 async function findings(tab) {
     await tab.evaluate(axeSource);
@@ -65,14 +43,7 @@ describe('in Chromium', { skip: noChromium }, () => {
         await world.launch();
     });
     after(() => world.end());
-    // A tab that a failure left open would be asked first by all others.
-    afterEach(async () => {
-        for (const tab of await world.browser.pages()) {
-            if (tab.url() !== 'about:blank') {
-                await tab.close();
-            }
-        }
-    });
+    afterEach(() => world.closeTabs());
 
     test('shows the list, searches, opens a verb and goes back', async () => {
         const tab = await world.openList();
@@ -217,7 +188,10 @@ describe('in Chromium', { skip: noChromium }, () => {
         const offline = await world.openList();
         assert.ok((await favourites(offline)).includes('manger'));
         await offline.close();
-        await world.serveUpdate();
+        await world.serveChanged({
+            'bundle.json': (text) => JSON.stringify({ ...JSON.parse(text), CFBundleShortVersionString: '9.9.9-updated' }),
+            'service_worker.js': (text) => text.replace(/[0-9a-f]{8}(?=["`])/, '99999999'),
+        });
         const old = await world.openList();
         await old.evaluate(async () => (await navigator.serviceWorker.ready).update());
         await until(old, async () => (await navigator.serviceWorker.ready).waiting !== null);

@@ -3,7 +3,7 @@
 
 // The site in a browser, for the tests: served, opened, touched.
 
-import { cpSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { cpSync, existsSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { createRequire } from 'node:module';
 import { tmpdir } from 'node:os';
 import { dirname, join } from 'node:path';
@@ -15,6 +15,7 @@ export const page = join(root, 'src/web/page');
 export const site = join(root, 'build/wasm/site');
 const require = createRequire(join(page, 'package.json'));
 export const puppeteer = require('puppeteer-core');
+export const noChromium = existsSync('/usr/bin/chromium') ? false : 'there is no Chromium here';
 export const axeSource = readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
 // The machine may have much else to do.
 export const patience = 60000;
@@ -22,6 +23,8 @@ export const phone = { width: 390, height: 844 };
 export const tablet = { width: 1024, height: 768 };
 
 export class World {
+    host = 'localhost';
+
     static async make() {
         const world = new World();
         world.profile = mkdtempSync(join(tmpdir(), 'lumora-web-'));
@@ -31,7 +34,7 @@ export class World {
     }
 
     get url() {
-        return `http://localhost:${this.port}/`;
+        return `http://${this.host}:${this.port}/`;
     }
 
     async stopServing() {
@@ -40,17 +43,16 @@ export class World {
         this.server = undefined;
     }
 
-    // Another version of the site at the same address.
-    async serveUpdate() {
+    // The site with changed files, at the same address.
+    async serveChanged(changes) {
+        const { port } = this;
         await this.stopServing();
-        const folder = join(this.profile, 'update');
+        const folder = mkdtempSync(join(this.profile, 'site-'));
         cpSync(site, folder, { recursive: true });
-        const bundle = JSON.parse(readFileSync(join(folder, 'bundle.json'), 'utf8'));
-        bundle.CFBundleShortVersionString = '9.9.9-updated';
-        writeFileSync(join(folder, 'bundle.json'), JSON.stringify(bundle));
-        const worker = join(folder, 'service_worker.js');
-        writeFileSync(worker, readFileSync(worker, 'utf8').replace(/[0-9a-f]{8}(?=["`])/, '99999999'));
-        this.server = await serve(folder, this.port);
+        for (const [name, change] of Object.entries(changes)) {
+            writeFileSync(join(folder, name), change(readFileSync(join(folder, name), 'utf8')));
+        }
+        this.server = await serve(folder, port);
     }
 
     async launch() {
@@ -59,6 +61,15 @@ export class World {
             args: ['--no-sandbox', '--disable-gpu'],
         });
         return this.browser;
+    }
+
+    // One that a failure left open would be asked first by all others.
+    async closeTabs() {
+        for (const tab of await this.browser.pages()) {
+            if (tab.url() !== 'about:blank') {
+                await tab.close();
+            }
+        }
     }
 
     // As a power cut would: nothing is asked first.
@@ -143,4 +154,29 @@ export async function openVerb(tab, text) {
     await tab.evaluate((wanted) => [...document.querySelectorAll('.reading .first, .verb-row .first')]
         .find((each) => each.textContent.trim() === wanted && each.getClientRects().length > 0).click(), text);
     await until(tab, (wanted) => document.title.startsWith(wanted) && document.querySelector('.form-row'), text);
+}
+
+const isStarred = () => document.querySelector('[data-button="favourite"] svg')?.outerHTML;
+
+export async function toggleFavourite(tab) {
+    const old = await tab.evaluate(isStarred);
+    await press(tab, '[data-button="favourite"]', -1);
+    await until(tab, (before) => document.querySelector('[data-button="favourite"] svg')?.outerHTML !== before, old);
+}
+
+// The names in the list of favourites, which stays open.
+export async function favourites(tab) {
+    await press(tab, '.tab', 1);
+    await until(tab, () => document.querySelectorAll('.tab')[1].hasAttribute('data-chosen'));
+    await new Promise((done) => setTimeout(done, 200));
+    return texts(tab, '.lists .verb-row .first');
+}
+
+export async function star(tab, verb) {
+    if (!(await favourites(tab)).includes(verb)) {
+        await openVerb(tab, verb);
+        await toggleFavourite(tab);
+        await tab.goBack();
+        await until(tab, () => document.title === 'Lumora');
+    }
 }

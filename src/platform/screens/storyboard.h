@@ -6,6 +6,7 @@
 #include "platform/screens/view_controller.h"
 
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace lumora::platform {
@@ -43,5 +44,10 @@ public:
     instantiateDestination(std::string_view segueIdentifier) = 0;
     virtual SegueStyle segueStyle(std::string_view segueIdentifier) const = 0;
 };
+
+/// Where a step from `source` leads, told what it needs; null where the source refuses.
+std::shared_ptr<ViewController> prepareSegue(Storyboard& storyboard, ViewController& source,
+                                             std::string_view identifier,
+                                             std::optional<IndexPath> sender);
 
 } // namespace lumora::platform

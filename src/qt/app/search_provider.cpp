@@ -3,6 +3,7 @@
 
 #include "qt/app/search_provider.h"
 
+#include "qt/app/runner_adaptor.h"
 #include "qt/base/text_conversion.h"
 
 #include <QDBusMetaType>
@@ -36,6 +37,7 @@ SearchProvider::SearchProvider(QDBusConnection bus, const StandardFolders& folde
     qDBusRegisterMetaType<QList<QVariantMap>>();
     // Owned by this object.
     new SearchProviderAdaptor{*this};
+    new RunnerAdaptor{*this};
     bus.registerObject(kPath, this);
 }
 

@@ -21,7 +21,7 @@
 
 namespace lumora::qt {
 
-/// Answers the search of GNOME's shell with verbs and forms, window or not. Reads
+/// Answers the search of GNOME's shell and KRunner with verbs and forms, window or not. Reads
 /// nothing before the first search.
 class SearchProvider final : public QObject {
     Q_OBJECT

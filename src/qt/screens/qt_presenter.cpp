@@ -24,7 +24,7 @@ QtPresenter::QtPresenter(platform::Storyboard& storyboard) : storyboard_{storybo
 void QtPresenter::performSegue(platform::ViewController& source, std::string_view identifier,
                                std::optional<platform::IndexPath> sender)
 {
-    const auto destination = prepared(source, identifier, sender);
+    const auto destination = platform::prepareSegue(storyboard_, source, identifier, sender);
     if (!destination) {
         return;
     }
@@ -39,22 +39,9 @@ void QtPresenter::performSegue(platform::ViewController& source, std::string_vie
 void QtPresenter::previewSegue(platform::ViewController& source, std::string_view identifier,
                                std::optional<platform::IndexPath> sender)
 {
-    if (auto destination = prepared(source, identifier, sender)) {
+    if (auto destination = platform::prepareSegue(storyboard_, source, identifier, sender)) {
         preview_.show(std::move(destination), source);
     }
-}
-
-/// Where the step leads; null where the source refuses.
-std::shared_ptr<platform::ViewController>
-QtPresenter::prepared(platform::ViewController& source, std::string_view identifier,
-                      std::optional<platform::IndexPath> sender)
-{
-    if (!source.shouldPerformSegue(identifier)) {
-        return nullptr;
-    }
-    auto destination = storyboard_.instantiateDestination(identifier);
-    source.prepareForSegue({std::string{identifier}, *destination, sender});
-    return destination;
 }
 
 void QtPresenter::present(platform::ViewController& /*on*/,

@@ -126,10 +126,6 @@ private:
 
     void ask(Question question);
 
-    std::shared_ptr<platform::ViewController> prepared(platform::ViewController& source,
-                                                       std::string_view identifier,
-                                                       std::optional<platform::IndexPath> sender);
-
     platform::Storyboard& storyboard_;
     SplitScreen* panes_ = nullptr;
     ModalStack modals_{this};

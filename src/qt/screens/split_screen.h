@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/screens/split_view_controller.h"
+#include "platform/screens/pane_stacks.h"
 #include "platform/screens/visibility_tracker.h"
 #include "qt/screens/screen_registry.h"
 
@@ -12,7 +12,6 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
-#include <vector>
 
 namespace lumora::qt {
 
@@ -38,10 +37,9 @@ public:
     /// The device, the modals and the preview must outlive this.
     SplitScreen(std::shared_ptr<platform::SplitViewController> split, QtDevice& device,
                 ModalStack& modals, QtPreview& preview);
-    ~SplitScreen() override;
 
-    bool collapsed() const { return split_->isCollapsed(); }
-    bool primaryHidden() const { return split_->isPrimaryHidden(); }
+    bool collapsed() const { return stacks_.split().isCollapsed(); }
+    bool primaryHidden() const { return stacks_.split().isPrimaryHidden(); }
     /// From the bottom of the stack to its top; the second pane's are empty
     /// while there is one pane.
     QList<QObject*> primary() const { return primary_; }
@@ -54,9 +52,9 @@ public:
     /// Whether a change under way comes from there being more or fewer panes.
     Q_INVOKABLE bool isRearranging() const { return rearranging_; }
     /// Takes the top screen away; false when there is none to go back from.
-    Q_INVOKABLE bool back();
+    Q_INVOKABLE bool back() { return stacks_.back(); }
     /// Brings the home screen into view, whatever hides it.
-    Q_INVOKABLE void backToHome();
+    Q_INVOKABLE void backToHome() { stacks_.backToHome(); }
 
     std::size_t screenCount() const { return registry_.size(); }
 
@@ -64,16 +62,12 @@ signals:
     void changed();
 
 private:
-    using Controllers = std::vector<std::shared_ptr<platform::ViewController>>;
+    using Controllers = platform::PaneStacks::Screens;
 
     void synchronize();
-    /// The screens of a container, or the screen itself.
-    Controllers screensOf(const std::shared_ptr<platform::ViewController>& container);
-    Controllers flatten(platform::NavigationController& stack);
     void synchronizeModals(Controllers& all, Controllers& visible);
     QList<QObject*> wrappersOf(const Controllers& controllers);
 
-    std::shared_ptr<platform::SplitViewController> split_;
     QtDevice& device_;
     ModalStack& modals_;
     QtPreview& preview_;
@@ -81,10 +75,11 @@ private:
     platform::VisibilityTracker visibility_;
     QList<QObject*> primary_;
     QList<QObject*> secondary_;
-    std::vector<std::weak_ptr<platform::ViewController>> listenedStacks_;
     bool shown_ = false;
     bool changing_ = false;
     bool rearranging_ = false;
+    /// The first to go: what goes after it is not to be drawn.
+    platform::PaneStacks stacks_;
 };
 
 } // namespace lumora::qt

@@ -36,12 +36,14 @@ function openDialog(kind: string, label: string, parts: Part[], cancel: () => vo
 }
 
 // Returns what closes it.
-export function showSheet(title: string, parts: Part[], channel: Channel, language?: string): () => void {
+export function showSheet(
+    title: string, parts: Part[], channel: Channel, language?: string, closed?: () => void): () => void {
     const close = (): void => dialog.close();
     const dialog: HTMLDialogElement = openDialog('sheet', title, [
         el('div', { class: 'sheet-heading' }, el('h2', { lang: language }, title),
             button(channel.text('common.done'), 'link', close)),
         ...parts], close);
+    dialog.addEventListener('close', () => closed?.());
     return close;
 }
 

@@ -24,23 +24,30 @@ export function el<Tag extends keyof HTMLElementTagNameMap>(
     return element;
 }
 
-const drawn = new Map<string, SVGElement>();
+const drawn = new Map<string, Element>();
+
+function drawIcon(source: string): Element {
+    // Of two in a page with the same names inside, a hidden one would be taken.
+    if (source.includes('url(#')) {
+        return el('img', { src: `data:image/svg+xml,${encodeURIComponent(source)}`, alt: '' });
+    }
+    return document.importNode(new DOMParser().parseFromString(source, 'image/svg+xml').documentElement, true);
+}
 
 // A picture in the colour of the text around it.
-export function icon(name: string): SVGElement | null {
+export function icon(name: string): Element | null {
     let picture = drawn.get(name);
     if (!picture) {
         const source = icons[name];
         if (source === undefined) {
             return null;
         }
-        const parsed = new DOMParser().parseFromString(source, 'image/svg+xml').documentElement;
-        picture = document.importNode(parsed, true) as unknown as SVGElement;
+        picture = drawIcon(source);
         picture.setAttribute('aria-hidden', 'true');
         picture.classList.add('icon');
         drawn.set(name, picture);
     }
-    return picture.cloneNode(true) as SVGElement;
+    return picture.cloneNode(true) as Element;
 }
 
 export function button(label: string, kind: string, press: (event: MouseEvent) => void, ...children: Child[]):
@@ -48,5 +55,33 @@ export function button(label: string, kind: string, press: (event: MouseEvent) =
     return el('button', { type: 'button', class: kind, 'aria-label': children.length > 0 && label !== '' ? label : null, click: press },
         ...(children.length > 0 ? children : [label]));
 }
+
+// One of several; the arrows go from one to the next.
+export function fillSegments(
+    place: HTMLElement, titles: string[], chosen: number, choose: (segment: number) => void): HTMLElement {
+    const hadFocus = place.contains(document.activeElement);
+    const made = titles.map((title, segment) => {
+        const each = button(title, 'segment', () => choose(segment));
+        each.setAttribute('aria-pressed', String(segment === chosen));
+        return each;
+    });
+    place.classList.add('segments');
+    place.replaceChildren(...made);
+    place.onkeydown = (event) => {
+        const step = { ArrowLeft: -1, ArrowRight: 1 }[event.key];
+        const next = made[made.findIndex((each) => each === document.activeElement) + (step ?? 0)];
+        if (step !== undefined && next) {
+            event.preventDefault();
+            next.focus();
+            next.click();
+        }
+    };
+    if (hadFocus) {
+        made[chosen]?.focus();
+    }
+    return place;
+}
+
+export const isShown = (element: Element): boolean => element.getClientRects().length > 0;
 
 export const reducedMotion = (): boolean => matchMedia('(prefers-reduced-motion: reduce)').matches;

@@ -14,6 +14,7 @@ export class HomeView extends ScreenView<HomeState> {
         class: 'search-field',
     });
     private readonly clear = button(this.channel.text('search.clear'), 'clear', () => this.type(''), icon('clear'));
+    private readonly chips = el('div', { class: 'tools chips', role: 'group', 'aria-label': this.channel.text('list.narrow') });
     private readonly readings = el('div', { class: 'readings' });
     private readonly lists = new Map<number, TableList>();
     private readonly results = new TableList(this.channel, this.channel.text('settings.search'));
@@ -21,13 +22,14 @@ export class HomeView extends ScreenView<HomeState> {
     private readonly tabs = el('nav', { class: 'tabs' });
     private told = '';
     private toldTabs = '';
+    private toldChips = '';
     private shownText = '';
     private sent = '';
 
     constructor(...parts: ConstructorParameters<typeof ScreenView>) {
         super(...parts);
         const search = el('div', { class: 'search', role: 'search' }, icon('search'), this.field, this.clear);
-        this.content.append(el('div', { class: 'search-bar' }, search), this.readings, this.place, this.tabs);
+        this.content.append(el('div', { class: 'search-bar' }, search), this.chips, this.readings, this.place, this.tabs);
         this.field.addEventListener('input', () => this.type(this.field.value));
         this.field.addEventListener('focus', () => this.channel.send('searchFocus', { on: true }));
         this.field.addEventListener('blur', () => this.channel.send('searchFocus', { on: false }));
@@ -51,6 +53,7 @@ export class HomeView extends ScreenView<HomeState> {
             this.field.focus();
         }
         this.drawTabs(state);
+        this.drawChips(state);
         this.drawReadings(state);
         this.drawList(state);
     }
@@ -97,6 +100,26 @@ export class HomeView extends ScreenView<HomeState> {
             made.setAttribute('aria-pressed', String(tab.tag === state.tab));
             return made;
         }));
+    }
+
+    private drawChips(state: HomeState): void {
+        this.chips.hidden = !state.chips;
+        const told = JSON.stringify(state.chips);
+        if (!state.chips || told === this.toldChips) {
+            return;
+        }
+        this.toldChips = told;
+        const focused = [...this.chips.children].findIndex((chip) => chip === document.activeElement);
+        const made = state.chips.map((chip, at) => {
+            const each = button(this.channel.text(chip.title), 'tool', () => {
+                this.current()?.scrollToTop();
+                this.channel.send('chip', { chip: at, on: !chip.on });
+            });
+            each.setAttribute('aria-pressed', String(chip.on));
+            return each;
+        });
+        this.chips.replaceChildren(...made);
+        made[focused]?.focus();
     }
 
     private drawReadings(state: HomeState): void {

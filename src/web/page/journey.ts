@@ -5,7 +5,7 @@
 // going back takes a step back. A verb has its address: #verb/aller.
 
 import type { Channel } from './channel';
-import type { State } from './messages';
+import { openVerb, type State } from './messages';
 
 export class Journey {
     private depth = 0;
@@ -31,8 +31,7 @@ export class Journey {
         const details = state.secondary.filter((screen) => screen.kind !== 'verb' || screen.verb !== undefined);
         const depth = state.primary.length - 1 + Math.max(0, details.length - 1) + state.modals.length
             + (state.preview ? 1 : 0);
-        const open = [...state.primary, ...state.secondary].reverse()
-            .find((screen) => screen.kind === 'verb' && screen.verb !== undefined);
+        const open = openVerb(state);
         this.shown = open ? encodeURIComponent(open.bar.title) : '';
         const address = this.shown === '' ? location.pathname + location.search : `#verb/${this.shown}`;
         if (depth > this.depth) {

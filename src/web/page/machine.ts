@@ -75,7 +75,7 @@ export class Machine {
             }),
             offer('share.save.text', 'share_text', () => this.save(`${items.title}.txt`, items.text, 'text/plain')),
             offer('share.save.html', 'share_html', () => this.save(`${items.title}.html`, items.html, 'text/html')),
-            offer('share.print', 'share_print', () => printPage(items.html)),
+            offer('web.print', 'share_print', () => printPage(items.html)),
             offer('share.mail', 'share_mail', () => this.mail({ do: 'mail', subject: items.title, body: items.text })),
         ], this.channel, 'fr');
     }

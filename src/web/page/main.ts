@@ -8,6 +8,7 @@ import { Channel } from './channel';
 import { showNotice } from './dialogs';
 import { button, el } from './dom';
 import { Journey } from './journey';
+import { Keys } from './keys';
 import { Machine } from './machine';
 import type { Facts, Keeping, State, Texts } from './messages';
 import { OptionsView } from './table_view';
@@ -85,7 +86,8 @@ function start(): () => void {
             journey = new Journey(channel);
             channel.take(message.answer);
             performance.mark('lumora-list');
-            listen(channel, views);
+            listen(channel);
+            new Keys(channel, views);
             journey.follow(wanted);
         } else if (message.kind === 'prepared') {
             document.documentElement.setAttribute('data-prepared', '');
@@ -119,32 +121,17 @@ function tellKeeping(channel: Channel, keeping: Keeping): void {
     void (navigator.storage as StorageManager | undefined)?.persist().catch(() => false);
 }
 
-function listen(channel: Channel, views: Views): void {
+function listen(channel: Channel): void {
     const visible = (): void => channel.send('visible', { on: document.visibilityState === 'visible' });
     document.addEventListener('visibilitychange', visible);
     window.addEventListener('pagehide', visible);
     window.addEventListener('resize', () => channel.send('width', { points: innerWidth }));
     for (const kind of ['error', 'unhandledrejection'] as const) {
         window.addEventListener(kind, (event) => {
-            const cause: unknown = event instanceof ErrorEvent ? event.message
-                : (event).reason;
+            const cause: unknown = event instanceof ErrorEvent ? event.message : event.reason;
             channel.send('crash', { text: String(cause) });
         });
     }
-    window.addEventListener('keydown', (event) => {
-        const key = event.key.toLowerCase();
-        const state = views.state;
-        if (key === 'escape' && state && !document.querySelector('dialog[open]')) {
-            channel.send('back');
-        } else if ((event.ctrlKey || event.metaKey) && key === 'f' || key === '/' && event.target === document.body) {
-            views.home()?.focusField();
-        } else if ((event.ctrlKey || event.metaKey) && key === ',') {
-            channel.send('showOptions');
-        } else {
-            return;
-        }
-        event.preventDefault();
-    });
 }
 
 async function register(): Promise<void> {

@@ -26,7 +26,7 @@ export interface Reading { headword: string; detail: string; way: string }
 export interface HomeState extends Screen {
     kind: 'home'; tabs: { tag: number; title: string; image: string }[]; tab: number;
     search: { placeholder: string; text: string; id: string; focus: boolean };
-    list: TableState | null; results: TableState | null;
+    list: TableState | null; results: TableState | null; chips?: { title: string; on: boolean }[];
     readings?: Reading[]; nothingFound?: boolean; formsOffered?: boolean;
 }
 export interface CardLine { label: string; text: string; links: { id: number; title: string }[] }
@@ -62,6 +62,11 @@ export interface State {
     primary: ScreenState[]; secondary: ScreenState[]; collapsed: boolean; primaryHidden: boolean;
     modals: { menu: boolean; screens: ScreenState[] }[];
     question: Question | null; preview: Preview | null;
+}
+// The verb on show, beside the lists or over them.
+export function openVerb(state: State): VerbState | undefined {
+    return [...state.primary, ...state.secondary].reverse()
+        .find((screen): screen is VerbState => screen.kind === 'verb' && screen.verb !== undefined);
 }
 export interface TenseName { title: string; other: string }
 export interface FormSheet {

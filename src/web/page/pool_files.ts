@@ -24,6 +24,9 @@ function checksum(text: string): number {
     return sum;
 }
 
+export const isTaken = (error: unknown): boolean =>
+    error instanceof DOMException && error.name === 'NoModificationAllowedError';
+
 // The handle is exclusive: an ended worker, or another tab's, may still have it.
 async function openHandle(folder: FileSystemDirectoryHandle, name: string): Promise<FileSystemSyncAccessHandle> {
     const file = await folder.getFileHandle(name, { create: true });
@@ -32,7 +35,7 @@ async function openHandle(folder: FileSystemDirectoryHandle, name: string): Prom
         try {
             return await file.createSyncAccessHandle();
         } catch (error) {
-            if (Date.now() > end) {
+            if (!isTaken(error) || Date.now() > end) {
                 throw error;
             }
             await new Promise((resolve) => setTimeout(resolve, 50));

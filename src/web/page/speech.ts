@@ -11,6 +11,8 @@ interface Utterance { utterance: number; text: string; language: string; rate: n
 
 const charactersASecond = 13;
 const patience = 2500;
+// A voice may have to be loaded first.
+const patienceAtFirst = 8000;
 
 export class Speech {
     private timers: number[] = [];
@@ -39,9 +41,13 @@ export class Speech {
             this.tell(order.utterance, 'word', event.charIndex, event.charLength || 1);
             this.startClock(order, order.text.length - event.charIndex, false);
         };
+        speech.onstart = () => {
+            this.stopClock();
+            this.startClock(order, order.text.length, true);
+        };
         speech.onend = () => this.end(order.utterance, 'end');
         speech.onerror = () => this.end(order.utterance, 'cancel');
-        this.startClock(order, order.text.length, true);
+        this.giveUpAfter(order.utterance, patienceAtFirst);
         speechSynthesis.speak(speech);
     }
 
@@ -58,7 +64,10 @@ export class Speech {
     }
 
     private voice(order: Utterance): SpeechSynthesisVoice | undefined {
-        const fitting = this.voices().filter((each) => each.lang.toLowerCase().startsWith(order.language));
+        const spoken = this.voices().filter((each) => each.lang.toLowerCase().startsWith(order.language));
+        // "fr-FR" rather than another country's.
+        const own = spoken.filter((each) => each.lang.slice(3).toLowerCase() === order.language);
+        const fitting = own.length > 0 ? own : spoken;
         // Only its name tells whether a voice is a woman's or a man's.
         const wanted = order.man ? /\b(male|homme|thomas|henri|paul|nicolas|daniel)\b/i
             : /female|femme|amélie|amelie|marie|denise|audrey|aurélie|hortense|julie/i;
@@ -79,11 +88,15 @@ export class Speech {
             this.timers.push(window.setTimeout(
                 () => this.tell(order.utterance, 'word', match.index, match[0].length), match.index * perCharacter));
         }
-        // A voice that never says that it has ended must not stay the last.
+        this.giveUpAfter(order.utterance, left * perCharacter + patience);
+    }
+
+    // A voice that never says that it has ended must not stay the last.
+    private giveUpAfter(utterance: number, milliseconds: number): void {
         this.timers.push(window.setTimeout(() => {
-            this.end(order.utterance, 'end');
+            this.end(utterance, 'end');
             speechSynthesis.cancel();
-        }, left * perCharacter + patience));
+        }, milliseconds));
     }
 
     private stopClock(): void {

@@ -5,7 +5,7 @@
 // to the left that shows what a row offers.
 
 import type { Channel } from './channel';
-import { button, el } from './dom';
+import { button, el, icon } from './dom';
 import type { SwipeOffer } from './messages';
 
 const holdTime = 500;
@@ -51,11 +51,19 @@ export class SwipeRow {
         void this.channel.ask<SwipeOffer[]>('actions', { table: row.table, row: row.row }).then((offers) => {
             this.close();
             this.actions = el('div', { class: 'swipe-actions', role: 'presentation' },
-                ...offers.map((offer, action) => button(offer.title, `swipe ${offer.style}`, (event) => {
-                    event.stopPropagation();
-                    this.close();
-                    this.channel.send('action', { table: row.table, row: row.row, action });
-                })));
+                ...offers.map((offer, action) => {
+                    const made = button(offer.title, `swipe ${offer.style}`, (event) => {
+                        event.stopPropagation();
+                        this.close();
+                        this.channel.send('action', { table: row.table, row: row.row, action });
+                    }, icon(offer.image), el('span', {}, offer.title));
+                    if (offer.color) {
+                        const [red, green, blue] = offer.color;
+                        made.style.background = `rgb(${red} ${green} ${blue})`;
+                        made.classList.toggle('light', 0.299 * red + 0.587 * green + 0.114 * blue > 0.48 * 255);
+                    }
+                    return made;
+                }));
             this.actions.style.cssText = row.element.style.cssText;
             row.element.parentElement?.append(this.actions);
             this.actions.querySelector('button')?.focus();

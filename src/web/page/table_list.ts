@@ -24,6 +24,7 @@ export class TableList {
     private readonly swipe: SwipeRow;
     private readonly prefix = `list${++lists}-`;
     private lines: Line[] = [];
+    private heights = { header: 0, cell: 1, footer: 0 };
     private cells = new Map<number, Cell>();
     private readonly shown = new Map<number, HTMLElement>();
     private readonly asked = new Set<number>();
@@ -80,9 +81,11 @@ export class TableList {
     }
 
     private layOut(state: TableState): void {
-        const style = getComputedStyle(this.element);
-        const size = (name: string): number => parseFloat(style.getPropertyValue(name)) || 60;
-        const heights = { header: size('--header-height'), cell: size('--row-height'), footer: 64 };
+        const style = getComputedStyle(document.documentElement);
+        const size = (name: string): number =>
+            Math.round(parseFloat(style.getPropertyValue(name)) * parseFloat(style.fontSize));
+        const heights = { header: size('--header-height'), cell: size('--row-height'), footer: size('--row-height') };
+        this.heights = heights;
         this.lines = [];
         let top = 0;
         const add = (kind: Line['kind'], title: string): void => {
@@ -281,7 +284,7 @@ export class TableList {
             }
             return;
         }
-        const page = Math.max(1, Math.floor(this.scroller.clientHeight / 60) - 1);
+        const page = Math.max(1, Math.floor(this.scroller.clientHeight / this.heights.cell) - 1);
         const steps: Record<string, number> = {
             ArrowDown: 1, ArrowUp: -1, PageDown: page, PageUp: -page, Home: -Infinity, End: Infinity,
         };
@@ -290,7 +293,7 @@ export class TableList {
             this.move(step);
         } else if (event.key === 'Enter' || event.key === ' ') {
             this.event('tap');
-        } else if (event.key === 'ContextMenu') {
+        } else if (event.key === 'ContextMenu' || event.key === 'F10' && event.shiftKey) {
             this.event('hold');
         } else if (event.key === 'Delete' || event.key === 'Backspace') {
             this.swipe.open(this.rowOf(this.shown.get(this.current) ?? null));
@@ -319,8 +322,8 @@ export class TableList {
         }
         this.current = row;
         const view = this.scroller;
-        if (line.top < view.scrollTop + 28) {
-            view.scrollTop = line.top - 28;
+        if (line.top < view.scrollTop + this.heights.header) {
+            view.scrollTop = line.top - this.heights.header;
         } else if (line.top + line.height > view.scrollTop + view.clientHeight) {
             view.scrollTop = line.top + line.height - view.clientHeight;
         }

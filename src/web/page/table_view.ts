@@ -3,7 +3,7 @@
 
 // Short tables, drawn whole: the options, the menu, the other applications.
 
-import { button, el, icon } from './dom';
+import { button, el, fillSegments, icon } from './dom';
 import type { Cell, OptionsState, TableScreenState, TableState } from './messages';
 import { ScreenView } from './screen_view';
 
@@ -37,7 +37,7 @@ abstract class GroupedView<Kind extends OptionsState | TableScreenState> extends
             }
         }
         if (inside && focused) {
-            this.rows.querySelector<HTMLElement>(`[data-row="${focused}"] button, button[data-row="${focused}"]`)?.focus();
+            this.rows.querySelector<HTMLElement>(`[data-row="${focused}"] [aria-pressed=true], button[data-row="${focused}"]`)?.focus();
         }
     }
 
@@ -55,11 +55,8 @@ abstract class GroupedView<Kind extends OptionsState | TableScreenState> extends
         }
         if (control && 'titles' in control) {
             return el('div', { class: 'option', 'data-row': row, role: 'group', 'aria-label': cell.label || cell.text },
-                label, el('div', { class: 'segments' }, ...control.titles.map((title, segment) => {
-                    const made = button(title, 'segment', () => send('segment', { segment }));
-                    made.setAttribute('aria-pressed', String(segment === control.selected));
-                    return made;
-                })));
+                label, fillSegments(el('div'), control.titles, control.selected,
+                    (segment) => send('segment', { segment })));
         }
         const picture = cell.image === '' ? null : icon(cell.image);
         const parts = [picture, label, cell.detail !== '' && el('span', { class: 'detail' }, cell.detail),

@@ -5,12 +5,14 @@
 // squares.
 
 import { showSheet } from './dialogs';
-import { button, el, icon } from './dom';
+import { button, el, fillSegments, icon, isShown } from './dom';
 import type { Cell, FormSheet, LineSetting, Squares, TableState, TenseNote, VerbState } from './messages';
 import { playControl } from './rings';
 import { ScreenView } from './screen_view';
 
 const squaresFrom = 560;
+// Farther than a finger wanders that scrolls.
+const swipeWidth = 70;
 
 export function formText(text: string, setting: LineSetting): HTMLElement {
     const runs = setting.runs.map((run) => el('span', { class: `run-${run.style}` }, run.text));
@@ -25,7 +27,9 @@ function leadingText(text: string, setting: LineSetting): HTMLElement {
 
 export class VerbView extends ScreenView<VerbState> {
     private readonly select = el('p', { class: 'select' });
-    private readonly moods = el('div', { class: 'moods segments', role: 'group' });
+    private readonly nothing = el('div', { class: 'nothing' }, icon('AboutIcon'), this.select,
+        el('p', { class: 'second' }, this.channel.text('select.hint')));
+    private readonly moods = el('div', { class: 'moods', role: 'group', 'aria-label': this.channel.text('verb.moods') });
     private readonly page = el('div', { class: 'verb-page', tabindex: 0, role: 'group' });
     private readonly card = el('div', { class: 'card' });
     private readonly tools = el('div', { class: 'tools' });
@@ -35,24 +39,87 @@ export class VerbView extends ScreenView<VerbState> {
     private collection: Squares | undefined;
     private told: Record<string, string> = {};
     private opened = -1;
+    private spoken = false;
+    private touched: PointerEvent | undefined;
 
     constructor(...parts: ConstructorParameters<typeof ScreenView>) {
         super(...parts);
-        this.content.append(this.select, this.moods, this.page);
+        this.content.append(this.nothing, this.moods, this.page);
         this.page.append(this.card, this.tools, this.rows, this.squares);
         new ResizeObserver(() => {
             this.element.classList.toggle('wide', this.content.clientWidth >= squaresFrom);
         }).observe(this.content);
+        this.rows.addEventListener('pointerdown', (event) => {
+            this.touched = event.pointerType === 'mouse' ? undefined : event;
+        });
+        this.rows.addEventListener('pointerup', (event) => this.swiped(event));
+        for (const kind of ['keydown', 'keyup'] as const) {
+            this.page.addEventListener(kind, (event) => this.key(event));
+        }
+    }
+
+    // To a neighbour in the list.
+    goOn(places: number): void {
+        this.send('neighbour', { places });
+    }
+
+    // False where nothing is being spoken.
+    stop(): boolean {
+        if (this.spoken) {
+            this.send('stop');
+        }
+        return this.spoken;
+    }
+
+    playTopTense(): void {
+        const top = this.page.getBoundingClientRect().top;
+        const below = [...this.page.querySelectorAll<HTMLElement>('[data-tense]')].filter(isShown)
+            .filter((each) => each.getBoundingClientRect().bottom > top + 1);
+        this.send('playTense', { tense: Number(below[0]?.dataset['tense'] ?? 0) });
+    }
+
+    // A finger that moves aside goes from mood to mood.
+    private swiped(event: PointerEvent): void {
+        const start = this.touched;
+        this.touched = undefined;
+        const aside = start ? event.clientX - start.clientX : 0;
+        const moods = this.moods.children;
+        const next = [...moods].findIndex((each) => each.ariaPressed === 'true') + (aside < 0 ? 1 : -1);
+        if (start && Math.abs(aside) > swipeWidth && Math.abs(aside) > 2 * Math.abs(event.clientY - start.clientY)
+            && next >= 0 && next < moods.length) {
+            this.send('mood', { segment: next });
+        }
+    }
+
+    // Enter tells of a form, which is what a button does; the space bar says it.
+    private key(event: KeyboardEvent): void {
+        const at = event.target instanceof HTMLElement ? event.target : this.page;
+        const step = { ArrowUp: -1, ArrowDown: 1 }[event.key];
+        if (event.key === ' ' && at.matches('.form-line')) {
+            event.preventDefault();
+            const play = at.nextElementSibling;
+            if (event.type === 'keyup' && play instanceof HTMLElement) {
+                play.click();
+            }
+        } else if (step !== undefined && event.type === 'keydown' && !event.ctrlKey && !event.altKey) {
+            const lines = [...this.page.querySelectorAll<HTMLElement>('.form-line, .tense-title')].filter(isShown);
+            const next = lines[lines.indexOf(at) + step];
+            if (next) {
+                event.preventDefault();
+                next.focus();
+            }
+        }
     }
 
     protected override update(state: VerbState): void {
         this.select.textContent = state.select ?? '';
-        this.select.hidden = state.select === null || state.verb !== undefined;
+        this.nothing.hidden = state.select === null || state.verb !== undefined;
         this.page.hidden = this.moods.hidden = state.verb === undefined;
         if (state.verb === undefined) {
             return;
         }
         this.page.setAttribute('aria-label', state.bar.title);
+        this.spoken = state.spoken !== '';
         this.when('moods', [state.moods, state.mood], () => this.drawMoods(state));
         this.when('card', [state.card, state.summary, state.cardOpen], () => this.drawCard(state));
         this.when('tools', [state.voice, state.marks, state.spoken, state.previous, state.next],
@@ -86,11 +153,7 @@ export class VerbView extends ScreenView<VerbState> {
 
     private drawMoods(state: VerbState): void {
         this.moods.hidden = state.moods.length === 0;
-        this.moods.replaceChildren(...state.moods.map((title, segment) => {
-            const made = button(title, 'segment', () => this.send('mood', { segment }));
-            made.setAttribute('aria-pressed', String(segment === state.mood));
-            return made;
-        }));
+        fillSegments(this.moods, state.moods, state.mood, (segment) => this.send('mood', { segment }));
         this.page.scrollTop = 0;
     }
 
@@ -99,7 +162,7 @@ export class VerbView extends ScreenView<VerbState> {
         this.card.hidden = state.summary === '' && state.card.length === 0;
         const toggle = button('', 'summary', () => this.send('card', { open: !state.cardOpen }),
             el('span', {}, state.summary || this.channel.text('card.about')), icon('disclosure'));
-                toggle.setAttribute('aria-expanded', String(state.cardOpen));
+        toggle.setAttribute('aria-expanded', String(state.cardOpen));
         this.card.append(toggle);
         if (state.cardOpen) {
             this.card.append(el('dl', {}, ...state.card.flatMap((line) => [
@@ -159,7 +222,7 @@ export class VerbView extends ScreenView<VerbState> {
         if (title === '') {
             return el('div', { class: 'tense-heading bare' });
         }
-        return el('h2', { class: 'tense-heading' },
+        return el('h2', { class: 'tense-heading', 'data-tense': tense },
             button(title, 'tense-title', () => void this.showNote(tense)),
             !used && state.hasForms && el('span', { class: 'unused' }, this.channel.text('tense.unused')),
             used && button(`${this.channel.text('action.play.tense')}: ${title}`, 'play-tense',
@@ -185,7 +248,7 @@ export class VerbView extends ScreenView<VerbState> {
         const play = this.channel.text('action.play');
         this.squares.replaceChildren(
             el('p', { class: 'squares-title' }, squares.title),
-            ...squares.items.map((item, at) => el('section', { class: 'square' },
+            ...squares.items.map((item, at) => el('section', { class: 'square', 'data-tense': at },
                 el('h2', {}, button(item.title, 'tense-title', () => void this.showNote(at))),
                 ...item.rows.map((line, index) => el('div', { class: 'form-row' },
                     button(line.label || `${line.leading} ${line.trailing}`, 'form-line',

@@ -8,7 +8,7 @@ import type { Channel } from './channel';
 import { Dialogs } from './dialogs';
 import { button, el } from './dom';
 import { HomeView } from './home_view';
-import type { ScreenState, State } from './messages';
+import { openVerb, type ScreenState, type State } from './messages';
 import { ScreenView } from './screen_view';
 import { OptionsView, TableScreenView } from './table_view';
 import { VerbView } from './verb_view';
@@ -52,6 +52,11 @@ export class Views {
         return [...this.views.values()].find((view) => view instanceof HomeView);
     }
 
+    verb(): VerbView | undefined {
+        const view = this.views.get((this.state && openVerb(this.state)?.screen) ?? -1);
+        return view instanceof VerbView ? view : undefined;
+    }
+
     show(state: State): void {
         this.state = state;
         const used = new Set<number>();
@@ -77,8 +82,8 @@ export class Views {
             }
         }
         this.dialogs.update(state.question, state.preview);
-        const verb = [...state.primary, ...state.secondary].reverse().find((screen) => screen.kind === 'verb');
-        document.title = verb && verb.bar.title !== '' ? `${verb.bar.title} – Lumora` : 'Lumora';
+        const verb = openVerb(state);
+        document.title = verb ? `${verb.bar.title} – Lumora` : 'Lumora';
     }
 
     private drawStack(place: HTMLElement, stack: ScreenState[], used: Set<number>): void {

@@ -8,7 +8,7 @@ import createModule from 'lumora-module';
 import { KeptRows } from './kept_rows';
 import type { Answer, Facts, FromWorker, Keeping, Texts, ToWorker } from './messages';
 import type { LumoraModule } from './module';
-import { FilePool, mountPool } from './pool_files';
+import { FilePool, isTaken, mountPool } from './pool_files';
 import { Scripts } from './scripts';
 
 const resources = ['bundle.json', 'verbs.tsv', 'models.tsv', 'retired_ids.tsv', 'mustache.min.js',
@@ -38,7 +38,7 @@ async function openFiles(module: LumoraModule): Promise<Keeping> {
         return 'files';
     } catch (error) {
         // Another tab's files are no reason to begin anew beside them.
-        if (error instanceof DOMException && error.name === 'NoModificationAllowedError') {
+        if (isTaken(error)) {
             throw error;
         }
     }
@@ -108,6 +108,8 @@ function prepare(): void {
         setTimeout(prepare);
     } else {
         say({ kind: 'prepared' });
+        // What is known only now may narrow the list.
+        void handle(0, { event: 'start' });
     }
 }
 

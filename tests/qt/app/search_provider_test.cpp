@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "qt/app/runner_adaptor.h"
 #include "qt/base/text_conversion.h"
 
 #include "qt/desktop/message_bus.h"
@@ -32,10 +33,11 @@ struct DesktopShell : testing::Test {
     }
     ~DesktopShell() override { end(); }
 
-    QVariant call(const char* method, const QVariantList& arguments)
+    QVariant call(const char* method, const QVariantList& arguments,
+                  const QString& interface = kInterface)
     {
         auto message =
-            QDBusMessage::createMethodCall(kName, kPath, kInterface, QString::fromLatin1(method));
+            QDBusMessage::createMethodCall(kName, kPath, interface, QString::fromLatin1(method));
         message.setArguments(arguments);
         const auto answer = connection.call(message);
         EXPECT_NE(answer.type(), QDBusMessage::ErrorMessage) << answer.errorMessage().toStdString();
@@ -110,6 +112,33 @@ TEST_F(DesktopShell, FindsVerbsAndFormsButNothingElseAndOpensThem)
     const auto results = search("irions");
     ASSERT_EQ(results.size(), 1);
     call("ActivateResult", {results.front(), QStringList{QStringLiteral("irions")}, 0U});
+    EXPECT_TRUE(WindowFixture::until([this] {
+        return told().find("select_content") != std::string::npos;
+    })) << "the window opens at the verb";
+}
+
+TEST_F(DesktopShell, AnswersKRunnerAsWell)
+{
+    const QString krunner = QStringLiteral("org.kde.krunner1");
+    const auto match = [&](const char* typed) {
+        const auto answer =
+            call("Match", {QString::fromUtf8(typed)}, krunner).value<QDBusArgument>();
+        EXPECT_EQ(answer.currentSignature().toStdString(), "a(sssida{sv})");
+        return qdbus_cast<QList<RunnerMatch>>(answer);
+    };
+    EXPECT_EQ(call("Actions", {}, krunner).value<QDBusArgument>().currentSignature().toStdString(),
+              "a(sss)");
+    EXPECT_TRUE(match("firefox").empty());
+    const auto matches = match("parle");
+    ASSERT_FALSE(matches.empty());
+    EXPECT_EQ(matches.front().text.toStdString().rfind("parler \u2013 ", 0), 0U)
+        << matches.front().text.toStdString();
+    EXPECT_EQ(matches.front().properties.value(QStringLiteral("subtext")).toString().left(5),
+              QStringLiteral("speak"));
+    EXPECT_TRUE(std::is_sorted(matches.begin(), matches.end(), [](const auto& a, const auto& b) {
+        return a.relevance > b.relevance;
+    }));
+    call("Run", {matches.front().id, QString{}}, krunner);
     EXPECT_TRUE(WindowFixture::until([this] {
         return told().find("select_content") != std::string::npos;
     })) << "the window opens at the verb";

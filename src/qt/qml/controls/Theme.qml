@@ -55,6 +55,9 @@ QtObject {
     readonly property color switchOff: dark ? "#6e7884" : "#858f9d"
     readonly property color star: dark ? "#f2b84b" : "#b87400"
     readonly property color danger: dark ? "#ff8a80" : "#b3261e"
+    // What can be done with a row, where its controller names no colour.
+    readonly property color rowAction: "#5b6470"
+    readonly property color rowDeletion: "#b3261e"
     readonly property color shade: "#80000000"
     // The ring's own colours are its controller's; these go with them.
     readonly property color playInk: "#0155b3"

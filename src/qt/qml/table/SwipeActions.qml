@@ -36,8 +36,8 @@ Row {
 
             required property int index
             required property swipeOffer modelData
-            readonly property color shade: modelData.background.valid ? modelData.background : modelData.destructive ? "#b3261e" : "#5b6470"
-            readonly property color ink: 0.299 * shade.r + 0.587 * shade.g + 0.114 * shade.b > 0.48 ? "#16191d" : "#ffffff"
+            readonly property color shade: modelData.background.valid ? modelData.background : modelData.destructive ? Theme.rowDeletion : Theme.rowAction
+            readonly property color ink: 0.299 * shade.r + 0.587 * shade.g + 0.114 * shade.b > 0.48 ? Theme.accentSecondaryInk : Theme.barText
 
             function trigger() {
                 const model = root.table.model;
