@@ -31,9 +31,9 @@ async function fetched(name: string): Promise<Uint8Array> {
     return new Uint8Array(await response.arrayBuffer());
 }
 
-async function openFiles(module: LumoraModule): Promise<Keeping> {
+async function openFiles(module: LumoraModule, opening: Promise<FilePool>): Promise<Keeping> {
     try {
-        pool = await FilePool.open('lumora');
+        pool = await opening;
         mountPool(module.FS, pool, '/kept');
         return 'files';
     } catch (error) {
@@ -115,6 +115,9 @@ function prepare(): void {
 
 async function start(facts: Facts, textsFile: string): Promise<void> {
     const scripts = new Scripts();
+    // Meanwhile; whether it fails is asked later.
+    const opening = FilePool.open('lumora');
+    opening.catch(() => undefined);
     const [module, texts, ...contents] = await Promise.all([
         createModule({ locateFile: (name) => name, scripts, print: console.log, printErr: console.error }),
         fetched(textsFile),
@@ -125,7 +128,7 @@ async function start(facts: Facts, textsFile: string): Promise<void> {
         module.FS.writeFile(`/share/${name}`, contents[at] ?? '');
     });
     module.FS.writeFile('/share/texts.json', texts);
-    const keeping = await openFiles(module);
+    const keeping = await openFiles(module, opening);
     program = module;
     const answer = call('lumora_start', JSON.stringify(facts));
     startTimers(answer);
