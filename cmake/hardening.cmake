@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: The Lumora authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# What makes a mistake with memory end the program rather than serve a stranger.
+# Compiler options that let a memory error end the program instead of being exploited.
 # tests/security looks for it in what was built.
 if(SANITIZE)
     return()

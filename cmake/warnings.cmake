@@ -5,7 +5,7 @@
 add_library(lumora_warnings INTERFACE)
 target_compile_options(lumora_warnings INTERFACE
     -Wall -Wextra -Wshadow -Wconversion -Wnon-virtual-dtor
-    # Another compiler is for fuzzing only and has its own mind.
+    # Another compiler is for fuzzing only and knows other warnings.
     $<$<CXX_COMPILER_ID:GNU>:-Werror>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # It takes "text" + std::string for overlapping memory (GCC bug 105651).

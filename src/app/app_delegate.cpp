@@ -217,7 +217,7 @@ void AppDelegate::openLink(std::string_view link)
 void AppDelegate::openFromOutside(const data::VerbPtr& verb,
                                   const std::optional<data::FormPlace>& place)
 {
-    // However often that happens, the way back is the list.
+    // Links do not pile up: going back from the verb always leads to the list.
     listStack().popToRootViewController();
     homeScreen().showSearchResult(verb, place);
 }

@@ -51,7 +51,7 @@ struct Window {
 struct UserFolders {
     /// Of the user domain; none when it cannot be located.
     std::optional<std::filesystem::path> documents;
-    /// The first over all domains with the tilde expanded, as text.
+    /// The first documents folder of any domain, with "~" expanded, as text.
     std::optional<std::string> firstDocuments;
 };
 

@@ -94,7 +94,7 @@ SavedData readUserData(const std::filesystem::path& file, platform::CrashReporte
     }
     queue->inDatabase([&](Database& database) {
         if (!readUserRows(database, saved.data)) {
-            saved.failure = platform::Error{database.lastErrorMessage(), database.lastErrorCode()};
+            saved.failure = database.lastError();
             if (crashReporter != nullptr) {
                 crashReporter->logWithFormat(
                     "An error occurred when reading migration settings: %@ (%d)",
@@ -138,8 +138,7 @@ Result<bool> isViewedAfter(Database& database, std::int32_t verb, std::int32_t t
     }
     const bool found = rows->next();
     if (rows->failed()) {
-        return tl::make_unexpected(
-            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+        return tl::make_unexpected(database.lastError());
     }
     return found;
 }

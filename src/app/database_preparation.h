@@ -22,8 +22,9 @@ struct UserData;
 /// The working database in a documents directory.
 std::filesystem::path workingDatabase(const std::filesystem::path& documents);
 
-/// For other programs that work on the database: no start replaces it
-/// meanwhile. Waits for one that does; an error should it take too long.
+/// For other programs that work on the database: while the lock lives no start of the
+/// application replaces it. Waits for one that is doing so; an error when that takes
+/// too long.
 platform::Result<platform::FolderLock> lockDocuments(const std::filesystem::path& documents);
 
 /// Adds what a person put into the database. False when a statement fails: its reason

@@ -89,7 +89,7 @@ DesktopSearch::resultOf(const lookup::Reading& reading, std::string_view text,
 {
     std::vector<data::VerbPtr> verbs;
     if (!data::readVerbOfId(database, reading.verb, verbs)) {
-        return tl::unexpected(platform::Error{database.lastErrorMessage()});
+        return tl::unexpected(database.lastError());
     }
     DesktopSearchResult result;
     result.id = idOf(reading.verb, text);

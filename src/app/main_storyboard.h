@@ -14,7 +14,7 @@ class SplitViewController;
 
 namespace lumora::app {
 
-/// The interface description: which screens there are and where steps lead.
+/// Knows which screens there are and which screen each step leads to.
 class MainStoryboard final : public platform::Storyboard {
 public:
     /// The services name this storyboard, so they come after it. Must be

@@ -49,8 +49,7 @@ platform::Result<void> forEachRow(Database& database, std::string_view sql, Take
         take(*rows);
     }
     if (rows->failed()) {
-        return tl::unexpected(
-            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+        return tl::unexpected(database.lastError());
     }
     return {};
 }

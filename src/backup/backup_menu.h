@@ -23,12 +23,11 @@ class ViewController;
 namespace lumora::backup {
 
 /// Offers to save favourites and history and to restore them, asks for the
-/// file and tells what came of it. GUI thread only. What
-/// the constructor takes must outlive it; without a queue nothing can be done,
-/// and it says so.
+/// file and says how it ended. GUI thread only. What the constructor takes must
+/// outlive it; without a queue nothing can be done, and it says so.
 ///
-/// A shared object, so that an answer that comes when the screen has gone finds
-/// it gone too.
+/// Shared, so that an answer that comes after the screen has gone finds nothing to
+/// call.
 class BackupMenu final : public std::enable_shared_from_this<BackupMenu> {
 public:
     BackupMenu(platform::ViewController& screen, platform::DatabaseQueue* queue,

@@ -33,25 +33,19 @@ std::string respelled(std::string infinitive)
     return infinitive;
 }
 
-/// The text with its ligatures opened, as a keyboard without them writes it.
-std::string withoutLigature(std::string text)
-{
-    return text::replaced(std::move(text), "œ", "oe");
-}
-
 /// Whether a row is one form as it is written, neither double nor bracketed.
 bool isOneForm(const Row& row)
 {
     return row.verb.find_first_of(",(") == std::string::npos;
 }
 
-void addWithoutLigature(std::vector<Row>& rows)
+void addWithoutLigatures(std::vector<Row>& rows)
 {
     const auto count = rows.size();
     for (std::size_t i = 0; i < count; ++i) {
         if (isOneForm(rows[i])) {
             rows.push_back(
-                {rows[i].tense, rows[i].pronoun, withoutLigature(rows[i].verb), false, {}});
+                {rows[i].tense, rows[i].pronoun, text::withoutLigatures(rows[i].verb), false, {}});
         }
     }
 }
@@ -177,8 +171,8 @@ std::vector<Row> Conjugator::rows(const VerbEntry& entry) const
     }
     auto rows = builder.take();
     addRespelled(rows, entry);
-    if (withoutLigature(entry.infinitive) != entry.infinitive) {
-        addWithoutLigature(rows);
+    if (text::withoutLigatures(entry.infinitive) != entry.infinitive) {
+        addWithoutLigatures(rows);
     }
     dropRepeated(rows);
     if (entry.pronominal) {

@@ -68,8 +68,8 @@ struct Form {
     static constexpr std::size_t kNoEnding = std::string::npos;
 
     std::string text;
-    /// Where the ending begins, in bytes, as those cut the form who teach the
-    /// language; kNoEnding when nothing in it is regular.
+    /// Where the ending begins, in bytes, as language lessons divide the form;
+    /// kNoEnding when nothing in it is regular.
     std::size_t ending = kNoEnding;
 };
 

@@ -82,8 +82,7 @@ platform::Result<FormDivisions> readFormDivisions(platform::Database& database, 
     }
     if (!rows->next()) {
         if (rows->failed()) {
-            return tl::unexpected(
-                platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+            return tl::unexpected(database.lastError());
         }
         return FormDivisions{};
     }

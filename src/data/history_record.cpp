@@ -27,8 +27,7 @@ platform::Result<void> trimHistory(platform::Database& database)
         for (int row = 0; row < kFirstRowTooMany; ++row) {
             if (!rows->next()) {
                 if (rows->failed()) {
-                    return tl::make_unexpected(
-                        platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+                    return tl::make_unexpected(database.lastError());
                 }
                 return {};
             }

@@ -45,8 +45,7 @@ homographsByName(platform::Database& database)
                                                         rows->stringForColumn(model)});
     }
     if (rows->failed()) {
-        return tl::unexpected(
-            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+        return tl::unexpected(database.lastError());
     }
     return found;
 }

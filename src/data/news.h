@@ -13,13 +13,13 @@
 #include <vector>
 
 /// The notifications of the program: a struct for each, with its name and its
-/// payload. Only here is it known under which keys a payload travels.
+/// payload. The keys of the payloads are known only here.
 ///
 /// from() takes a notification of that name and never fails: what is missing
 /// or of a wrong type stays at the struct's default.
 namespace lumora::data {
 
-/// A verb became a favourite or is none any more.
+/// A verb became a favourite, or stopped being one.
 struct VerbFavouriteToggled {
     static constexpr std::string_view kName = "VerbFavouriteToggled";
 

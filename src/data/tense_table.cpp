@@ -92,6 +92,13 @@ std::span<const TenseBlock> blocksOfSegment(int segment)
     }
 }
 
+const TenseBlock* blockAt(int segment, int position)
+{
+    const auto blocks = blocksOfSegment(segment);
+    const bool isThere = position >= 0 && static_cast<std::size_t>(position) < blocks.size();
+    return isThere ? &blocks[static_cast<std::size_t>(position)] : nullptr;
+}
+
 std::optional<TensePosition> positionOfTense(std::string_view identifier)
 {
     for (int segment = 0; segment < kMoodCount; ++segment) {

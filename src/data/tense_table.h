@@ -60,6 +60,9 @@ std::optional<TensePosition> positionOfTense(std::string_view identifier);
 /// The infinitive has no block.
 std::span<const TenseBlock> blocksOfSegment(int segment);
 
+/// The block of a mood at a position from 0; null where there is none.
+const TenseBlock* blockAt(int segment, int position);
+
 /// "type.indicative.full" and so on, in segment order.
 extern const std::array<std::string_view, kMoodCount> kMoodTitleKeys;
 

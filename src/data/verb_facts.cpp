@@ -40,8 +40,7 @@ platform::Result<std::optional<VerbFacts>> readVerbFacts(platform::Database& dat
     }
     if (!rows->next()) {
         if (rows->failed()) {
-            return tl::unexpected(
-                platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+            return tl::unexpected(database.lastError());
         }
         return std::nullopt;
     }

@@ -24,8 +24,8 @@ constexpr std::string_view kSameInfinitive =
     "WHERE french IN (?1, ?1 || ' (se)', ?1 || ' (s'')', ?1 || ' (s''en)') AND verb._id <> ?2 "
     "ORDER BY verb._id";
 
-// More than are named: some share a name with each other, with the verb or with
-// that of the model.
+// More rows than are shown, since some have the same name as each other, as the verb or
+// as the verb of the model.
 constexpr std::string_view kSameModel =
     "JOIN verb_facts ON verb_facts.verbid = verb._id WHERE model = ?1 AND verb._id <> ?2 "
     "AND (auxiliary, instr(traits, 'pronominal') > 0) = "
@@ -41,8 +41,7 @@ platform::Result<std::vector<VerbPtr>> verbsOf(platform::Database& database,
     std::vector<VerbPtr> verbs;
     auto rows = database.executeQuery(std::string{kColumns} += condition, values);
     if (!readVerbs(rows, VerbReader::Spellings::Plain, verbs)) {
-        return tl::unexpected(
-            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+        return tl::unexpected(database.lastError());
     }
     return verbs;
 }

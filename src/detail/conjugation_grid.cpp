@@ -4,6 +4,7 @@
 #include "detail/conjugation_grid.h"
 
 #include "detail/form_setting.h"
+#include "detail/form_sheet.h"
 #include "platform/machine/bundle.h"
 #include "platform/machine/crash_reporter.h"
 #include "text/pronoun.h"
@@ -36,21 +37,10 @@ std::size_t moodOf(int segment)
     return static_cast<std::size_t>(std::clamp(segment, 0, data::kMoodCount - 1));
 }
 
-/// Null where the mood has no tense at that position.
-const data::TenseBlock* blockAt(ShownMood shown, int position)
+/// Null where no verb is shown, or the mood has no tense at that position.
+const data::TenseBlock* shownBlock(ShownMood shown, int position)
 {
-    const auto blocks = data::blocksOfSegment(shown.segment);
-    const bool isThere = shown.verb != nullptr && position >= 0 &&
-                         static_cast<std::size_t>(position) < blocks.size();
-    return isThere ? &blocks[static_cast<std::size_t>(position)] : nullptr;
-}
-
-/// Null where the tense has no such row.
-std::shared_ptr<const data::Conjugation> formAt(ShownMood shown, int position, int row)
-{
-    const auto& forms = ConjugationGrid::forms(shown, position);
-    const bool isThere = row >= 0 && static_cast<std::size_t>(row) < forms.size();
-    return isThere ? forms[static_cast<std::size_t>(row)] : nullptr;
+    return shown.verb == nullptr ? nullptr : data::blockAt(shown.segment, position);
 }
 
 std::string spokenName(const data::Conjugation& form)
@@ -77,7 +67,7 @@ ConjugationGrid::ConjugationGrid(const platform::Bundle& bundle,
 const data::ConjugationList& ConjugationGrid::forms(ShownMood shown, int position)
 {
     static const data::ConjugationList kNone;
-    const auto* block = blockAt(shown, position);
+    const auto* block = shownBlock(shown, position);
     return block == nullptr ? kNone : shown.verb->*(block->tense.forms);
 }
 
@@ -99,7 +89,7 @@ std::string ConjugationGrid::tenseTitle(const data::TenseBlock& block) const
 std::optional<std::string> ConjugationGrid::titleForHeaderInSection(ShownMood shown,
                                                                     int section) const
 {
-    const auto* block = blockAt(shown, section - 1);
+    const auto* block = shownBlock(shown, section - 1);
     return block == nullptr ? std::nullopt : std::optional{tenseTitle(*block)};
 }
 
@@ -110,7 +100,7 @@ std::string ConjugationGrid::translation(ShownMood shown) const
 
 platform::LineSetting ConjugationGrid::setting(ShownMood shown, int position, std::size_t row) const
 {
-    const auto* block = blockAt(shown, position);
+    const auto* block = shownBlock(shown, position);
     const auto& rows = forms(shown, position);
     if (block == nullptr || row >= rows.size()) {
         return {};
@@ -119,6 +109,7 @@ platform::LineSetting ConjugationGrid::setting(ShownMood shown, int position, st
         return data::tenseTitle(key, bundle_, settings_);
     });
     auto setting = std::move(hints[row]);
+    setting.joined = text::isElided(rows[row]->pronoun);
     if (shown.divisions != nullptr) {
         auto [runs, noteKey] = markedForm(*rows[row], *shown.divisions);
         setting.runs = std::move(runs);
@@ -157,7 +148,10 @@ platform::TableCell ConjugationGrid::cellForRow(ShownMood shown, platform::Index
 
 std::optional<PlayableRow> ConjugationGrid::playable(ShownMood shown, int position, int row)
 {
-    auto form = formAt(shown, position, row);
+    if (shown.verb == nullptr) {
+        return std::nullopt;
+    }
+    auto form = formAt(*shown.verb, {shown.segment, position, row});
     if (form == nullptr) {
         return std::nullopt;
     }
@@ -235,7 +229,7 @@ VerbCollectionViewCell& ConjugationGrid::collectionCell(int segment, int item)
 platform::CollectionCell ConjugationGrid::cellForItem(ShownMood shown, int item)
 {
     auto& cell = collectionCell(shown.segment, item);
-    const auto* block = blockAt(shown, item);
+    const auto* block = shownBlock(shown, item);
     const auto& rows = forms(shown, item);
 
     cell.audioWidthConstraint.fill(0);

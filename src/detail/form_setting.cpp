@@ -55,7 +55,7 @@ std::string_view firstSpelling(const std::shared_ptr<const data::Conjugation>& f
     return text.substr(0, text.find(", "));
 }
 
-/// Whom an imperative speaks to: its pronoun says so, else its ending.
+/// The person that an imperative speaks to, by its pronoun or else by its ending.
 std::string_view commanded(std::string_view form)
 {
     const auto word = form.substr(0, form.find(' '));

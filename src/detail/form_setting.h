@@ -14,8 +14,8 @@
 
 namespace lumora::detail {
 
-/// A form in its parts, for the eye, and the key of what is worth a word to who
-/// cannot see them; empty for nothing.
+/// A form in parts of different styles, and the key of the text that tells a screen
+/// reader's user what the styles show; empty where they show nothing special.
 struct MarkedForm {
     std::vector<platform::TextRun> runs;
     std::string_view noteKey;

@@ -22,14 +22,6 @@ namespace lumora::detail {
 
 namespace {
 
-/// Null where the mood has no tense at that position.
-const data::TenseBlock* blockAt(int segment, int tense)
-{
-    const auto blocks = data::blocksOfSegment(segment);
-    const bool isThere = tense >= 0 && static_cast<std::size_t>(tense) < blocks.size();
-    return isThere ? &blocks[static_cast<std::size_t>(tense)] : nullptr;
-}
-
 TenseName nameOf(const data::TenseBlock& block, const Wording& wording)
 {
     const bool french = wording.settings.boolForKey(settings::kShowTranslated);
@@ -98,7 +90,7 @@ void forEachForm(const data::Verb& verb,
 
 std::shared_ptr<const data::Conjugation> formAt(const data::Verb& verb, const RowPlace& place)
 {
-    const auto* block = blockAt(place.segment, place.tense);
+    const auto* block = data::blockAt(place.segment, place.tense);
     if (block == nullptr) {
         return nullptr;
     }
@@ -117,7 +109,7 @@ std::optional<FormSheet> formSheet(const data::Verb& verb, const RowPlace& place
     const auto rowOf = [](const data::Conjugation& row) {
         return text::beforeForm(row.pronoun) + row.verb;
     };
-    const auto& tense = *blockAt(place.segment, place.tense);
+    const auto& tense = *data::blockAt(place.segment, place.tense);
     FormSheet sheet{
         rowOf(*form),
         form->verb,
@@ -142,7 +134,7 @@ std::optional<FormSheet> formSheet(const data::Verb& verb, const RowPlace& place
 
 std::optional<TenseNote> tenseNote(int segment, int tense, const Wording& wording)
 {
-    const auto* block = blockAt(segment, tense);
+    const auto* block = data::blockAt(segment, tense);
     if (block == nullptr) {
         return std::nullopt;
     }

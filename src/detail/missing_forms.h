@@ -22,8 +22,8 @@ namespace lumora::detail {
 /// A tense that a verb lacks, wholly or in some persons.
 struct MissingTense {
     std::string_view titleKey;
-    /// Those that the verb has in other tenses but not in this one; empty where
-    /// it has nothing of the tense.
+    /// The persons that the verb has in other tenses but not in this one; empty where
+    /// it has no form of the tense.
     std::vector<sound::Person> persons;
 };
 
@@ -31,9 +31,9 @@ struct MissingTense {
 struct MissingForms {
     /// In the order of the moods.
     std::vector<MissingTense> tenses;
-    /// The tenses that it has something of.
+    /// The tenses in which it has at least one form.
     std::vector<std::string_view> usedTitleKeys;
-    /// It has persons, and none but il and ils.
+    /// It has personal forms, but only those of il and ils.
     bool thirdPersonOnly = false;
 
     bool infinitiveOnly() const { return usedTitleKeys.empty(); }
@@ -42,11 +42,11 @@ struct MissingForms {
 /// For a verb whose forms are loaded.
 MissingForms missingForms(const data::Verb& verb);
 
-/// As a person reads it, "Past historic, Present (nous, vous)"; empty for none.
-/// `prefixes` say which of the two lists follows, the missing or, where it is
-/// much shorter, the used tenses.
+/// The missing forms for a person to read.
 struct MissingWords {
+    /// `tenses` names the tenses in use, which are fewer, instead of the missing ones.
     bool usedOnly = false;
+    /// "Past historic, Present (nous, vous)"; empty for none.
     std::string tenses;
 };
 MissingWords inWords(const MissingForms& forms, const platform::Bundle& bundle,

@@ -14,9 +14,9 @@ namespace lumora::detail {
 
 namespace {
 
-/// So that the ring is seen from the first word on.
+/// The ring's share at the first word, so that it is seen from then on.
 constexpr float kLeastProgress = 0.1F;
-/// Ahead of the voice, so that the ring looks full when the last word begins.
+/// The ring runs ahead of the voice, so that it is full when the last word begins.
 constexpr float kLead = 1.1F;
 
 /// How full the ring is when the word at `location` begins.

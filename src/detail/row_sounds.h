@@ -22,8 +22,8 @@ namespace lumora::detail {
 /// How the rows of one verb are said.
 class RowSounds {
 public:
-    /// The queue tells of an h before which nothing is linked; without it, or
-    /// where it does not know the verb, the h counts as mute.
+    /// The database is asked whether the verb begins with an aspirated h. Without a
+    /// queue, or where the database does not know the verb, the h counts as mute.
     RowSounds(const data::Verb& verb, platform::DatabaseQueue* queue);
 
     /// In IPA, the variants of a double form parted by ", ". Empty for a row of

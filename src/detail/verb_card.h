@@ -19,8 +19,8 @@ class SettingsStore;
 
 namespace lumora::detail {
 
-/// Where words for a person come from: the texts, the set of tense names and
-/// the language of translations that are chosen.
+/// What sentences for a person are made with: the texts, the chosen set of tense names
+/// and the chosen language of translations.
 struct Wording {
     const platform::Bundle& bundle;
     const platform::SettingsStore& settings;

@@ -281,7 +281,7 @@ void VerbDetailTableViewController::updateEmptyState(double toolbarHeight)
 
 int VerbDetailTableViewController::numberOfSections()
 {
-    // Only the table knows of previews; the collection always shows the toolbar.
+    // A preview hides the toolbar of the table only; the collection always shows it.
     updateEmptyState(isPeeking ? 0 : defaultToolbarHeight.value_or(0));
     return ConjugationGrid::numberOfSections(shown());
 }
@@ -365,7 +365,12 @@ void VerbDetailTableViewController::play(const std::vector<PlayableRow>& rows, f
 
 VerbPage VerbDetailTableViewController::page()
 {
-    return {*this, services_};
+    return {*this,
+            {services_.bundle, services_.settings, services_.device},
+            services_.viewMemory,
+            services_.storyboard,
+            services_.crashReporter,
+            services_.console};
 }
 
 void VerbDetailTableViewController::setSpeechListener(std::function<void()> listener)

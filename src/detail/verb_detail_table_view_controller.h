@@ -54,8 +54,8 @@ public:
     explicit VerbDetailTableViewController(const platform::Services& services);
     ~VerbDetailTableViewController() override;
 
-    // The members of the screen's interface description. Views read them and
-    // are told by the outlet listener when one changed.
+    // The outlets: what the views show. Views read them, and the outlet listener
+    // tells them when one has changed.
     double cellSpacingCollectionView = 20.0;
     int numberOfColumnsCollectionView = 2;
     VerbTypeSegmentedControl verbTypeSegmentedControl;
@@ -88,8 +88,7 @@ public:
     void setOutletListener(std::function<void()> listener);
     /// Tells that listener.
     void outletsChanged();
-    /// The view's wish to hear when what `guide` tells is worded anew; one
-    /// listener.
+    /// Called when the texts of `page().guide()` have changed; one listener.
     void setWordsListener(std::function<void()> listener);
 
     /// Puts the split view's button on the left, beside the way back.
@@ -112,15 +111,15 @@ public:
     ConjugationGrid& grid() { return grid_; }
     /// What the tables show.
     ShownMood shown() const;
-    /// Speaks rows of the verb one after another, at a pace that is a factor on
-    /// the chosen rate. Warns of a low volume first; none are nothing to do.
+    /// Speaks rows of the verb one after another; `pace` is a factor on the chosen
+    /// rate. Warns of a low volume first. Does nothing without rows.
     void play(const std::vector<PlayableRow>& rows, float pace = 1);
     void stopSpeaking() { playback_.stop(); }
     const std::string& spokenText() const { return playback_.spokenText(); }
     /// Called when another row is spoken, or none any more.
     void setSpeechListener(std::function<void()> listener);
 
-    /// Whether stems and endings are told apart; so it is on every verb's screen.
+    /// Whether stems and endings are marked; one choice for every verb's screen.
     bool marksForms() const { return marks_.on(); }
     void setMarksForms(bool marks);
 

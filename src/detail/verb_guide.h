@@ -22,7 +22,7 @@ namespace lumora::detail {
 
 /// What the screen of a verb tells besides its tables, read when it is asked for.
 /// A database that cannot be asked is logged, and what it would tell is left out.
-/// Made for a question and let go; what it refers to must outlive it.
+/// Made for one call and not kept; what it refers to must outlive it.
 class VerbGuide {
 public:
     /// The verb's forms are loaded.

@@ -14,13 +14,13 @@ namespace lumora::detail {
 
 platform::Voice VerbPage::voice() const
 {
-    return settings::ViewMemory{services_.viewMemory}.voice();
+    return settings::ViewMemory{viewMemory_}.voice();
 }
 
 void VerbPage::chooseVoice(platform::Voice voice) const
 {
-    settings::reportUnkept(settings::ViewMemory{services_.viewMemory}.setVoice(voice), "the voice",
-                           services_.console);
+    settings::reportUnkept(settings::ViewMemory{viewMemory_}.setVoice(voice), "the voice",
+                           console_);
     screen_.outletsChanged();
 }
 
@@ -58,33 +58,29 @@ const data::ConjugationList& VerbPage::formsOfTense(int position) const
 
 VerbGuide VerbPage::guide() const
 {
-    return {*screen_.selectedVerb,
-            screen_.queue,
-            {services_.bundle, services_.settings, services_.device},
-            services_.crashReporter};
+    return {*screen_.selectedVerb, screen_.queue, wording_, crashReporter_};
 }
 
 bool VerbPage::isCardOpen(bool unlessChosen) const
 {
-    return settings::ViewMemory{services_.viewMemory}.cardOpen().value_or(unlessChosen);
+    return settings::ViewMemory{viewMemory_}.cardOpen().value_or(unlessChosen);
 }
 
 void VerbPage::keepCardOpen(bool open) const
 {
-    settings::reportUnkept(settings::ViewMemory{services_.viewMemory}.setCardOpen(open),
-                           "whether the card is open", services_.console);
+    settings::reportUnkept(settings::ViewMemory{viewMemory_}.setCardOpen(open),
+                           "whether the card is open", console_);
 }
 
 void VerbPage::showNeighbour(int places) const
 {
     const auto& list = screen_.sequence;
-    showVerb(screen_, list.away(places), list.movedBy(places), VerbStep::Replace,
-             services_.storyboard);
+    showVerb(screen_, list.away(places), list.movedBy(places), VerbStep::Replace, storyboard_);
 }
 
 void VerbPage::showRelated(std::int64_t verbId) const
 {
-    showVerb(screen_, guide().verb(verbId), {}, VerbStep::Cover, services_.storyboard);
+    showVerb(screen_, guide().verb(verbId), {}, VerbStep::Cover, storyboard_);
 }
 
 } // namespace lumora::detail

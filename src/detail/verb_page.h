@@ -7,9 +7,15 @@
 #include "detail/conjugation_grid.h"
 #include "detail/verb_guide.h"
 #include "platform/machine/speech_synthesizer.h"
-#include "platform/screens/services.h"
 
 #include <cstdint>
+#include <iosfwd>
+
+namespace lumora::platform {
+class CrashReporter;
+class SettingsStore;
+class Storyboard;
+} // namespace lumora::platform
 
 namespace lumora::detail {
 
@@ -18,32 +24,40 @@ class VerbDetailTableViewController;
 /// What the page of a verb offers around its tables: the verb's card, the sheets
 /// of its forms, saying a whole tense, the way to other verbs.
 ///
-/// Made for a question and let go; the screen must outlive it.
+/// Made for one call and not kept; what is passed must outlive it.
 class VerbPage {
 public:
-    VerbPage(VerbDetailTableViewController& screen, const platform::Services& services)
-        : screen_{screen}, services_{services}
+    VerbPage(VerbDetailTableViewController& screen, const Wording& wording,
+             platform::SettingsStore& viewMemory, platform::Storyboard& storyboard,
+             platform::CrashReporter& crashReporter, std::ostream& console)
+        : screen_{screen},
+          wording_{wording},
+          viewMemory_{viewMemory},
+          storyboard_{storyboard},
+          crashReporter_{crashReporter},
+          console_{console}
     {}
 
-    /// The one that speaks from the next row on, on every verb's screen.
+    /// The voice that speaks, from the next row on and on every verb's screen.
     platform::Voice voice() const;
     void chooseVoice(platform::Voice voice) const;
 
     /// Speaks the rows of a tense of the chosen mood one after another.
     void playTense(int position) const;
-    /// Says a form at a pace to learn it by; `fromCollection` says whose ring
-    /// tells so.
+    /// Says a form slowly. `fromCollection`: the ring of the collection moves, else
+    /// that of the table.
     void saySlowly(const RowPlace& place, bool fromCollection) const;
 
-    /// Whether there is anything to say of a tense without forms: nothing is
-    /// known of it after a failed reading.
+    /// False for a verb without a form, as after a failed reading: then a tense without
+    /// forms does not mean that the verb lacks it.
     bool hasForms() const;
     /// Of a tense of the chosen mood.
     const data::ConjugationList& formsOfTense(int position) const;
 
     /// What is told of the verb besides its tables; there must be one.
     VerbGuide guide() const;
-    /// Whether its card shows all lines.
+    /// Whether its card shows all lines. `unlessChosen` is the answer before the person
+    /// has ever opened or closed a card.
     bool isCardOpen(bool unlessChosen) const;
     void keepCardOpen(bool open) const;
 
@@ -55,7 +69,11 @@ public:
 
 private:
     VerbDetailTableViewController& screen_;
-    const platform::Services& services_;
+    Wording wording_;
+    platform::SettingsStore& viewMemory_;
+    platform::Storyboard& storyboard_;
+    platform::CrashReporter& crashReporter_;
+    std::ostream& console_;
 };
 
 } // namespace lumora::detail

@@ -22,7 +22,7 @@ public:
 
     /// The verb that many places on, or back where negative; null beyond the ends.
     data::VerbPtr away(int places) const;
-    /// The same verbs seen from that place, which is one.
+    /// The same verbs, standing at that place, which must exist.
     VerbSequence movedBy(int places) const;
 
 private:

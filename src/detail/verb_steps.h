@@ -15,7 +15,7 @@ class VerbDetailTableViewController;
 
 /// What becomes of a verb's screen when another verb's is shown.
 enum class VerbStep {
-    /// It goes, so that the way back leads to the list, however many verbs on.
+    /// It is taken away, so that going back leads to the list after any number of verbs.
     Replace,
     /// It waits below, and the way back leads to it.
     Cover

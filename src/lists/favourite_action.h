@@ -18,7 +18,7 @@ class TableViewController;
 
 namespace lumora::lists {
 
-/// The swipe action that makes the verb of a row a favourite, or none any more.
+/// The swipe action that makes the verb of a row a favourite, or no longer one.
 ///
 /// The list redraws its row; all other screens hear of it through
 /// "VerbFavouriteToggled" with the list as sender. All that is handed in must

@@ -22,7 +22,7 @@ protected:
     RemoveAction removeAction() const override;
 
 private:
-    /// Whoever changed it: the stars of the rows follow.
+    /// Also when this list changed the verb itself: the stars of all its rows follow.
     void verbFavouriteToggled(const data::VerbFavouriteToggled& /*news*/) { reloadHistory(); }
     void verbViewed(const data::VerbViewed& /*news*/) { reloadHistory(); }
     void refreshHistory(const data::RefreshHistory& /*news*/) { reloadHistory(); }

@@ -46,8 +46,7 @@ platform::Result<void> VerbFilter::load(platform::Database& database)
         }
     }
     if (rows->failed()) {
-        return tl::unexpected(
-            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+        return tl::unexpected(database.lastError());
     }
     // A database that was made a moment ago gets them later.
     loaded_ = !verbs_[0].empty();

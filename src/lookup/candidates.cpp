@@ -22,7 +22,8 @@ bool isGuess(Way way)
     return way == Way::Slip || way == Way::Sound;
 }
 
-/// Of one verb and its pronominal one the closer is guessed.
+/// Whether both are guesses of one verb, or of a verb and its pronominal twin (laver,
+/// laver (se)): of these only the better one is offered.
 bool sameGuess(const Reading& reading, const Reading& other)
 {
     const auto nameOf = [](const Reading& named) {
@@ -33,13 +34,13 @@ bool sameGuess(const Reading& reading, const Reading& other)
             (other.headword != reading.headword && nameOf(other) == nameOf(reading)));
 }
 
-/// A slip and a likeness of sound are as sure as each other: their penalties tell.
+/// Guesses by spelling and by sound are equally sure: their penalties order them.
 Way rankOf(Way way)
 {
     return way == Way::Sound ? Way::Slip : way;
 }
 
-/// As people use them.
+/// The commonest first.
 constexpr std::string_view kTenses[] = {"infinitif",
                                         "indicatifPresent",
                                         "indicatifPasseCompose",

@@ -31,11 +31,11 @@ public:
         : catalogue_{catalogue}, database_{database}
     {}
 
-    /// Adds a reading a form of the matches, in one way.
+    /// Adds one reading for each form among the matches.
     void add(std::uint32_t verb, const std::vector<RowMatch>& matches, Way way, int penalty);
     /// Adds the infinitive of a verb.
     void addInfinitive(std::uint32_t verb, Way way, int penalty);
-    /// Adds what the phrase is, letter by letter or folded.
+    /// Adds the forms that equal the phrase, exactly or folded.
     void addForms(const Phrase& phrase, Way way, int penalty);
 
     /// Leaves laver (se) out of "je lave", and laver of "je me lave". Of a form alone,
@@ -50,7 +50,7 @@ public:
     std::vector<Candidate>& found() { return found_; }
     const platform::Result<void>& state() const { return state_; }
 
-    /// The best, one a verb and form, one a verb of what is guessed, a handful at most.
+    /// The best few, each verb and form once, and each verb once among the guesses.
     std::vector<Reading> ranked() &&;
 
 private:
@@ -60,11 +60,10 @@ private:
     platform::Result<void> state_;
 };
 
-/// What the tokens may mean with a letter or two wrong, or by their sound. Of a
-/// word that stands alone only infinitives may be meant where a chance likeness
-/// would be too easy.
+/// Adds what the tokens may mean with a letter or two wrong. A short word without a
+/// subject resembles many forms by chance, so it is mostly taken for infinitives only.
 void addSlips(const std::vector<Phrase>& phrases, Candidates& candidates);
-/// `sounds` has looseSound of each word of the index.
+/// Adds what sounds alike. `sounds` has looseSound of each word of the index.
 void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::uint16_t>& sounds,
                     Candidates& candidates);
 

@@ -77,11 +77,6 @@ VerbName typedName(std::string_view tidy)
     return name;
 }
 
-platform::Error errorOf(const platform::Database& database)
-{
-    return {database.lastErrorMessage(), database.lastErrorCode()};
-}
-
 } // namespace
 
 std::string packedSounds(const std::vector<std::uint16_t>& sounds)
@@ -123,7 +118,7 @@ platform::Result<void> Catalogue::readVerbs(platform::Database& database)
             auxiliaries_.push_back(static_cast<std::uint32_t>(verbs_.size() - 1));
         }
     }
-    return rows->failed() ? tl::unexpected(errorOf(database)) : platform::Result<void>{};
+    return rows->failed() ? tl::unexpected(database.lastError()) : platform::Result<void>{};
 }
 
 bool Catalogue::takeStoredWords(platform::Database& database)
@@ -198,7 +193,7 @@ platform::Result<void> Catalogue::readWords(platform::Database& database)
         }
     }
     if (forms->failed()) {
-        return tl::unexpected(errorOf(database));
+        return tl::unexpected(database.lastError());
     }
     words_ = std::move(words).build();
     return {};

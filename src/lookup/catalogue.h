@@ -27,15 +27,15 @@ struct VerbName {
     std::string folded;
     /// From 1, among the commonest, to 5.
     int use = 0;
-    /// A word that not everybody wants to meet: nobody is offered it for a likeness.
+    /// A vulgar word: it is not offered as a guess for a short text.
     bool coarse = false;
     bool pronominal = false;
     /// As in s'en aller.
     bool en = false;
 };
 
-/// The rows of the table in which a file keeps what would take long to make of all
-/// forms: the words, and how they sound, two bytes each, the lower one first.
+/// The ids of the two rows of the table "word_index": the words, and a number for the
+/// sound of each, two bytes, the lower one first. To make them of all forms takes long.
 inline constexpr std::int64_t kStoredWords = 1;
 inline constexpr std::int64_t kStoredSounds = 2;
 std::string packedSounds(const std::vector<std::uint16_t>& sounds);
@@ -44,8 +44,8 @@ std::string packedSounds(const std::vector<std::uint16_t>& sounds);
 /// for last.
 class Catalogue {
 public:
-    /// Takes the index of words from the file where it is there, else makes it of
-    /// the forms. An error when the database cannot be asked.
+    /// Reads the index of words from the file if it is there, else makes it of all
+    /// forms. An error when the database cannot be asked.
     static platform::Result<Catalogue> read(platform::Database& database);
 
     /// All verbs by id.

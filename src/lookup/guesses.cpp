@@ -17,8 +17,8 @@ namespace {
 constexpr std::size_t kShortestInfinitive = 4;
 constexpr std::size_t kShortestBesidePronoun = 4;
 constexpr std::size_t kShortestDouble = 5;
-/// From here on a form may be meant by a word that stands alone, and an infinitive
-/// have two slips.
+/// From this length on a word without a subject may stand for a form, and an infinitive
+/// may have two slips.
 constexpr std::size_t kLong = 7;
 constexpr std::size_t kMostWords = 24;
 constexpr std::size_t kMostSoundAlikes = 40;
@@ -59,8 +59,8 @@ bool endsAsInfinitive(std::string_view word)
     return end == "er" || end == "ir" || end == "re";
 }
 
-/// How rare a verb may be that is guessed for a word that stands alone: each short
-/// word is like some rare verb, and most are no verbs.
+/// The rarest class of use that is guessed for a word without a subject: every short
+/// word resembles some rare verb, and most short words are no verbs.
 int rarestFor(std::string_view word)
 {
     constexpr int kCommon = 3;
@@ -81,8 +81,8 @@ bool mayBeMeant(const Phrase& phrase, std::string_view word, const VerbName& ver
     return !phrase.bare || (verb.use <= rarestFor(word) && (word.size() >= kLong || !verb.coarse));
 }
 
-/// Whether a form that is no infinitive may be meant so. Nobody who begins with
-/// another letter can expect that of a word that stands alone.
+/// Whether the misspelt word may stand for a form other than an infinitive. Without a
+/// subject its first letter must be right.
 bool mayBeForm(const Phrase& phrase, std::string_view word, const Slip& slip, const VerbName& verb)
 {
     constexpr int kCommon = 2;
@@ -102,7 +102,8 @@ bool mayBeForm(const Phrase& phrase, std::string_view word, const Slip& slip, co
            slip.word.size() > word.size() && verb.use <= kCommon;
 }
 
-/// Whether the slip itself is likely in a word that stands alone.
+/// Whether the slip is likely: in a short word without a subject the first letter must
+/// be right.
 bool isLikely(const Phrase& phrase, std::string_view word, const Slip& slip)
 {
     const bool firstTold =
@@ -115,7 +116,7 @@ int penaltyOf(const VerbName& verb)
     return kAClassOfUse * verb.use + (verb.coarse ? kCoarse : 0);
 }
 
-/// Whether an infinitive may stand in it.
+/// Whether the phrase may be a bare infinitive.
 bool isSimple(const Phrase& phrase)
 {
     return phrase.auxiliary.empty() && phrase.persons == kAnyPerson && !phrase.imperative &&
@@ -146,7 +147,7 @@ void addSlip(const Phrase& phrase, std::string_view word, const Slip& slip, Cand
             candidates.addInfinitive(number, Way::Slip, penalty);
         }
         for (auto& match : matches) {
-            // Whom a slipped participle agrees with its row knows better.
+            // The row knows with whom a misspelt participle agrees.
             if (!phrase.auxiliary.empty()) {
                 match.form = formOf(*match.spelling, match.spelling->word);
             }

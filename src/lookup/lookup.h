@@ -30,11 +30,11 @@ enum class Guesses {
 
 /// Says what a typed text may mean: which verbs, which of their forms.
 ///
-/// Takes its index from the database when it is first asked, and keeps about 6 MB
+/// Loads its index from the database when it is first asked, and keeps about 6 MB
 /// from then on: one object for one database. Not to be used by two threads at once.
 class Lookup {
 public:
-    /// Takes the index now, so that no text has to wait for it. An error when the
+    /// Loads the index now, so that no text has to wait for it. An error when the
     /// database cannot be read; the next call tries again.
     platform::Result<void> prepare(platform::Database& database);
 
@@ -47,8 +47,8 @@ public:
 
     /// The verbs that the text names by their infinitive, homographs all, by id. The
     /// closest likeness that finds any wins: the name as it stands, then "évanouir"
-    /// for "évanouir (s')", then both without accents. Who names a pronominal verb
-    /// is given no other.
+    /// for "évanouir (s')", then both without accents. A text that names a pronominal
+    /// verb means no other.
     platform::Result<std::vector<std::int64_t>> verbsNamed(platform::Database& database,
                                                            std::string_view text);
 

@@ -69,8 +69,7 @@ platform::Result<Meanings> Meanings::read(platform::Database& database, std::str
         }
     }
     if (rows->failed()) {
-        return tl::unexpected(
-            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+        return tl::unexpected(database.lastError());
     }
     return meanings;
 }

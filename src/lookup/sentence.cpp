@@ -52,7 +52,7 @@ bool addPart(const std::vector<std::string>& tokens, std::size_t begin, std::siz
         phrasesOf(part, [&](std::string_view word) { return catalogue.isAuxiliary(word); });
     bool any = false;
     for (const auto& phrase : phrases) {
-        // "le chat mange la souris" orders nothing.
+        // "mange la souris" inside "le chat mange la souris" is no imperative.
         const bool order = phrase.imperative && begin > 0;
         if (order || (phrase.bare && !mayStandAlone(tokens, begin))) {
             continue;
@@ -63,8 +63,8 @@ bool addPart(const std::vector<std::string>& tokens, std::size_t begin, std::siz
                 return true;
             }
             auto matches = rows->matches(phrase);
-            // A likeness without accents is too easy among so many words, but for one
-            // behind its auxiliary.
+            // Among many words one equals a form by chance once accents are ignored;
+            // not so a participle behind its auxiliary.
             if (phrase.auxiliary.empty()) {
                 matches.erase(
                     std::remove_if(matches.begin(), matches.end(),

@@ -11,10 +11,10 @@
 
 namespace lumora::lookup {
 
-/// A word that may have been meant.
+/// A word that a misspelt one may stand for.
 struct Slip {
     std::string word;
-    /// Small where fingers or ears slip easily, as over a double letter.
+    /// Lower for a common mistake, such as a double letter written once.
     int cost = 0;
 };
 

@@ -248,8 +248,8 @@ std::string soundKey(std::string_view tidy)
 std::string looseKey(std::string_view folded)
 {
     auto key = keyOf(folded);
-    // Without accents nothing tells é from e, before a consonant as little as at
-    // the end.
+    // Without accents é cannot be told from e, neither before a consonant nor at the
+    // end.
     key.erase(std::remove(key.begin(), key.end(), 'E'), key.end());
     return key;
 }

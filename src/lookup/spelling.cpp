@@ -13,8 +13,8 @@ namespace lumora::lookup {
 
 namespace {
 
-/// The letters from U+00E0 to U+00FF without their accents; 0 where that is no
-/// matter of a table.
+/// The letters from U+00E0 to U+00FF without their accents; 0 where text::folded must
+/// decide.
 constexpr std::array<char, 32> kPlain{'a', 'a', 'a', 'a', 'a', 'a', 0,   'c', 'e', 'e', 'e',
                                       'e', 'i', 'i', 'i', 'i', 0,   'n', 'o', 'o', 'o', 'o',
                                       'o', 0,   0,   'u', 'u', 'u', 'u', 'y', 0,   'y'};

@@ -116,8 +116,7 @@ platform::Result<VerbRows> VerbRows::read(platform::Database& database, std::int
         result.rows_.push_back(std::move(row));
     }
     if (found->failed()) {
-        return tl::unexpected(
-            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+        return tl::unexpected(database.lastError());
     }
     return result;
 }

@@ -13,10 +13,9 @@
 
 namespace lumora::navigation {
 
-void sendCrashReportValues(const platform::Services& services)
+void sendCrashReportValues(const platform::SettingsStore& settings, const platform::Device& device,
+                           platform::CrashReporter& report)
 {
-    const auto& settings = services.settings;
-    auto& report = services.crashReporter;
     const auto orTrue = [&](std::string_view key) {
         return platform::boolObjectForKey(settings, key).value_or(true);
     };
@@ -26,7 +25,7 @@ void sendCrashReportValues(const platform::Services& services)
     report.setCustomValue(orTrue(settings::kSortByLang), "SortByLang");
     report.setCustomValue(settings.stringForKey(settings::kTranslationLanguage).value_or(""),
                           "TranslationLanguage");
-    if (const auto preferred = services.device.preferredLanguages(); !preferred.empty()) {
+    if (const auto preferred = device.preferredLanguages(); !preferred.empty()) {
         report.setCustomValue(preferred.front(), "Locale");
     }
 }

@@ -3,11 +3,16 @@
 
 #pragma once
 
-#include "platform/screens/services.h"
+namespace lumora::platform {
+class CrashReporter;
+class Device;
+class SettingsStore;
+} // namespace lumora::platform
 
 namespace lumora::navigation {
 
 /// Tells the crash reporter how the lists and the search are set.
-void sendCrashReportValues(const platform::Services& services);
+void sendCrashReportValues(const platform::SettingsStore& settings, const platform::Device& device,
+                           platform::CrashReporter& report);
 
 } // namespace lumora::navigation

@@ -48,7 +48,8 @@ constexpr std::string_view kScreenOfTab[] = {platform::kVerbListScreen, platform
 
 HomeViewController::HomeViewController(const platform::Services& services)
     : services_{services},
-      readings_{std::make_shared<SearchReadings>(services)},
+      readings_{std::make_shared<SearchReadings>(services.bundle, services.settings,
+                                                 services.device, services.crashReporter)},
       children_(std::size(kScreenOfTab))
 {}
 
@@ -142,7 +143,7 @@ void HomeViewController::findDetailViewController()
 
 void HomeViewController::viewWillAppear()
 {
-    sendCrashReportValues(services_);
+    sendCrashReportValues(services_.settings, services_.device, services_.crashReporter);
 }
 
 void HomeViewController::setSplitViewController(platform::SplitViewController* splitView)
@@ -317,7 +318,7 @@ detail::VerbSequence HomeViewController::shownFrom(const data::VerbPtr& verb) co
         }
     }
     shown.insert(shown.end(), results.verbs.begin(), results.verbs.end());
-    // A verb of elsewhere is no neighbour of what was once found.
+    // A verb that was not found by this search has no neighbours in its results.
     const auto at = std::find(shown.begin(), shown.end(), verb);
     const auto place = static_cast<std::size_t>(at - shown.begin());
     return {std::move(shown), place};
@@ -388,8 +389,8 @@ void HomeViewController::optionsClosed(bool fieldsChanged)
     verbList().reloadVerbs();
     dynamic_cast<lists::HistoryTableViewController&>(*listFor(Tab::History)).reloadHistory();
     data::post(services_.notifications, data::RefreshConjugations{});
-    sendCrashReportValues(services_);
-    // One that was never shown reads its favourites when it is.
+    sendCrashReportValues(services_.settings, services_.device, services_.crashReporter);
+    // A list that was never shown reads its favourites when it is first shown.
     if (const auto& favourites = children_.at(static_cast<std::size_t>(Tab::Favourites))) {
         dynamic_cast<lists::FavouritesTableViewController&>(*favourites).reloadFavourites();
     }

@@ -58,8 +58,8 @@ struct SearchBar {
     std::string placeholder;
     std::string text;
     std::string accessibilityIdentifier;
-    /// Whether the field is to have the keyboard; the view keeps it true to
-    /// what the user did since.
+    /// Whether the field has the keyboard, or is to get it. The view updates it when
+    /// the user moves the keyboard elsewhere.
     bool isFirstResponder = false;
 };
 
@@ -105,11 +105,11 @@ public:
     /// The list of all verbs, made by now or here.
     lists::VerbListTableViewController& verbList();
 
-    /// The view's wish to hear of a changed tab bar, search bar or child; one
+    /// Called when the tab bar, the search bar or the child has changed; one
     /// listener.
     void setOutletListener(std::function<void()> listener);
 
-    /// Shows a tab, which the results of a search would cover: it ends.
+    /// Shows a tab. Ends the search, whose results would cover the tab.
     void didSelectItem(Tab tag);
     /// The user changed the text of the search field, or it is set from elsewhere.
     void searchTextChanged(std::string text);
@@ -147,7 +147,7 @@ protected:
 private:
     void performSegue(std::string_view identifier);
     void historyFeatureToggled(const data::HistoryFeatureToggled& news);
-    /// The stars of the results follow, which hear no news themselves.
+    /// Updates the stars of the search results, which observe no notifications.
     void verbFavouriteToggled(const data::VerbFavouriteToggled& news);
     void openTab(const data::TabOpenEvent& news);
     void makeSearchResultsController();
@@ -163,9 +163,9 @@ private:
     void outletsChanged();
 
     const platform::Services& services_;
-    /// Work for later holds it weakly.
+    /// Shared, so that delayed work can hold it weakly.
     std::shared_ptr<SearchReadings> readings_;
-    /// What the next screen is to begin with.
+    /// The form and the option at which the next screen opens.
     std::optional<data::FormPlace> openedForm_;
     std::optional<platform::IndexPath> firstOption_;
     TabBarItem listTabBarItem_;

@@ -99,13 +99,12 @@ void SearchReadings::read(const std::string& text, const std::vector<data::VerbP
     clear();
     allThereIs_ = results.empty();
     const bool searchesForms =
-        platform::boolObjectForKey(services_.settings, settings::kIncludeConjugations)
-            .value_or(false);
+        platform::boolObjectForKey(settings_, settings::kIncludeConjugations).value_or(false);
     offersForms_ = allThereIs_ && !searchesForms;
     if (queue == nullptr) {
         return;
     }
-    const auto language = data::listLanguage(services_.settings, services_.device).code;
+    const auto language = data::listLanguage(settings_, device_).code;
     queue->inDatabase([&](platform::Database& database) {
         auto readings =
             lookup_.read(database, text, language,
@@ -131,7 +130,7 @@ ReadingCard SearchReadings::cardOf(const lookup::Reading& reading, data::VerbPtr
     card.headword = reading.headword;
     card.way = wayOf(reading);
     if (isInfinitive(reading)) {
-        const auto& translation = verb->translation(services_.settings, services_.device);
+        const auto& translation = verb->translation(settings_, device_);
         card.detail = translation == verb->french ? std::string{} : translation;
     } else {
         card.detail = placesOf(reading);
@@ -155,7 +154,7 @@ std::string SearchReadings::placesOf(const lookup::Reading& reading) const
         } else {
             const auto& block = data::blocksOfSegment(position->segment)[position->block];
             told += told.empty() ? "" : " \u00B7 ";
-            told += data::tenseTitle(block.titleKey, services_.bundle, services_.settings);
+            told += data::tenseTitle(block.titleKey, bundle_, settings_);
             told += " \u2013 ";
             tense = place.tense;
         }
@@ -167,7 +166,7 @@ std::string SearchReadings::placesOf(const lookup::Reading& reading) const
 std::string SearchReadings::wayOf(const lookup::Reading& reading) const
 {
     const auto text = [this](std::string_view key) {
-        return platform::localizedString(services_.bundle, key);
+        return platform::localizedString(bundle_, key);
     };
     switch (reading.way) {
     case lookup::Way::Exact:
@@ -188,9 +187,8 @@ std::string SearchReadings::wayOf(const lookup::Reading& reading) const
 
 void SearchReadings::log(const platform::Database& database)
 {
-    services_.crashReporter.logWithFormat(
-        "An error occurred when reading what a text may mean: %@ (%d)",
-        {database.lastErrorMessage(), database.lastErrorCode()});
+    crashReporter_.logWithFormat("An error occurred when reading what a text may mean: %@ (%d)",
+                                 {database.lastErrorMessage(), database.lastErrorCode()});
 }
 
 } // namespace lumora::navigation

@@ -6,15 +6,18 @@
 #include "data/tense_table.h"
 #include "data/verb.h"
 #include "lookup/lookup.h"
-#include "platform/screens/services.h"
 
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace lumora::platform {
+class Bundle;
+class CrashReporter;
 class Database;
 class DatabaseQueue;
+class Device;
+class SettingsStore;
 } // namespace lumora::platform
 
 namespace lumora::navigation {
@@ -36,14 +39,17 @@ struct ReadingCard {
 /// only.
 class SearchReadings {
 public:
-    /// The services must outlive the object.
-    explicit SearchReadings(const platform::Services& services) : services_{services} {}
+    /// What is passed must outlive the object.
+    SearchReadings(const platform::Bundle& bundle, const platform::SettingsStore& settings,
+                   const platform::Device& device, platform::CrashReporter& crashReporter)
+        : bundle_{bundle}, settings_{settings}, device_{device}, crashReporter_{crashReporter}
+    {}
 
     /// The shared queue. Not owned; null when there is no database.
     platform::DatabaseQueue* queue = nullptr;
 
     lookup::Lookup& lookup() { return lookup_; }
-    /// Takes the index, so that the first text need not wait for it.
+    /// Loads the index, so that the first text need not wait for it.
     void prepare();
     /// Reads the text, whose search has found `results`.
     void read(const std::string& text, const std::vector<data::VerbPtr>& results);
@@ -61,7 +67,10 @@ private:
     std::string wayOf(const lookup::Reading& reading) const;
     void log(const platform::Database& database);
 
-    const platform::Services& services_;
+    const platform::Bundle& bundle_;
+    const platform::SettingsStore& settings_;
+    const platform::Device& device_;
+    platform::CrashReporter& crashReporter_;
     lookup::Lookup lookup_;
     std::vector<ReadingCard> cards_;
     bool allThereIs_ = false;

@@ -24,7 +24,7 @@ constexpr int kMoods = 4;
 constexpr std::string_view kWidth = "window_width";
 constexpr std::string_view kHeight = "window_height";
 constexpr std::string_view kMaximized = "window_maximized";
-/// Beyond it nobody had a window.
+/// No real window is larger; a larger number is damage.
 constexpr std::int64_t kLongestSide = 20000;
 constexpr std::string_view kMarks = "marks";
 

@@ -45,7 +45,7 @@ public:
     std::optional<WindowSize> windowSize() const;
     bool windowMaximized() const;
     platform::Result<void> setWindow(std::optional<WindowSize> size, bool maximized);
-    /// Whether stems and endings are told apart; they are at first.
+    /// Whether stems and endings are marked; they are at first.
     bool marksForms() const;
     platform::Result<void> setMarksForms(bool marks);
     /// Whether a verb's card shows all its lines; none before anybody chose.
@@ -62,7 +62,7 @@ private:
     platform::SettingsStore& store_;
 };
 
-/// Tells the console what could not be kept, and why.
+/// Tells the console of a value that could not be written, and why.
 void reportUnkept(const platform::Result<void>& kept, std::string_view what, std::ostream& console);
 
 } // namespace lumora::settings

@@ -6,6 +6,7 @@
 #include "sound/grammar.h"
 #include "sound/letters.h"
 #include "sound/word.h"
+#include "text/brackets.h"
 #include "text/pronoun.h"
 
 #include <algorithm>
@@ -89,21 +90,6 @@ std::vector<Token> tokensOf(std::string_view text, std::size_t begin, std::size_
     return tokens;
 }
 
-/// Endings in brackets are not spoken: "allé(e)".
-std::string withoutBrackets(std::string_view form)
-{
-    std::string text;
-    bool inside = false;
-    for (const char c : form) {
-        inside |= c == '(';
-        if (!inside) {
-            text += c;
-        }
-        inside &= c != ')';
-    }
-    return text;
-}
-
 /// By the letters, as grammar has it: y is a vowel before a consonant alone.
 bool beginsWithVowel(const Letters& word)
 {
@@ -174,7 +160,7 @@ private:
 
     Said said(std::size_t index) const
     {
-        const auto text = withoutBrackets(tokens_[index].text);
+        const auto text = text::withoutBracketedEndings(tokens_[index].text).text;
         if (const auto* particle = particleNamed(text); index != verb_ && particle != nullptr) {
             return {std::string(particle->ipa), particle->liaison};
         }
@@ -285,7 +271,7 @@ std::string ipa(const Row& row)
 {
     const auto pronoun = firstPronoun(row.pronoun);
     std::string all;
-    const auto form = withoutBrackets(row.form);
+    const auto form = text::withoutBracketedEndings(row.form).text;
     for (std::size_t begin = 0; begin <= form.size();) {
         const auto end = std::min(form.find(kVariants, begin), form.size());
         const auto variant = form.substr(begin, end - begin);

@@ -7,8 +7,8 @@
 
 namespace lumora::sound {
 
-/// Settles what neighbours in speech decide: glides, the e that falls, and the
-/// vowels that spelledSounds leaves open.
+/// Decides what depends on the neighbouring sounds: glides, the e that falls, and the
+/// vowels for which spelledSounds left a placeholder.
 Sounds settled(const Sounds& sounds);
 
 } // namespace lumora::sound

@@ -9,8 +9,8 @@ namespace lumora::sound {
 
 /// What the letters of a word stand for, one after the other.
 ///
-/// Where the neighbours in speech decide, an open question stands for them: E
-/// for e or ɛ, Ø for ø or œ, ə for every e that may fall.
+/// Where the neighbouring sounds decide, a placeholder stands for the sound: E for e or
+/// ɛ, Ø for ø or œ, ə for every e that may fall.
 Sounds spelledSounds(const Letters& word);
 
 } // namespace lumora::sound

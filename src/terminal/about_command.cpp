@@ -82,8 +82,7 @@ platform::Result<Knowledge> readKnowledge(platform::Database& database, data::Ve
         return tl::unexpected(relations.error());
     }
     if (!data::loadConjugations(database, verb)) {
-        return tl::unexpected(
-            platform::Error{database.lastErrorMessage(), database.lastErrorCode()});
+        return tl::unexpected(database.lastError());
     }
     return Knowledge{*facts, std::move(*relations)};
 }

@@ -117,8 +117,8 @@ std::string_view verbOf(std::string_view headword)
     return headword.substr(0, headword.find(" (s"));
 }
 
-/// An infinitive names its verb; who asks for a pronominal verb that is none is
-/// not served with another.
+/// An infinitive names its verb. "se" before a verb that is not pronominal names none:
+/// the verb without "se" is not meant.
 bool isName(const lookup::Reading& reading)
 {
     return reading.form.find(' ') == std::string::npos &&

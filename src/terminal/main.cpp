@@ -24,8 +24,8 @@ using terminal::Command;
 constexpr int kFailed = 1;
 constexpr int kMisused = 2;
 
-/// The toolkit warns of a locale without UTF-8 and copes; that is no news to
-/// who asks for a verb.
+/// The toolkit warns of a locale without UTF-8 and works all the same; that does not
+/// concern a person who asks for a verb.
 void writeToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
                          const QString& message)
 {

@@ -21,7 +21,7 @@ struct Output {
     bool isTerminal() const { return width > 0; }
 };
 
-/// Tells the user something, in one line and without what a terminal would obey.
+/// Tells the user something, in one line and without control characters.
 void tell(const std::string& message, std::ostream& errors);
 
 /// What the user typed, in quotes for a message; of a long text the beginning.

@@ -22,7 +22,7 @@ Session::Session(const std::filesystem::path& shareFolder)
 {
     storyboard_.setServices(services_);
     settings::seedDefaultSettings(settings_);
-    // The history is in the database, and this is no viewing of a verb.
+    // The command shows a verb on no screen, so it is no view for the history.
     settings_.setValue(false, settings::kUseHistory);
 }
 

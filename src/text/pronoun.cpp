@@ -5,10 +5,15 @@
 
 namespace lumora::text {
 
+bool isElided(std::string_view pronoun)
+{
+    return pronoun.ends_with('\'') || pronoun.ends_with("\u2019");
+}
+
 std::string beforeForm(std::string_view pronoun)
 {
     std::string before{pronoun};
-    if (!pronoun.empty() && !pronoun.ends_with('\'')) {
+    if (!pronoun.empty() && !isElided(pronoun)) {
         before += ' ';
     }
     return before;

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 
 namespace lumora::text {
 
@@ -86,6 +87,11 @@ std::string lowerCased(std::string_view text)
     return encoded(decoded(text).toLower(icu::Locale::getRoot()));
 }
 
+std::string withoutLigatures(std::string text)
+{
+    return replaced(replaced(std::move(text), "œ", "oe"), "æ", "ae");
+}
+
 std::string folded(std::string_view text)
 {
     // Full case folding, not lower case: it opens ß to ss as well.
@@ -98,15 +104,11 @@ std::string folded(std::string_view text)
     icu::UnicodeString plain;
     for (std::int32_t at = 0; at < whole.length(); at = whole.moveIndex32(at, 1)) {
         const auto character = whole.char32At(at);
-        if (character == U'œ') {
-            plain.append(u"oe", 2);
-        } else if (character == U'æ') {
-            plain.append(u"ae", 2);
-        } else if (u_charType(character) != U_NON_SPACING_MARK) {
+        if (u_charType(character) != U_NON_SPACING_MARK) {
             plain.append(character);
         }
     }
-    return encoded(plain);
+    return withoutLigatures(encoded(plain));
 }
 
 std::string composed(std::string_view text)

@@ -21,6 +21,10 @@ std::string composed(std::string_view text);
 /// Lower case by the full mapping, independent of any language.
 std::string lowerCased(std::string_view text);
 
+/// With "oe" for œ and "ae" for æ, as a keyboard without them writes. Capital ligatures
+/// stay.
+std::string withoutLigatures(std::string text);
+
 /// Without regard to case, accents and ligatures: "Œuvrer" and "oeuvrer" are the
 /// same, ß is ss.
 std::string folded(std::string_view text);

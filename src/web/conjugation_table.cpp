@@ -24,7 +24,7 @@ enum Column { Id, VerbId, Pronoun, Form, Type, Order, Display };
 constexpr int kOneVerb = 1;
 constexpr std::int64_t kRowsAVerb = 1000;
 
-/// SQLite hands its extensions nothing of their own.
+/// Global, since SQLite passes no pointer of ours to an automatic extension.
 ContentSource* theSource = nullptr;
 
 struct Cursor : sqlite3_vtab_cursor {

@@ -10,13 +10,13 @@
 
 namespace lumora::web {
 
-/// The tables that the forms are made of, read when they are first needed: the list
-/// of verbs does without.
+/// The tables from which the forms are made, read when they are first needed; the list
+/// of verbs does not need them.
 class ContentSource {
 public:
     explicit ContentSource(std::filesystem::path folder) : folder_{std::move(folder)} {}
 
-    /// Null where the tables are missing or spoilt; why is on the console.
+    /// Null where the tables are missing or damaged; the console says why.
     const verbdb::Content* get();
 
 private:

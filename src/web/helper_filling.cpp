@@ -78,7 +78,7 @@ void HelperFilling::step()
 void HelperFilling::write()
 {
     queue_->inDatabase([&](platform::Database& database) {
-        // Without them the same questions have the same answers, later.
+        // Without the tables the answers are the same, but slower.
         if (const auto written = writeTables(database, *tables_); !written) {
             crashReporter_.logWithFormat("Unable to fill the helper tables: %@ (%d)",
                                          {written.error().message, written.error().code});

@@ -19,8 +19,9 @@ namespace lumora::web {
 
 class ContentSource;
 
-/// Fills the helper tables of a database that was made here, after the first list
-/// stands: in small steps, so that the person need not wait, and written at once.
+/// Fills the helper tables of a database that was made here, after the first list is
+/// shown: in small steps, so that the person need not wait. They are written at the end,
+/// all together.
 class HelperFilling {
 public:
     /// What is passed must outlive the object; the queue may be null.
@@ -31,7 +32,7 @@ public:
     bool isDone() const { return done_; }
     /// A few verbs more, and after the last of them the writing.
     void step();
-    /// For what cannot do without.
+    /// Does all that is left at once, for whoever needs the tables now.
     void finish();
 
 private:

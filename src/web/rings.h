@@ -11,7 +11,7 @@
 
 namespace lumora::web {
 
-/// The rings of play controls by numbers, under which the page hears how they move.
+/// Gives the rings of play controls numbers, and tells the page by number how they move.
 class Rings {
 public:
     explicit Rings(Outbox& outbox) : outbox_{outbox} {}

@@ -34,7 +34,7 @@ private:
     struct Entry {
         int number = 0;
         std::weak_ptr<platform::ViewController> screen;
-        /// What is told of a verb besides its tables takes the database to tell.
+        /// The texts around a verb's tables; kept, since the database is asked for them.
         std::shared_ptr<Json> words;
     };
 

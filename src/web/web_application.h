@@ -42,7 +42,7 @@ struct WebFolders {
 };
 
 /// The whole program in a worker but for the worker itself: every platform object,
-/// the logic above them, and the events by which the page moves it. One thread.
+/// the logic above them, and the handling of the page's events. One thread.
 class WebApplication {
 public:
     /// `facts`: as WebDevice takes them.
@@ -102,7 +102,7 @@ private:
     app::AppDelegate delegate_;
     std::optional<HelperFilling> helpers_;
     std::unique_ptr<WebPanes> panes_;
-    /// Due while helper tables are being filled.
+    /// Timers that became due while helper tables were being filled.
     std::vector<int> due_;
 };
 

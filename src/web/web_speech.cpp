@@ -3,6 +3,7 @@
 
 #include "web/web_speech.h"
 
+#include "text/brackets.h"
 #include "text/text.h"
 
 #include <algorithm>
@@ -10,33 +11,12 @@
 
 namespace lumora::web {
 
-namespace {
-
-bool continuesCharacter(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
-
-} // namespace
-
 SpokenText::SpokenText(std::string_view written)
 {
-    std::size_t place = 0;
-    bool bracketed = false;
-    for (const char byte : written) {
-        const bool first = !continuesCharacter(byte);
-        // Only behind a letter: a text may begin with a bracket.
-        bracketed = bracketed || (byte == '(' && !text.empty() && text.back() != ' ');
-        if (!bracketed) {
-            text += byte;
-            if (first) {
-                places.push_back(place);
-            }
-        }
-        bracketed = bracketed && byte != ')';
-        place += first ? 1 : 0;
-    }
-    places.push_back(place);
+    auto spoken = text::withoutBracketedEndings(written);
+    text = std::move(spoken.text);
+    places = std::move(spoken.places);
+    places.push_back(text::characterCount(written));
 }
 
 class WebSpeechSynthesizer final : public platform::SpeechSynthesizer {

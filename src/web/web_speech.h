@@ -15,8 +15,8 @@ namespace lumora::web {
 
 class WebSpeechSynthesizer;
 
-/// The browser's voice, which the page moves. An utterance goes there by a number,
-/// under which it is heard of.
+/// The browser's voice, which the page controls. Each utterance has a number, by which
+/// the page reports on it.
 class WebSpeech final : public platform::SpeechSynthesizerFactory {
 public:
     explicit WebSpeech(Outbox& outbox) : outbox_{outbox} {}
@@ -35,7 +35,7 @@ private:
     WebSpeechSynthesizer* speaking_ = nullptr;
 };
 
-/// A text without the endings in brackets, which are for the eye: "allé(e)" is
+/// A text without the endings in brackets, which are not spoken: "allé(e)" is
 /// "allé". All places count characters.
 struct SpokenText {
     explicit SpokenText(std::string_view written);

@@ -100,6 +100,9 @@ TEST_F(VerbDetail, ShowsARowAsPronounFormAndPlayControl)
     EXPECT_EQ(cell.accessibilityLabel, "je vais");
     EXPECT_EQ(detail->cellForRow({5, 0}).accessibilityLabel, "j'irai");
     EXPECT_EQ(detail->cellForItem(4).rows[0].accessibilityLabel, "j'irai");
+    EXPECT_TRUE(detail->cellForRow({5, 0}).setting.joined);
+    EXPECT_TRUE(detail->cellForItem(4).rows[0].setting.joined);
+    EXPECT_FALSE(cell.setting.joined);
     EXPECT_EQ(std::get<PlayControl>(cell.control).indicator,
               std::get<PlayControl>(detail->cellForRow({1, 0}).control).indicator);
 

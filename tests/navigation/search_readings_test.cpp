@@ -72,7 +72,9 @@ TEST_F(SearchReadings, StandAboveTheListOrInItsPlace)
         EXPECT_EQ(home->readings().offersForms(), nothing) << c.text;
     }
     // The same texts where the list has begun with some verb.
-    navigation::SearchReadings readings{world.services()};
+    const auto& services = world.services();
+    navigation::SearchReadings readings{services.bundle, services.settings, services.device,
+                                        services.crashReporter};
     readings.queue = world.queue.get();
     const auto other = world.verb(1);
     for (const auto& c : cases) {

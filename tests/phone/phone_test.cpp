@@ -38,7 +38,7 @@ struct PhoneTest : WindowFixture {
         return found;
     }
 
-    /// Keeps a picture of what is on the screen, for the eye.
+    /// Saves a picture of the screen, for a person to look at.
     void look(const char* name)
     {
         const auto picture = pictureAtRest();

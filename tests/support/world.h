@@ -41,7 +41,7 @@ void writeSmallDatabase(const std::filesystem::path& file);
 
 std::vector<std::string> infinitives(const std::vector<data::VerbPtr>& verbs);
 
-/// Forgets everything, and counts how often it was to keep it.
+/// Keeps settings in memory only, and counts how often they were to be written.
 class FlushedSettingsStore final : public platform::SettingsStore {
 public:
     platform::Result<void> synchronize() override

@@ -3,6 +3,8 @@
 
 #include "text/text.h"
 
+#include "text/pronoun.h"
+
 #include <gtest/gtest.h>
 
 #include <cstddef>
@@ -60,6 +62,32 @@ TEST(Text, OrdersByTheScalarsOfTheComposedForms)
     EXPECT_FALSE(scalarLess("e\u0301", "é"));
     EXPECT_FALSE(scalarLess("é", "e\u0301"));
     EXPECT_TRUE(scalarLess("f", "e\u0301")) << "composed, é comes after f";
+}
+
+TEST(Text, FoldsCaseAccentsAndLigatures)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"Œuvrer", "oeuvrer"}, {"Ǽ", "ae"},          {"naître, ÉTÉ", "naitre, ete"},
+        {"straße", "strasse"}, {"e\u0301te", "ete"}, {"ça (s')", "ca (s')"},
+    };
+    for (const auto& [text, plain] : cases) {
+        EXPECT_EQ(folded(text), plain);
+    }
+    EXPECT_EQ(withoutLigatures("désœuvré, œ"), "désoeuvré, oe");
+}
+
+TEST(Text, AnElidedPronounStandsRightBeforeItsForm)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"je", "je "},
+        {"j'", "j'"},
+        {"que j\u2019", "que j\u2019"},
+        {"qu'il/elle/on", "qu'il/elle/on "},
+        {"", ""},
+    };
+    for (const auto& [pronoun, before] : cases) {
+        EXPECT_EQ(beforeForm(pronoun), before);
+    }
 }
 
 } // namespace lumora::text

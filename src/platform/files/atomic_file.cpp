@@ -193,7 +193,7 @@ Result<void> removeDurably(const std::filesystem::path& file)
 
 Result<std::string> readFile(const std::filesystem::path& file, std::uintmax_t maximumBytes)
 {
-    // Not to hang on a pipe that lies in the file's place.
+    // Without O_NONBLOCK a pipe of that name would block the program.
     const auto descriptor = FileDescriptor::open(file, O_RDONLY | O_NONBLOCK);
     if (!descriptor) {
         return tl::unexpected(descriptor.error());

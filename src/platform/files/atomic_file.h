@@ -46,7 +46,7 @@ Result<std::string> readFile(const std::filesystem::path& file,
 Result<void> appendLine(const std::filesystem::path& file, std::string_view line,
                         std::size_t maximumBytes);
 
-/// Makes the folder and those above it, for this user's eyes only; one that is
+/// Makes the folder and those above it, readable by this user only; a folder that is
 /// there stays as it is.
 Result<void> makePrivateFolder(const std::filesystem::path& folder);
 

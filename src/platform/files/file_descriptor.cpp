@@ -55,7 +55,7 @@ int FileDescriptor::sync() const
 
 int FileDescriptor::close()
 {
-    // The number is free again after EINTR too.
+    // Not repeated after EINTR: the descriptor is closed then too.
     const int result = ::close(std::exchange(number_, -1));
     return result != 0 && errno != EINTR ? errno : 0;
 }

@@ -14,7 +14,7 @@ namespace lumora::platform {
 
 class ResidentTable;
 
-/// The search of verbs through their conjugated forms, fast enough for a key.
+/// The search of verbs through their conjugated forms, fast enough for each key press.
 ///
 /// Keeps the verbs and forms of the file in memory from the first search on, as
 /// they were then: one object for one database. For the thread inside a block of

@@ -32,7 +32,7 @@ struct Cursor : sqlite3_vtab_cursor {
     std::size_t end = 0;
 };
 
-/// SQLite hands back what it was given; it only knows the base.
+/// SQLite hands back the cursor that it was given, as its base type.
 Cursor& cursorOf(sqlite3_vtab_cursor* cursor)
 {
     return *static_cast<Cursor*>(cursor);

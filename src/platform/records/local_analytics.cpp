@@ -39,7 +39,7 @@ std::optional<bool> readFlag(const std::filesystem::path& file)
     if (!object.is_object()) {
         return false;
     }
-    // Whoever once refused must not be counted because the file broke.
+    // A damaged file must not turn a refusal into consent.
     const auto flag = object.find(kFlagKey);
     return flag != object.end() && flag->is_boolean() && flag->get<bool>();
 }

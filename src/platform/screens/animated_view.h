@@ -33,9 +33,8 @@ public:
     virtual void fillPath(const Color& color) = 0;
 };
 
-/// How the number of an animated view got where it is: in `duration` seconds,
-/// or at once where that is 0. A change of colour is a change from the number
-/// to itself.
+/// A change of an animated view's number, in `duration` seconds, or at once where that
+/// is 0. After a change of colour alone `from` and `to` are equal.
 struct ViewChange {
     float from = 0;
     float to = 0;
@@ -50,12 +49,12 @@ public:
     virtual void viewChanged(const ViewChange& change) = 0;
 };
 
-/// Something drawn whose one number the toolkit animates. Every list that shows
-/// it listens; a listener takes itself off before it goes.
+/// A drawing of one number, which the toolkit animates. Every list that shows it
+/// listens; a listener removes itself before it is destroyed.
 class AnimatedView {
 public:
     virtual ~AnimatedView() = default;
-    /// 0 while nothing goes on; the end of a change that takes its time.
+    /// 0 at rest. During an animation it is the number at the animation's end.
     virtual float value() const = 0;
     /// Draws the view as it is at `value`, a frame of an animation.
     virtual void draw(VectorContext& context, Size bounds, float value) const = 0;

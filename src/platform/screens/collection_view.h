@@ -19,7 +19,7 @@ struct CollectionRow {
     double audioPadding = 0;
     bool controlHidden = true;
     PlayControl control;
-    /// What a screen reader says; empty where the line is.
+    /// What a screen reader says; empty for an empty line.
     std::string accessibilityLabel;
     LineSetting setting{};
 };

@@ -18,9 +18,10 @@ struct TextRun {
     bool operator==(const TextRun&) const = default;
 };
 
-/// What a view adds to the two texts of a line.
+/// How a view sets the two texts of a line, and what it adds to them. It has nothing
+/// to do with the settings of the program.
 struct LineSetting {
-    /// The second text in its parts; none where it is all of one kind.
+    /// The second text in parts of different styles; none where it has one style.
     std::vector<TextRun> runs;
     /// Stands in the place of the first text where there is none.
     std::string hint;
@@ -28,6 +29,8 @@ struct LineSetting {
     std::string caption;
     /// What a screen reader says after the line.
     std::string accessibilityHint;
+    /// The second text follows the first without a blank.
+    bool joined = false;
 };
 
 } // namespace lumora::platform

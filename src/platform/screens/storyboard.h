@@ -11,8 +11,7 @@
 
 namespace lumora::platform {
 
-/// The steps between screens and the screens made for themselves, as the
-/// interface description names them.
+/// The names of the steps between screens, and of the screens that no step leads to.
 inline constexpr std::string_view kShowDetailSegue = "showDetail";
 inline constexpr std::string_view kShowSearchResultSegue = "showSearchResult";
 inline constexpr std::string_view kNavigationSegue = "Navigation";
@@ -33,8 +32,8 @@ enum class SegueStyle {
     SideMenu
 };
 
-/// Makes screens by the names they have in the interface description. An
-/// unknown name is a mistake in the program and stops it.
+/// Makes screens by the names above. An unknown name is a mistake in the program and
+/// stops it.
 class Storyboard {
 public:
     virtual ~Storyboard() = default;

@@ -47,8 +47,8 @@ public:
     virtual bool showsRow(IndexPath path);
     virtual bool canEditRow(IndexPath path);
     virtual std::vector<SwipeAction> trailingSwipeActions(IndexPath path);
-    /// A finger on the row: the view calls this, the controller decides what
-    /// else than `didSelectRow` a tap does.
+    /// The view calls this for a tap; the controller decides whether the tap does
+    /// something else than `didSelectRow`.
     virtual void rowTapped(IndexPath path);
     virtual void didSelectRow(IndexPath path);
     /// A long press on the row.

@@ -69,7 +69,7 @@ public:
     const NavigationItem& navigationItem() const { return navigationItem_; }
     void setNavigationItem(NavigationItem item);
 
-    /// The view's wish to hear of a changed navigation item; one listener.
+    /// Called when the navigation item has changed; one listener.
     void setNavigationItemListener(std::function<void()> listener);
 
     /// The split view around this screen; null outside one.

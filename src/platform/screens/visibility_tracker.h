@@ -24,7 +24,7 @@ public:
 private:
     void change(const Screens& visible);
 
-    /// Screens die without asking.
+    /// Not owned: a screen may be destroyed while it is listed here.
     std::vector<std::weak_ptr<ViewController>> visible_;
     Screens next_;
     bool waiting_ = false;

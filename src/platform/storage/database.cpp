@@ -162,7 +162,7 @@ void Database::close()
     if (connection_ == nullptr) {
         return;
     }
-    // Result sets that are still about keep their statement, which keeps the
+    // Result sets that still exist keep their statement, which keeps the
     // connection's memory; reset, they hold neither a row nor a lock.
     sqlite3_stmt* statement = nullptr;
     while ((statement = sqlite3_next_stmt(connection_, statement)) != nullptr) {

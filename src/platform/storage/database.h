@@ -66,6 +66,7 @@ public:
     Result<void> executeUpdate(std::string_view sql, const std::vector<SqlValue>& values);
 
     /// Of the last failing call; SQLite's words and primary code.
+    Error lastError() const { return lastError_; }
     std::string lastErrorMessage() const;
     int lastErrorCode() const;
 
@@ -73,8 +74,8 @@ public:
     void close();
     bool isOpen() const { return connection_ != nullptr; }
 
-    /// The connection itself, for what adds tables of its own to it; null while
-    /// closed. Not to be closed but by `close`.
+    /// The connection itself, for code that adds tables of its own to it; null while
+    /// closed. Only `close` may close it.
     sqlite3* handle() const { return connection_; }
 
 private:

@@ -9,7 +9,7 @@ namespace lumora::platform {
 
 class Database;
 
-/// Statements that count together or not at all: what is not committed is
+/// Statements that take effect together or not at all: what is not committed is
 /// rolled back. Must not outlive the block that it was made in.
 class Transaction {
 public:

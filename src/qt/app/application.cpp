@@ -97,8 +97,8 @@ bool Application::show()
     if (window_ == nullptr) {
         return false;
     }
-    // While the window was built the answer has come: its first frame has the
-    // right colours.
+    // The answer came while the window was built, so the first frame has the right
+    // colours.
     settingsPortal_.takeAnswer();
     if (!options_.windowSize && settings::ViewMemory{viewMemory_}.windowMaximized()) {
         window_->showMaximized();
@@ -162,7 +162,7 @@ void Application::raise(const QString& activationToken)
     window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
     window_->raise();
     window_->requestActivate();
-    // It holds once, and for no program started from here.
+    // It is valid once, and not for programs started from here.
     qunsetenv(kTokenVariable);
 }
 
@@ -233,7 +233,7 @@ QSize Application::openingSize()
     if (options_.windowSize) {
         return *options_.windowSize;
     }
-    // Where a desktop puts what is opened: most take the pointer's screen.
+    // Most desktops open a window on the screen with the pointer.
     const auto* pointed = QGuiApplication::screenAt(QCursor::pos());
     const auto* screen = pointed == nullptr ? QGuiApplication::primaryScreen() : pointed;
     const auto remembered = settings::ViewMemory{viewMemory_}.windowSize();
@@ -249,7 +249,7 @@ void Application::rememberWindow()
     }
     settings::ViewMemory memory{viewMemory_};
     const bool maximized = window_->windowStates() & (Qt::WindowMaximized | Qt::WindowFullScreen);
-    // The size that it goes back to is the one from before.
+    // A maximized window goes back to the size that it had before.
     const auto size =
         maximized ? memory.windowSize()
                   : std::optional{settings::WindowSize{window_->width(), window_->height()}};

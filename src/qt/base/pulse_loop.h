@@ -34,7 +34,7 @@ using PulseLoop = std::unique_ptr<pa_threaded_mainloop, PulseLoopDeleter>;
 /// A connection to the server; ends under the loop's lock.
 using PulseContext = std::unique_ptr<pa_context, PulseContextDeleter>;
 
-/// Holds the loop's thread up for its scope.
+/// Stops the loop's thread for the lifetime of this object.
 class PulseLoopLock {
 public:
     explicit PulseLoopLock(const PulseLoop& loop) : loop_{loop.get()}
@@ -49,7 +49,7 @@ private:
     pa_threaded_mainloop* loop_;
 };
 
-/// Of an operation whose end nobody waits for.
+/// Releases an operation whose end nobody waits for.
 inline void drop(pa_operation* operation)
 {
     if (operation != nullptr) {

@@ -11,8 +11,8 @@
 
 namespace lumora::qt {
 
-/// As much of the desktop around the program as it may reach; of itself it
-/// may reach nothing.
+/// What the program may reach of the desktop around it: by default nothing, so that a
+/// test reaches only what it provides.
 struct Desktop {
     QDBusConnection bus{QString{}};
     /// As hasUrlHandler().

@@ -34,7 +34,7 @@ MailComposeResult resultOf(portal::Answer answer)
 {
     switch (answer) {
     case portal::Answer::Done:
-        // A mail program was started: not a word is written yet.
+        // A mail program was started; nothing has been sent yet.
         return MailComposeResult::Saved;
     case portal::Answer::Cancelled:
         return MailComposeResult::Cancelled;

@@ -56,8 +56,8 @@ DesktopUrlOpener::DesktopUrlOpener(Desktop desktop)
 bool DesktopUrlOpener::canOpen(std::string_view url) const
 {
     const auto address = openable(url);
-    // The portal is there without a program behind it too; only in a sandbox,
-    // where no program is in sight, its word has to do.
+    // A portal may be there without a program for the address. In a sandbox, which sees
+    // no programs, the portal alone has to do.
     return address && (desktop_.hasUrlHandler(toUtf8(address->scheme())) ||
                        (desktop_.sandboxed && isForPortal(*address) && portal_.exists()));
 }

@@ -86,7 +86,7 @@ void SettingsPortal::takeAnswer()
         return;
     }
     const QDBusPendingReply<SettingGroups> reply = *reading_;
-    // It may be the one that calls this.
+    // It may be the sender of the signal that is being handled.
     reading_.release()->deleteLater();
     if (reply.isError()) {
         return;

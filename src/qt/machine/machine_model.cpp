@@ -15,7 +15,7 @@ namespace {
 constexpr std::array kPlaces{"devices/virtual/dmi/id/product_name",
                              "firmware/devicetree/base/model"};
 
-/// What makers of mainboards leave behind.
+/// Texts that makers of mainboards forget to replace by a name.
 constexpr std::array<std::string_view, 5> kPlaceholders{
     "System Product Name", "To Be Filled By O.E.M.", "To be filled by O.E.M.", "Default string",
     "None"};

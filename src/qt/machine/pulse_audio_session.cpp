@@ -17,7 +17,7 @@ namespace lumora::qt {
 namespace {
 
 constexpr float kNoOutput = 1;
-/// The server counts in steps that do not meet the percent of its sliders.
+/// The server's volume steps do not fall on whole percents: rounded to thousandths.
 constexpr double kPrecision = 1000;
 
 float volumeOf(const pa_sink_info& info)
@@ -66,7 +66,7 @@ platform::Result<void> PulseAudioSession::activate()
         const PulseLoopLock lock{loop_};
         connect();
     }
-    // A machine without a server has nothing to activate, and no sound to miss.
+    // Without a server there is nothing to activate, which is no error.
     if (error == PA_ERR_CONNECTIONREFUSED) {
         return {};
     }

@@ -13,16 +13,16 @@ namespace lumora::qt {
 
 namespace {
 
-/// In characters.
+/// Characters of a text that is only kept alive; why is said below.
 constexpr qsizetype kBallast = 500'000;
 
 class QtJavaScriptContext final : public platform::JavaScriptContext {
 public:
     QtJavaScriptContext()
     {
-        // The engine looks for garbage each time that its texts have grown by as
-        // much as is alive of them. A script that takes a long text apart makes
-        // it do so hundreds of times, unless much is alive.
+        // The engine collects garbage whenever its texts have grown by the size of those
+        // alive. A script that splits a long text would cause hundreds of collections;
+        // a large living text makes them rare.
         ballast_.setProperty(QStringLiteral("text"), QString{kBallast, u' '});
     }
 

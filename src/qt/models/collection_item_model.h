@@ -51,8 +51,8 @@ class CollectionItemModel final : public QAbstractListModel {
     Q_PROPERTY(double lineSpacing READ lineSpacing NOTIFY reloaded)
 
 public:
-    /// Lines have a role each, since the toolkit makes a list of them anew every
-    /// time that one of it is looked at.
+    /// Each line has a role of its own: QML would copy a list of lines every time that
+    /// it reads one of them.
     enum Role { TitleRole = Qt::UserRole + 1, FirstLineRole };
     static constexpr int kLines = 6;
 

@@ -20,7 +20,7 @@ class IndicatorSource final : public QObject, public platform::ViewChangeListene
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Belongs to a model")
-    /// Something goes on: the view's number is above 0, or still on its way.
+    /// The view's number is above 0, or its animation runs.
     Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
 
 public:
@@ -30,16 +30,13 @@ public:
     bool isRunning() const { return running_; }
     /// Where the animation has come to; the view's own number while none runs.
     float shownValue() const;
-    void draw(platform::VectorContext& context, platform::Size bounds) const
-    {
-        view_->draw(context, bounds, shownValue());
-    }
+    const platform::AnimatedView& view() const { return *view_; }
     /// Whether nobody but this object keeps the view any more.
     bool isOrphaned() const { return view_.use_count() == 1; }
     bool isFor(const platform::AnimatedView* view) const { return view_.get() == view; }
 
-    /// A change at once leaves what still runs its time; what it made of the
-    /// number is seen after that.
+    /// A change without duration does not stop a running animation; the new number is
+    /// shown when the animation has ended.
     void viewChanged(const platform::ViewChange& change) override;
 
 signals:

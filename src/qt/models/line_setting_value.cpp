@@ -49,7 +49,8 @@ LineSettingValue toValue(const platform::LineSetting& setting, const std::string
     LineSettingValue value{{},
                            toQString(setting.hint),
                            toQString(setting.caption),
-                           toQString(setting.accessibilityHint)};
+                           toQString(setting.accessibilityHint),
+                           setting.joined};
     const bool atSpaces = text.find(' ') != std::string::npos;
     for (const auto& run : setting.runs) {
         const auto [before, after] = tagsOf(run.style);

@@ -11,22 +11,25 @@
 
 namespace lumora::qt {
 
-/// How a line is set, as QML sees it.
+/// How the texts of a line are set, as QML sees it.
 struct LineSettingValue {
     Q_GADGET
     QML_VALUE_TYPE(lineSetting)
     /// The line's second text in the toolkit's small mark-up. The colours are
-    /// called "accent" and "light": which they are is the theme's matter.
+    /// called "accent" and "light"; the theme says which colours these are.
     Q_PROPERTY(QString markup MEMBER markup FINAL)
     Q_PROPERTY(QString hint MEMBER hint FINAL)
     Q_PROPERTY(QString caption MEMBER caption FINAL)
     Q_PROPERTY(QString description MEMBER description FINAL)
+    /// The second text follows the first without a blank.
+    Q_PROPERTY(bool joined MEMBER joined FINAL)
 
 public:
     QString markup;
     QString hint;
     QString caption;
     QString description;
+    bool joined = false;
 
     bool operator==(const LineSettingValue&) const = default;
 };

@@ -156,7 +156,7 @@ void TableItemModel::load()
                     rows.push_back({RowKind::Cell, {section, row}});
                 }
             }
-            // A section of which nothing is left has no header either.
+            // A section of which no row shows has no header either.
             if (texts.header && rowCount > 0 && rows.size() == begin) {
                 rows.pop_back();
             }

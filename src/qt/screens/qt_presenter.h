@@ -100,8 +100,8 @@ public:
     int anchorRow() const;
     ModalStack* modals() { return &modals_; }
 
-    /// Leaves what waits for the user: the preview, and the questions with
-    /// those of their answers that cancel. What asked may go after that.
+    /// Closes the preview, and answers the waiting questions with their cancelling
+    /// answers. After that the screens that asked may be destroyed.
     void withdraw();
 
     Q_INVOKABLE void answer(int index);

@@ -76,7 +76,7 @@ void RoundProgressItem::paint(QPainter* painter)
     }
     painter->setRenderHint(QPainter::Antialiasing);
     PainterVectorContext context{*painter};
-    source_->draw(context, {width(), height()});
+    source_->view().draw(context, {width(), height()}, source_->shownValue());
 }
 
 } // namespace lumora::qt

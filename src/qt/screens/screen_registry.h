@@ -10,8 +10,8 @@
 
 namespace lumora::qt {
 
-/// The one QML-side screen of each controller. A screen that is in no stack
-/// any more goes with the last page that shows it.
+/// Keeps one QML-side screen for each controller. A screen that is in no stack any
+/// more is destroyed with the last page that shows it.
 class ScreenRegistry final : public QObject {
     Q_OBJECT
 

@@ -25,7 +25,7 @@ constexpr double kFooterPoints = 8;
 constexpr double kPointsPerInch = 72;
 /// Between the text and the foot, in lines of the foot.
 constexpr double kFooterLines = 2;
-/// Below the last one small print begins.
+/// Smaller than the last one is hard to read.
 constexpr std::array kScales{1.0, 0.92, 0.84, 0.76, 0.7};
 constexpr QColor kFooterInk{0x66, 0x66, 0x66};
 

@@ -11,8 +11,7 @@
 
 namespace lumora::qt {
 
-/// A folder and a name in it, on the way to where something is saved or to what
-/// is opened.
+/// The folder and the name in it that a person chooses to save or to open a file.
 class FileLocation final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -40,7 +39,7 @@ public:
     /// The files inside it with the ending of the name that it began with.
     QStringList files() const { return files_; }
     bool hasParent() const { return !folder_.isRoot(); }
-    /// Whether the name is one and the folder takes it.
+    /// Whether the name is valid and the folder can be written.
     bool isAcceptable() const;
 
     Q_INVOKABLE void enter(const QString& subfolder);

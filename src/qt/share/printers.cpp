@@ -35,7 +35,7 @@ bool printDocument(const QString& html, const QString& title, const QString& pri
     }
     printer.setDocName(title);
     printer.setCreator(QCoreApplication::applicationName());
-    // Where the printer needs wider ones, it keeps its own.
+    // A printer that needs wider margins keeps its own.
     printer.setPageMargins(kPageMargins, QPageLayout::Millimeter);
     return paintDocument(html, title, printer) && printer.printerState() != QPrinter::Error;
 }

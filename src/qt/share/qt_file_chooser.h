@@ -59,7 +59,7 @@ private:
     platform::ViewController screen_;
     platform::FileQuestion question_;
     std::function<void(const std::filesystem::path&)> chosen_;
-    /// Counts the questions: an answer to an earlier one is none.
+    /// Counts the questions, so that a late answer to an earlier one is ignored.
     int number_ = 0;
     bool asking_ = false;
     /// Where the last file was; empty before the first.

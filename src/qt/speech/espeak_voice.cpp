@@ -28,7 +28,7 @@ constexpr auto kUsualRate = static_cast<int>(platform::kDefaultSpeechRate);
 /// The engine's variants of a voice.
 constexpr const char* kWoman = "+f2";
 constexpr const char* kMan = "+m7";
-/// How far the pitch goes, up to 100; the engine's own 50 sounds flat.
+/// The range of the pitch, up to 100; the engine's default of 50 sounds monotonous.
 constexpr int kLivelyRange = 85;
 
 std::mutex& libraryLock()

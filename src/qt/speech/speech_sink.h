@@ -18,8 +18,8 @@
 namespace lumora::qt {
 
 /// Plays one speech on the sound server's default output, silently where there is
-/// none. A thread of the client library feeds the server, so that nothing that
-/// holds the window up is heard. Gone, it is silent at once.
+/// none. A thread of the client library feeds the server, so that a busy window
+/// does not interrupt the sound. Its destructor ends the sound at once.
 class SpeechSink {
 public:
     /// The speech must live longer. Begins to connect and never waits; never

@@ -4,6 +4,7 @@
 #include "qt/speech/spoken_text.h"
 
 #include "qt/speech/espeak_phonemes.h"
+#include "text/brackets.h"
 #include "text/text.h"
 
 #include <algorithm>
@@ -11,19 +12,6 @@
 namespace lumora::qt {
 
 namespace {
-
-/// A byte of a letter, going by UTF-8; ASCII apart, letters need no telling
-/// from signs here.
-bool isLetterByte(char byte)
-{
-    const auto lowered = static_cast<unsigned char>(byte) | 0x20U;
-    return lowered >= 0x80 || (lowered >= 'a' && lowered <= 'z');
-}
-
-bool hasLetters(std::string_view text)
-{
-    return std::any_of(text.begin(), text.end(), isLetterByte);
-}
 
 /// Takes the first characters off a text, at most all.
 std::string_view takeCharacters(std::string_view& text, std::size_t count)
@@ -60,7 +48,7 @@ SpokenText::SpokenText(const platform::Utterance& utterance)
         const auto written = takeCharacters(rest, end - begin);
         auto gap = rest;
         gap = word == words.end() ? rest : takeCharacters(gap, word->location - end);
-        const bool last = word == words.end() && !hasLetters(gap);
+        const bool last = word == words.end() && !text::hasLetters(gap);
         const auto names = espeakPhonemes(ipa, last || gap.find(',') != std::string_view::npos);
         if (names) {
             addPhonemes(*names, begin, end - begin);
@@ -75,21 +63,10 @@ SpokenText::SpokenText(const platform::Utterance& utterance)
 
 void SpokenText::addText(std::string_view written, std::size_t place)
 {
-    bool afterLetter = false;
-    while (!written.empty()) {
-        const auto close =
-            written[0] == '(' && afterLetter ? written.find(')') : std::string_view::npos;
-        // What is left out keeps the letter before it: "(e)(s)".
-        const bool leftOut = close != std::string_view::npos;
-        const auto part = written.substr(0, leftOut ? close + 1 : 1);
-        const auto count = text::characterCount(part);
-        if (!leftOut) {
-            text_ += part;
-            places_.insert(places_.end(), count, place);
-            afterLetter = isLetterByte(part[0]);
-        }
-        place += count;
-        written.remove_prefix(part.size());
+    const auto spoken = text::withoutBracketedEndings(written);
+    text_ += spoken.text;
+    for (const auto each : spoken.places) {
+        places_.push_back(place + each);
     }
 }
 

@@ -67,7 +67,7 @@ export class Machine {
             }, icon(picture), el('span', {}, text(key)));
         const close = showSheet(items.title, [
             'share' in navigator && offer('web.share', 'share_mail', () => {
-                // The person may think better of it.
+                // The person may close the dialog without choosing.
                 navigator.share({ title: items.title, text: items.text }).catch(() => undefined);
             }),
             offer('share.copy', 'share_copy', () => {

@@ -68,7 +68,7 @@ export class Speech {
         // "fr-FR" rather than another country's.
         const own = spoken.filter((each) => each.lang.slice(3).toLowerCase() === order.language);
         const fitting = own.length > 0 ? own : spoken;
-        // A browser names no voice's kind but in its name.
+        // Only its name tells whether a voice is a woman's or a man's.
         const wanted = order.man ? /\b(male|homme|thomas|henri|paul|nicolas|daniel)\b/i
             : /female|femme|amélie|amelie|marie|denise|audrey|aurélie|hortense|julie/i;
         return fitting.find((each) => wanted.test(each.name)) ?? fitting.find((each) => each.default) ?? fitting[0];

@@ -10,7 +10,7 @@ TouchButton {
     id: root
 
     property string image
-    // Of what shows no text.
+    // The tooltip of a button without text.
     property string tip: text
 
     pressedColor: "#33ffffff"

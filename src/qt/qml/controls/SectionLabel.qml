@@ -9,7 +9,7 @@ Rectangle {
     id: root
 
     property alias text: label.text
-    // At its end, for what else stands there.
+    // Kept free at its end for other controls.
     property real room: 0
 
     color: Theme.header

@@ -17,11 +17,11 @@ Item {
     property string prefix: "segment"
     property bool inTabOrder: false
     property color chosenColor: Theme.segmentOn
-    // Where the colour alone does not stand out from its ground.
+    // For grounds from which the colour alone does not stand out.
     property color chosenEdge: chosenColor
     property color chosenInk: Theme.segmentInk
     property int padding: 4
-    // How much less than a finger touches is drawn, above and below.
+    // How much smaller than the touch area it is drawn, above and below.
     property int inset: 4
     readonly property int fullSize: Theme.small + 1
     readonly property int fontSize: Math.max(9, Math.min(fullSize, Math.floor(fullSize * (segmentWidth - 2 * padding) / widest(titles.join(" ").split(" ")))))
@@ -38,14 +38,14 @@ Item {
     signal chosen(int segment)
 
     function widest(texts) {
-        // What is measured changes with the font, which is read for that.
+        // Reading the font size makes QML call this again when the font changes.
         return metrics.font.pixelSize > 0 ? texts.reduce((width, text) => Math.max(width, Math.ceil(metrics.advanceWidth(text)) + 1), 1) : 1;
     }
-    // To the chosen one.
+    // Gives the keyboard to the chosen segment.
     function takeKeyboard() {
         segments.itemAt(selected)?.forceActiveFocus(Qt.TabFocusReason);
     }
-    // By the arrows.
+    // Called for the arrow keys.
     function step(steps) {
         const next = selected + steps;
         if (next < 0 || next >= titles.length)
@@ -55,8 +55,7 @@ Item {
     function choose(segment) {
         if (segment < 0 || segment >= titles.length || segment === selected)
             return;
-        // The one that can be tabbed to changes, and had better have the
-        // keyboard before.
+        // Only the chosen segment can have the keyboard, so it moves before the choice.
         if (segments.itemAt(selected)?.activeFocus)
             segments.itemAt(segment).forceActiveFocus(Qt.TabFocusReason);
         chosen(segment);

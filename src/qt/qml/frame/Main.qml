@@ -16,15 +16,15 @@ Window {
     // Null until the launch is through; until then the window shows its colours.
     readonly property SplitScreen split: presenter.panes
     readonly property ModalStack modals: presenter.modals
-    // Of a type that is not loaded before it is wanted.
+    // Untyped: naming its type would load it before it is needed.
     readonly property var modalPages: modalLayer.item
     property bool keysShown: false
 
-    // For a moment, over everything.
+    // Shows a sentence for a moment, over everything.
     function tell(sentence) {
         notice.tell(sentence);
     }
-    // What goes while it has the keyboard leaves it with nobody.
+    // When an item with the keyboard focus goes, Qt gives the focus to no other item.
     function giveKeyboard() {
         if (activeFocusItem !== contentItem)
             return;

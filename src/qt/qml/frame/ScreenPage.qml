@@ -17,9 +17,9 @@ FocusScope {
     property real cornerRadius: StackView.view?.cornerRadius ?? 0
     // Shown small, for a look only.
     property bool preview: false
-    // Of the bar, beside the screen's buttons.
+    // The bar's menu button, beside the screen's own buttons.
     property Component barMenu: null
-    // Between which a key moves: each takes the keyboard.
+    // The parts of the page between which F6 moves the keyboard.
     property list<Item> parts: [area]
     default property alias content: area.data
 

@@ -11,10 +11,10 @@ StackView {
     id: root
 
     property var screens: []
-    // Whose panes these screens are in, if in any.
+    // Owns the panes; null for screens that are in no pane.
     property SplitScreen split: null
     property bool wide: false
-    // Of the upper corners.
+    // The radius of the upper corners.
     property real cornerRadius: 0
 
     signal backRequested
@@ -25,7 +25,7 @@ StackView {
             ++same;
         if (same === depth && same === screens.length)
             return;
-        // A screen that moves from pane to pane stays where the eye has it.
+        // A screen that moves from pane to pane does not slide.
         const moved = split?.isRearranging() ?? false;
         const animated = depth > 0 && same > 0 && screens.length > 0 && !moved;
         const kind = animated ? undefined : StackView.Immediate;

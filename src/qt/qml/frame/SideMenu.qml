@@ -10,11 +10,11 @@ FocusScope {
 
     required property Modal modal
     required property EdgePull pull
-    // Over which it slides.
+    // The screen over which it slides.
     readonly property HomeScreen home: (Window.window as Main)?.split?.home ?? null
     readonly property TableScreen screen: (modal.screens[0] ?? null) as TableScreen
 
-    // Let go of halfway, it goes where it was going.
+    // Released halfway, it goes on in the direction of the finger.
     function settle(velocity) {
         if (velocity > 100 || velocity > -100 && presence.value > 0.5)
             presence.comeIn();

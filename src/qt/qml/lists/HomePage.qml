@@ -78,8 +78,8 @@ ScreenPage {
                     name: root.home.titleOfTab(place.index)
                     screen: place.list
                     openVerb: root.home.openVerb
-                    // Rows made ahead complain of a list that grows shorter
-                    // meanwhile; only that of all verbs never does.
+                    // Rows made in advance cause warnings when their list gets shorter;
+                    // only the list of all verbs never does.
                     list.cacheBuffer: place.index === 0 ? 600 : 0
                 }
             }

@@ -11,7 +11,7 @@ Rectangle {
 
     required property HomeScreen home
 
-    // Other verbs show.
+    // A chip was switched: other verbs show now.
     signal narrowed
 
     component Chip: TouchButton {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+pragma ComponentBehavior: Bound
 import QtQuick
 import Lumora
 
@@ -15,7 +16,7 @@ FocusScope {
     readonly property real cardsTop: sentence.visible ? sentence.y + sentence.height + Theme.margin : Theme.gap
     readonly property real cardsBottom: cardsTop + count * (Theme.rowHeight + Theme.gap)
 
-    // Upwards, by keyboard.
+    // The Up key was pressed on the first card.
     signal fieldWanted
 
     function takeKeyboard(card) {
@@ -59,7 +60,7 @@ FocusScope {
                 else
                     root.fieldWanted();
             }
-            // Behind the last one the list goes on.
+            // After the last card the key moves on to the list.
             Keys.onDownPressed: event => {
                 event.accepted = index + 1 < root.count;
                 root.takeKeyboard(index + 1);

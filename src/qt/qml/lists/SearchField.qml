@@ -11,9 +11,9 @@ Rectangle {
 
     required property HomeScreen home
 
-    // To what was found, by keyboard.
+    // The keyboard is to move on to what was found.
     signal listWanted
-    // What was found first is to open.
+    // Enter was pressed: the first result is to open.
     signal accepted
     // The search was ended elsewhere while the cursor was in the field.
     signal ended
@@ -21,7 +21,7 @@ Rectangle {
     implicitHeight: Math.max(Theme.touch, Theme.body + 27) + Theme.gap
     color: Theme.barBackground
 
-    // Back from what was found.
+    // The keyboard comes back from what was found.
     function takeKeyboard() {
         input.forceActiveFocus(Qt.BacktabFocusReason);
     }

@@ -14,10 +14,10 @@ FocusScope {
     // How far it has come into view.
     property real presence: 0
 
-    // Without an answer: by a key, or by a tap beside it.
+    // Left without an answer, by a key or by a tap beside it.
     signal dismissed
     signal tappedBeside
-    // By a key, while no answer has the keyboard.
+    // Enter or Space was pressed while no answer had the keyboard.
     signal confirmed
 
     function moveFocus(forward) {

@@ -22,7 +22,7 @@ T.Control {
     readonly property int indexWidth: index.visible ? index.width : 0
     // The row that is swiped open, if one is.
     property T.SwipeDelegate openRow: null
-    // Whether its rows open the menu; else who shows the table is asked.
+    // Whether its rows open the menu themselves; else the page that shows the table does.
     property bool hasMenu: true
     // The last row was swiped away; its controller does not know yet.
     property bool emptied: false
@@ -39,7 +39,7 @@ T.Control {
             return;
         list.moved = true;
         list.currentIndex = row;
-        // With the outermost cells comes what is above or below them.
+        // At the first or last cell, show the header above or the footer below it too.
         if (table.model.cellAway(row, -1) < 0)
             list.positionViewAtBeginning();
         if (table.model.cellAway(row, 1) < 0)
@@ -199,7 +199,7 @@ T.Control {
     }
     TapHandler {
         acceptedButtons: Qt.RightButton
-        // A finger has no buttons, and would count as any.
+        // Without this a finger counts as every button, the right one too.
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad | PointerDevice.Stylus
         onTapped: eventPoint => root.showMenu(root.rowSeenAt(eventPoint.position), eventPoint.position)
     }

@@ -24,7 +24,7 @@ T.SwipeDelegate {
     property color color: Theme.background
     property color pressedColor: Theme.pressed
     property color hoverColor: Theme.hover
-    // Stands for what is open beside the list.
+    // Its verb is the one that is open beside the list.
     property bool open: false
     property color separatorColor: Theme.separator
     property color focusColor: Theme.accentText
@@ -71,7 +71,7 @@ T.SwipeDelegate {
     onSwipedChanged: if (swiped)
         (ListView.view.parent as TableContent).rowSwiped(root)
 
-    // Laid aside it would still be in the tree that a screen reader sees.
+    // A pooled row would otherwise stay in the tree that a screen reader sees.
     ListView.onPooled: {
         swipe.close();
         visible = false;

@@ -36,7 +36,7 @@ Rectangle {
     readonly property real textEnd: play.x
     readonly property bool stacked: fit?.stacked ?? false
 
-    // For what is to be told of the form, or of the tense.
+    // The sheet of the form, or of the tense, is asked for.
     signal asked
 
     // What the keyboard does to a row.
@@ -55,7 +55,7 @@ Rectangle {
             (list.parent as TableContent).bringIntoSight(index);
     }
 
-    // Laid aside it would still be in the tree that a screen reader sees.
+    // A pooled row would otherwise stay in the tree that a screen reader sees.
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
 
@@ -88,7 +88,7 @@ Rectangle {
     FormText {
         id: form
         visible: root.isForm
-        x: leading.x + (root.stacked || leading.width === 0 ? 0 : leading.width + (root.text.endsWith("'") ? 0 : root.fit?.blank ?? 0))
+        x: leading.x + (root.stacked || leading.width === 0 ? 0 : leading.width + (root.setting.joined ? 0 : root.fit?.blank ?? 0))
         y: (root.height - height + leading.captionHeight + (root.stacked ? leading.height : 0)) / 2
         width: play.x - x
         markup: root.setting.markup
@@ -98,7 +98,7 @@ Rectangle {
     PlayControl {
         id: play
         x: parent.width - width - Theme.gap
-        // As high as a finger can have it.
+        // The touch area is as high as the row allows.
         height: parent.height
         width: 50
         focusPolicy: Qt.NoFocus
@@ -113,7 +113,7 @@ Rectangle {
             else
                 root.screen.playTense(root.tense);
         }
-        // Whoever listens to a whole tense sees what is read.
+        // While a whole tense is read, the row that is read stays in sight.
         onRunningChanged: if (running)
             Qt.callLater(root.comeIntoSight) // qmllint disable
     }

@@ -16,7 +16,7 @@ Rectangle {
     property bool opened: false
 
     signal played
-    // For what is to be told of the form.
+    // The sheet of the form is asked for.
     signal asked
 
     function takeKeyboard() {
@@ -64,7 +64,7 @@ Rectangle {
     }
     FormText {
         id: form
-        x: root.fit.stacked || leading.width === 0 ? 0 : leading.width + (root.line.leading.endsWith("'") ? 0 : root.fit.blank)
+        x: root.fit.stacked || leading.width === 0 ? 0 : leading.width + (root.line.setting.joined ? 0 : root.fit.blank)
         y: (root.height - height + leading.captionHeight + (root.fit.stacked ? leading.height : 0)) / 2
         width: play.x - x
         markup: root.line.setting.markup

@@ -15,7 +15,7 @@ VerbSheet {
     property bool squares: false
     readonly property bool speaking: screen.spokenText !== ""
 
-    // To where the same form stands too.
+    // The person goes to another row with the same form.
     signal followed(int segment, int tense, int line)
     signal tenseAsked(int tense)
 
@@ -51,7 +51,7 @@ VerbSheet {
         color: Theme.textSecondary
         font.pixelSize: Theme.body
         wrapMode: Text.Wrap
-        // A voice would spell it.
+        // A screen reader would spell the phonetic letters.
         Accessible.ignored: true
     }
     Text {

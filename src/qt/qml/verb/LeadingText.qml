@@ -14,7 +14,7 @@ Text {
     readonly property bool hasCaption: isHint && setting.caption !== ""
     // Stands above the form rather than before it.
     property bool above: false
-    // By how much it is higher than one line beside the form.
+    // How much higher it is than one line.
     readonly property real captionHeight: hasCaption && !above ? height / 2 : 0
 
     text: !isHint ? pronoun : hasCaption ? "<b>" + setting.caption + "</b><br>" + setting.hint : setting.hint

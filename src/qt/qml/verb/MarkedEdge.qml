@@ -4,7 +4,7 @@
 import QtQuick
 import Lumora
 
-// Beside the form that was searched for, for who does not see its colour.
+// Marks the form that was searched for, for people who do not see its colour.
 Rectangle {
     width: 5
     color: Theme.star

@@ -4,7 +4,7 @@
 import QtQuick
 import Lumora
 
-// Something to do on a sheet, with what it is done to below it.
+// An action on a sheet, with its object below it.
 TouchButton {
     id: root
 

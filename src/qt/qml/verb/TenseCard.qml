@@ -23,7 +23,7 @@ Rectangle {
     // Right of it are the controls, whose taps are their own.
     readonly property real textEnd: play.x
     readonly property bool empty: line0.controlHidden
-    // It has the keyboard itself, and nothing in it nor above the squares.
+    // The square itself has the keyboard, not one of its lines and not the verb's card.
     readonly property bool isCurrent: activeFocus
 
     signal played(int line)

@@ -10,11 +10,11 @@ QtObject {
     id: root
 
     required property VerbDetailScreen screen
-    // For a pronoun and its form.
+    // The width for a pronoun and its form.
     required property real room
-    // Of the forms, where they have room.
+    // The font size of the forms where they have room, in pixels.
     required property int fullSize
-    // Of one line of the tense; 0 where it grows with its text.
+    // The height of one line of the tense; 0 where it grows with its text.
     property real lineHeight: 0
     // Counts the reloads.
     property int revision: 0
@@ -23,10 +23,10 @@ QtObject {
     // How much smaller a pronoun is than its form.
     readonly property real pronounShare: 0.88
     readonly property real blankShare: 0.3
-    // Of a row of a form, and what keeps one form's rows from the next one's.
+    // The height of a row as a share of its font size, and the gap between two forms.
     readonly property real rowShare: 1.17
     readonly property int rowGap: 5
-    // Of what has been worked out, by what it was worked out of.
+    // The results so far, by revision, mood and tense.
     readonly property var kept: ({})
 
     readonly property FontMetrics plain: FontMetrics {

@@ -11,7 +11,7 @@ Item {
 
     required property VerbDetailScreen screen
     readonly property CollectionItemModel collection: screen.collection
-    // Of the form that was searched for; -1 for none.
+    // The tense of the form that was searched for; -1 for none.
     property int openedTense: -1
     property int openedLine: -1
     readonly property real inset: collection.sectionInset
@@ -24,10 +24,10 @@ Item {
     // What is current from now on was chosen.
     property bool shown: false
 
-    // Under the verb's name.
+    // The verb's card, under its name.
     property Component card: null
 
-    // By hand, so that this tense is the first in sight.
+    // The person scrolled; this tense is now the first in sight.
     signal movedTo(int tense)
     // A form was held, or a tense's title tapped.
     signal formAsked(int tense, int line)
@@ -97,7 +97,7 @@ Item {
         // Into the square; the arrows lead out of it.
         Keys.onReturnPressed: (currentItem as TenseCard)?.takeKeyboard(0)
         Keys.onEnterPressed: (currentItem as TenseCard)?.takeKeyboard(0)
-        // The title is one that may grow.
+        // The header, with the verb's card in it, may grow.
         onOriginYChanged: {
             if (contentY === beginning)
                 contentY = originY;
@@ -167,7 +167,7 @@ Item {
     TapHandler {
         parent: grid
         acceptedButtons: Qt.RightButton
-        // A finger has no buttons, and would count as any.
+        // Without this a finger counts as every button, the right one too.
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad | PointerDevice.Stylus
         onTapped: eventPoint => root.askAt(eventPoint.scenePosition, true)
     }

@@ -13,10 +13,10 @@ TableContent {
     required property VerbDetailScreen screen
     property bool withCard: true
     property real beginning: 0
-    // Of the form that was searched for, below its tense's header.
+    // The row of the form that was searched for.
     readonly property int openedRow: screen.openedTense < 0 ? -1 : table.model.firstRow(screen.openedTense + 1) + 1 + screen.openedLine
 
-    // What is in a row of the list was held, or chosen by the keyboard.
+    // A form was held, or chosen with the keyboard.
     signal formAsked(int tense, int line)
     signal tenseAsked(int tense)
 
@@ -35,12 +35,12 @@ TableContent {
         else
             tenseAsked(tenseOf(row));
     }
-    // Unless the person, or a form that was searched for, has led elsewhere.
+    // Not when the person has scrolled, or the page opened at a form.
     function showCard() {
         if (!list.moved && screen.topTense === 0 && openedRow < 0)
             list.positionViewAtBeginning();
     }
-    // What reads the rows aloud follows them as they were made: from the top.
+    // A screen reader reads the rows in the order in which they were made: from the top.
     function showOpened() {
         list.positionViewAtBeginning();
         list.forceLayout();
@@ -130,7 +130,7 @@ TableContent {
     }
     Connections {
         target: root.list
-        // The card is one that may grow.
+        // The verb's card, above the first row, may grow.
         function onOriginYChanged() {
             if (root.list.contentY === root.beginning)
                 root.list.contentY = root.list.originY;
@@ -162,7 +162,7 @@ TableContent {
     DragHandler {
         id: swipe
 
-        // Farther than a finger wanders that scrolls.
+        // Farther than a scrolling finger moves sideways, in pixels.
         readonly property int far: 70
         property real reached: 0
 

@@ -17,13 +17,13 @@ Item {
     readonly property string summary: screen.summary
     readonly property bool anywhere: screen.previousVerb !== "" || screen.nextVerb !== ""
 
-    // It is used, and wants to be in sight from its top.
+    // It has the keyboard or was opened: the page scrolls to its top.
     signal focused
-    // It is leaving the card for what is below it.
+    // The keyboard moves on to what is below the card.
     signal passed
 
     function flip() {
-        // It opens downwards.
+        // Its new lines appear below: show the card from its top.
         focused();
         open = !open;
         screen.keepCardOpen(open);

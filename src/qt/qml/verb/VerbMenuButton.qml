@@ -26,7 +26,7 @@ BarButton {
     Loader {
         id: menu
 
-        // Of a type that is not loaded before it is wanted.
+        // Untyped: naming its type would load it before it is needed.
         readonly property var menu: item
     }
 }

@@ -44,7 +44,7 @@ Item {
     Loader {
         id: sheet
 
-        // Of a type that is not loaded before it is wanted.
+        // Untyped: naming its type would load it before it is needed.
         readonly property var sheet: item
     }
     Connections {
