@@ -53,7 +53,7 @@ DesktopSearch::search(std::string_view text, const platform::SettingsStore& sett
             return;
         }
         for (const auto& reading : *readings) {
-            if (reading.way > lookup::Way::Folded) {
+            if (reading.kind > lookup::MatchKind::Folded) {
                 continue;
             }
             auto result = resultOf(reading, typed, settings, database);

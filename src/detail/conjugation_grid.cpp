@@ -3,8 +3,8 @@
 
 #include "detail/conjugation_grid.h"
 
-#include "detail/form_setting.h"
 #include "detail/form_sheet.h"
+#include "detail/form_style.h"
 #include "platform/machine/bundle.h"
 #include "platform/machine/crash_reporter.h"
 #include "text/pronoun.h"
@@ -98,7 +98,7 @@ std::string ConjugationGrid::translation(ShownMood shown) const
     return shown.verb == nullptr ? std::string{} : shown.verb->translation(settings_, device_);
 }
 
-platform::LineSetting ConjugationGrid::setting(ShownMood shown, int position, std::size_t row) const
+platform::LineStyle ConjugationGrid::lineStyle(ShownMood shown, int position, std::size_t row) const
 {
     const auto* block = shownBlock(shown, position);
     const auto& rows = forms(shown, position);
@@ -108,17 +108,17 @@ platform::LineSetting ConjugationGrid::setting(ShownMood shown, int position, st
     auto hints = hintsOf(block->tense.identifier, rows, [this](std::string_view key) {
         return data::tenseTitle(key, bundle_, settings_);
     });
-    auto setting = std::move(hints[row]);
-    setting.joined = text::isElided(rows[row]->pronoun);
+    auto lineStyle = std::move(hints[row]);
+    lineStyle.joined = text::isElided(rows[row]->pronoun);
     if (shown.divisions != nullptr) {
         auto [runs, noteKey] = markedForm(*rows[row], *shown.divisions);
-        setting.runs = std::move(runs);
+        lineStyle.runs = std::move(runs);
         if (!noteKey.empty()) {
-            setting.accessibilityHint += setting.accessibilityHint.empty() ? "" : ", ";
-            setting.accessibilityHint += platform::localizedString(bundle_, noteKey);
+            lineStyle.accessibilityHint += lineStyle.accessibilityHint.empty() ? "" : ", ";
+            lineStyle.accessibilityHint += platform::localizedString(bundle_, noteKey);
         }
     }
-    return setting;
+    return lineStyle;
 }
 
 platform::TableCell ConjugationGrid::cellForRow(ShownMood shown, platform::IndexPath path)
@@ -140,7 +140,7 @@ platform::TableCell ConjugationGrid::cellForRow(ShownMood shown, platform::Index
     }
     cell.text = row->form->pronoun;
     cell.detailText = row->form->verb;
-    cell.setting = setting(shown, path.section - 1, static_cast<std::size_t>(path.row));
+    cell.lineStyle = lineStyle(shown, path.section - 1, static_cast<std::size_t>(path.row));
     cell.accessibilityLabel = spokenName(*row->form);
     cell.control = platform::PlayControl{row->indicator};
     return cell;
@@ -239,7 +239,7 @@ platform::CollectionCell ConjugationGrid::cellForItem(ShownMood shown, int item)
         const bool filled = line < rows.size();
         cell.pronounLabel[line] = filled ? rows[line]->pronoun : " ";
         cell.verbLabel[line] = filled ? rows[line]->verb : " ";
-        cell.setting[line] = setting(shown, item, line);
+        cell.lineStyle[line] = lineStyle(shown, item, line);
         cell.accessibilityLabel[line] = filled ? spokenName(*rows[line]) : std::string{};
         cell.progressViewPlaceholderHidden[line] = !filled;
         if (filled) {

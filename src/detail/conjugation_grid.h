@@ -85,7 +85,7 @@ private:
 
     std::string tenseTitle(const data::TenseBlock& block) const;
     std::string translation(ShownMood shown) const;
-    platform::LineSetting setting(ShownMood shown, int position, std::size_t row) const;
+    platform::LineStyle lineStyle(ShownMood shown, int position, std::size_t row) const;
     std::optional<PlayableRow> playable(ShownMood shown, int position, int row);
     std::shared_ptr<CERoundProgressView> indicatorFor(int segment, int position, int row);
     VerbCollectionViewCell& collectionCell(int segment, int item);

@@ -14,7 +14,7 @@ FormMarks::FormMarks(platform::SettingsStore& viewMemory, std::ostream& console)
     : viewMemory_{viewMemory}, console_{console}
 {}
 
-void FormMarks::recall()
+void FormMarks::load()
 {
     on_ = settings::ViewMemory{viewMemory_}.marksForms();
 }
@@ -22,8 +22,8 @@ void FormMarks::recall()
 void FormMarks::set(bool on)
 {
     on_ = on;
-    settings::reportUnkept(settings::ViewMemory{viewMemory_}.setMarksForms(on), "the marks",
-                           console_);
+    settings::reportIfNotSaved(settings::ViewMemory{viewMemory_}.setMarksForms(on), "the marks",
+                               console_);
 }
 
 void FormMarks::read(platform::Database& database, std::int64_t verbId)

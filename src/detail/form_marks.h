@@ -22,7 +22,7 @@ public:
     FormMarks(platform::SettingsStore& viewMemory, std::ostream& console);
 
     /// As the person left it on the last page.
-    void recall();
+    void load();
     bool on() const { return on_; }
     /// For this page and those to come; the console is told where that fails.
     void set(bool on);

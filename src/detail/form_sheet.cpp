@@ -5,7 +5,7 @@
 
 #include "data/form_parts.h"
 #include "data/tense_table.h"
-#include "detail/form_setting.h"
+#include "detail/form_style.h"
 #include "detail/row_sounds.h"
 #include "platform/machine/bundle.h"
 #include "platform/storage/settings_store.h"

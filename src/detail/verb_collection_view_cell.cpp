@@ -16,7 +16,7 @@ platform::CollectionCell VerbCollectionViewCell::content() const
                              progressViewPlaceholderHidden[line],
                              {progressView[line]},
                              accessibilityLabel[line],
-                             setting[line]});
+                             lineStyle[line]});
     }
     return cell;
 }

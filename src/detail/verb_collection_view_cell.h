@@ -25,7 +25,7 @@ struct VerbCollectionViewCell {
     std::array<std::string, kLines> pronounLabel;
     std::array<std::string, kLines> verbLabel;
     std::array<std::string, kLines> accessibilityLabel;
-    std::array<platform::LineSetting, kLines> setting;
+    std::array<platform::LineStyle, kLines> lineStyle;
     std::array<double, kLines> audioWidthConstraint{};
     std::array<double, kLines> audioPaddingConstraint{};
     std::array<bool, kLines> progressViewPlaceholderHidden{};

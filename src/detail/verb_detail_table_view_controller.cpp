@@ -101,7 +101,7 @@ void VerbDetailTableViewController::viewDidLoad()
     if (const auto opened = openedForm ? data::positionOfTense(openedForm->tense) : std::nullopt) {
         verbTypeSegmentedControl.selected = opened->segment;
     }
-    marks_.recall();
+    marks_.load();
     showVerb();
 
     refresh_ = data::observe<data::RefreshConjugations>(services_.notifications,
@@ -247,8 +247,8 @@ void VerbDetailTableViewController::refreshConjugations() const
 void VerbDetailTableViewController::selectVerbTypes(int segment)
 {
     verbTypeSegmentedControl.selected = segment;
-    settings::reportUnkept(settings::ViewMemory{services_.viewMemory}.setMood(segment), "the mood",
-                           services_.console);
+    settings::reportIfNotSaved(settings::ViewMemory{services_.viewMemory}.setMood(segment),
+                               "the mood", services_.console);
     refreshConjugations();
     services_.analytics.logEvent("conjugation_tab",
                                  {{"name", std::string{data::analyticsNameOfSegment(segment)}}});

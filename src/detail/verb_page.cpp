@@ -19,8 +19,8 @@ platform::Voice VerbPage::voice() const
 
 void VerbPage::chooseVoice(platform::Voice voice) const
 {
-    settings::reportUnkept(settings::ViewMemory{viewMemory_}.setVoice(voice), "the voice",
-                           console_);
+    settings::reportIfNotSaved(settings::ViewMemory{viewMemory_}.setVoice(voice), "the voice",
+                               console_);
     screen_.outletsChanged();
 }
 
@@ -61,21 +61,21 @@ VerbGuide VerbPage::guide() const
     return {*screen_.selectedVerb, screen_.queue, wording_, crashReporter_};
 }
 
-bool VerbPage::isCardOpen(bool unlessChosen) const
+bool VerbPage::isCardOpen(bool fallback) const
 {
-    return settings::ViewMemory{viewMemory_}.cardOpen().value_or(unlessChosen);
+    return settings::ViewMemory{viewMemory_}.cardOpen().value_or(fallback);
 }
 
 void VerbPage::keepCardOpen(bool open) const
 {
-    settings::reportUnkept(settings::ViewMemory{viewMemory_}.setCardOpen(open),
-                           "whether the card is open", console_);
+    settings::reportIfNotSaved(settings::ViewMemory{viewMemory_}.setCardOpen(open),
+                               "whether the card is open", console_);
 }
 
 void VerbPage::showNeighbour(int places) const
 {
     const auto& list = screen_.sequence;
-    showVerb(screen_, list.away(places), list.movedBy(places), VerbStep::Replace, storyboard_);
+    showVerb(screen_, list.neighbour(places), list.movedBy(places), VerbStep::Replace, storyboard_);
 }
 
 void VerbPage::showRelated(std::int64_t verbId) const

@@ -56,9 +56,9 @@ public:
 
     /// What is told of the verb besides its tables; there must be one.
     VerbGuide guide() const;
-    /// Whether its card shows all lines. `unlessChosen` is the answer before the person
+    /// Whether its card shows all lines. `fallback` is the answer before the person
     /// has ever opened or closed a card.
-    bool isCardOpen(bool unlessChosen) const;
+    bool isCardOpen(bool fallback) const;
     void keepCardOpen(bool open) const;
 
     /// Goes on to the verb that many places away in the list, in place of this

@@ -15,7 +15,7 @@ VerbSequence::VerbSequence(std::vector<data::VerbPtr> verbs, std::size_t at)
     }
 }
 
-data::VerbPtr VerbSequence::away(int places) const
+data::VerbPtr VerbSequence::neighbour(int places) const
 {
     const auto wanted = at_ + places;
     if (!verbs_ || wanted < 0 || wanted >= static_cast<std::ptrdiff_t>(verbs_->size())) {

@@ -21,7 +21,7 @@ public:
     VerbSequence(std::vector<data::VerbPtr> verbs, std::size_t at);
 
     /// The verb that many places on, or back where negative; null beyond the ends.
-    data::VerbPtr away(int places) const;
+    data::VerbPtr neighbour(int places) const;
     /// The same verbs, standing at that place, which must exist.
     VerbSequence movedBy(int places) const;
 

@@ -133,7 +133,8 @@ void VerbListTableViewController::loadFilter(platform::Database& connection)
 
 void VerbListTableViewController::choose(VerbChip chip, bool chosen)
 {
-    settings::reportUnkept(filter_.choose(chip, chosen), "what the list shows", services().console);
+    settings::reportIfNotSaved(filter_.choose(chip, chosen), "what the list shows",
+                               services().console);
     if (queue != nullptr) {
         queue->inDatabase([this](platform::Database& connection) { loadFilter(connection); });
     }

@@ -17,9 +17,9 @@ namespace {
 constexpr std::size_t kMostReadings = 5;
 constexpr int kWrongPronoun = 1;
 
-bool isGuess(Way way)
+bool isGuess(MatchKind kind)
 {
-    return way == Way::Slip || way == Way::Sound;
+    return kind == MatchKind::Typo || kind == MatchKind::Sound;
 }
 
 /// Whether both are guesses of one verb, or of a verb and its pronominal twin (laver,
@@ -29,15 +29,15 @@ bool sameGuess(const Reading& reading, const Reading& other)
     const auto nameOf = [](const Reading& named) {
         return std::string_view{named.headword}.substr(0, named.headword.find(" (s"));
     };
-    return isGuess(reading.way) &&
+    return isGuess(reading.kind) &&
            (other.verb == reading.verb ||
             (other.headword != reading.headword && nameOf(other) == nameOf(reading)));
 }
 
 /// Guesses by spelling and by sound are equally sure: their penalties order them.
-Way rankOf(Way way)
+MatchKind rankOf(MatchKind kind)
 {
-    return way == Way::Sound ? Way::Slip : way;
+    return kind == MatchKind::Sound ? MatchKind::Typo : kind;
 }
 
 /// The commonest first.
@@ -81,7 +81,8 @@ Catalogue::Rows Candidates::rows(std::uint32_t verb)
     return *read;
 }
 
-void Candidates::add(std::uint32_t verb, const std::vector<RowMatch>& matches, Way way, int penalty)
+void Candidates::add(std::uint32_t verb, const std::vector<RowMatch>& matches, MatchKind kind,
+                     int penalty)
 {
     const auto& name = catalogue_.verb(verb);
     for (const auto& match : matches) {
@@ -90,7 +91,7 @@ void Candidates::add(std::uint32_t verb, const std::vector<RowMatch>& matches, W
         });
         if (known == found_.end()) {
             Candidate candidate;
-            candidate.reading = {name.id, name.headword, match.form, {}, way};
+            candidate.reading = {name.id, name.headword, match.form, {}, kind};
             candidate.penalty = penalty;
             candidate.use = name.use;
             candidate.tense = static_cast<int>(std::size(kTenses));
@@ -109,7 +110,7 @@ void Candidates::add(std::uint32_t verb, const std::vector<RowMatch>& matches, W
     }
 }
 
-void Candidates::addInfinitive(std::uint32_t verb, Way way, int penalty)
+void Candidates::addInfinitive(std::uint32_t verb, MatchKind kind, int penalty)
 {
     const auto found = rows(verb);
     if (found == nullptr) {
@@ -123,19 +124,19 @@ void Candidates::addInfinitive(std::uint32_t verb, Way way, int penalty)
         });
     if (row != found->rows().end()) {
         const auto& spelling = row->spellings.front();
-        add(verb, {{&*row, &spelling, spelling.word, true}}, way, penalty);
+        add(verb, {{&*row, &spelling, spelling.word, true}}, kind, penalty);
         return;
     }
     Candidate candidate;
     candidate.reading = {
-        name.id, name.headword, name.headword.substr(0, name.headword.find(" (s")), {}, way};
+        name.id, name.headword, name.headword.substr(0, name.headword.find(" (s")), {}, kind};
     candidate.penalty = penalty;
     candidate.use = name.use;
     candidate.sameLetters = true;
     found_.push_back(std::move(candidate));
 }
 
-void Candidates::addForms(const Phrase& phrase, Way way, int penalty)
+void Candidates::addForms(const Phrase& phrase, MatchKind kind, int penalty)
 {
     const auto word = foldedWord(phrase.word);
     auto verbs = catalogue_.verbsOf(word);
@@ -153,9 +154,9 @@ void Candidates::addForms(const Phrase& phrase, Way way, int penalty)
         const bool named = phrase.auxiliary.empty() && phrase.persons == kAnyPerson &&
                            catalogue_.verb(verb).folded == word;
         if (matches.empty() && named) {
-            addInfinitive(verb, way, own);
+            addInfinitive(verb, kind, own);
         }
-        add(verb, matches, way, own);
+        add(verb, matches, kind, own);
     }
 }
 
@@ -200,7 +201,7 @@ std::vector<Reading> Candidates::ranked() &&
     std::stable_sort(
         found_.begin(), found_.end(), [](const Candidate& left, const Candidate& right) {
             const auto key = [](const Candidate& candidate) {
-                return std::make_tuple(rankOf(candidate.reading.way), candidate.penalty,
+                return std::make_tuple(rankOf(candidate.reading.kind), candidate.penalty,
                                        candidate.use, candidate.tense, candidate.reading.verb);
             };
             return key(left) < key(right);
@@ -211,7 +212,7 @@ std::vector<Reading> Candidates::ranked() &&
         const bool known = std::any_of(readings.begin(), readings.end(), [&](const Reading& other) {
             return sameGuess(reading, other) ||
                    (other.verb == reading.verb &&
-                    (other.way != reading.way || other.form == reading.form));
+                    (other.kind != reading.kind || other.form == reading.form));
         });
         if (!known && readings.size() < kMostReadings) {
             readings.push_back(std::move(candidate.reading));

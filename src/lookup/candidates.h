@@ -12,10 +12,10 @@
 
 namespace lumora::lookup {
 
-/// A reading, and what its rank depends on besides its way.
+/// A reading, and what its rank depends on besides its kind.
 struct Candidate {
     Reading reading;
-    /// Within the way, before the verb's use counts: less is better.
+    /// Within the kind, before the verb's use counts: less is better.
     int penalty = 0;
     int use = 0;
     /// How common the tense of its likeliest place is; less is more common.
@@ -32,11 +32,11 @@ public:
     {}
 
     /// Adds one reading for each form among the matches.
-    void add(std::uint32_t verb, const std::vector<RowMatch>& matches, Way way, int penalty);
+    void add(std::uint32_t verb, const std::vector<RowMatch>& matches, MatchKind kind, int penalty);
     /// Adds the infinitive of a verb.
-    void addInfinitive(std::uint32_t verb, Way way, int penalty);
+    void addInfinitive(std::uint32_t verb, MatchKind kind, int penalty);
     /// Adds the forms that equal the phrase, exactly or folded.
-    void addForms(const Phrase& phrase, Way way, int penalty);
+    void addForms(const Phrase& phrase, MatchKind kind, int penalty);
 
     /// Leaves laver (se) out of "je lave", and laver of "je me lave". Of a form alone,
     /// without a subject, the pronominal verb is left in where it is shown so.
@@ -62,12 +62,12 @@ private:
 
 /// Adds what the tokens may mean with a letter or two wrong. A short word without a
 /// subject resembles many forms by chance, so it is mostly taken for infinitives only.
-void addSlips(const std::vector<Phrase>& phrases, Candidates& candidates);
+void addTypos(const std::vector<Phrase>& phrases, Candidates& candidates);
 /// Adds what sounds alike. `sounds` has looseSound of each word of the index.
-void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::uint16_t>& sounds,
-                    Candidates& candidates);
+void addBySound(const std::vector<Phrase>& phrases, const std::vector<std::uint16_t>& sounds,
+                Candidates& candidates);
 
 /// The verbs in a longer text, those with a subject first.
-void addInside(const std::vector<std::string>& tokens, Candidates& candidates);
+void addPartsOfSentence(const std::vector<std::string>& tokens, Candidates& candidates);
 
 } // namespace lumora::lookup

@@ -113,7 +113,7 @@ platform::Result<void> Catalogue::readVerbs(platform::Database& database)
         verbs_.push_back(nameOf(rows->longForColumn(0), rows->stringForColumn(1),
                                 static_cast<int>(rows->longForColumn(2))));
         auto& verb = verbs_.back();
-        verb.coarse = rows->longForColumn(3) != 0;
+        verb.vulgar = rows->longForColumn(3) != 0;
         if (verb.headword == "avoir" || verb.headword == "être") {
             auxiliaries_.push_back(static_cast<std::uint32_t>(verbs_.size() - 1));
         }

@@ -28,7 +28,7 @@ struct VerbName {
     /// From 1, among the commonest, to 5.
     int use = 0;
     /// A vulgar word: it is not offered as a guess for a short text.
-    bool coarse = false;
+    bool vulgar = false;
     bool pronominal = false;
     /// As in s'en aller.
     bool en = false;

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "lookup/candidates.h"
-#include "lookup/slips.h"
 #include "lookup/sound_key.h"
 #include "lookup/spelling.h"
+#include "lookup/typos.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -18,20 +18,20 @@ constexpr std::size_t kShortestInfinitive = 4;
 constexpr std::size_t kShortestBesidePronoun = 4;
 constexpr std::size_t kShortestDouble = 5;
 /// From this length on a word without a subject may stand for a form, and an infinitive
-/// may have two slips.
-constexpr std::size_t kLong = 7;
+/// may have two typos.
+constexpr std::size_t kLongWord = 7;
 constexpr std::size_t kMostWords = 24;
 constexpr std::size_t kMostSoundAlikes = 40;
 
-// What makes a guess less likely, beside four for each point that a slip costs.
-constexpr int kAPointOfSlip = 4;
+// What makes a guess less likely, beside four for each point that a typo costs.
+constexpr int kPenaltyPerTypoPoint = 4;
 constexpr int kSound = 12;
 constexpr int kNearSound = 20;
-constexpr int kAClassOfUse = 2;
+constexpr int kPenaltyPerUseClass = 2;
 constexpr int kForm = 2;
 constexpr int kFirstLetter = 4;
 constexpr int kOtherPronoun = 4;
-constexpr int kCoarse = 6;
+constexpr int kVulgar = 6;
 
 bool isInfinitive(const RowMatch& match)
 {
@@ -70,7 +70,7 @@ int rarestFor(std::string_view word)
     if (word.size() < kShortestDouble) {
         return kCommon;
     }
-    if (word.size() >= kLong || endsAsInfinitive(word)) {
+    if (word.size() >= kLongWord || endsAsInfinitive(word)) {
         return kAny;
     }
     return word.size() == kShortestDouble ? kCommon : kKnown;
@@ -78,12 +78,13 @@ int rarestFor(std::string_view word)
 
 bool mayBeMeant(const Phrase& phrase, std::string_view word, const VerbName& verb)
 {
-    return !phrase.bare || (verb.use <= rarestFor(word) && (word.size() >= kLong || !verb.coarse));
+    return !phrase.bare ||
+           (verb.use <= rarestFor(word) && (word.size() >= kLongWord || !verb.vulgar));
 }
 
 /// Whether the misspelt word may stand for a form other than an infinitive. Without a
 /// subject its first letter must be right.
-bool mayBeForm(const Phrase& phrase, std::string_view word, const Slip& slip, const VerbName& verb)
+bool mayBeForm(const Phrase& phrase, std::string_view word, const Typo& typo, const VerbName& verb)
 {
     constexpr int kCommon = 2;
     constexpr int kKnown = 3;
@@ -91,29 +92,29 @@ bool mayBeForm(const Phrase& phrase, std::string_view word, const Slip& slip, co
     if (!phrase.bare) {
         return word.size() >= kShortestBesidePronoun;
     }
-    if (word.front() != slip.word.front()) {
+    if (word.front() != typo.word.front()) {
         return false;
     }
-    if (word.size() >= kLong) {
+    if (word.size() >= kLongWord) {
         return verb.use <= kKnown;
     }
     // "apelle" for appelle, but not "fille" for file.
-    return word.size() >= kShortestDouble && slip.cost <= kSlipOfDouble &&
-           slip.word.size() > word.size() && verb.use <= kCommon;
+    return word.size() >= kShortestDouble && typo.cost <= kDoubledLetterCost &&
+           typo.word.size() > word.size() && verb.use <= kCommon;
 }
 
-/// Whether the slip is likely: in a short word without a subject the first letter must
+/// Whether the typo is likely: in a short word without a subject the first letter must
 /// be right.
-bool isLikely(const Phrase& phrase, std::string_view word, const Slip& slip)
+bool isLikely(const Phrase& phrase, std::string_view word, const Typo& typo)
 {
     const bool firstTold =
-        word.size() < kShortestDouble || (word.size() < kLong && !endsAsInfinitive(word));
-    return !phrase.bare || !firstTold || word.front() == slip.word.front();
+        word.size() < kShortestDouble || (word.size() < kLongWord && !endsAsInfinitive(word));
+    return !phrase.bare || !firstTold || word.front() == typo.word.front();
 }
 
 int penaltyOf(const VerbName& verb)
 {
-    return kAClassOfUse * verb.use + (verb.coarse ? kCoarse : 0);
+    return kPenaltyPerUseClass * verb.use + (verb.vulgar ? kVulgar : 0);
 }
 
 /// Whether the phrase may be a bare infinitive.
@@ -124,11 +125,11 @@ bool isSimple(const Phrase& phrase)
 }
 
 /// Adds the verbs of one word in the place of the phrase's.
-void addSlip(const Phrase& phrase, std::string_view word, const Slip& slip, Candidates& candidates)
+void addTypo(const Phrase& phrase, std::string_view word, const Typo& typo, Candidates& candidates)
 {
     auto meant = phrase;
-    meant.word = slip.word;
-    for (const auto number : candidates.catalogue().verbsOf(slip.word)) {
+    meant.word = typo.word;
+    for (const auto number : candidates.catalogue().verbsOf(typo.word)) {
         const auto& verb = candidates.catalogue().verb(number);
         if (!mayBeMeant(phrase, word, verb)) {
             continue;
@@ -138,13 +139,13 @@ void addSlip(const Phrase& phrase, std::string_view word, const Slip& slip, Cand
             return;
         }
         auto matches = rows->matches(meant);
-        if (!mayBeForm(phrase, word, slip, verb)) {
+        if (!mayBeForm(phrase, word, typo, verb)) {
             keepInfinitives(matches);
         }
-        const int penalty = kAPointOfSlip * slip.cost + penaltyOf(verb) +
-                            (word.front() == slip.word.front() ? 0 : kFirstLetter);
-        if (matches.empty() && isSimple(phrase) && verb.folded == slip.word) {
-            candidates.addInfinitive(number, Way::Slip, penalty);
+        const int penalty = kPenaltyPerTypoPoint * typo.cost + penaltyOf(verb) +
+                            (word.front() == typo.word.front() ? 0 : kFirstLetter);
+        if (matches.empty() && isSimple(phrase) && verb.folded == typo.word) {
+            candidates.addInfinitive(number, MatchKind::Typo, penalty);
         }
         for (auto& match : matches) {
             // The row knows with whom a misspelt participle agrees.
@@ -153,26 +154,26 @@ void addSlip(const Phrase& phrase, std::string_view word, const Slip& slip, Cand
             }
         }
         const bool infinitive = std::any_of(matches.begin(), matches.end(), isInfinitive);
-        candidates.add(number, matches, Way::Slip,
+        candidates.add(number, matches, MatchKind::Typo,
                        penalty + (infinitive ? 0 : kForm) +
                            (rows->differsInPronoun(phrase) ? kOtherPronoun : 0));
     }
 }
 
-void addOneSlip(const Phrase& phrase, const std::string& word, Candidates& candidates)
+void addOneTypo(const Phrase& phrase, const std::string& word, Candidates& candidates)
 {
-    auto slips = wordsOneSlipAway(word, candidates.catalogue().words());
-    slips.erase(std::remove_if(slips.begin(), slips.end(),
-                               [&](const Slip& slip) { return !isLikely(phrase, word, slip); }),
-                slips.end());
-    slips.resize(std::min(slips.size(), kMostWords));
-    for (const auto& slip : slips) {
-        addSlip(phrase, word, slip, candidates);
+    auto typos = wordsOneTypoAway(word, candidates.catalogue().words());
+    typos.erase(std::remove_if(typos.begin(), typos.end(),
+                               [&](const Typo& typo) { return !isLikely(phrase, word, typo); }),
+                typos.end());
+    typos.resize(std::min(typos.size(), kMostWords));
+    for (const auto& typo : typos) {
+        addTypo(phrase, word, typo, candidates);
     }
 }
 
-/// Two slips leave both ends of an infinitive alone, but for the e of "finire".
-void addTwoSlips(const std::string& word, Candidates& candidates)
+/// Two typos leave both ends of an infinitive alone, but for the e of "finire".
+void addTwoTypos(const std::string& word, Candidates& candidates)
 {
     constexpr int kKnown = 4;
 
@@ -184,33 +185,33 @@ void addTwoSlips(const std::string& word, Candidates& candidates)
             verbs[number].use > kKnown) {
             continue;
         }
-        const int cost = slipCost(word, name, kTwoSlips);
-        if (cost > 0 && cost <= kTwoSlips) {
-            candidates.addInfinitive(number, Way::Slip,
-                                     kAPointOfSlip * cost + penaltyOf(verbs[number]));
+        const int cost = typoCost(word, name, kTwoTyposCost);
+        if (cost > 0 && cost <= kTwoTyposCost) {
+            candidates.addInfinitive(number, MatchKind::Typo,
+                                     kPenaltyPerTypoPoint * cost + penaltyOf(verbs[number]));
         }
     }
 }
 
 } // namespace
 
-void addSlips(const std::vector<Phrase>& phrases, Candidates& candidates)
+void addTypos(const std::vector<Phrase>& phrases, Candidates& candidates)
 {
     for (const auto& phrase : phrases) {
         const auto word = foldedWord(phrase.word);
         if (word.size() < kShortestInfinitive) {
             continue;
         }
-        addOneSlip(phrase, word, candidates);
-        if (candidates.empty() && word.size() >= kLong && isSimple(phrase) &&
+        addOneTypo(phrase, word, candidates);
+        if (candidates.empty() && word.size() >= kLongWord && isSimple(phrase) &&
             endsAsInfinitive(word)) {
-            addTwoSlips(word, candidates);
+            addTwoTypos(word, candidates);
         }
     }
 }
 
-void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::uint16_t>& sounds,
-                    Candidates& candidates)
+void addBySound(const std::vector<Phrase>& phrases, const std::vector<std::uint16_t>& sounds,
+                Candidates& candidates)
 {
     const auto& catalogue = candidates.catalogue();
     for (const auto& phrase : phrases) {
@@ -249,7 +250,7 @@ void addSoundAlikes(const std::vector<Phrase>& phrases, const std::vector<std::u
                 matches = rows->nearSoundAlikes(phrase);
                 penalty = kNearSound;
             }
-            candidates.add(number, matches, Way::Sound,
+            candidates.add(number, matches, MatchKind::Sound,
                            penalty + penaltyOf(verb) +
                                (rows->differsInPronoun(phrase) ? kOtherPronoun : 0));
         }

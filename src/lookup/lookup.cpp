@@ -26,7 +26,7 @@ std::string plain(std::string_view text)
 
 /// Says of each candidate how it was understood, and leaves out what differs by an
 /// accent where something has the same letters.
-void tellWays(std::string_view text, std::string_view tidy, Candidates& candidates)
+void setKinds(std::string_view text, std::string_view tidy, Candidates& candidates)
 {
     auto& found = candidates.found();
     const auto same = [](const Candidate& candidate) { return candidate.sameLetters; };
@@ -44,11 +44,11 @@ void tellWays(std::string_view text, std::string_view tidy, Candidates& candidat
         const bool simple = reading.form.find(' ') == std::string::npos;
         if ((simple && reading.form == text) || reading.headword == text ||
             std::any_of(places.begin(), places.end(), isForm)) {
-            reading.way = Way::Exact;
+            reading.kind = MatchKind::Exact;
         } else if ((simple && foldedWord(reading.form) == foldedWord(tidy)) ||
                    foldedWord(tidied(reading.headword)) == foldedWord(tidy) ||
                    std::any_of(places.begin(), places.end(), isPlainForm)) {
-            reading.way = Way::Folded;
+            reading.kind = MatchKind::Folded;
         }
     }
 }
@@ -77,7 +77,7 @@ void addMeanings(const Meanings& meanings, std::string_view tidy, bool whole,
     matches.resize(std::min(matches.size(), kMost));
     int penalty = 0;
     for (const auto& match : matches) {
-        candidates.addInfinitive(candidates.catalogue().numberOf(match.verb), Way::Meaning,
+        candidates.addInfinitive(candidates.catalogue().numberOf(match.verb), MatchKind::Meaning,
                                  penalty++);
     }
 }
@@ -113,13 +113,13 @@ platform::Result<std::vector<Reading>> Lookup::read(platform::Database& database
         phrasesOf(tokens, [&](std::string_view word) { return catalogue_->isAuxiliary(word); });
     Candidates candidates{*catalogue_, database};
     for (const auto& phrase : phrases) {
-        candidates.addForms(phrase, Way::Phrase, 0);
+        candidates.addForms(phrase, MatchKind::Phrase, 0);
     }
     candidates.dropWrongPronouns(
         std::none_of(phrases.begin(), phrases.end(), [](const Phrase& phrase) {
             return phrase.persons != kAnyPerson || phrase.reflexive;
         }));
-    tellWays(typed, tidy, candidates);
+    setKinds(typed, tidy, candidates);
     const auto known = meanings(database, language);
     if (!known) {
         return tl::unexpected(known.error());
@@ -127,10 +127,10 @@ platform::Result<std::vector<Reading>> Lookup::read(platform::Database& database
     const bool whole = guesses == Guesses::None || !candidates.empty();
     addMeanings(**known, tidy, whole, candidates);
     if (candidates.empty() && guesses == Guesses::Allowed) {
-        addSlips(phrases, candidates);
-        addSoundAlikes(phrases, catalogue_->sounds(database), candidates);
+        addTypos(phrases, candidates);
+        addBySound(phrases, catalogue_->sounds(database), candidates);
         if (candidates.empty()) {
-            addInside(tokens, candidates);
+            addPartsOfSentence(tokens, candidates);
         }
     }
     if (!candidates.state()) {

@@ -23,7 +23,7 @@ namespace lumora::lookup {
 enum class Guesses {
     /// Only what the text says: forms, and whole senses of a meaning.
     None,
-    /// Words of a longer sense, and where the text says nothing slips, sounds and
+    /// Words of a longer sense, and where the text says nothing typos, sounds and
     /// parts of a sentence too.
     Allowed,
 };

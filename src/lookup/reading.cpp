@@ -5,22 +5,22 @@
 
 namespace lumora::lookup {
 
-std::string_view nameOf(Way way)
+std::string_view nameOf(MatchKind kind)
 {
-    switch (way) {
-    case Way::Exact:
+    switch (kind) {
+    case MatchKind::Exact:
         return "exact";
-    case Way::Folded:
+    case MatchKind::Folded:
         return "folded";
-    case Way::Phrase:
+    case MatchKind::Phrase:
         return "phrase";
-    case Way::Meaning:
+    case MatchKind::Meaning:
         return "meaning";
-    case Way::Slip:
+    case MatchKind::Typo:
         return "slip";
-    case Way::Sound:
+    case MatchKind::Sound:
         return "sound";
-    case Way::Inside:
+    case MatchKind::PartOfText:
         return "inside";
     }
     return {};

@@ -10,8 +10,8 @@
 
 namespace lumora::lookup {
 
-/// How a text was understood, the surest way first.
-enum class Way {
+/// How a text was understood, the surest kind first.
+enum class MatchKind {
     /// As written.
     Exact,
     /// Without regard to case, accents, ligatures, blanks, apostrophes and dashes.
@@ -21,15 +21,15 @@ enum class Way {
     /// By a translation.
     Meaning,
     /// With a letter or two missing, too many, wrong or swapped.
-    Slip,
+    Typo,
     /// Spelt as it sounds.
     Sound,
     /// As a part of a longer text.
-    Inside,
+    PartOfText,
 };
 
 /// "exact", "folded" and so on.
-std::string_view nameOf(Way way);
+std::string_view nameOf(MatchKind kind);
 
 /// Where a form stands in the table of its verb.
 struct Place {
@@ -54,7 +54,7 @@ struct Reading {
     std::string form;
     /// The likeliest first; empty where the database has no row of the verb.
     std::vector<Place> places;
-    Way way = Way::Exact;
+    MatchKind kind = MatchKind::Exact;
 };
 
 } // namespace lumora::lookup

@@ -80,7 +80,7 @@ bool addPart(const std::vector<std::string>& tokens, std::size_t begin, std::siz
             for (const auto& match : matches) {
                 first.places.push_back(match.row->place);
             }
-            candidates.add(verb, matches, Way::Inside, penaltyOf(phrase, first));
+            candidates.add(verb, matches, MatchKind::PartOfText, penaltyOf(phrase, first));
         }
     }
     return any;
@@ -88,7 +88,7 @@ bool addPart(const std::vector<std::string>& tokens, std::size_t begin, std::siz
 
 } // namespace
 
-void addInside(const std::vector<std::string>& tokens, Candidates& candidates)
+void addPartsOfSentence(const std::vector<std::string>& tokens, Candidates& candidates)
 {
     if (tokens.size() < 2) {
         return;

@@ -48,7 +48,7 @@ void keepBestAboveList(std::vector<lookup::Reading>& readings, std::int64_t firs
     }
     const auto second =
         std::find_if(readings.begin() + 1, readings.end(), [&](const lookup::Reading& reading) {
-            return reading.way <= lookup::Way::Phrase &&
+            return reading.kind <= lookup::MatchKind::Phrase &&
                    withoutPronoun(reading.headword) != withoutPronoun(best.headword);
         });
     if (second == readings.end()) {
@@ -90,17 +90,17 @@ void SearchReadings::prepare()
 void SearchReadings::clear()
 {
     cards_.clear();
-    allThereIs_ = false;
+    replaceResults_ = false;
     offersForms_ = false;
 }
 
 void SearchReadings::read(const std::string& text, const std::vector<data::VerbPtr>& results)
 {
     clear();
-    allThereIs_ = results.empty();
+    replaceResults_ = results.empty();
     const bool searchesForms =
         platform::boolObjectForKey(settings_, settings::kIncludeConjugations).value_or(false);
-    offersForms_ = allThereIs_ && !searchesForms;
+    offersForms_ = replaceResults_ && !searchesForms;
     if (queue == nullptr) {
         return;
     }
@@ -108,12 +108,12 @@ void SearchReadings::read(const std::string& text, const std::vector<data::VerbP
     queue->inDatabase([&](platform::Database& database) {
         auto readings =
             lookup_.read(database, text, language,
-                         allThereIs_ ? lookup::Guesses::Allowed : lookup::Guesses::None);
+                         replaceResults_ ? lookup::Guesses::Allowed : lookup::Guesses::None);
         if (!readings) {
             log(database);
             return;
         }
-        if (!allThereIs_) {
+        if (!replaceResults_) {
             keepBestAboveList(*readings, results.front()->id);
         }
         for (const auto& reading : *readings) {
@@ -128,7 +128,7 @@ ReadingCard SearchReadings::cardOf(const lookup::Reading& reading, data::VerbPtr
 {
     ReadingCard card;
     card.headword = reading.headword;
-    card.way = wayOf(reading);
+    card.kind = kindOf(reading);
     if (isInfinitive(reading)) {
         const auto& translation = verb->translation(settings_, device_);
         card.detail = translation == verb->french ? std::string{} : translation;
@@ -163,23 +163,23 @@ std::string SearchReadings::placesOf(const lookup::Reading& reading) const
     return told;
 }
 
-std::string SearchReadings::wayOf(const lookup::Reading& reading) const
+std::string SearchReadings::kindOf(const lookup::Reading& reading) const
 {
     const auto text = [this](std::string_view key) {
         return platform::localizedString(bundle_, key);
     };
-    switch (reading.way) {
-    case lookup::Way::Exact:
-    case lookup::Way::Folded:
-    case lookup::Way::Phrase:
+    switch (reading.kind) {
+    case lookup::MatchKind::Exact:
+    case lookup::MatchKind::Folded:
+    case lookup::MatchKind::Phrase:
         break;
-    case lookup::Way::Meaning:
+    case lookup::MatchKind::Meaning:
         return text("search.by_meaning");
-    case lookup::Way::Slip:
+    case lookup::MatchKind::Typo:
         return text("search.by_spelling");
-    case lookup::Way::Sound:
+    case lookup::MatchKind::Sound:
         return text("search.by_sound");
-    case lookup::Way::Inside:
+    case lookup::MatchKind::PartOfText:
         return text("search.by_sentence");
     }
     return {};

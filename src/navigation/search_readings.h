@@ -28,7 +28,7 @@ struct ReadingCard {
     /// "Present – je suis", or what the verb means.
     std::string detail;
     /// How a guess came about; empty where the card itself shows it.
-    std::string way;
+    std::string kind;
     data::VerbPtr verb;
     /// The form at which the verb opens; none for the verb as a whole.
     std::optional<data::FormPlace> place;
@@ -57,14 +57,14 @@ public:
 
     const std::vector<ReadingCard>& cards() const { return cards_; }
     /// The search has found nothing: the cards stand in place of the list.
-    bool areAllThereIs() const { return allThereIs_; }
+    bool replaceResults() const { return replaceResults_; }
     /// Searching the conjugated forms as well, which is switched off, may find more.
     bool offersForms() const { return offersForms_; }
 
 private:
     ReadingCard cardOf(const lookup::Reading& reading, data::VerbPtr verb) const;
     std::string placesOf(const lookup::Reading& reading) const;
-    std::string wayOf(const lookup::Reading& reading) const;
+    std::string kindOf(const lookup::Reading& reading) const;
     void log(const platform::Database& database);
 
     const platform::Bundle& bundle_;
@@ -73,7 +73,7 @@ private:
     platform::CrashReporter& crashReporter_;
     lookup::Lookup lookup_;
     std::vector<ReadingCard> cards_;
-    bool allThereIs_ = false;
+    bool replaceResults_ = false;
     bool offersForms_ = false;
 };
 

@@ -122,7 +122,8 @@ platform::Result<void> ViewMemory::setChip(Chip chip, bool chosen)
     return store_.synchronize();
 }
 
-void reportUnkept(const platform::Result<void>& kept, std::string_view what, std::ostream& console)
+void reportIfNotSaved(const platform::Result<void>& kept, std::string_view what,
+                      std::ostream& console)
 {
     if (!kept) {
         console << "Unable to keep " << what << ": " << kept.error().message << std::endl;

@@ -63,6 +63,7 @@ private:
 };
 
 /// Tells the console of a value that could not be written, and why.
-void reportUnkept(const platform::Result<void>& kept, std::string_view what, std::ostream& console);
+void reportIfNotSaved(const platform::Result<void>& kept, std::string_view what,
+                      std::ostream& console);
 
 } // namespace lumora::settings

@@ -44,13 +44,13 @@ std::vector<Fields> linesOf(const std::vector<lookup::Reading>& readings, Sessio
 {
     std::vector<Fields> lines;
     for (const auto& reading : readings) {
-        const std::string way{lookup::nameOf(reading.way)};
+        const std::string kind{lookup::nameOf(reading.kind)};
         if (reading.places.empty()) {
-            lines.push_back({reading.headword, reading.form, {}, {}, {}, way});
+            lines.push_back({reading.headword, reading.form, {}, {}, {}, kind});
         }
         for (const auto& place : reading.places) {
             const auto [mood, tense] = titlesOf(place.tense, session);
-            lines.push_back({reading.headword, reading.form, mood, tense, place.pronoun, way});
+            lines.push_back({reading.headword, reading.form, mood, tense, place.pronoun, kind});
         }
     }
     return lines;
@@ -160,8 +160,8 @@ platform::Result<std::vector<std::string>> TextReader::namesNear(std::string_vie
             const bool known =
                 std::find(names.begin(), names.end(), reading.headword) != names.end();
             // "s'aller" for aller.
-            const bool near = reading.way == lookup::Way::Slip ||
-                              (reading.way <= lookup::Way::Phrase && isName(reading));
+            const bool near = reading.kind == lookup::MatchKind::Typo ||
+                              (reading.kind <= lookup::MatchKind::Phrase && isName(reading));
             if (near && !known && names.size() < kMostNames) {
                 names.push_back(reading.headword);
             }
@@ -179,7 +179,7 @@ platform::Result<std::vector<lookup::Reading>> TextReader::verbsOfForm(std::stri
                 std::any_of(verbs.begin(), verbs.end(), [&](const lookup::Reading& other) {
                     return verbOf(other.headword) == verbOf(reading.headword);
                 });
-            if (!known && reading.way <= lookup::Way::Phrase && !isName(reading)) {
+            if (!known && reading.kind <= lookup::MatchKind::Phrase && !isName(reading)) {
                 verbs.push_back(std::move(reading));
             }
         }

@@ -30,7 +30,7 @@ public:
 
     /// The ids of the verbs of that name.
     platform::Result<std::vector<std::int64_t>> verbsNamed(std::string_view name);
-    /// A few headwords that differ from it by a slip or two, the nearest first.
+    /// A few headwords that differ from it by a typo or two, the nearest first.
     platform::Result<std::vector<std::string>> namesNear(std::string_view name);
 
 private:

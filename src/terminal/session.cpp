@@ -14,11 +14,11 @@ namespace lumora::terminal {
 Session::Session(const std::filesystem::path& shareFolder)
     : bundle_{shareFolder},
       device_{{}},
-      services_{notifications_, settings_,   bundle_,      device_,
-                clock_,         complaints_, analytics_,   complaints_.console(),
-                views_,         presenter_,  storyboard_,  speech_,
-                audioSession_,  scripts_,    shareSheet_,  reviewPrompter_,
-                mail_,          urlOpener_,  fileChooser_, viewMemory_}
+      services_{notifications_, settings_,       bundle_,      device_,
+                clock_,         reportedErrors_, analytics_,   reportedErrors_.console(),
+                views_,         presenter_,      storyboard_,  speech_,
+                audioSession_,  scripts_,        shareSheet_,  reviewPrompter_,
+                mail_,          urlOpener_,      fileChooser_, viewMemory_}
 {
     storyboard_.setServices(services_);
     settings::seedDefaultSettings(settings_);
@@ -52,7 +52,7 @@ platform::Result<void> Session::openDatabase()
 
 platform::Result<void> Session::check() const
 {
-    if (const auto line = complaints_.line()) {
+    if (const auto line = reportedErrors_.line()) {
         return tl::unexpected(platform::Error{*line, EIO});
     }
     return {};

@@ -13,8 +13,8 @@
 #include "qt/machine/qt_clock.h"
 #include "qt/machine/qt_device.h"
 #include "qt/machine/qt_java_script_context.h"
-#include "terminal/complaints.h"
 #include "terminal/null_services.h"
+#include "terminal/reported_errors.h"
 #include "terminal/terminal_views.h"
 
 #include <filesystem>
@@ -47,7 +47,7 @@ private:
     qt::QtBundle bundle_;
     qt::QtDevice device_;
     qt::QtClock clock_;
-    Complaints complaints_;
+    ReportedErrors reportedErrors_;
     NullAnalytics analytics_;
     TerminalViewFactory views_;
     NullPresenter presenter_;

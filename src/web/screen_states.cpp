@@ -63,7 +63,8 @@ Json readingsOf(const HomeViewController& home)
 {
     Json cards = Json::array();
     for (const auto& card : home.readings().cards()) {
-        cards.push_back({{"headword", card.headword}, {"detail", card.detail}, {"way", card.way}});
+        cards.push_back(
+            {{"headword", card.headword}, {"detail", card.detail}, {"kind", card.kind}});
     }
     return cards;
 }
@@ -98,7 +99,7 @@ Json homeState(HomeViewController& home, std::int64_t openVerb)
     if (home.searchResultsController() && !search.text.empty()) {
         state["results"] = listState(*home.searchResultsController(), openVerb);
         state["readings"] = readingsOf(home);
-        state["nothingFound"] = home.readings().areAllThereIs();
+        state["nothingFound"] = home.readings().replaceResults();
         state["formsOffered"] = home.readings().offersForms();
     }
     return state;
@@ -134,7 +135,7 @@ Json wordsOf(VerbDetailTableViewController& screen)
         card.push_back({{"label", line.label}, {"text", line.text}, {"links", std::move(links)}});
     }
     const auto nameAway = [&](int places) {
-        const auto verb = screen.sequence.away(places);
+        const auto verb = screen.sequence.neighbour(places);
         return verb ? verb->french : std::string{};
     };
     return {{"summary", guide.summary()},

@@ -54,7 +54,7 @@ Json toJson(const TableCell& cell, Rings& rings)
             {"text", cell.text},
             {"note", cell.note},
             {"detail", cell.detailText},
-            {"setting", web::toJson(cell.setting)},
+            {"lineStyle", web::toJson(cell.lineStyle)},
             {"image", cell.image},
             {"id", cell.accessibilityIdentifier},
             {"label", cell.accessibilityLabel},
@@ -72,16 +72,16 @@ Json toJson(const platform::Color& color)
         {channel(color.red), channel(color.green), channel(color.blue), color.alpha});
 }
 
-Json toJson(const platform::LineSetting& setting)
+Json toJson(const platform::LineStyle& lineStyle)
 {
     Json runs = Json::array();
-    for (const auto& run : setting.runs) {
+    for (const auto& run : lineStyle.runs) {
         runs.push_back({{"text", run.text}, {"style", nameOf(run.style)}});
     }
     return {{"runs", std::move(runs)},
-            {"hint", setting.hint},
-            {"caption", setting.caption},
-            {"spoken", setting.accessibilityHint}};
+            {"hint", lineStyle.hint},
+            {"caption", lineStyle.caption},
+            {"spoken", lineStyle.accessibilityHint}};
 }
 
 WebTableView::WebTableView(platform::TableDataSource& source, WebViewFactory& factory)
@@ -365,7 +365,7 @@ Json WebCollectionView::describe()
                 {{"leading", row.leading},
                  {"trailing", row.trailing},
                  {"label", row.accessibilityLabel},
-                 {"setting", toJson(row.setting)},
+                 {"lineStyle", toJson(row.lineStyle)},
                  {"control", row.controlHidden ? Json{} : rings_.describe(row.control.indicator)}});
         }
         items.push_back({{"title", cell.title}, {"rows", std::move(lines)}});

@@ -120,6 +120,6 @@ private:
 };
 
 Json toJson(const platform::Color& color);
-Json toJson(const platform::LineSetting& setting);
+Json toJson(const platform::LineStyle& lineStyle);
 
 } // namespace lumora::web

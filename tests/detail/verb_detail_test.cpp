@@ -100,9 +100,9 @@ TEST_F(VerbDetail, ShowsARowAsPronounFormAndPlayControl)
     EXPECT_EQ(cell.accessibilityLabel, "je vais");
     EXPECT_EQ(detail->cellForRow({5, 0}).accessibilityLabel, "j'irai");
     EXPECT_EQ(detail->cellForItem(4).rows[0].accessibilityLabel, "j'irai");
-    EXPECT_TRUE(detail->cellForRow({5, 0}).setting.joined);
-    EXPECT_TRUE(detail->cellForItem(4).rows[0].setting.joined);
-    EXPECT_FALSE(cell.setting.joined);
+    EXPECT_TRUE(detail->cellForRow({5, 0}).lineStyle.joined);
+    EXPECT_TRUE(detail->cellForItem(4).rows[0].lineStyle.joined);
+    EXPECT_FALSE(cell.lineStyle.joined);
     EXPECT_EQ(std::get<PlayControl>(cell.control).indicator,
               std::get<PlayControl>(detail->cellForRow({1, 0}).control).indicator);
 
@@ -122,15 +122,15 @@ TEST_F(VerbDetail, MarksStemsAndEndingsUntilTheReaderTurnsItOff)
                                                 {"a", RunStyle::Accent}};
 
     const auto cell = detail->cellForRow({1, 0});
-    EXPECT_EQ(cell.setting.runs, marked);
-    EXPECT_EQ(cell.setting.hint, "tu");
-    EXPECT_EQ(cell.setting.accessibilityHint, "tu, form.stem");
+    EXPECT_EQ(cell.lineStyle.runs, marked);
+    EXPECT_EQ(cell.lineStyle.hint, "tu");
+    EXPECT_EQ(cell.lineStyle.accessibilityHint, "tu, form.stem");
     EXPECT_EQ(cell.text, "") << "the label of the pronoun stays empty";
-    EXPECT_EQ(detail->cellForItem(0).rows[0].setting.runs, marked);
+    EXPECT_EQ(detail->cellForItem(0).rows[0].lineStyle.runs, marked);
 
     detail->setMarksForms(false);
-    EXPECT_TRUE(detail->cellForRow({1, 0}).setting.runs.empty());
-    EXPECT_EQ(detail->cellForRow({1, 0}).setting.accessibilityHint, "tu");
+    EXPECT_TRUE(detail->cellForRow({1, 0}).lineStyle.runs.empty());
+    EXPECT_EQ(detail->cellForRow({1, 0}).lineStyle.accessibilityHint, "tu");
     EXPECT_FALSE(open(aller)->marksForms()) << "on the next verb's screen";
 }
 

@@ -206,10 +206,10 @@ TEST_F(Steps, NeighboursFollowTheListAndCountAsViews)
 {
     openSecondRow();
     const auto& list = top().sequence;
-    EXPECT_EQ(top().selectedVerb, list.away(0));
-    EXPECT_EQ(list.away(-1)->french, "aller");
-    EXPECT_EQ(list.away(-2), nullptr);
-    EXPECT_EQ(list.away(0)->french, "avoir");
+    EXPECT_EQ(top().selectedVerb, list.neighbour(0));
+    EXPECT_EQ(list.neighbour(-1)->french, "aller");
+    EXPECT_EQ(list.neighbour(-2), nullptr);
+    EXPECT_EQ(list.neighbour(0)->french, "avoir");
     top().selectVerbTypes(2);
     ASSERT_TRUE(settings::ViewMemory{world.viewMemory}.setMood(0)) << "as another page may";
 
@@ -236,7 +236,7 @@ TEST_F(Steps, ALinkCoversTheVerbThatItIsOn)
     ASSERT_EQ(stack->viewControllers().size(), 2U);
     EXPECT_EQ(top().selectedVerb->french, "être");
     EXPECT_EQ(top().selectedVerb->indicatifPresent.size(), 1U);
-    EXPECT_EQ(top().sequence.away(1), nullptr) << "it was not opened from a list";
+    EXPECT_EQ(top().sequence.neighbour(1), nullptr) << "it was not opened from a list";
     top().page().showRelated(99);
     EXPECT_EQ(stack->viewControllers().size(), 2U);
     stack->popViewController();

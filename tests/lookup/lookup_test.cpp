@@ -49,7 +49,7 @@ protected:
             return "";
         }
         const auto& reading = readings.front();
-        auto told = reading.headword + " " + reading.form + " " + std::string{nameOf(reading.way)};
+        auto told = reading.headword + " " + reading.form + " " + std::string{nameOf(reading.kind)};
         for (const auto& place : reading.places) {
             told += (&place == &reading.places.front() ? ": " : ", ") + place.tense;
             told += (place.pronoun.empty() ? "" : " ") + place.pronoun;
@@ -147,7 +147,7 @@ TEST_F(LookupTest, PutsTheCommonVerbFirst)
         EXPECT_THAT(verbs, ElementsAreArray(c.verbs)) << c.text;
     }
     EXPECT_EQ(read("be").at(0).headword, "être");
-    EXPECT_EQ(read("aufstehen", "de").at(0).way, Way::Meaning);
+    EXPECT_EQ(read("aufstehen", "de").at(0).kind, MatchKind::Meaning);
     EXPECT_THAT(read("go", "fr"), IsEmpty());
     for (const char* guess : {"apeller", "il fo", "le chat mange la souris"}) {
         EXPECT_THAT(read(guess, "en", Guesses::None), IsEmpty()) << guess;
@@ -162,14 +162,14 @@ void expectAll(const lookups::Outcome& outcome, double part)
         << testing::PrintToString(outcome.failures);
 }
 
-TEST_F(LookupTest, KnowsARowAsOneSaysItAndAVerbBehindASlip)
+TEST_F(LookupTest, KnowsARowAsOneSaysItAndAVerbBehindATypo)
 {
     constexpr std::size_t kStride = 397;
-    constexpr std::size_t kSlips = 300;
+    constexpr std::size_t kTypos = 300;
 
     queue->inDatabase([&](platform::Database& database) {
         expectAll(lookups::checkRows(database, *lookup, kStride), 1);
-        expectAll(lookups::checkSlips(database, *lookup, kSlips, 7), 0.95);
+        expectAll(lookups::checkTypos(database, *lookup, kTypos, 7), 0.95);
         expectAll(lookups::checkOthers(database, *lookup), 1);
     });
 }

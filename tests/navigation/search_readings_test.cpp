@@ -28,7 +28,7 @@ protected:
         home->searchTextChanged(text);
         std::vector<std::string> cards;
         for (const auto& card : home->readings().cards()) {
-            cards.push_back(card.headword + " | " + card.detail + " | " + card.way);
+            cards.push_back(card.headword + " | " + card.detail + " | " + card.kind);
         }
         return cards;
     }
@@ -68,7 +68,7 @@ TEST_F(SearchReadings, StandAboveTheListOrInItsPlace)
     for (const auto& c : cases) {
         EXPECT_THAT(cardsOf(c.text), ElementsAreArray(c.whenNot)) << c.text;
         const bool nothing = home->searchResultsController()->verbs.empty();
-        EXPECT_EQ(home->readings().areAllThereIs(), nothing) << c.text;
+        EXPECT_EQ(home->readings().replaceResults(), nothing) << c.text;
         EXPECT_EQ(home->readings().offersForms(), nothing) << c.text;
     }
     // The same texts where the list has begun with some verb.
@@ -83,10 +83,10 @@ TEST_F(SearchReadings, StandAboveTheListOrInItsPlace)
                                    : other});
         Cards cards;
         for (const auto& card : readings.cards()) {
-            cards.push_back(card.headword + " | " + card.detail + " | " + card.way);
+            cards.push_back(card.headword + " | " + card.detail + " | " + card.kind);
         }
         EXPECT_THAT(cards, ElementsAreArray(c.whenFound)) << c.text;
-        EXPECT_FALSE(readings.areAllThereIs() || readings.offersForms());
+        EXPECT_FALSE(readings.replaceResults() || readings.offersForms());
     }
 }
 
@@ -130,19 +130,19 @@ TEST_F(SearchReadings, AreNeighboursOfWhatIsFound)
     home->searchBarSearchButtonClicked();
     const auto card = world.shownDetail();
     ASSERT_TRUE(card);
-    EXPECT_EQ(card->sequence.away(0)->french, "aller");
-    EXPECT_EQ(card->sequence.away(-1), nullptr);
-    EXPECT_EQ(card->sequence.away(1)->french, "\u00E9vanouir (s')");
-    EXPECT_EQ(card->sequence.away(2), nullptr);
+    EXPECT_EQ(card->sequence.neighbour(0)->french, "aller");
+    EXPECT_EQ(card->sequence.neighbour(-1), nullptr);
+    EXPECT_EQ(card->sequence.neighbour(1)->french, "\u00E9vanouir (s')");
+    EXPECT_EQ(card->sequence.neighbour(2), nullptr);
     home->searchResultsController()->rowTapped({0, 0});
-    EXPECT_EQ(world.shownDetail()->sequence.away(-1)->french, "aller");
+    EXPECT_EQ(world.shownDetail()->sequence.neighbour(-1)->french, "aller");
     // Not twice where the list has it as well.
     world.settings.setValue(true, settings::kIncludeConjugations);
     home->searchTextChanged("vai");
     home->searchTextChanged("vais");
     home->searchBarSearchButtonClicked();
-    EXPECT_EQ(world.shownDetail()->sequence.away(0)->french, "aller");
-    EXPECT_EQ(world.shownDetail()->sequence.away(1), nullptr);
+    EXPECT_EQ(world.shownDetail()->sequence.neighbour(0)->french, "aller");
+    EXPECT_EQ(world.shownDetail()->sequence.neighbour(1), nullptr);
 }
 
 TEST_F(SearchReadings, LeadToTheOptionThatFindsTheForm)
@@ -159,9 +159,9 @@ TEST_F(SearchReadings, LeadToTheOptionThatFindsTheForm)
     EXPECT_EQ(options.cellForRow(*options.firstRow).text, "settings.includeconjugations");
 
     options.switchToggled(*options.firstRow, true);
-    EXPECT_TRUE(home->readings().areAllThereIs()) << "until the options close";
+    EXPECT_TRUE(home->readings().replaceResults()) << "until the options close";
     home->optionsClosed(options.fieldsChanged);
-    EXPECT_FALSE(home->readings().areAllThereIs());
+    EXPECT_FALSE(home->readings().replaceResults());
     EXPECT_FALSE(home->readings().offersForms());
     ASSERT_THAT(home->readings().cards(), testing::SizeIs(1));
     EXPECT_EQ(home->readings().cards()[0].verb, home->searchResultsController()->verbs.at(0))
@@ -182,7 +182,7 @@ TEST_F(SearchReadings, AreNoneAndALineInTheLogWhereTheFileIsDamaged)
     world.clock.advance(std::chrono::seconds{1});
     EXPECT_THAT(cardsOf("suis"), IsEmpty());
     EXPECT_THAT(world.crashReporter.lines, testing::Contains(HasSubstr("text may mean")));
-    EXPECT_TRUE(home->readings().areAllThereIs());
+    EXPECT_TRUE(home->readings().replaceResults());
 }
 
 } // namespace

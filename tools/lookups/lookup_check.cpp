@@ -89,7 +89,7 @@ void note(Outcome& outcome, bool right, const std::string& text,
         std::string told = "\"" + text + "\":";
         for (const auto& reading : readings) {
             told += " " + reading.headword + "/" + reading.form + "/" +
-                    std::string{lookup::nameOf(reading.way)};
+                    std::string{lookup::nameOf(reading.kind)};
         }
         outcome.failures.push_back(told);
     }
@@ -150,7 +150,7 @@ void dropAccent(std::u32string& word)
     }
 }
 
-std::string withSlip(std::u32string word, std::mt19937& random)
+std::string withTypo(std::u32string word, std::mt19937& random)
 {
     const auto below = [&](std::size_t count) { return random() % count; };
     const auto letter = [&] { return static_cast<char32_t>(U'a' + below(26)); };
@@ -194,7 +194,7 @@ Outcome checkRows(platform::Database& database, lookup::Lookup& lookup, std::siz
     return outcome;
 }
 
-Outcome checkSlips(platform::Database& database, lookup::Lookup& lookup, std::size_t count,
+Outcome checkTypos(platform::Database& database, lookup::Lookup& lookup, std::size_t count,
                    std::uint32_t seed)
 {
     constexpr std::size_t kShortest = 5;
@@ -209,7 +209,7 @@ Outcome checkSlips(platform::Database& database, lookup::Lookup& lookup, std::si
         if (letters.size() < kShortest) {
             continue;
         }
-        const auto text = withSlip(letters, random);
+        const auto text = withTypo(letters, random);
         const auto readings = readingsOf(database, lookup, text);
         note(outcome, isAmongFirst(readings, row.verb), row.form + " as " + text, readings);
     }

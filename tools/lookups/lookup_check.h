@@ -25,10 +25,10 @@ struct Outcome {
 /// and one of them is to name the row.
 Outcome checkRows(platform::Database& database, lookup::Lookup& lookup, std::size_t stride);
 
-/// Types infinitives with one slip: a letter lost,
+/// Types infinitives with one typo: a letter lost,
 /// added, changed, swapped, doubled, or an accent lost. The verb is to be among
-/// the first three readings. The same seed makes the same slips.
-Outcome checkSlips(platform::Database& database, lookup::Lookup& lookup, std::size_t count,
+/// the first three readings. The same seed makes the same typos.
+Outcome checkTypos(platform::Database& database, lookup::Lookup& lookup, std::size_t count,
                    std::uint32_t seed);
 
 /// Texts that are no verb in any way have no reading.

@@ -18,8 +18,8 @@ namespace {
 
 using namespace lumora;
 
-constexpr std::size_t kSlips = 10000;
-constexpr double kSlipsFound = 0.95;
+constexpr std::size_t kTypos = 10000;
+constexpr double kTyposFound = 0.95;
 
 bool tell(const char* what, const lookups::Outcome& outcome, double part)
 {
@@ -59,7 +59,7 @@ bool check(platform::Database& database, std::size_t stride, std::uint32_t seed)
               << std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count()
               << " s, " << residentMegabytes() - before << " MB" << std::endl;
     bool good = tell("other texts", lookups::checkOthers(database, lookup), 1);
-    good &= tell("slips", lookups::checkSlips(database, lookup, kSlips, seed), kSlipsFound);
+    good &= tell("typos", lookups::checkTypos(database, lookup, kTypos, seed), kTyposFound);
     good &= tell("rows", lookups::checkRows(database, lookup, stride), 1);
     return good;
 }
@@ -71,7 +71,7 @@ int main(int argc, char** argv)
     if (argc < 2 || argc > 4) {
         std::cerr << "usage: check-lookup DATABASE [STRIDE [SEED]]\n\n"
                      "Types every row of every verb, of each STRIDE-th verb if one is given, and\n"
-                     "10,000 slips, and holds what they are taken for against the database.\n";
+                     "10,000 typos, and holds what they are taken for against the database.\n";
         return 2;
     }
     try {

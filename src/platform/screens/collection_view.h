@@ -21,7 +21,7 @@ struct CollectionRow {
     PlayControl control;
     /// What a screen reader says; empty for an empty line.
     std::string accessibilityLabel;
-    LineSetting setting{};
+    LineStyle lineStyle{};
 };
 
 /// What one square of a collection shows.

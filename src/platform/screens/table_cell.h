@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/screens/animated_view.h"
-#include "platform/screens/line_setting.h"
+#include "platform/screens/line_style.h"
 
 #include <memory>
 #include <optional>
@@ -38,7 +38,7 @@ struct TableCell {
     /// in brackets. Empty for none.
     std::string note;
     std::string detailText;
-    LineSetting setting;
+    LineStyle lineStyle;
     /// Name of an image of ours; empty for none.
     std::string image;
     std::string accessibilityIdentifier;

@@ -166,7 +166,7 @@ void Application::raise(const QString& activationToken)
     qunsetenv(kTokenVariable);
 }
 
-void Application::clearTheWay()
+void Application::closeAllLayers()
 {
     // Questions first: their answers lead to screens that go next.
     presenter_.withdraw();
@@ -190,7 +190,7 @@ void Application::open(const InstanceRequest& request)
         app::isKnownShortcut(type) &&
         (type != app::kSearchShortcut || splitScreen_->collapsed() || !request.links.isEmpty());
     if (leadsSomewhere || !request.links.isEmpty() || request.text || request.form) {
-        clearTheWay();
+        closeAllLayers();
     }
     if (leadsSomewhere || request.text) {
         splitScreen_->backToHome();

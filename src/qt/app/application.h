@@ -92,7 +92,7 @@ private:
     void rememberWindow();
     void applicationStateChanged(Qt::ApplicationState state);
     void raise(const QString& activationToken);
-    void clearTheWay();
+    void closeAllLayers();
     void open(const InstanceRequest& request);
 
     ApplicationOptions options_;

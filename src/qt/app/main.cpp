@@ -126,7 +126,7 @@ int runApplication(const CommandLine& commandLine, InstanceRequest request)
         break;
     case RunningInstance::Role::Second:
         return 0;
-    case RunningInstance::Role::Unheard:
+    case RunningInstance::Role::NoAnswer:
         std::cerr << "lumora: the program that runs already does not answer\n";
         return kFailed;
     }

@@ -89,7 +89,7 @@ RunningInstance::Role RunningInstance::start(const InstanceRequest& request)
         return Role::Second;
     }
     // Perhaps it was just ending.
-    return takeName() ? Role::First : Role::Unheard;
+    return takeName() ? Role::First : Role::NoAnswer;
 }
 
 bool RunningInstance::takeName() const

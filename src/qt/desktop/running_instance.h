@@ -55,7 +55,7 @@ public:
         /// Another one has taken the request over.
         Second,
         /// Another one is there and does not answer.
-        Unheard,
+        NoAnswer,
     };
 
     explicit RunningInstance(QDBusConnection bus);

@@ -14,7 +14,7 @@ namespace lumora::qt {
 namespace {
 
 /// Characters of a text that is only kept alive; why is said below.
-constexpr qsizetype kBallast = 500'000;
+constexpr qsizetype kLivingTextLength = 500'000;
 
 class QtJavaScriptContext final : public platform::JavaScriptContext {
 public:
@@ -23,7 +23,7 @@ public:
         // The engine collects garbage whenever its texts have grown by the size of those
         // alive. A script that splits a long text would cause hundreds of collections;
         // a large living text makes them rare.
-        ballast_.setProperty(QStringLiteral("text"), QString{kBallast, u' '});
+        livingText_.setProperty(QStringLiteral("text"), QString{kLivingTextLength, u' '});
     }
 
     void setExceptionHandler(ExceptionHandler handler) override { handler_ = std::move(handler); }
@@ -46,7 +46,7 @@ public:
 private:
     QJSEngine engine_;
     /// Out of the reach of scripts.
-    QJSValue ballast_ = engine_.newObject();
+    QJSValue livingText_ = engine_.newObject();
     ExceptionHandler handler_;
 };
 

@@ -54,7 +54,7 @@ CollectionLine CollectionItemModel::line(int item, std::size_t number) const
     return {.leading = toQString(row.leading),
             .trailing = toQString(row.trailing),
             .accessibleName = toQString(row.accessibilityLabel),
-            .setting = toValue(row.setting, row.trailing),
+            .lineStyle = toValue(row.lineStyle, row.trailing),
             .audioWidth = row.audioWidth,
             .audioPadding = row.audioPadding,
             .controlHidden = row.controlHidden,

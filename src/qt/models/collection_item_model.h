@@ -5,7 +5,7 @@
 
 #include "platform/screens/collection_view.h"
 #include "qt/models/indicator_source.h"
-#include "qt/models/line_setting_value.h"
+#include "qt/models/line_style_value.h"
 
 #include <QAbstractListModel>
 
@@ -20,7 +20,7 @@ struct CollectionLine {
     Q_PROPERTY(QString leading MEMBER leading FINAL)
     Q_PROPERTY(QString trailing MEMBER trailing FINAL)
     Q_PROPERTY(QString accessibleName MEMBER accessibleName FINAL)
-    Q_PROPERTY(lumora::qt::LineSettingValue setting MEMBER setting FINAL)
+    Q_PROPERTY(lumora::qt::LineStyleValue lineStyle MEMBER lineStyle FINAL)
     Q_PROPERTY(double audioWidth MEMBER audioWidth FINAL)
     Q_PROPERTY(double audioPadding MEMBER audioPadding FINAL)
     Q_PROPERTY(bool controlHidden MEMBER controlHidden FINAL)
@@ -30,7 +30,7 @@ public:
     QString leading;
     QString trailing;
     QString accessibleName;
-    LineSettingValue setting;
+    LineStyleValue lineStyle;
     double audioWidth = 0;
     double audioPadding = 0;
     bool controlHidden = true;

@@ -5,7 +5,7 @@
 
 #include "platform/screens/table_view.h"
 #include "qt/models/indicator_source.h"
-#include "qt/models/line_setting_value.h"
+#include "qt/models/line_style_value.h"
 
 #include <QAbstractListModel>
 #include <QColor>
@@ -77,7 +77,7 @@ public:
         SelectedRole,
         LastInSectionRole,
         AccessibleNameRole,
-        SettingRole,
+        LineStyleRole,
         /// Of a header under which there are no cells.
         AloneRole,
     };

@@ -32,9 +32,9 @@ QVariant accessibleNameOf(const TableCell& cell, IndicatorPool& /*indicators*/)
     return toQString(cell.accessibilityLabel.empty() ? cell.text : cell.accessibilityLabel);
 }
 
-QVariant settingOf(const TableCell& cell, IndicatorPool& /*indicators*/)
+QVariant lineStyleOf(const TableCell& cell, IndicatorPool& /*indicators*/)
 {
-    return QVariant::fromValue(toValue(cell.setting, cell.detailText));
+    return QVariant::fromValue(toValue(cell.lineStyle, cell.detailText));
 }
 
 QVariant selectableOf(const TableCell& cell, IndicatorPool& /*indicators*/)
@@ -102,7 +102,7 @@ std::span<const TableItemModel::RoleEntry> TableItemModel::roles()
         {IdentifierRole, "identifier", nullptr, textOf<&TableCell::accessibilityIdentifier>},
         {AccessibleNameRole, "accessibleName", nullptr, accessibleNameOf},
         {ReuseIdentifierRole, "reuseIdentifier", nullptr, textOf<&TableCell::reuseIdentifier>},
-        {SettingRole, "setting", nullptr, settingOf},
+        {LineStyleRole, "lineStyle", nullptr, lineStyleOf},
         {SelectableRole, "selectable", nullptr, selectableOf},
         {DisclosureRole, "disclosure", nullptr, disclosureOf},
         {ControlRole, "control", nullptr, controlKindOf},

@@ -20,7 +20,8 @@ std::vector<SearchReading> readingsOf(const navigation::HomeViewController& home
 {
     std::vector<SearchReading> readings;
     for (const auto& card : home.readings().cards()) {
-        readings.push_back({toQString(card.headword), toQString(card.detail), toQString(card.way)});
+        readings.push_back(
+            {toQString(card.headword), toQString(card.detail), toQString(card.kind)});
     }
     return readings;
 }

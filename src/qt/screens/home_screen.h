@@ -34,12 +34,12 @@ struct SearchReading {
     QML_VALUE_TYPE(searchReading)
     Q_PROPERTY(QString headword MEMBER headword FINAL)
     Q_PROPERTY(QString detail MEMBER detail FINAL)
-    Q_PROPERTY(QString way MEMBER way FINAL)
+    Q_PROPERTY(QString kind MEMBER kind FINAL)
 
 public:
     QString headword;
     QString detail;
-    QString way;
+    QString kind;
     bool operator==(const SearchReading&) const = default;
 };
 
@@ -100,7 +100,7 @@ public:
     /// Of SearchReading.
     QVariantList readings() const;
     /// The readings stand in place of the results.
-    bool nothingFound() const { return home_->readings().areAllThereIs(); }
+    bool nothingFound() const { return home_->readings().replaceResults(); }
     bool formsOffered() const { return home_->readings().offersForms(); }
 
     Q_INVOKABLE void openReading(int card)

@@ -87,7 +87,7 @@ QStringList VerbDetailScreen::leadingTextsOf(int tense) const
     const int rows = detail_->numberOfRowsInSection(tense + 1);
     for (int row = 0; row < rows; ++row) {
         const auto cell = detail_->cellForRow({tense + 1, row});
-        for (const auto& text : {cell.text, cell.setting.hint, cell.setting.caption}) {
+        for (const auto& text : {cell.text, cell.lineStyle.hint, cell.lineStyle.caption}) {
             texts += toQString(text);
         }
     }
@@ -127,7 +127,7 @@ QVariantList VerbDetailScreen::card() const
 
 QString VerbDetailScreen::nameAway(int places) const
 {
-    const auto verb = detail_->sequence.away(places);
+    const auto verb = detail_->sequence.neighbour(places);
     return verb ? toQString(verb->french) : QString{};
 }
 

@@ -107,9 +107,9 @@ public:
     Q_INVOKABLE void showNeighbour(int places) { detail_->page().showNeighbour(places); }
     Q_INVOKABLE void showRelated(qint64 id) { detail_->page().showRelated(id); }
     /// As the person left the last one, if ever.
-    Q_INVOKABLE bool isCardOpen(bool unlessChosen) const
+    Q_INVOKABLE bool isCardOpen(bool fallback) const
     {
-        return detail_->page().isCardOpen(unlessChosen);
+        return detail_->page().isCardOpen(fallback);
     }
     Q_INVOKABLE void keepCardOpen(bool open) { detail_->page().keepCardOpen(open); }
     Q_INVOKABLE void selectMood(int segment) { detail_->selectVerbTypes(segment); }

@@ -66,7 +66,7 @@ public:
         tap("aller");
         moods();
         reading();
-        tellings();
+        cardsAndSheets();
         share();
         if (!tablet_) {
             tap("backButton");
@@ -268,7 +268,7 @@ private:
     }
 
     /// What a verb's page tells besides its tables.
-    void tellings()
+    void cardsAndSheets()
     {
         if (!tablet_) {
             tap("verbCard");

@@ -106,7 +106,7 @@ export class Dialogs {
                 el('h2', { lang: 'fr' }, preview.title), el('p', {}, preview.translation),
                 el('p', { class: 'second' }, preview.summary),
                 ...rows.map((cell) => cell && el('div', { class: 'form-line' },
-                    el('span', { class: 'leading', lang: 'fr' }, cell.text), formText(cell.detail, cell.setting)))),
+                    el('span', { class: 'leading', lang: 'fr' }, cell.text), formText(cell.detail, cell.lineStyle)))),
             el('div', { class: 'answers' },
                 button(this.channel.text('action.open'), 'answer', () => this.channel.send('openPreview')),
                 ...preview.actions.map((offer, action) => button(offer.title,

@@ -150,7 +150,7 @@ export class HomeView extends ScreenView<HomeState> {
             () => this.channel.send('openReading', { card: at }),
             el('span', { class: 'first', lang: 'fr' }, `${card.headword} `),
             el('span', { class: 'second' }, `${card.detail} `),
-            card.way !== '' && el('span', { class: 'way' }, card.way));
+            card.kind !== '' && el('span', { class: 'kind' }, card.kind));
     }
 
     private drawList(state: HomeState): void {

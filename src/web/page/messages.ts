@@ -5,11 +5,11 @@
 // parts are those that web_events.cpp reads.
 
 export interface Run { text: string; style: 'plain' | 'light' | 'strong' | 'accent' | 'underlined' }
-export interface LineSetting { runs: Run[]; hint: string; caption: string; spoken: string }
+export interface LineStyle { runs: Run[]; hint: string; caption: string; spoken: string }
 export interface Ring { ring: number; value: number }
 export type Control = null | { on: boolean } | { titles: string[]; selected: number } | Ring;
 export interface Cell {
-    reuse: string; text: string; note: string; detail: string; setting: LineSetting; image: string;
+    reuse: string; text: string; note: string; detail: string; lineStyle: LineStyle; image: string;
     id: string; label: string; selectable: boolean; disclosure: boolean; control: Control;
     section: number; row: number; editable: boolean;
 }
@@ -22,7 +22,7 @@ export interface TableState {
 export interface Button { id: string; title: string; image: string; enabled: boolean }
 export interface Bar { title: string; left: Button | null; right: Button[] }
 interface Screen { screen: number; bar: Bar }
-export interface Reading { headword: string; detail: string; way: string }
+export interface Reading { headword: string; detail: string; kind: string }
 export interface HomeState extends Screen {
     kind: 'home'; tabs: { tag: number; title: string; image: string }[]; tab: number;
     search: { placeholder: string; text: string; id: string; focus: boolean };
@@ -31,7 +31,7 @@ export interface HomeState extends Screen {
 }
 export interface CardLine { label: string; text: string; links: { id: number; title: string }[] }
 export interface SquareLine {
-    leading: string; trailing: string; label: string; setting: LineSetting; control: Ring | null;
+    leading: string; trailing: string; label: string; lineStyle: LineStyle; control: Ring | null;
 }
 export interface Squares { title: string; items: { title: string; rows: SquareLine[] }[] }
 export interface VerbState extends Screen {

@@ -6,7 +6,7 @@
 
 import { showSheet } from './dialogs';
 import { button, el, fillSegments, icon, isShown } from './dom';
-import type { Cell, FormSheet, LineSetting, Squares, TableState, TenseNote, VerbState } from './messages';
+import type { Cell, FormSheet, LineStyle, Squares, TableState, TenseNote, VerbState } from './messages';
 import { playControl } from './rings';
 import { ScreenView } from './screen_view';
 
@@ -14,15 +14,15 @@ const squaresFrom = 560;
 // Farther than a finger wanders that scrolls.
 const swipeWidth = 70;
 
-export function formText(text: string, setting: LineSetting): HTMLElement {
-    const runs = setting.runs.map((run) => el('span', { class: `run-${run.style}` }, run.text));
+export function formText(text: string, lineStyle: LineStyle): HTMLElement {
+    const runs = lineStyle.runs.map((run) => el('span', { class: `run-${run.style}` }, run.text));
     return el('span', { class: 'form', lang: 'fr' }, ...(runs.length > 0 ? runs : [text]));
 }
 
-function leadingText(text: string, setting: LineSetting): HTMLElement {
+function leadingText(text: string, lineStyle: LineStyle): HTMLElement {
     return el('span', { class: 'leading' },
-        setting.caption !== '' && el('span', { class: 'caption' }, setting.caption),
-        text === '' ? setting.hint : el('span', { lang: 'fr' }, text));
+        lineStyle.caption !== '' && el('span', { class: 'caption' }, lineStyle.caption),
+        text === '' ? lineStyle.hint : el('span', { lang: 'fr' }, text));
 }
 
 export class VerbView extends ScreenView<VerbState> {
@@ -237,7 +237,7 @@ export class VerbView extends ScreenView<VerbState> {
         const made = el('div', { class: 'form-row', 'data-row': row },
             button(cell.label || `${cell.text} ${cell.detail}`, 'form-line',
                 () => void this.showForm(cell.section - 1, cell.row),
-                leadingText(cell.text, cell.setting), ' ', formText(cell.detail, cell.setting)),
+                leadingText(cell.text, cell.lineStyle), ' ', formText(cell.detail, cell.lineStyle)),
             ring && playControl(ring, `${this.channel.text('action.play')}: ${cell.text} ${cell.detail}`,
                 () => this.channel.send('accessory', { table, row })));
         made.classList.toggle('opened', row === state.opened);
@@ -253,7 +253,7 @@ export class VerbView extends ScreenView<VerbState> {
                 ...item.rows.map((line, index) => el('div', { class: 'form-row' },
                     button(line.label || `${line.leading} ${line.trailing}`, 'form-line',
                         () => void this.showForm(at, index),
-                        leadingText(line.leading, line.setting), ' ', formText(line.trailing, line.setting)),
+                        leadingText(line.leading, line.lineStyle), ' ', formText(line.trailing, line.lineStyle)),
                     line.control && playControl(line.control, `${play}: ${line.leading} ${line.trailing}`,
                         () => this.send('audio', { item: at, line: index })))))));
     }

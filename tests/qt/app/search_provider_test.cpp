@@ -95,7 +95,7 @@ TEST_F(DesktopShell, FindsVerbsAndFormsButNothingElseAndOpensThem)
         {"irions", "aller – Present conditional, nous: go"},
         {"ETRE", "être: be"},
         {"se lever", "lever (se): get up"},
-        // Too short, a meaning, a phrase, a slip, and what people look for there.
+        // Too short, a meaning, a phrase, a typo, and what people look for there.
         {"eu", ""},
         {"walk", ""},
         {"nous irions", ""},

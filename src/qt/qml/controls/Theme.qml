@@ -99,7 +99,7 @@ QtObject {
         return name.includes(" ") ? name.replace(/-/g, "\u2011") : name;
     }
     // The colours of a mark-up that names them by what they are for.
-    function inked(markup) {
+    function withColors(markup) {
         return markup.replace(/"accent"/g, '"' + accentText + '"').replace(/"light"/g, '"' + textSecondary + '"');
     }
 }

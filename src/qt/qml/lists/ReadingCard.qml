@@ -10,7 +10,7 @@ TouchButton {
 
     required property searchReading modelData
 
-    text: modelData.headword + (modelData.detail === "" ? "" : ", " + modelData.detail) + (modelData.way === "" ? "" : ", " + modelData.way)
+    text: modelData.headword + (modelData.detail === "" ? "" : ", " + modelData.detail) + (modelData.kind === "" ? "" : ", " + modelData.kind)
     padding: 0
 
     background: Rectangle {
@@ -45,7 +45,7 @@ TouchButton {
                     width: texts.width - headword.width - parent.spacing
                     height: headword.height
                     visible: text !== "" && width > 0
-                    text: root.modelData.way
+                    text: root.modelData.kind
                     color: Theme.textSecondary
                     font.pixelSize: Theme.small
                     verticalAlignment: Text.AlignVCenter

@@ -15,7 +15,7 @@ Rectangle {
     required property int section
     required property string title
     required property string text
-    required property lineSetting setting
+    required property lineStyle lineStyle
     required property bool alone
     required property string accessibleName
     required property string reuseIdentifier
@@ -68,12 +68,12 @@ Rectangle {
     Accessible.focused: isCurrent
     Accessible.onPressAction: asked()
     Accessible.name: opened ? accessibleName + ", " + qsTrId("verb.searched") : isCell ? accessibleName : unused ? title + ", " + qsTrId("tense.unused") : title
-    Accessible.description: setting.description
+    Accessible.description: lineStyle.description
 
     LeadingText {
         id: leading
         pronoun: root.isCell ? root.text : root.unused ? root.title + " \u2013 " + qsTrId("tense.unused") : root.title
-        setting: root.setting
+        lineStyle: root.lineStyle
         above: root.stacked
         x: Theme.margin
         y: root.fit === null ? (root.height - height) / 2 : root.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
@@ -88,10 +88,10 @@ Rectangle {
     FormText {
         id: form
         visible: root.isForm
-        x: leading.x + (root.stacked || leading.width === 0 ? 0 : leading.width + (root.setting.joined ? 0 : root.fit?.blank ?? 0))
+        x: leading.x + (root.stacked || leading.width === 0 ? 0 : leading.width + (root.lineStyle.joined ? 0 : root.fit?.blank ?? 0))
         y: (root.height - height + leading.captionHeight + (root.stacked ? leading.height : 0)) / 2
         width: play.x - x
-        markup: root.setting.markup
+        markup: root.lineStyle.markup
         marked: root.screen.marksForms
         font.pixelSize: root.fit?.size ?? Theme.body
     }

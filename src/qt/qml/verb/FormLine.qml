@@ -29,7 +29,7 @@ Rectangle {
     Accessible.ignored: line.accessibleName === ""
     Accessible.role: Accessible.StaticText
     Accessible.name: opened ? line.accessibleName + ", " + qsTrId("verb.searched") : line.accessibleName
-    Accessible.description: line.setting.description
+    Accessible.description: line.lineStyle.description
     Accessible.onPressAction: asked()
     Keys.onPressed: event => {
         const menu = event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier;
@@ -55,7 +55,7 @@ Rectangle {
     LeadingText {
         id: leading
         pronoun: root.line.leading
-        setting: root.line.setting
+        lineStyle: root.line.lineStyle
         above: root.fit.stacked
         y: root.fit.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
         width: root.fit.stacked ? play.x : root.fit.pronounWidth
@@ -64,10 +64,10 @@ Rectangle {
     }
     FormText {
         id: form
-        x: root.fit.stacked || leading.width === 0 ? 0 : leading.width + (root.line.setting.joined ? 0 : root.fit.blank)
+        x: root.fit.stacked || leading.width === 0 ? 0 : leading.width + (root.line.lineStyle.joined ? 0 : root.fit.blank)
         y: (root.height - height + leading.captionHeight + (root.fit.stacked ? leading.height : 0)) / 2
         width: play.x - x
-        markup: root.line.setting.markup
+        markup: root.line.lineStyle.markup
         marked: root.marked
         font.pixelSize: root.fit.size
     }

@@ -9,7 +9,7 @@ Text {
     property string markup
     property bool marked: false
 
-    text: Theme.inked(markup)
+    text: Theme.withColors(markup)
     textFormat: Text.StyledText
     color: Theme.text
     font.weight: marked ? Font.Medium : Font.DemiBold

@@ -27,7 +27,7 @@ QtObject {
     readonly property real rowShare: 1.17
     readonly property int rowGap: 5
     // The results so far, by revision, mood and tense.
-    readonly property var kept: ({})
+    readonly property var cache: ({})
 
     readonly property FontMetrics plain: FontMetrics {
         font.pixelSize: root.measuredSize
@@ -40,11 +40,11 @@ QtObject {
     // How one tense of the chosen mood fits.
     function of(tense) {
         const key = revision + "/" + screen.selectedMood + "/" + tense;
-        if (kept[key]?.room !== room || kept[key].fullSize !== fullSize) {
-            const sizes = kept[key]?.sizes ?? measure(tense);
-            kept[key] = fit(sizes);
+        if (cache[key]?.room !== room || cache[key].fullSize !== fullSize) {
+            const sizes = cache[key]?.sizes ?? measure(tense);
+            cache[key] = fit(sizes);
         }
-        return kept[key];
+        return cache[key];
     }
     // The longest by characters are the widest, or nearly so.
     function longest(texts) {

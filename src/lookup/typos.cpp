@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "lookup/slips.h"
+#include "lookup/typos.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -14,12 +14,12 @@ namespace {
 /// Of a letter that stands in one word only, after this one.
 int extraCost(std::string_view word, std::size_t at)
 {
-    return at > 0 && word[at] == word[at - 1] ? kSlipOfDouble : kOneSlip;
+    return at > 0 && word[at] == word[at - 1] ? kDoubledLetterCost : kOneTypoCost;
 }
 
 } // namespace
 
-int slipCost(std::string_view typed, std::string_view meant, int most)
+int typoCost(std::string_view typed, std::string_view meant, int most)
 {
     const auto width = meant.size() + 1;
     std::vector<int> beforeLast(width);
@@ -33,10 +33,10 @@ int slipCost(std::string_view typed, std::string_view meant, int most)
         int least = row[0];
         for (std::size_t j = 0; j < meant.size(); ++j) {
             row[j + 1] =
-                std::min({last[j] + (typed[i] == meant[j] ? 0 : kOneSlip),
+                std::min({last[j] + (typed[i] == meant[j] ? 0 : kOneTypoCost),
                           last[j + 1] + extraCost(typed, i), row[j] + extraCost(meant, j)});
             if (i > 0 && j > 0 && typed[i] == meant[j - 1] && typed[i - 1] == meant[j]) {
-                row[j + 1] = std::min(row[j + 1], beforeLast[j - 1] + kOneSlip);
+                row[j + 1] = std::min(row[j + 1], beforeLast[j - 1] + kOneTypoCost);
             }
             least = std::min(least, row[j + 1]);
         }
@@ -49,7 +49,7 @@ int slipCost(std::string_view typed, std::string_view meant, int most)
     return std::min(last.back(), most + 1);
 }
 
-std::vector<Slip> wordsOneSlipAway(std::string_view typed, const WordIndex& words)
+std::vector<Typo> wordsOneTypoAway(std::string_view typed, const WordIndex& words)
 {
     constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz-'";
 
@@ -72,15 +72,15 @@ std::vector<Slip> wordsOneSlipAway(std::string_view typed, const WordIndex& word
     }
     std::sort(candidates.begin(), candidates.end());
     candidates.erase(std::unique(candidates.begin(), candidates.end()), candidates.end());
-    std::vector<Slip> found;
+    std::vector<Typo> found;
     for (auto& candidate : candidates) {
         if (candidate != typed && !words.find(candidate).empty()) {
-            const int cost = slipCost(typed, candidate, kOneSlip);
+            const int cost = typoCost(typed, candidate, kOneTypoCost);
             found.push_back({std::move(candidate), cost});
         }
     }
     std::stable_sort(found.begin(), found.end(),
-                     [](const Slip& left, const Slip& right) { return left.cost < right.cost; });
+                     [](const Typo& left, const Typo& right) { return left.cost < right.cost; });
     return found;
 }
 

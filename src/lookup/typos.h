@@ -12,7 +12,7 @@
 namespace lumora::lookup {
 
 /// A word that a misspelt one may stand for.
-struct Slip {
+struct Typo {
     std::string word;
     /// Lower for a common mistake, such as a double letter written once.
     int cost = 0;
@@ -20,13 +20,13 @@ struct Slip {
 
 /// How far two folded words are apart in cost: letters put in, left out, changed,
 /// or swapped with a neighbour. At most `most` + 1.
-int slipCost(std::string_view typed, std::string_view meant, int most);
+int typoCost(std::string_view typed, std::string_view meant, int most);
 
-inline constexpr int kSlipOfDouble = 2;
-inline constexpr int kOneSlip = 4;
-inline constexpr int kTwoSlips = 8;
+inline constexpr int kDoubledLetterCost = 2;
+inline constexpr int kOneTypoCost = 4;
+inline constexpr int kTwoTyposCost = 8;
 
-/// The words of the index that differ from a folded word by one slip.
-std::vector<Slip> wordsOneSlipAway(std::string_view typed, const WordIndex& words);
+/// The words of the index that differ from a folded word by one typo.
+std::vector<Typo> wordsOneTypoAway(std::string_view typed, const WordIndex& words);
 
 } // namespace lumora::lookup

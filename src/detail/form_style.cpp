@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "detail/form_setting.h"
+#include "detail/form_style.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +13,7 @@ namespace lumora::detail {
 namespace {
 
 using Kind = data::FormParts::Kind;
-using platform::LineSetting;
+using platform::LineStyle;
 using platform::RunStyle;
 
 constexpr std::string_view kPresent = "hint.present";
@@ -72,13 +72,13 @@ std::string_view commanded(std::string_view form)
     return endsWith("-vous", "-vous-en") || endsWith("ez", "tes") ? "vous" : "tu";
 }
 
-std::vector<LineSetting> imperativeHints(const data::ConjugationList& forms, const TitleText& text)
+std::vector<LineStyle> imperativeHints(const data::ConjugationList& forms, const TitleText& text)
 {
     const auto isPast = [](const auto& form) {
         return firstSpelling(form).find(' ') != std::string_view::npos;
     };
     const bool both = std::any_of(forms.begin(), forms.end(), isPast);
-    std::vector<LineSetting> hints;
+    std::vector<LineStyle> hints;
     std::string group;
     for (const auto& form : forms) {
         auto& hint = hints.emplace_back();
@@ -107,7 +107,7 @@ std::string_view participleKind(std::string_view form)
     return form.ends_with("ant") ? kPresent : kPast;
 }
 
-std::vector<LineSetting> participleHints(const data::ConjugationList& forms, const TitleText& text)
+std::vector<LineStyle> participleHints(const data::ConjugationList& forms, const TitleText& text)
 {
     std::vector<std::string_view> kinds;
     for (const auto& form : forms) {
@@ -115,7 +115,7 @@ std::vector<LineSetting> participleHints(const data::ConjugationList& forms, con
     }
     const bool agrees =
         std::count(kinds.begin(), kinds.end(), kPast) == static_cast<int>(kAgreements.size());
-    std::vector<LineSetting> hints;
+    std::vector<LineStyle> hints;
     std::size_t agreement = 0;
     for (const auto kind : kinds) {
         auto& hint = hints.emplace_back();
@@ -149,8 +149,8 @@ MarkedForm markedForm(const data::Conjugation& row, const data::FormDivisions& d
     return marked;
 }
 
-std::vector<platform::LineSetting>
-hintsOf(std::string_view tense, const data::ConjugationList& forms, const TitleText& text)
+std::vector<platform::LineStyle> hintsOf(std::string_view tense, const data::ConjugationList& forms,
+                                         const TitleText& text)
 {
     if (tense == "imperatif") {
         return imperativeHints(forms, text);
@@ -158,7 +158,7 @@ hintsOf(std::string_view tense, const data::ConjugationList& forms, const TitleT
     if (tense == "participe") {
         return participleHints(forms, text);
     }
-    return std::vector<LineSetting>(forms.size());
+    return std::vector<LineStyle>(forms.size());
 }
 
 } // namespace lumora::detail

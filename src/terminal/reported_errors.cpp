@@ -1,18 +1,18 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "terminal/complaints.h"
+#include "terminal/reported_errors.h"
 #include "text/text.h"
 
 namespace lumora::terminal {
 
-void Complaints::logWithFormat(std::string_view format,
-                               const std::vector<platform::LogArgument>& arguments)
+void ReportedErrors::logWithFormat(std::string_view format,
+                                   const std::vector<platform::LogArgument>& arguments)
 {
     text_ << text::formatted(format, arguments) << '\n';
 }
 
-std::optional<std::string> Complaints::line() const
+std::optional<std::string> ReportedErrors::line() const
 {
     std::istringstream lines{text_.str()};
     std::optional<std::string> joined;

@@ -5,7 +5,7 @@
 
 #include "data/form_parts.h"
 #include "data/verb.h"
-#include "platform/screens/line_setting.h"
+#include "platform/screens/line_style.h"
 
 #include <functional>
 #include <string>
@@ -29,8 +29,8 @@ MarkedForm markedForm(const data::Conjugation& row, const data::FormDivisions& d
 using TitleText = std::function<std::string(std::string_view key)>;
 
 /// Which person, time or gender the rows of a tense without pronouns are of:
-/// hints and captions, one setting a row. Empty settings for other tenses.
-std::vector<platform::LineSetting>
-hintsOf(std::string_view tense, const data::ConjugationList& forms, const TitleText& text);
+/// hints and captions, one style a row. Empty ones for other tenses.
+std::vector<platform::LineStyle> hintsOf(std::string_view tense, const data::ConjugationList& forms,
+                                         const TitleText& text);
 
 } // namespace lumora::detail

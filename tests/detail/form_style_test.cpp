@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "detail/form_setting.h"
+#include "detail/form_style.h"
 
 #include <string>
 #include <utility>
@@ -25,7 +25,7 @@ std::string written(const std::vector<platform::TextRun>& runs)
     return text;
 }
 
-TEST(FormSetting, SetsEachKindOfFormInItsParts)
+TEST(FormStyle, SetsEachKindOfFormInItsParts)
 {
     const struct {
         const char* form;
@@ -49,7 +49,7 @@ TEST(FormSetting, SetsEachKindOfFormInItsParts)
     }
 }
 
-TEST(FormSetting, TellsWhoAnImperativeSpeaksToAndWhichParticipleItIs)
+TEST(FormStyle, TellsWhoAnImperativeSpeaksToAndWhichParticipleItIs)
 {
     const struct {
         const char* tense;

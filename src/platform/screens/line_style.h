@@ -18,9 +18,8 @@ struct TextRun {
     bool operator==(const TextRun&) const = default;
 };
 
-/// How a view sets the two texts of a line, and what it adds to them. It has nothing
-/// to do with the settings of the program.
-struct LineSetting {
+/// How a view sets the two texts of a line, and what it adds to them.
+struct LineStyle {
     /// The second text in parts of different styles; none where it has one style.
     std::vector<TextRun> runs;
     /// Stands in the place of the first text where there is none.

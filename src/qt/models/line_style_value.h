@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/screens/line_setting.h"
+#include "platform/screens/line_style.h"
 
 #include <QMetaType>
 #include <QString>
@@ -12,9 +12,9 @@
 namespace lumora::qt {
 
 /// How the texts of a line are set, as QML sees it.
-struct LineSettingValue {
+struct LineStyleValue {
     Q_GADGET
-    QML_VALUE_TYPE(lineSetting)
+    QML_VALUE_TYPE(lineStyle)
     /// The line's second text in the toolkit's small mark-up. The colours are
     /// called "accent" and "light"; the theme says which colours these are.
     Q_PROPERTY(QString markup MEMBER markup FINAL)
@@ -31,10 +31,10 @@ public:
     QString description;
     bool joined = false;
 
-    bool operator==(const LineSettingValue&) const = default;
+    bool operator==(const LineStyleValue&) const = default;
 };
 
 /// `text` is the second text as a whole, for a line without parts.
-LineSettingValue toValue(const platform::LineSetting& setting, const std::string& text);
+LineStyleValue toValue(const platform::LineStyle& lineStyle, const std::string& text);
 
 } // namespace lumora::qt

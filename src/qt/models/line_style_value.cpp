@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/models/line_setting_value.h"
+#include "qt/models/line_style_value.h"
 
 #include "qt/base/text_conversion.h"
 
@@ -44,20 +44,20 @@ QString withBreaks(const std::string& part, bool atSpaces)
 
 } // namespace
 
-LineSettingValue toValue(const platform::LineSetting& setting, const std::string& text)
+LineStyleValue toValue(const platform::LineStyle& lineStyle, const std::string& text)
 {
-    LineSettingValue value{{},
-                           toQString(setting.hint),
-                           toQString(setting.caption),
-                           toQString(setting.accessibilityHint),
-                           setting.joined};
+    LineStyleValue value{{},
+                         toQString(lineStyle.hint),
+                         toQString(lineStyle.caption),
+                         toQString(lineStyle.accessibilityHint),
+                         lineStyle.joined};
     const bool atSpaces = text.find(' ') != std::string::npos;
-    for (const auto& run : setting.runs) {
+    for (const auto& run : lineStyle.runs) {
         const auto [before, after] = tagsOf(run.style);
         value.markup += QLatin1String{before} + withBreaks(run.text, atSpaces).toHtmlEscaped() +
                         QLatin1String{after};
     }
-    if (setting.runs.empty()) {
+    if (lineStyle.runs.empty()) {
         value.markup = withBreaks(text, atSpaces).toHtmlEscaped();
     }
     return value;

@@ -13,7 +13,7 @@ namespace lumora::terminal {
 
 /// Keeps what the logic reports, so that it can be told in one line and with
 /// an exit status.
-class Complaints final : public platform::CrashReporter {
+class ReportedErrors final : public platform::CrashReporter {
 public:
     void logWithFormat(std::string_view format,
                        const std::vector<platform::LogArgument>& arguments) override;
