@@ -19,6 +19,7 @@ T.Control {
     property alias tools: sticky.tools
     // What a screen reader calls the table.
     property string name
+    readonly property bool scrolledByHand: list.moving || bar.pressed
     readonly property int indexWidth: index.visible ? index.width : 0
     // The row that is swiped open, if one is.
     property T.SwipeDelegate openRow: null
@@ -155,6 +156,7 @@ T.Control {
         }
 
         ScrollBar.vertical: ScrollBar {
+            id: bar
             Accessible.ignored: true
             visible: !index.visible
         }

@@ -3,6 +3,7 @@
 
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Controls.Basic
 import Lumora
 
 // One form: how it is said, what it is, and where else in the verb it stands.
@@ -26,6 +27,8 @@ VerbSheet {
     }
 
     objectName: "formSheet"
+    // While it speaks, Escape is the shortcut below.
+    closePolicy: speaking ? Popup.CloseOnPressOutside : Popup.CloseOnEscape | Popup.CloseOnPressOutside
     heading: sheet.row
     onOpened: slowly.forceActiveFocus(Qt.TabFocusReason)
 

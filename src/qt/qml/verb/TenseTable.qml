@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 import QtQuick
-import QtQuick.Controls.Basic
 import Lumora
 
 // A verb's tenses one below the other, under its card. A finger that moves
@@ -141,7 +140,7 @@ TableContent {
                 root.screen.topTense = Math.max(0, root.tenseOf(root.list.currentIndex));
         }
         function onContentYChanged() {
-            if (root.list.moving || root.list.ScrollBar.vertical.pressed)
+            if (root.scrolledByHand)
                 root.screen.topTense = Math.max(0, root.tenseOf(root.list.indexAt(0, root.list.contentY + Theme.headerHeight)));
         }
     }
