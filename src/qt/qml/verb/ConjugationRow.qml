@@ -77,7 +77,8 @@ Rectangle {
         above: root.stacked
         x: Theme.margin
         y: root.fit === null ? (root.height - height) / 2 : root.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
-        width: root.fit === null || root.stacked ? play.x - x : root.fit.pronounWidth
+        // An elided pronoun touches its form, which begins where the others do.
+        width: root.fit === null || root.stacked ? play.x - x : root.fit.pronounWidth + (root.lineStyle.joined ? root.fit.blank : 0)
         horizontalAlignment: root.fit === null || root.stacked ? Text.AlignLeft : Text.AlignRight
         color: !root.isCell ? Theme.accentText : root.isForm ? Theme.textSecondary : Theme.text
         font.pixelSize: root.fit?.pronounSize ?? (root.isCell ? Theme.body : Theme.small + 1)
@@ -88,7 +89,7 @@ Rectangle {
     FormText {
         id: form
         visible: root.isForm
-        x: leading.x + (root.stacked || leading.width === 0 ? 0 : leading.width + (root.lineStyle.joined ? 0 : root.fit?.blank ?? 0))
+        x: leading.x + (root.fit === null || root.stacked || root.fit.pronounWidth === 0 ? 0 : root.fit.pronounWidth + root.fit.blank)
         y: (root.height - height + leading.captionHeight + (root.stacked ? leading.height : 0)) / 2
         width: play.x - x
         markup: root.lineStyle.markup

@@ -58,13 +58,14 @@ Rectangle {
         lineStyle: root.line.lineStyle
         above: root.fit.stacked
         y: root.fit.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
-        width: root.fit.stacked ? play.x : root.fit.pronounWidth
+        // An elided pronoun touches its form, which begins where the others do.
+        width: root.fit.stacked ? play.x : root.fit.pronounWidth + (root.line.lineStyle.joined ? root.fit.blank : 0)
         horizontalAlignment: root.fit.stacked ? Text.AlignLeft : Text.AlignRight
         font.pixelSize: root.fit.pronounSize
     }
     FormText {
         id: form
-        x: root.fit.stacked || leading.width === 0 ? 0 : leading.width + (root.line.lineStyle.joined ? 0 : root.fit.blank)
+        x: root.fit.stacked || root.fit.pronounWidth === 0 ? 0 : root.fit.pronounWidth + root.fit.blank
         y: (root.height - height + leading.captionHeight + (root.fit.stacked ? leading.height : 0)) / 2
         width: play.x - x
         markup: root.line.lineStyle.markup
