@@ -53,7 +53,7 @@ Item {
             TouchButton {
                 objectName: "verbCard"
                 width: parent.width - (root.anywhere ? previous.width + next.width : 0)
-                leftPadding: root.anywhere ? Theme.gap : Theme.margin
+                leftPadding: root.anywhere ? Theme.gap : root.wide ? 0 : Theme.margin
                 rightPadding: Theme.gap
                 topPadding: 6
                 bottomPadding: 6
