@@ -6,10 +6,10 @@
 import assert from 'node:assert/strict';
 import { existsSync, readdirSync, readFileSync } from 'node:fs';
 import { join } from 'node:path';
-import { after, afterEach, before, describe, test } from 'node:test';
+import { test } from 'node:test';
 import { brotliCompressSync, gzipSync } from 'node:zlib';
 import {
-    axeSource, favourites, noChromium, openVerb, phone, press, puppeteer, site, star, tablet, texts, toggleFavourite, type, until,
+    axeSource, favourites, inChromium, openVerb, phone, press, puppeteer, site, star, tablet, texts, toggleFavourite, type, until,
     World,
 } from './site.mjs';
 
@@ -36,15 +36,7 @@ async function findings(tab) {
     });
 }
 
-describe('in Chromium', { skip: noChromium }, () => {
-    let world;
-    before(async () => {
-        world = await World.make();
-        await world.launch();
-    });
-    after(() => world.end());
-    afterEach(() => world.closeTabs());
-
+inChromium('in Chromium', (world) => {
     test('shows the list, searches, opens a verb and goes back', async () => {
         const tab = await world.openList();
         assert.equal((await texts(tab, '.verb-row .first'))[0], 'abaisser');
@@ -205,7 +197,8 @@ describe('in Chromium', { skip: noChromium }, () => {
 });
 
 test('in Firefox it shows, searches and keeps', { skip: noFirefox }, async () => {
-    const world = await World.make();
+    const world = new World();
+    await world.begin();
     world.browser = await puppeteer.launch({ browser: 'firefox', executablePath: '/usr/bin/firefox-esr' });
     try {
         const tab = await world.browser.newPage();

@@ -7,6 +7,7 @@ import { cpSync, existsSync, mkdtempSync, readFileSync, rmSync, writeFileSync } 
 import { createRequire } from 'node:module';
 import { tmpdir } from 'node:os';
 import { dirname, join } from 'node:path';
+import { after, afterEach, before, describe } from 'node:test';
 import { fileURLToPath } from 'node:url';
 import { serve } from '../../src/web/page/serve.mjs';
 
@@ -15,7 +16,7 @@ export const page = join(root, 'src/web/page');
 export const site = join(root, 'build/wasm/site');
 const require = createRequire(join(page, 'package.json'));
 export const puppeteer = require('puppeteer-core');
-export const noChromium = existsSync('/usr/bin/chromium') ? false : 'there is no Chromium here';
+const noChromium = existsSync('/usr/bin/chromium') ? false : 'there is no Chromium here';
 export const axeSource = readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
 // The machine may have much else to do.
 export const patience = 60000;
@@ -25,12 +26,10 @@ export const tablet = { width: 1024, height: 768 };
 export class World {
     host = 'localhost';
 
-    static async make() {
-        const world = new World();
-        world.profile = mkdtempSync(join(tmpdir(), 'lumora-web-'));
-        world.server = await serve(site);
-        world.port = world.server.address().port;
-        return world;
+    async begin() {
+        this.profile = mkdtempSync(join(tmpdir(), 'lumora-web-'));
+        this.server = await serve(site);
+        this.port = this.server.address().port;
     }
 
     get url() {
@@ -179,4 +178,18 @@ export async function star(tab, verb) {
         await tab.goBack();
         await until(tab, () => document.title === 'Lumora');
     }
+}
+
+// A group of tests in one Chromium; each finds no tab open.
+export function inChromium(name, tests) {
+    describe(name, { skip: noChromium }, () => {
+        const world = new World();
+        before(async () => {
+            await world.begin();
+            await world.launch();
+        });
+        after(() => world.end());
+        afterEach(() => world.closeTabs());
+        tests(world);
+    });
 }

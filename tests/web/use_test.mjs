@@ -6,9 +6,9 @@
 import assert from 'node:assert/strict';
 import { existsSync, readFileSync, writeFileSync } from 'node:fs';
 import { join } from 'node:path';
-import { after, afterEach, before, describe, test } from 'node:test';
+import { test } from 'node:test';
 import {
-    favourites, noChromium, openVerb, phone, press, site, star, tablet, texts, type, until, World,
+    favourites, inChromium, openVerb, phone, press, site, star, tablet, texts, type, until, World,
 } from './site.mjs';
 
 const english = JSON.parse(readFileSync(join(site, 'texts-en.json'), 'utf8'));
@@ -41,15 +41,7 @@ function addVoice(tellsOfWords) {
     } });
 }
 
-describe('used in Chromium', { skip: noChromium }, () => {
-    let world;
-    before(async () => {
-        world = await World.make();
-        await world.launch();
-    });
-    after(() => world.end());
-    afterEach(() => world.closeTabs());
-
+inChromium('used in Chromium', (world) => {
     test('obeys the keys of the window', async () => {
         const tab = await world.openList(tablet);
         const keys = tab.keyboard;
