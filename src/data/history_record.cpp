@@ -4,7 +4,6 @@
 #include "data/history_record.h"
 
 #include "platform/storage/database.h"
-#include "platform/storage/transaction.h"
 
 namespace lumora::data {
 
@@ -40,21 +39,12 @@ platform::Result<void> trimHistory(platform::Database& database)
 platform::Result<void> recordInHistory(platform::Database& database, std::int64_t verbId,
                                        double timestamp)
 {
-    // The disk is waited for once rather than after each statement.
-    auto transaction = platform::Transaction::begin(database);
-    if (!transaction) {
-        return tl::make_unexpected(transaction.error());
-    }
-    const auto recorded =
-        database.executeUpdate("DELETE FROM history WHERE verbid=?", {verbId})
-            .and_then([&] {
-                return database.executeUpdate("INSERT INTO history(verbid, timestamp) VALUES(?, ?)",
-                                              {verbId, timestamp});
-            })
-            .and_then([&] { return trimHistory(database); });
-    // What came before a statement that failed stays.
-    const auto kept = transaction->commit();
-    return recorded ? kept : recorded;
+    return database.executeUpdate("DELETE FROM history WHERE verbid=?", {verbId})
+        .and_then([&] {
+            return database.executeUpdate("INSERT INTO history(verbid, timestamp) VALUES(?, ?)",
+                                          {verbId, timestamp});
+        })
+        .and_then([&] { return trimHistory(database); });
 }
 
 } // namespace lumora::data
