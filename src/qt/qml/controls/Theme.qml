@@ -76,6 +76,8 @@ QtObject {
 
     readonly property int gap: 8
     readonly property int margin: 16
+    // The touch area of a row's play control.
+    readonly property int playWidth: 50
     readonly property int touch: 44
     readonly property int barHeight: Math.round(52 * Math.max(1, (barScale + 1) / 2))
     readonly property int rowHeight: Math.round(60 * Math.max(1, textScale))

@@ -32,8 +32,6 @@ Rectangle {
     readonly property int tense: section - 1
     readonly property bool unused: alone && title !== "" && screen.hasForms
     readonly property var fit: isForm ? fits.of(tense) : null
-    // Right of it is the control, whose taps are its own.
-    readonly property real textEnd: play.x
     readonly property bool stacked: fit?.stacked ?? false
 
     // The sheet of the form, or of the tense, is asked for.
@@ -101,7 +99,7 @@ Rectangle {
         x: parent.width - width - Theme.gap
         // The touch area is as high as the row allows.
         height: parent.height
-        width: 50
+        width: Theme.playWidth
         focusPolicy: Qt.NoFocus
         visible: root.isForm || !root.isCell && !root.alone
         ofTense: !root.isForm

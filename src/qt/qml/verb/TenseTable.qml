@@ -49,9 +49,6 @@ TableContent {
     function rowAt(point) {
         return rowSeenAt(mapFromItem(null, point));
     }
-    function isCurrentChosen() {
-        return activeFocus && list.currentIndex >= 0;
-    }
     function showPlace(tense, line) {
         forceActiveFocus(Qt.OtherFocusReason);
         moveTo(table.model.firstRow(tense + 1) + 1 + line);
@@ -73,7 +70,7 @@ TableContent {
     tools: PlayControl {
         readonly property int section: parent.section // qmllint disable
 
-        implicitWidth: 50
+        implicitWidth: Theme.playWidth
         visible: section > 0 && root.screen.selectedMood >= 0 && root.screen.formsOf(section - 1).length > 0
         ofTense: true
         focusPolicy: Qt.NoFocus
@@ -108,7 +105,7 @@ TableContent {
         id: tenseFits
         screen: root.screen
         fullSize: Theme.body + 1
-        room: root.width - Theme.margin - 50 - 2 * Theme.gap
+        room: root.width - Theme.margin - Theme.playWidth - 2 * Theme.gap
     }
     Connections {
         target: root.table.model
@@ -136,7 +133,7 @@ TableContent {
             root.beginning = root.list.originY;
         }
         function onCurrentIndexChanged() {
-            if (root.isCurrentChosen())
+            if (root.activeFocus && root.list.currentIndex >= 0)
                 root.screen.topTense = Math.max(0, root.tenseOf(root.list.currentIndex));
         }
         function onContentYChanged() {
@@ -154,7 +151,7 @@ TableContent {
         onTapped: eventPoint => {
             const row = root.rowAt(eventPoint.scenePosition);
             // Right of a heading is its control.
-            if (row >= 0 && root.lineOf(row) < 0 && eventPoint.position.x < root.width - 50 - Theme.gap)
+            if (row >= 0 && root.lineOf(row) < 0 && eventPoint.position.x < root.width - Theme.playWidth - Theme.gap)
                 root.ask(row);
         }
     }
