@@ -66,12 +66,16 @@ bool WebApplication::handleTable(std::string_view kind, const Json& event, Json&
     if (!event.contains("table")) {
         return false;
     }
-    // One that has gone since the page sent the event is no fault.
+    // One that has gone since the page sent the event is no fault, nor is another
+    // verb at its row.
     auto* table = views_.table(event.value("table", 0));
     if (table == nullptr) {
         return true;
     }
     const int row = event.value("row", -1);
+    if (event.contains("text") && table->textOf(row) != event["text"]) {
+        return true;
+    }
     if (kind == "rows") {
         reply = table->rows(event.value("from", 0), event.value("count", 0));
     } else if (kind == "actions") {
@@ -100,7 +104,10 @@ bool WebApplication::handleHome(std::string_view kind, const Json& event) const
     } else if (kind == "searchFocus") {
         screen->searchBar.isFirstResponder = event.value("on", false);
     } else if (kind == "openReading") {
-        screen->didSelectReading(event.value("card", std::size_t{0}));
+        // A card of an earlier text may mean another verb now.
+        if (event.value("text", "") == screen->searchBar.text) {
+            screen->didSelectReading(event.value("card", std::size_t{0}));
+        }
     } else if (kind == "openFirst") {
         screen->searchBarSearchButtonClicked();
     } else if (kind == "formsOption") {

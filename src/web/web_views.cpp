@@ -234,6 +234,13 @@ Json WebTableView::rows(int from, int count)
     return rows;
 }
 
+std::string WebTableView::textOf(int row)
+{
+    load();
+    const auto path = cellPath(row);
+    return path ? source_.cellForRow(*path).text : std::string{};
+}
+
 Json WebTableView::rowAt(int row) const
 {
     const auto path = cellPath(row);

@@ -28,6 +28,8 @@ public:
     /// page has this revision already.
     Json describe();
     Json rows(int from, int count);
+    /// First line of a row; empty where there is none.
+    std::string textOf(int row);
     /// -1 where it is not shown.
     int listRow(platform::IndexPath path) const;
     Json trailingActions(int row);

@@ -94,8 +94,33 @@ inChromium('in Chromium', (world) => {
         await second.waitForSelector('.verb-row .first');
         await first.waitForSelector('.message');
         assert.ok((await favourites(second)).includes('manger'));
+        await first.evaluate(() => document.querySelector('.message .answer').click());
+        await first.waitForSelector('.verb-row .first');
+        const third = await world.open();
+        await third.waitForSelector('.message .answer');
         await first.close();
-        await second.close();
+        await third.waitForSelector('.verb-row .first');
+    });
+
+    test('opens no verb that took the place of the pressed one', async () => {
+        const tab = await world.openList();
+        const answered = () => until(tab, () => !document.querySelector('[aria-busy]'));
+        for (const [shown, next] of [['finir', 'aller'], ['irons', 'finirons']]) {
+            await type(tab, shown);
+            await answered();
+            const pressed = await tab.evaluate((text) => {
+                const field = document.querySelector('.search-field');
+                field.value = text;
+                field.dispatchEvent(new InputEvent('input', { bubbles: true }));
+                return [...document.querySelectorAll('.reading, .verb-row')].filter((each) => each.getClientRects().length > 0)
+                    .map((each) => each.click()).length;
+            }, next);
+            assert.ok(pressed > 0);
+            // What was pressed has been answered when this has.
+            await type(tab, '');
+            await answered();
+            assert.equal(await tab.title(), 'Lumora');
+        }
     });
 
     test('speaks the seven languages', async () => {

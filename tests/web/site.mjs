@@ -148,7 +148,8 @@ export const until = (tab, condition, ...parts) => tab.waitForFunction(condition
 // Opens what the text means, and waits for its forms.
 export async function openVerb(tab, text) {
     await type(tab, text);
-    await until(tab, (wanted) => [...document.querySelectorAll('.reading .first, .verb-row .first')]
+    await until(tab, (wanted) => !document.querySelector('[aria-busy]')
+        && [...document.querySelectorAll('.reading .first, .verb-row .first')]
         .some((each) => each.textContent.trim() === wanted && each.getClientRects().length > 0), text);
     await tab.evaluate((wanted) => [...document.querySelectorAll('.reading .first, .verb-row .first')]
         .find((each) => each.textContent.trim() === wanted && each.getClientRects().length > 0).click(), text);

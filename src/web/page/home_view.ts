@@ -62,7 +62,13 @@ export class HomeView extends ScreenView<HomeState> {
         this.field.value = text;
         this.sent = text;
         this.clear.hidden = text === '';
-        this.channel.send('search', { text });
+        // Until the answer to the last key, what stands below is of an older text.
+        this.content.setAttribute('aria-busy', 'true');
+        void this.channel.ask('search', { text }).then(() => {
+            if (text === this.sent) {
+                this.content.removeAttribute('aria-busy');
+            }
+        });
         if (text === '') {
             this.field.focus();
         }
@@ -134,7 +140,7 @@ export class HomeView extends ScreenView<HomeState> {
         if (state.nothingFound && cards.length > 0) {
             this.readings.append(el('p', { class: 'readings-title' }, this.channel.text('search.did_you_mean')));
         }
-        this.readings.append(...cards.map((card, at) => this.card(card, at)));
+        this.readings.append(...cards.map((card, at) => this.card(card, at, state.search.text)));
         if (nothing && cards.length === 0) {
             this.readings.append(el('p', { class: 'empty' }, nothing.text || this.channel.text('search.empty')));
         }
@@ -145,9 +151,9 @@ export class HomeView extends ScreenView<HomeState> {
         this.readings.classList.toggle('all', state.nothingFound ?? false);
     }
 
-    private card(card: Reading, at: number): HTMLElement {
+    private card(card: Reading, at: number, text: string): HTMLElement {
         return button('', 'reading',
-            () => this.channel.send('openReading', { card: at }),
+            () => this.channel.send('openReading', { card: at, text }),
             el('span', { class: 'first', lang: 'fr' }, `${card.headword} `),
             el('span', { class: 'second' }, `${card.detail} `),
             card.kind !== '' && el('span', { class: 'kind' }, card.kind));

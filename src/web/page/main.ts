@@ -15,6 +15,8 @@ import { OptionsView } from './table_view';
 import { Views } from './views';
 
 const languages = ['en', 'fr', 'de', 'es', 'it', 'nl', 'pt'];
+// In milliseconds, before the person is asked about another tab.
+const patience = 300;
 const app = document.getElementById('app') ?? document.body;
 
 function language(): string {
@@ -34,35 +36,50 @@ function showMessage(text: string, action?: HTMLElement): void {
     app.replaceChildren(el('main', { class: 'message' }, el('h1', {}, 'Lumora'), el('p', {}, text), action ?? false));
 }
 
+const takeOver = 'lumora-take-over';
+
 // Says where Lumora is open and offers to take over.
-async function askToTakeOver(): Promise<void> {
-    const texts = await fewTexts();
+function askToTakeOver(texts: Texts, answer: () => void): void {
     showMessage(texts['web.tab.open'] ?? 'Lumora is open in another tab.',
-        button(texts['web.tab.take'] ?? 'Use it here', 'answer', () => {
-            app.replaceChildren();
-            take(true);
-        }));
+        button(texts['web.tab.take'] ?? 'Use it here', 'answer', answer));
 }
 
 async function showTaken(): Promise<void> {
     const texts = await fewTexts();
     showMessage(texts['web.tab.taken'] ?? 'Lumora went on in another tab.',
-        button(texts['web.tab.take'] ?? 'Use it here', 'answer', () => location.reload()));
+        button(texts['web.tab.take'] ?? 'Use it here', 'answer', () => {
+            sessionStorage.setItem(takeOver, 'yes');
+            location.reload();
+        }));
 }
 
-// The lock is held as long as the tab lives, or until another takes it.
+// The lock is held as long as the tab lives, or until another takes it. One that has
+// it now may be about to close: the question comes a little later, and goes when the
+// lock falls free.
 function take(steal: boolean): void {
     let stop: (() => void) | undefined;
-    navigator.locks.request('lumora', steal ? { steal } : { ifAvailable: true }, async (lock) => {
-        if (!lock) {
-            void askToTakeOver();
-            return;
+    const waiting = new AbortController();
+    const ask = async (): Promise<void> => {
+        const texts = await fewTexts();
+        if (!stop) {
+            askToTakeOver(texts, () => {
+                waiting.abort();
+                app.replaceChildren();
+                take(true);
+            });
         }
+    };
+    const question = steal ? 0 : window.setTimeout(() => void ask(), patience);
+    navigator.locks.request('lumora', steal ? { steal } : { signal: waiting.signal }, async () => {
+        clearTimeout(question);
+        app.replaceChildren();
         stop = start();
         await new Promise(() => undefined);
     }).catch(() => {
-        stop?.();
-        void showTaken();
+        if (!waiting.signal.aborted) {
+            stop?.();
+            void showTaken();
+        }
     });
 }
 
@@ -140,5 +157,6 @@ async function register(): Promise<void> {
     }
 }
 
-take(false);
+take(sessionStorage.getItem(takeOver) !== null);
+sessionStorage.removeItem(takeOver);
 window.addEventListener('load', () => void register());

@@ -12,7 +12,9 @@ const holdTime = 500;
 const slack = 10;
 const swipeStart = 30;
 
-export interface TouchedRow { table: number; row: number; element: HTMLElement; editable: boolean }
+// The text says which verb was meant, should the row hold another by then.
+export interface RowPlace { table: number; row: number; text: string }
+export interface TouchedRow { place: RowPlace; element: HTMLElement; editable: boolean }
 
 export class SwipeRow {
     private start: { x: number; y: number; row: TouchedRow } | null = null;
@@ -48,14 +50,14 @@ export class SwipeRow {
         if (!row?.editable) {
             return;
         }
-        void this.channel.ask<SwipeOffer[]>('actions', { table: row.table, row: row.row }).then((offers) => {
+        void this.channel.ask<SwipeOffer[] | undefined>('actions', { ...row.place }).then((offers) => {
             this.close();
             this.actions = el('div', { class: 'swipe-actions', role: 'presentation' },
-                ...offers.map((offer, action) => {
+                ...(offers ?? []).map((offer, action) => {
                     const made = button(offer.title, `swipe ${offer.style}`, (event) => {
                         event.stopPropagation();
                         this.close();
-                        this.channel.send('action', { table: row.table, row: row.row, action });
+                        this.channel.send('action', { ...row.place, action });
                     }, icon(offer.image), el('span', {}, offer.title));
                     if (offer.color) {
                         const [red, green, blue] = offer.color;
@@ -105,7 +107,7 @@ export class SwipeRow {
         this.rest();
         if (!this.handled) {
             this.handled = true;
-            this.channel.send('hold', { table: row.table, row: row.row });
+            this.channel.send('hold', { ...row.place });
         }
     }
 
@@ -116,7 +118,7 @@ export class SwipeRow {
         }
         const row = this.rowOf(event.target);
         if (row && !this.handled) {
-            this.channel.send('tap', { table: row.table, row: row.row });
+            this.channel.send('tap', { ...row.place });
         }
         this.handled = false;
         this.area.focus({ preventScroll: true });

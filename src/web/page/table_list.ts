@@ -5,7 +5,7 @@
 
 import type { Channel } from './channel';
 import { el, icon } from './dom';
-import { SwipeRow } from './swipe';
+import { SwipeRow, type RowPlace, type TouchedRow } from './swipe';
 import type { Cell, TableState } from './messages';
 
 const block = 100;
@@ -254,13 +254,17 @@ export class TableList {
         return element;
     }
 
-    private rowOf(target: EventTarget | null): { table: number; row: number; element: HTMLElement; editable: boolean } | null {
+    private rowOf(target: EventTarget | null): TouchedRow | null {
         const element = target instanceof Element ? target.closest<HTMLElement>('.verb-row') : null;
-        if (!element || !this.state) {
-            return null;
-        }
-        const row = Number(element.dataset['row']);
-        return { table: this.state.table, row, element, editable: this.cells.get(row)?.editable ?? false };
+        const row = Number(element?.dataset['row']);
+        const place = this.place(row);
+        return element && place ? { place, element, editable: this.cells.get(row)?.editable ?? false } : null;
+    }
+
+    // Nothing where the page has not got the row yet.
+    private place(row: number): RowPlace | null {
+        const cell = this.cells.get(row);
+        return this.state && cell ? { table: this.state.table, row, text: cell.text } : null;
     }
 
     private jump(event: PointerEvent): void {
@@ -304,8 +308,9 @@ export class TableList {
     }
 
     private event(kind: string): void {
-        if (this.state && this.current >= 0) {
-            this.channel.send(kind, { table: this.state.table, row: this.current });
+        const place = this.place(this.current);
+        if (place) {
+            this.channel.send(kind, { ...place });
         }
     }
 
