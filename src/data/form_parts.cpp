@@ -12,7 +12,7 @@ namespace lumora::data {
 
 namespace {
 
-constexpr std::string_view kSelect =
+constexpr std::string_view kSelectParts =
     "SELECT divisions FROM verb_facts JOIN form_divisions ON form_divisions._id = divisionsid "
     "WHERE verbid = ?";
 
@@ -76,7 +76,7 @@ std::vector<FormParts> FormDivisions::parts(const Conjugation& row) const
 
 platform::Result<FormDivisions> readFormDivisions(platform::Database& database, std::int64_t verbId)
 {
-    auto rows = database.executeQuery(kSelect, {verbId});
+    auto rows = database.executeQuery(kSelectParts, {verbId});
     if (!rows) {
         return tl::unexpected(rows.error());
     }

@@ -32,7 +32,7 @@ platform::Result<void> putInOrder(Session& session, std::vector<data::VerbPtr>& 
 }
 
 /// "there are 2: 1 is repartir (être), 2 is repartir (avoir)".
-std::string listed(const std::vector<data::VerbPtr>& verbs)
+std::string numbered(const std::vector<data::VerbPtr>& verbs)
 {
     if (verbs.size() == 1) {
         return "there is only " + verbs.front()->french;
@@ -56,13 +56,13 @@ platform::Result<data::VerbPtr> chosen(Session& session, std::vector<data::VerbP
             return tl::unexpected(ordered.error());
         }
         if (!arguments.number) {
-            tell(listed(verbs) + "; this is 1, --number chooses another", output.errors);
+            tell(numbered(verbs) + "; this is 1, --number chooses another", output.errors);
         }
     }
     const auto number = arguments.number.value_or(1);
     if (number > verbs.size()) {
         return tl::unexpected(platform::Error{
-            "no verb is number " + std::to_string(number) + ", " + listed(verbs), ENOENT});
+            "no verb is number " + std::to_string(number) + ", " + numbered(verbs), ENOENT});
     }
     return verbs[number - 1];
 }

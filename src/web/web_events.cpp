@@ -73,7 +73,7 @@ bool WebApplication::handleTable(std::string_view kind, const Json& event, Json&
         return true;
     }
     const int row = event.value("row", -1);
-    if (event.contains("text") && table->textOf(row) != event["text"]) {
+    if (event.contains("text") && table->textOf(row) != event.value("text", "")) {
         return true;
     }
     if (kind == "rows") {

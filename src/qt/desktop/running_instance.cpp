@@ -15,7 +15,7 @@ namespace lumora::qt {
 namespace {
 
 const QString kName = QStringLiteral("com.brindle.lumora");
-const QString kPath = QStringLiteral("/com/brindle/lumora");
+const QString kObjectPath = QStringLiteral("/com/brindle/lumora");
 const QString kInterface = QStringLiteral("org.freedesktop.Application");
 const QString kLookUp = QStringLiteral("look-up");
 const QString kShortcutPrefix = QStringLiteral("com.brindle.shortcut.");
@@ -43,8 +43,8 @@ QString tokenIn(const QVariantMap& platformData)
 std::vector<QDBusMessage> callsFor(const InstanceRequest& request)
 {
     const auto callOf = [](const char* method, const QVariantList& arguments) {
-        auto call =
-            QDBusMessage::createMethodCall(kName, kPath, kInterface, QString::fromLatin1(method));
+        auto call = QDBusMessage::createMethodCall(kName, kObjectPath, kInterface,
+                                                   QString::fromLatin1(method));
         call.setAutoStartService(false);
         call.setArguments(arguments);
         return call;
@@ -79,7 +79,7 @@ RunningInstance::RunningInstance(QDBusConnection bus) : bus_{std::move(bus)}
 RunningInstance::Role RunningInstance::start(const InstanceRequest& request)
 {
     // The object first: requests come as soon as the name is there.
-    if (!bus_.isConnected() || !bus_.registerObject(kPath, this)) {
+    if (!bus_.isConnected() || !bus_.registerObject(kObjectPath, this)) {
         return Role::First;
     }
     if (takeName()) {
