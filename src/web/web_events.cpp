@@ -226,10 +226,10 @@ Json WebApplication::previewState() const
         return nullptr;
     }
     Json actions = Json::array();
-    auto* table = views_.table(preview->table);
-    const auto path = table != nullptr && preview->path ? preview->path() : std::nullopt;
-    if (path) {
-        actions = table->trailingActions(table->listRow(*path));
+    if (auto* table = views_.table(preview->table); table != nullptr && preview->path) {
+        if (const auto path = preview->path()) {
+            actions = table->trailingActions(table->listRow(*path));
+        }
     }
     const auto guide = preview->verb->page().guide();
     return {{"title", preview->verb->selectedVerb->french},
@@ -246,9 +246,9 @@ void WebApplication::triggerPreview(int action)
     }
     const auto preview = *presenter_.preview();
     auto* table = views_.table(preview.table);
-    const auto path = table != nullptr && preview.path ? preview.path() : std::nullopt;
+    const auto path = preview.path ? preview.path() : std::nullopt;
     presenter_.closePreview();
-    if (path) {
+    if (table != nullptr && path) {
         table->triggerAction(table->listRow(*path), action);
     }
 }
