@@ -25,6 +25,18 @@ bool isAscii(std::string_view text)
                        [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
+/// Of ASCII alone, which is most of what the tables hold.
+std::string asciiLowerCased(std::string_view text)
+{
+    std::string result(text);
+    for (char& byte : result) {
+        if (byte >= 'A' && byte <= 'Z') {
+            byte = static_cast<char>(byte - 'A' + 'a');
+        }
+    }
+    return result;
+}
+
 /// Well-formed and below U+0300, where the combining marks begin: composed as
 /// it stands. Nearly every French text.
 bool isPlainLatin(std::string_view text)
@@ -84,6 +96,9 @@ std::string upperCased(std::string_view text)
 
 std::string lowerCased(std::string_view text)
 {
+    if (isAscii(text)) {
+        return asciiLowerCased(text);
+    }
     return encoded(decoded(text).toLower(icu::Locale::getRoot()));
 }
 
@@ -94,6 +109,9 @@ std::string withoutLigatures(std::string text)
 
 std::string folded(std::string_view text)
 {
+    if (isAscii(text)) {
+        return asciiLowerCased(text);
+    }
     // Full case folding, not lower case: it opens ß to ss as well.
     auto whole = decoded(text).foldCase();
     UErrorCode status = U_ZERO_ERROR;
