@@ -18,7 +18,7 @@ using platform::TableCell;
 namespace {
 
 /// Rows told with a changed table; a page that shows more asks for them.
-constexpr int kFirstRows = 40;
+constexpr int kFirstRows = 24;
 /// Up to this many a table is told whole.
 constexpr int kShortTable = 160;
 

@@ -25,6 +25,8 @@ export class HomeView extends ScreenView<HomeState> {
     private toldChips = '';
     private shownText = '';
     private sent = '';
+    private pending = false;
+    private searching = false;
 
     constructor(...parts: ConstructorParameters<typeof ScreenView>) {
         super(...parts);
@@ -42,8 +44,10 @@ export class HomeView extends ScreenView<HomeState> {
     }
 
     protected override update(state: HomeState): void {
-        this.field.placeholder = state.search.placeholder;
-        this.field.setAttribute('aria-label', state.search.placeholder);
+        if (this.field.placeholder !== state.search.placeholder) {
+            this.field.placeholder = state.search.placeholder;
+            this.field.setAttribute('aria-label', state.search.placeholder);
+        }
         // What the person typed meanwhile is newer than what comes back.
         if (state.search.text !== this.field.value && (document.activeElement !== this.field || state.search.text === '' && this.sent === '')) {
             this.field.value = state.search.text;
@@ -61,21 +65,36 @@ export class HomeView extends ScreenView<HomeState> {
     private type(text: string): void {
         this.field.value = text;
         this.sent = text;
+        this.pending = true;
         this.clear.hidden = text === '';
         // Until the answer to the last key, what stands below is of an older text.
         this.content.setAttribute('aria-busy', 'true');
-        void this.channel.ask('search', { text }).then(() => {
-            if (text === this.sent) {
-                this.content.removeAttribute('aria-busy');
-            }
-        });
+        if (!this.searching) {
+            void this.search();
+        }
         if (text === '') {
             this.field.focus();
         }
     }
 
+    // Of the keys that come while one is answered only the last is searched for.
+    private async search(): Promise<void> {
+        this.searching = true;
+        while (this.pending) {
+            this.pending = false;
+            await this.channel.ask('search', { text: this.sent });
+        }
+        this.searching = false;
+        this.content.removeAttribute('aria-busy');
+    }
+
     private key(event: KeyboardEvent): void {
         if (event.key === 'Enter') {
+            // What is opened is of the text that stands there.
+            if (this.pending) {
+                this.pending = false;
+                this.channel.send('search', { text: this.sent });
+            }
             this.channel.send('openFirst');
         } else if (event.key === 'Escape' && this.field.value !== '') {
             this.type('');
@@ -156,7 +175,7 @@ export class HomeView extends ScreenView<HomeState> {
             () => this.channel.send('openReading', { card: at, text }),
             el('span', { class: 'first', lang: 'fr' }, `${card.headword} `),
             el('span', { class: 'second' }, `${card.detail} `),
-            card.kind !== '' && el('span', { class: 'kind' }, card.kind));
+            card.kind !== '' && el('span', { class: 'kind' }, card.kind), icon('disclosure'));
     }
 
     private drawList(state: HomeState): void {

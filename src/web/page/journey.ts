@@ -33,7 +33,8 @@ export class Journey {
             + (state.preview ? 1 : 0);
         const open = openVerb(state);
         this.shown = open ? encodeURIComponent(open.bar.title) : '';
-        const address = this.shown === '' ? location.pathname + location.search : `#verb/${this.shown}`;
+        const hash = this.shown === '' ? '' : `#verb/${this.shown}`;
+        const address = hash || location.pathname + location.search;
         if (depth > this.depth) {
             for (let level = this.depth + 1; level <= depth; ++level) {
                 history.pushState({ depth: level }, '', address);
@@ -41,7 +42,7 @@ export class Journey {
         } else if (depth < this.depth && this.leaving === 0) {
             this.leaving = this.depth - depth;
             history.go(-this.leaving);
-        } else {
+        } else if (depth !== this.depth || hash !== location.hash) {
             history.replaceState({ depth }, '', address);
         }
         this.depth = depth;

@@ -10,6 +10,8 @@ import type { Cell, TableState } from './messages';
 
 const block = 100;
 const ahead = 12;
+// In milliseconds, until the rows out of sight are made.
+const breath = 60;
 let lists = 0;
 
 interface Line { kind: 'header' | 'cell' | 'footer'; title: string; top: number; height: number }
@@ -31,6 +33,10 @@ export class TableList {
     private state: TableState | undefined;
     private current = -1;
     private waiting = false;
+    private later = 0;
+    // As last seen: to ask for them makes the browser lay the page out at once.
+    private top = 0;
+    private height = 0;
     private index: [string, number][] = [];
 
     constructor(private readonly channel: Channel, label: string) {
@@ -39,7 +45,7 @@ export class TableList {
         this.element.append(this.scroller, this.sticky, this.rail, this.empty);
         this.scroller.addEventListener('scroll', () => this.drawSoon(), { passive: true });
         this.scroller.addEventListener('keydown', (event) => this.key(event));
-        new ResizeObserver(() => this.draw()).observe(this.scroller);
+        new ResizeObserver(() => this.look()).observe(this.scroller);
         this.swipe = new SwipeRow(channel, this.scroller, (target) => this.rowOf(target));
         this.rail.addEventListener('pointerdown', (event) => {
             this.rail.setPointerCapture(event.pointerId);
@@ -56,10 +62,9 @@ export class TableList {
         const old = this.state;
         this.state = state;
         if (old && old.table !== state.table) {
-            this.scroller.scrollTop = 0;
+            this.scrollToTop();
         }
         if (state.layout) {
-            this.swipe.close();
             this.layOut(state);
         } else if (old?.open !== state.open) {
             this.forget();
@@ -68,12 +73,17 @@ export class TableList {
         this.empty.hidden = state.empty === null;
         this.scroller.hidden = state.empty !== null;
         this.rail.hidden = state.empty !== null || this.index.length === 0;
-        this.draw();
+        if (state.layout) {
+            this.drawInSight();
+        } else {
+            this.draw();
+        }
     }
 
-    // The list of another text begins at its top.
     scrollToTop(): void {
-        this.scroller.scrollTop = 0;
+        if (this.top !== 0) {
+            this.top = this.scroller.scrollTop = 0;
+        }
     }
 
     focus(): void {
@@ -102,6 +112,7 @@ export class TableList {
             }
         }
         this.space.style.height = `${top}px`;
+        this.top = Math.max(0, Math.min(this.top, top - this.height));
         this.cells = new Map();
         this.asked.clear();
         state.rows?.forEach((cell, at) => {
@@ -115,9 +126,8 @@ export class TableList {
     }
 
     private forget(): void {
-        for (const element of this.shown.values()) {
-            element.remove();
-        }
+        this.swipe.close();
+        this.space.replaceChildren();
         this.shown.clear();
     }
 
@@ -140,21 +150,39 @@ export class TableList {
             this.waiting = true;
             requestAnimationFrame(() => {
                 this.waiting = false;
-                this.draw();
+                this.look();
             });
         }
     }
 
-    private draw(): void {
-        const top = this.scroller.scrollTop;
-        const height = this.scroller.clientHeight;
+    private look(): void {
+        const before = this.top;
+        this.top = this.scroller.scrollTop;
+        this.height = this.scroller.clientHeight;
+        this.draw();
+        // Where the finger is going, so that the rows are there before it.
+        if (this.top !== before && this.height > 0) {
+            const row = this.lineAt(this.top);
+            this.fetch(Math.max(0, row - 2 * block), Math.min(this.lines.length - 1, row + 3 * block));
+        }
+    }
+
+    // A person who types waits for these; the others come behind.
+    private drawInSight(): void {
+        this.draw(0);
+        clearTimeout(this.later);
+        this.later = window.setTimeout(() => this.draw(), breath);
+    }
+
+    private draw(around = ahead): void {
+        const { top, height } = this;
         if (height === 0 || this.lines.length === 0) {
             this.sticky.hidden = true;
             this.forget();
             return;
         }
-        const first = Math.max(0, this.lineAt(top) - ahead);
-        const last = Math.min(this.lines.length - 1, this.lineAt(top + height) + ahead);
+        const first = Math.max(0, this.lineAt(top) - around);
+        const last = Math.min(this.lines.length - 1, this.lineAt(top + height) + around);
         for (const [row, element] of this.shown) {
             if (row < first || row > last) {
                 element.remove();
@@ -332,7 +360,7 @@ export class TableList {
         } else if (line.top + line.height > view.scrollTop + view.clientHeight) {
             view.scrollTop = line.top + line.height - view.clientHeight;
         }
-        this.draw();
+        this.look();
         for (const [at, element] of this.shown) {
             element.classList.toggle('current', at === row);
         }
