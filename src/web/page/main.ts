@@ -96,6 +96,7 @@ function start(): () => void {
     channel.listen((message) => {
         if (message.kind === 'started') {
             channel.texts = message.texts;
+            OptionsView.version = message.version;
             tellKeeping(channel, message.keeping);
             views = new Views(channel, app);
             // The first state has an address of its own.

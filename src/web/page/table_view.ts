@@ -86,6 +86,7 @@ export class TableScreenView extends GroupedView<TableScreenState> {
 export class OptionsView extends GroupedView<OptionsState> {
     // What is kept where, which only the browser knows.
     static keeping = (): string => '';
+    static version = '';
     private readonly head = el('div', { class: 'about' });
     private readonly kept = el('p', { class: 'group-footer' });
     private opened = false;
@@ -99,7 +100,9 @@ export class OptionsView extends GroupedView<OptionsState> {
     protected override update(state: OptionsState): void {
         if (this.head.childElementCount === 0) {
             const { icon: picture, title, copyright, website, support } = state.header;
-            this.head.append(...[icon(picture), el('h2', {}, title), el('p', {}, copyright),
+            const version = this.channel.textWith('settings.version', OptionsView.version);
+            const names = el('div', {}, el('h2', {}, title), el('p', {}, version), el('p', {}, copyright));
+            this.head.append(...[icon(picture), names,
                 button(website, 'link', () => this.channel.send('website', { screen: this.number })),
                 button(support, 'link', () => this.channel.send('support', { screen: this.number }))]
                 .filter((part) => part !== null));
