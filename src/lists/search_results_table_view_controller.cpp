@@ -45,6 +45,17 @@ void SearchResultsTableViewController::search(std::string_view text)
     });
 }
 
+void SearchResultsTableViewController::prepare()
+{
+    if (queue != nullptr &&
+        makeSearchQuery({}, services().settings, services().device).searchesForms) {
+        queue->inDatabase([this](platform::Database& connection) {
+            // A search without it is slower and finds the same.
+            static_cast<void>(formSearch_.prepare(connection));
+        });
+    }
+}
+
 int SearchResultsTableViewController::numberOfSections()
 {
     return 1;

@@ -43,6 +43,9 @@ public:
     std::vector<data::VerbPtr> verbs;
 
     void search(std::string_view text);
+    /// Reads what a search through the forms needs, so that the first key need not wait;
+    /// nothing where the forms are not searched.
+    void prepare();
 
     int numberOfSections() override;
     int numberOfRowsInSection(int section) override;

@@ -5,6 +5,7 @@
 
 #include "app/database_preparation.h"
 #include "app/rescue_file.h"
+#include "lists/search_results_table_view_controller.h"
 #include "lists/verb_list_table_view_controller.h"
 #include "navigation/home_view_controller.h"
 #include "platform/files/atomic_file.h"
@@ -113,8 +114,12 @@ bool WebApplication::prepareMore()
         }
         helpersAreDone();
     }
-    // A later start reads the tables before the first verb is opened.
+    // A later start reads the tables before the first verb is opened, and the forms
+    // before the first key.
     static_cast<void>(content_.get());
+    if (auto* lists = home(); lists != nullptr && lists->searchResultsController()) {
+        lists->searchResultsController()->prepare();
+    }
     return false;
 }
 

@@ -61,6 +61,15 @@ FormSearch::FormSearch() = default;
 
 FormSearch::~FormSearch() = default;
 
+bool FormSearch::prepare(const Database& database)
+{
+    try {
+        return database.isOpen() && load(database);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
 bool FormSearch::load(const Database& database)
 {
     if (loadedFrom_ != &database) {
@@ -79,7 +88,7 @@ void FormSearch::executeQuery(Database& database, std::string_view sql,
     std::optional<StandIn> verbs;
     std::optional<StandIn> forms;
     try {
-        if (database.isOpen() && load(database)) {
+        if (prepare(database)) {
             forms.emplace(database, kForms, *forms_);
             verbs.emplace(database, kVerbs, *verbs_);
         }

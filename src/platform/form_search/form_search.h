@@ -26,6 +26,10 @@ public:
     FormSearch();
     ~FormSearch();
 
+    /// Reads what the first search would else read. False when there is no memory for
+    /// it, or no packed forms are in the file.
+    bool prepare(const Database& database);
+
     /// Hands the rows of the statement to `read`, as Database::executeQuery gives
     /// them; they end with the call.
     ///
