@@ -118,11 +118,6 @@ void WebTableView::deselectRow(IndexPath path)
     }
 }
 
-void WebTableView::setSeparatorStyle(platform::SeparatorStyle style)
-{
-    separatorStyle_ = style;
-}
-
 void WebTableView::setBackgroundView(const platform::EmptyStateView& view)
 {
     background_ = view;
@@ -202,16 +197,9 @@ Json WebTableView::index() const
 Json WebTableView::describe()
 {
     load();
-    Json table{{"table", number_},
-               {"revision", revision_},
-               {"separators", separatorStyle_ == platform::SeparatorStyle::SingleLine},
-               {"selected", selected_ ? listRow(*selected_) : -1},
-               {"empty", nullptr}};
+    Json table{{"table", number_}, {"revision", revision_}, {"empty", nullptr}};
     if (background_ && !backgroundHidden_) {
-        table["empty"] = {{"text", background_->text},
-                          {"bold", background_->bold},
-                          {"size", background_->fontSize},
-                          {"width", background_->width}};
+        table["empty"] = {{"text", background_->text}};
     }
     if (toldRevision_ != revision_) {
         toldRevision_ = revision_;

@@ -39,7 +39,7 @@ public:
 
     void reloadData() override;
     void reloadRow(platform::IndexPath path) override;
-    void setSeparatorStyle(platform::SeparatorStyle style) override;
+    void setSeparatorStyle(platform::SeparatorStyle /*style*/) override {}
     void setBackgroundView(const platform::EmptyStateView& view) override;
     void setBackgroundViewHidden(bool hidden) override;
     std::optional<platform::IndexPath> indexPathForSelectedRow() const override
@@ -76,7 +76,6 @@ private:
     std::vector<platform::SwipeAction> actions_;
     std::optional<platform::IndexPath> actionsPath_;
     std::optional<platform::IndexPath> selected_;
-    platform::SeparatorStyle separatorStyle_ = platform::SeparatorStyle::SingleLine;
     std::optional<platform::EmptyStateView> background_;
     bool backgroundHidden_ = false;
     /// For handlers that end after the table.

@@ -18,6 +18,8 @@ const languages = ['en', 'fr', 'de', 'es', 'it', 'nl', 'pt'];
 // In milliseconds, before the person is asked about another tab.
 const patience = 300;
 const app = document.getElementById('app') ?? document.body;
+// While the worker is being started.
+const compiled = WebAssembly.compileStreaming(fetch('lumora.wasm')).catch(() => null);
 
 function language(): string {
     const wanted = navigator.languages.map((tag) => tag.slice(0, 2).toLowerCase());
@@ -124,6 +126,7 @@ function start(): () => void {
     };
     document.documentElement.lang = language();
     channel.order({ kind: 'start', facts, texts: `texts-${language()}.json` });
+    void compiled.then((module) => channel.order({ kind: 'compiled', module }));
     return () => {
         worker.onmessage = () => worker.terminate();
         channel.order({ kind: 'stop' });

@@ -15,8 +15,7 @@ export interface Cell {
 }
 export type LayoutRun = ['header' | 'footer', string] | ['cells', number];
 export interface TableState {
-    table: number; revision: number; separators: boolean; selected: number; open?: number;
-    empty: null | { text: string; bold: boolean; size: number; width: number };
+    table: number; revision: number; open?: number; empty: null | { text: string };
     layout?: LayoutRun[]; index?: [string, number][]; rows?: (Cell | null)[];
 }
 export interface Button { id: string; title: string; image: string; enabled: boolean }
@@ -95,6 +94,7 @@ export type Keeping = 'files' | 'copy' | 'nothing';
 export interface Facts { languages: string[]; width: number; system: string }
 export type ToWorker =
     | { kind: 'start'; facts: Facts; texts: string }
+    | { kind: 'compiled'; module: WebAssembly.Module | null }
     | { kind: 'event'; number: number; event: Event }
     | { kind: 'stop' };
 export type FromWorker =

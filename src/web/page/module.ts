@@ -24,6 +24,7 @@ export interface LumoraModule {
 }
 export interface ModuleOptions {
     locateFile(name: string): string;
+    instantiateWasm(imports: WebAssembly.Imports, ready: (instance: WebAssembly.Instance) => void): object;
     print(text: string): void;
     printErr(text: string): void;
     scripts: { make(): number; drop(context: number): void; evaluate(context: number, script: string): string };

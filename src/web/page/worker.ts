@@ -23,7 +23,7 @@ let rows: KeptRows | undefined;
 
 const say = (message: FromWorker): void => scope.postMessage(message);
 
-async function fetched(name: string): Promise<Uint8Array> {
+async function fetched(name: string): Promise<Uint8Array<ArrayBuffer>> {
     const response = await fetch(name);
     if (!response.ok) {
         throw new Error(`${name}: ${response.status}`);
@@ -58,6 +58,23 @@ async function openFiles(module: LumoraModule, opening: Promise<FilePool>): Prom
         rows = undefined;
         return 'nothing';
     }
+}
+
+// The page has compiled it; where it cannot, it is done here.
+let takeCompiled: (module: WebAssembly.Module | null) => void;
+const compiled = new Promise<WebAssembly.Module | null>((resolve) => { takeCompiled = resolve; });
+
+async function load(scripts: Scripts): Promise<LumoraModule> {
+    const module = await compiled ?? await WebAssembly.compile(await fetched('lumora.wasm'));
+    return new Promise((resolve, reject) => {
+        createModule({
+            locateFile: (name) => name, scripts, print: console.log, printErr: console.error,
+            instantiateWasm: (imports, ready) => {
+                WebAssembly.instantiate(module, imports).then(ready, reject);
+                return {};
+            },
+        }).then(resolve, reject);
+    });
 }
 
 function call(name: string, ...values: string[]): string {
@@ -119,7 +136,7 @@ async function start(facts: Facts, textsFile: string): Promise<void> {
     const opening = FilePool.open('lumora');
     opening.catch(() => undefined);
     const [module, texts, ...contents] = await Promise.all([
-        createModule({ locateFile: (name) => name, scripts, print: console.log, printErr: console.error }),
+        load(scripts),
         fetched(textsFile),
         ...resources.map(fetched),
     ]);
@@ -144,6 +161,10 @@ let queue = Promise.resolve();
 
 scope.onmessage = (message: MessageEvent<ToWorker>): void => {
     const order = message.data;
+    if (order.kind === 'compiled') {
+        takeCompiled(order.module);
+        return;
+    }
     // One after another: what is kept goes out in the order of the events.
     queue = queue.then(async () => {
         if (order.kind === 'start') {
