@@ -169,6 +169,10 @@ export class TableList {
 
     // A person who types waits for these; the others come behind.
     private drawInSight(): void {
+        if (this.height === 0) {
+            this.height = this.scroller.clientHeight;
+            this.top = this.scroller.scrollTop;
+        }
         this.draw(0);
         clearTimeout(this.later);
         this.later = window.setTimeout(() => this.draw(), breath);

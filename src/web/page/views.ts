@@ -41,6 +41,7 @@ export class Views {
     private readonly dialogs: Dialogs;
     private layers: HTMLElement[] = [];
     private toldModals = '';
+    private opened = false;
     state: State | undefined;
 
     constructor(private readonly channel: Channel, app: HTMLElement) {
@@ -75,6 +76,11 @@ export class Views {
                 this.drawStack(place, modal.screens, used);
             }
         });
+        // Once its bar is drawn: before, only the shade behind it could have the focus.
+        if (this.opened) {
+            this.opened = false;
+            this.layers.at(-1)?.querySelector<HTMLElement>('.bar button, button')?.focus();
+        }
         for (const [number, view] of this.views) {
             if (!used.has(number)) {
                 view.element.remove();
@@ -115,7 +121,7 @@ export class Views {
                 return layer;
             });
             this.modals.replaceChildren(...this.layers);
-            this.layers.at(-1)?.querySelector<HTMLElement>('.bar button, button')?.focus();
+            this.opened = true;
         }
         this.panes.inert = state.modals.length > 0;
         this.layers.forEach((layer, at) => {
