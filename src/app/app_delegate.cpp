@@ -18,6 +18,8 @@
 #include "platform/screens/alert.h"
 #include "platform/screens/navigation_controller.h"
 #include "platform/screens/presenter.h"
+#include "platform/storage/database.h"
+#include "platform/storage/database_queue.h"
 #include "platform/storage/settings_store.h"
 #include "settings/default_settings.h"
 #include "text/text.h"
@@ -46,6 +48,21 @@ constexpr std::pair<std::string_view, std::string_view> kTabShortcuts[] = {
 {
     std::fprintf(stderr, "lumora: %s\n", why);
     std::abort();
+}
+
+/// Rows that are written then need not wait for the disk: the end of the process
+/// loses none of them, and a power cut only the last. Where SQLite cannot do so,
+/// each goes on reaching the disk before the next.
+void writeAhead(platform::Database& database)
+{
+    bool done = false;
+    {
+        auto mode = database.executeQuery("PRAGMA journal_mode = WAL", {});
+        done = mode && mode->next() && mode->stringForColumn(0) == "wal";
+    }
+    if (done) {
+        static_cast<void>(database.executeUpdate("PRAGMA synchronous = NORMAL", {}));
+    }
 }
 
 } // namespace
@@ -98,6 +115,9 @@ void AppDelegate::openDatabase()
     // start sees that it is missing.
     queue = platform::DatabaseQueue::open(
         platform::existingFileUrl(workingDatabase(*folders_.documents)));
+    if (queue) {
+        queue->inDatabase(writeAhead);
+    }
 }
 
 void AppDelegate::chooseBarColors()

@@ -7,6 +7,7 @@
 #include "platform/files/folder_lock.h"
 #include "platform/storage/file_settings_store.h"
 
+#include <csignal>
 #include <future>
 
 // The database and the settings of a start.
@@ -319,6 +320,28 @@ TEST_F(StartUp, ADirectoryThatCannotBeWrittenLeavesTheVersionAndStartsWithoutAQu
     EXPECT_TRUE(world.console.str().starts_with("Unable to initialise database "));
     EXPECT_EQ(world.settings.objectForKey("installed_version"), std::nullopt);
     EXPECT_EQ(world.settings.values().size(), 5U) << "the rest of the launch went on";
+}
+
+TEST_F(StartUp, ARowDoesNotWaitForTheDiskAndOutlivesAKill)
+{
+    const auto writeAndDie = [this] {
+        auto delegate = makeDelegate();
+        delegate.didFinishLaunching({});
+        const bool waits =
+            rowsOf(*delegate.queue, "PRAGMA synchronous") != std::vector<std::string>{"1"};
+        support::executeOn(*delegate.queue, "INSERT INTO favourite(verbid) VALUES (2)");
+        static_cast<void>(std::raise(waits ? SIGTERM : SIGKILL));
+    };
+    EXPECT_EXIT(writeAndDie(), testing::KilledBySignal(SIGKILL), "");
+
+    std::filesystem::create_directory(world.folder / "other");
+    std::filesystem::copy(database, world.folder / "other");
+    EXPECT_NE(rowsOf(*platform::DatabaseQueue::open((world.folder / "other/verbs.db").string()),
+                     "SELECT verbid FROM favourite"),
+              std::vector<std::string>{"2"})
+        << "the row is beside the database still";
+    ASSERT_TRUE(prepare());
+    EXPECT_EQ(userRows(), "2 |");
 }
 
 TEST_F(StartUp, ADatabaseRemovedMeanwhileIsBackAtTheNextStart)
