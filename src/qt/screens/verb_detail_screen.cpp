@@ -20,7 +20,10 @@ VerbDetailScreen::VerbDetailScreen(
 {
     detail_->setOutletListener([this] { emit outletsChanged(); });
     detail_->setSpeechListener([this] { emit speechChanged(); });
-    detail_->setWordsListener([this] { emit wordsChanged(); });
+    detail_->setWordsListener([this] {
+        card_.reset();
+        emit wordsChanged();
+    });
 }
 
 VerbDetailScreen::~VerbDetailScreen()
@@ -109,6 +112,14 @@ QString VerbDetailScreen::summary() const
 }
 
 QVariantList VerbDetailScreen::card() const
+{
+    if (!card_) {
+        card_ = readCard();
+    }
+    return *card_;
+}
+
+QVariantList VerbDetailScreen::readCard() const
 {
     QVariantList lines;
     if (!detail_->selectedVerb) {

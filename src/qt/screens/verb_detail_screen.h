@@ -124,9 +124,12 @@ signals:
 
 private:
     QString nameAway(int places) const;
+    QVariantList readCard() const;
 
     std::shared_ptr<detail::VerbDetailTableViewController> detail_;
     std::optional<int> topTense_;
+    /// Read once, by many questions to the database: QML asks for it again and again.
+    mutable std::optional<QVariantList> card_;
 };
 
 } // namespace lumora::qt
