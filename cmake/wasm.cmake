@@ -32,9 +32,10 @@ target_compile_definitions(fmt::fmt INTERFACE FMT_HEADER_ONLY)
 
 add_library(lumora_sqlite STATIC ${LUMORA_WASM_LIBRARIES}/sqlite/sqlite3.c)
 target_include_directories(lumora_sqlite SYSTEM INTERFACE ${LUMORA_WASM_LIBRARIES}/sqlite)
+# The write-ahead log wants memory that processes share; a browser's files have none.
 target_compile_definitions(lumora_sqlite PRIVATE
     SQLITE_THREADSAFE=0 SQLITE_SECURE_DELETE SQLITE_DQS=0 SQLITE_OMIT_LOAD_EXTENSION
-    SQLITE_OMIT_DEPRECATED SQLITE_DEFAULT_MEMSTATUS=0)
+    SQLITE_OMIT_DEPRECATED SQLITE_OMIT_WAL SQLITE_DEFAULT_MEMSTATUS=0)
 # What a search waits for.
 target_compile_options(lumora_sqlite PRIVATE -w -O3)
 add_library(SQLite::SQLite3 ALIAS lumora_sqlite)
