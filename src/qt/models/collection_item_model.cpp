@@ -19,6 +19,11 @@ int CollectionItemModel::rowCount(const QModelIndex& parent) const
 
 QHash<int, QByteArray> CollectionItemModel::roleNames() const
 {
+    return names();
+}
+
+const QHash<int, QByteArray>& CollectionItemModel::names()
+{
     // Asked for every cell that a view makes.
     static const auto kNames = [] {
         QHash<int, QByteArray> names{{TitleRole, "title"}};

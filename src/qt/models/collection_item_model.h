@@ -61,6 +61,7 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
+    static const QHash<int, QByteArray>& names();
 
     /// Called by the controller while the model is calling it, the reload waits
     /// until that call has returned.

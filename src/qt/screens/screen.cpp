@@ -77,11 +77,21 @@ void Screen::press(const QString& identifier)
 void Screen::attach(QObject* page)
 {
     ++pages_;
-    connect(page, &QObject::destroyed, this, [this] {
-        if (--pages_ == 0) {
-            emit detached();
-        }
-    });
+    connect(page, &QObject::destroyed, this, &Screen::pageGone);
+}
+
+void Screen::detach(QObject* page)
+{
+    if (disconnect(page, &QObject::destroyed, this, &Screen::pageGone)) {
+        pageGone();
+    }
+}
+
+void Screen::pageGone()
+{
+    if (--pages_ == 0) {
+        emit detached();
+    }
 }
 
 } // namespace lumora::qt

@@ -60,6 +60,8 @@ public:
     Q_INVOKABLE void press(const QString& identifier);
     /// A page that shows this screen says so; the screen outlives it.
     Q_INVOKABLE void attach(QObject* page);
+    /// The page shows another screen from now on.
+    Q_INVOKABLE void detach(QObject* page);
 
     /// The screens shown inside this one.
     virtual std::vector<std::shared_ptr<platform::ViewController>> visibleChildren() const
@@ -79,6 +81,8 @@ signals:
     void detached();
 
 private:
+    void pageGone();
+
     std::shared_ptr<platform::ViewController> controller_;
     QUrl page_;
     int pages_ = 0;

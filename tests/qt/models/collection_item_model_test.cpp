@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Lumora authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "qt/models/collection_item_model.h"
+#include "qt/models/reusable_collection_model.h"
 
 #include "detail/ce_round_progress_view.h"
 
@@ -78,6 +78,43 @@ TEST(CollectionItemModel, HandsOnLinesAndTheirControls)
     EXPECT_EQ(source.tapped, (std::pair{1, 5}));
     model.tapAudio(2, 0);
     EXPECT_EQ(source.tapped, (std::pair{1, 5})) << "there is no third square";
+}
+
+TEST(ReusableCollectionModel, ShowsAnotherCollectionAsFarAsItIsAsked)
+{
+    ScriptedCollection sources[2];
+    sources[0].titles = {"a", "b", "c"};
+    sources[1].titles = {"d", "e"};
+    CollectionItemModel collections[2]{CollectionItemModel{sources[0]},
+                                       CollectionItemModel{sources[1]}};
+    ReusableCollectionModel model;
+    const QAbstractItemModelTester tester{&model,
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal};
+    using Rows = std::vector<std::pair<int, int>>;
+    Rows told;
+    QObject::connect(&model, &QAbstractItemModel::dataChanged,
+                     [&](const QModelIndex& first, const QModelIndex& last) {
+                         told.emplace_back(first.row(), last.row());
+                     });
+
+    model.setCollection(&collections[0]);
+    EXPECT_FALSE(model.isWaiting()) << "new items are full";
+    model.setCollection(&collections[1]);
+    EXPECT_TRUE(model.isWaiting());
+    model.fill(1);
+    model.fill(1);
+    EXPECT_TRUE(model.isWaiting());
+    EXPECT_EQ(told, (Rows{{0, 0}}));
+    model.fill(5);
+    EXPECT_FALSE(model.isWaiting());
+
+    sources[1].titles = {"f", "g", "h"};
+    collections[1].reloadData();
+    EXPECT_FALSE(model.isWaiting()) << "a reload is told at once";
+    EXPECT_EQ(told, (Rows{{0, 0}, {1, 1}, {0, 2}}));
+    EXPECT_EQ(model.data(model.index(2), CollectionItemModel::TitleRole).toString(), "h");
+    collections[0].reloadData();
+    EXPECT_EQ(told.size(), 3U) << "deaf to the one before";
 }
 
 } // namespace

@@ -85,19 +85,19 @@ Item {
 
         Repeater {
             id: segments
-            model: root.titles
+            // Titles that are given again change the segments that there are.
+            model: root.titles.length
 
             T.RadioButton {
                 id: segment
 
                 required property int index
-                required property string modelData
 
                 objectName: root.prefix + index
                 width: root.segmentWidth
                 height: row.height
                 implicitHeight: implicitContentHeight
-                text: modelData
+                text: root.titles[index] ?? ""
                 checkable: false
                 autoExclusive: false
                 checked: index === root.selected

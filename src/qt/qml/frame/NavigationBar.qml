@@ -16,6 +16,8 @@ Rectangle {
     // The last of its buttons, where a page has more to offer than its screen.
     property Component menu: null
     property real cornerRadius: 0
+    readonly property var leftButtons: screen.leftButtons
+    readonly property var rightButtons: screen.rightButtons
 
     signal backRequested
 
@@ -46,12 +48,16 @@ Rectangle {
             onClicked: root.backRequested()
         }
         Repeater {
-            model: root.hasButtons ? root.screen.leftButtons : []
+            // Buttons that are given again change those that there are.
+            model: root.hasButtons ? root.leftButtons.length : 0
 
             ScreenBarButton {
+                required property int index
+
                 screen: root.screen
+                button: root.leftButtons[index]
                 // There is no list to hide where nothing stands beside it.
-                visible: root.wide || modelData.identifier !== "displayMode"
+                visible: root.wide || button.identifier !== "displayMode"
             }
         }
     }
@@ -84,10 +90,13 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
 
         Repeater {
-            model: root.hasButtons ? root.screen.rightButtons : []
+            model: root.hasButtons ? root.rightButtons.length : 0
 
             ScreenBarButton {
+                required property int index
+
                 screen: root.screen
+                button: root.rightButtons[index]
             }
         }
         Loader {

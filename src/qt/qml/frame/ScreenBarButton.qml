@@ -9,21 +9,21 @@ BarButton {
     id: root
 
     required property AppScreen screen
-    required property screenButton modelData
-    readonly property bool on: modelData.image === "ic_favorite_toolbar"
+    required property screenButton button
+    readonly property bool on: button.image === "ic_favorite_toolbar"
 
-    objectName: "bar." + modelData.identifier
-    image: modelData.image
-    text: modelData.title
-    enabled: modelData.enabled
+    objectName: "bar." + button.identifier
+    image: button.image
+    text: button.title
+    enabled: button.enabled
     // On or off as the screen has it, whatever a press would make of it.
-    checkable: modelData.identifier === "favourite"
+    checkable: button.identifier === "favourite"
     checked: on
-    tip: modelData.title !== "" ? modelData.title : qsTrId("button." + modelData.identifier)
+    tip: button.title !== "" ? button.title : qsTrId("button." + button.identifier)
     Accessible.name: tip
     Accessible.onToggleAction: clicked()
     onClicked: {
         checked = Qt.binding(() => on);
-        root.screen.press(modelData.identifier);
+        root.screen.press(button.identifier);
     }
 }

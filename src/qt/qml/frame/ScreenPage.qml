@@ -21,9 +21,23 @@ FocusScope {
     property Component barMenu: null
     // The parts of the page between which F6 moves the keyboard.
     property list<Item> parts: [area]
+    // Whether it can show another screen of its kind in place of this one.
+    property bool reusable: false
     default property alias content: area.data
 
     signal backRequested
+    // It is about to show that screen; now it shows it.
+    signal reusing(AppScreen other)
+    signal reused
+
+    function reuse(other) {
+        const before = screen;
+        reusing(other);
+        other.attach(root);
+        screen = other;
+        before.detach(root);
+        reused();
+    }
 
     Component.onCompleted: screen.attach(root)
 

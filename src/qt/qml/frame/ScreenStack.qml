@@ -27,6 +27,10 @@ StackView {
             return;
         // A screen that moves from pane to pane does not slide.
         const moved = split?.isRearranging() ?? false;
+        if (same === 0 && depth === 1 && screens.length === 1 && !moved && canReuse(currentItem as ScreenPage, screens[0])) {
+            (currentItem as ScreenPage).reuse(screens[0]);
+            return;
+        }
         const animated = depth > 0 && same > 0 && screens.length > 0 && !moved;
         const kind = animated ? undefined : StackView.Immediate;
         if (same === 0) {
@@ -41,6 +45,11 @@ StackView {
                 "canGoBack": i > 0,
                 "wide": wide
             }, kind);
+    }
+
+    // What a page is made of takes longer to make than to fill anew.
+    function canReuse(page, screen) {
+        return page !== null && page.reusable && String(page.screen.page) === String(screen.page);
     }
 
     Accessible.name: currentItem?.screen?.title ?? ""

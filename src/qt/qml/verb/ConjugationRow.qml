@@ -31,7 +31,7 @@ Rectangle {
     // The first section is not a tense.
     readonly property int tense: section - 1
     readonly property bool unused: alone && title !== "" && screen.hasForms
-    readonly property var fit: isForm ? fits.of(tense) : null
+    readonly property var fit: isForm ? fits.of(tense, screen.selectedMood + "/" + fits.revision) : null
     readonly property bool stacked: fit?.stacked ?? false
 
     // The sheet of the form, or of the tense, is asked for.

@@ -10,8 +10,7 @@ Rectangle {
 
     required property collectionLine line
     // How the lines of the square fit.
-    required property var fit
-    required property bool marked
+    required property TenseMeasures measures
     // The form that was searched for.
     property bool opened: false
 
@@ -24,6 +23,8 @@ Rectangle {
             play.forceActiveFocus(Qt.TabFocusReason);
     }
 
+    width: measures.width
+    height: measures.height
     color: play.running ? Theme.pressed : "transparent"
     radius: 6
     Accessible.ignored: line.accessibleName === ""
@@ -56,21 +57,21 @@ Rectangle {
         id: leading
         pronoun: root.line.leading
         lineStyle: root.line.lineStyle
-        above: root.fit.stacked
-        y: root.fit.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
+        above: root.measures.stacked
+        y: root.measures.stacked ? form.y - height : form.y + form.baselineOffset - baselineOffset - captionHeight
         // An elided pronoun touches its form, which begins where the others do.
-        width: root.fit.stacked ? play.x : root.fit.pronounWidth + (root.line.lineStyle.joined ? root.fit.blank : 0)
-        horizontalAlignment: root.fit.stacked ? Text.AlignLeft : Text.AlignRight
-        font.pixelSize: root.fit.pronounSize
+        width: root.measures.stacked ? play.x : root.measures.pronounWidth + (root.line.lineStyle.joined ? root.measures.blank : 0)
+        horizontalAlignment: root.measures.stacked ? Text.AlignLeft : Text.AlignRight
+        font.pixelSize: root.measures.pronounSize
     }
     FormText {
         id: form
-        x: root.fit.stacked || root.fit.pronounWidth === 0 ? 0 : root.fit.pronounWidth + root.fit.blank
-        y: (root.height - height + leading.captionHeight + (root.fit.stacked ? leading.height : 0)) / 2
+        x: root.measures.stacked || root.measures.pronounWidth === 0 ? 0 : root.measures.pronounWidth + root.measures.blank
+        y: (root.height - height + leading.captionHeight + (root.measures.stacked ? leading.height : 0)) / 2
         width: play.x - x
         markup: root.line.lineStyle.markup
-        marked: root.marked
-        font.pixelSize: root.fit.size
+        marked: root.measures.marked
+        font.pixelSize: root.measures.size
     }
     PlayControl {
         id: play

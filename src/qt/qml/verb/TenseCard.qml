@@ -10,6 +10,8 @@ Rectangle {
 
     required property int index
     required property string title
+    // How often its texts have come anew.
+    required property int generation
     required property collectionLine line0
     required property collectionLine line1
     required property collectionLine line2
@@ -36,22 +38,6 @@ Rectangle {
     }
     function takeKeyboard(line) {
         (lines.children[line] as FormLine)?.takeKeyboard();
-    }
-
-    component Measures: QtObject {
-        property real width
-        property real height
-        property var fit
-        property bool marked
-    }
-    // An inline component sees nothing of the card by itself.
-    component Line: FormLine {
-        required property Measures measures
-
-        width: measures.width
-        height: measures.height
-        fit: measures.fit
-        marked: measures.marked
     }
 
     objectName: "tense" + index
@@ -118,11 +104,11 @@ Rectangle {
             Accessible.ignored: true
         }
     }
-    Measures {
+    TenseMeasures {
         id: sizes
         width: root.width - 28
         height: root.fits.lineHeight
-        fit: root.fits.of(root.index)
+        fit: root.fits.of(root.index, root.generation)
         marked: root.screen.marksForms
     }
     Column {
@@ -130,42 +116,42 @@ Rectangle {
         x: label.x
         y: label.y + label.height + 4
 
-        Line {
+        FormLine {
             measures: sizes
             line: root.line0
             opened: root.openedLine === 0
             onPlayed: root.played(0)
             onAsked: root.formAsked(0)
         }
-        Line {
+        FormLine {
             measures: sizes
             line: root.line1
             opened: root.openedLine === 1
             onPlayed: root.played(1)
             onAsked: root.formAsked(1)
         }
-        Line {
+        FormLine {
             measures: sizes
             line: root.line2
             opened: root.openedLine === 2
             onPlayed: root.played(2)
             onAsked: root.formAsked(2)
         }
-        Line {
+        FormLine {
             measures: sizes
             line: root.line3
             opened: root.openedLine === 3
             onPlayed: root.played(3)
             onAsked: root.formAsked(3)
         }
-        Line {
+        FormLine {
             measures: sizes
             line: root.line4
             opened: root.openedLine === 4
             onPlayed: root.played(4)
             onAsked: root.formAsked(4)
         }
-        Line {
+        FormLine {
             measures: sizes
             line: root.line5
             opened: root.openedLine === 5

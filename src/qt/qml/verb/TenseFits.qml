@@ -16,7 +16,7 @@ QtObject {
     required property int fullSize
     // The height of one line of the tense; 0 where it grows with its text.
     property real lineHeight: 0
-    // Counts the reloads.
+    // Counts the reloads of a table, whose rows are not counted themselves.
     property int revision: 0
     readonly property int smallestSize: 12
     readonly property int measuredSize: 40
@@ -26,7 +26,7 @@ QtObject {
     // The height of a row as a share of its font size, and the gap between two forms.
     readonly property real rowShare: 1.17
     readonly property int rowGap: 5
-    // The results so far, by revision, mood and tense.
+    // The results so far, by tense: those of the newest generation of texts.
     readonly property var cache: ({})
 
     readonly property FontMetrics plain: FontMetrics {
@@ -37,14 +37,13 @@ QtObject {
         font.weight: Font.Bold
     }
 
-    // How one tense of the chosen mood fits.
-    function of(tense) {
-        const key = revision + "/" + screen.selectedMood + "/" + tense;
-        if (cache[key]?.room !== room || cache[key].fullSize !== fullSize) {
-            const sizes = cache[key]?.sizes ?? measure(tense);
-            cache[key] = fit(sizes);
-        }
-        return cache[key];
+    // How one tense of the chosen mood fits; another generation has other texts.
+    function of(tense, generation) {
+        const known = cache[tense];
+        const same = known?.generation === generation;
+        if (!same || known.room !== room || known.fullSize !== fullSize)
+            cache[tense] = fit(same ? known.sizes : measure(tense), generation);
+        return cache[tense];
     }
     // The longest by characters are the widest, or nearly so.
     function longest(texts) {
@@ -89,12 +88,13 @@ QtObject {
         }
         return smallestSize;
     }
-    function fit(sizes) {
+    function fit(sizes, generation) {
         const beside = largest(sizes, false);
         const above = sizes.pronoun > 0 ? largest(sizes, true) : 0;
         const stacked = above > 1.25 * beside;
         const size = stacked ? above : beside;
         return {
+            "generation": generation,
             "room": room,
             "fullSize": fullSize,
             "sizes": sizes,

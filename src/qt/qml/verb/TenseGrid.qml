@@ -33,6 +33,21 @@ Item {
     signal formAsked(int tense, int line)
     signal tenseAsked(int tense)
 
+    // Shows the screen's verb, which may be another one than before.
+    function start() {
+        tenses.collection = collection;
+        shown = false;
+        grid.currentIndex = 0;
+        grid.positionViewAtBeginning();
+        show(screen.topTense);
+        fillInSight();
+    }
+    // The squares out of sight wait until the others are drawn.
+    function fillInSight() {
+        const bottom = grid.contentY + grid.height - grid.originY - (grid.headerItem?.height ?? 0);
+        if (tenses.waiting)
+            tenses.fill(columns * Math.ceil(bottom / grid.cellHeight));
+    }
     function show(tense) {
         if (tense > 0)
             grid.positionViewAtIndex(tense, GridView.Beginning);
@@ -68,10 +83,13 @@ Item {
         room: root.collection.itemWidth - 28 - 30 - 8
         lineHeight: (root.collection.itemHeight - Theme.cardTitleHeight - 8 - 4 - Theme.gap) / 6
     }
+    ReusableCollectionModel {
+        id: tenses
+    }
     Connections {
-        target: root.collection
-        function onReloaded() {
-            ++tenseFits.revision;
+        target: tenses.waiting ? root.Window.window : null
+        function onFrameSwapped() {
+            tenses.fillAll();
         }
     }
     GridView {
@@ -86,7 +104,7 @@ Item {
         width: root.columns * cellWidth
         height: root.height
         clip: true
-        model: root.collection
+        model: tenses
         focus: true
         activeFocusOnTab: true
         cacheBuffer: 1200
@@ -105,8 +123,12 @@ Item {
         }
         onCurrentIndexChanged: if (root.shown && currentIndex >= 0)
             root.movedTo(currentIndex)
-        onContentYChanged: if (moving || ScrollBar.vertical.pressed)
-            root.movedTo(Math.max(0, Math.round((contentY - originY - headerItem.height) / cellHeight)) * root.columns)
+        onHeightChanged: root.fillInSight()
+        onContentYChanged: {
+            root.fillInSight();
+            if (moving || ScrollBar.vertical.pressed)
+                root.movedTo(Math.max(0, Math.round((contentY - originY - headerItem.height) / cellHeight)) * root.columns);
+        }
 
         ScrollBar.vertical: ScrollBar {
             Accessible.ignored: true
@@ -118,6 +140,7 @@ Item {
 
         header: Column {
             width: root.usedWidth
+            onHeightChanged: root.fillInSight()
 
             Text {
                 width: parent.width

@@ -29,6 +29,7 @@ Item {
         screen.keepCardOpen(open);
     }
 
+    onScreenChanged: open = screen.isCardOpen(wide)
     width: parent?.width ?? 0
     implicitHeight: column.height + Theme.gap
     onActiveFocusChanged: if (activeFocus)
@@ -106,12 +107,24 @@ Item {
 
             sourceComponent: Column {
                 id: lines
+
+                readonly property var card: root.screen.card
+                // Lines that another verb does not need stay, out of sight.
+                property int most: 0
+
                 spacing: 6
+                onCardChanged: most = Math.max(most, card.length)
 
                 Repeater {
-                    model: root.screen.card
+                    model: lines.most
 
                     VerbCardLine {
+                        required property int index
+
+                        readonly property bool used: index < lines.card.length
+
+                        visible: used
+                        line: lines.card[used ? index : 0]
                         width: lines.width
                         wide: root.wide
                         onFollowed: id => root.screen.showRelated(id)

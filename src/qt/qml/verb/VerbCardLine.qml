@@ -9,20 +9,23 @@ import Lumora
 Item {
     id: root
 
-    required property verbCardLine modelData
+    required property verbCardLine line
     property bool wide: false
     readonly property real inset: wide ? 0 : Theme.margin
     // Large labels would be broken within their words beside a text.
     readonly property bool stacked: Theme.largeText
     readonly property real labelWidth: stacked ? 0 : Math.round((width - 2 * inset) * (wide ? 0.26 : 0.33))
     readonly property real textY: stacked ? label.height : 0
-    readonly property bool leads: modelData.links.length > 0
+    readonly property var links: line.links
+    readonly property bool leads: links.length > 0
+    property int mostLinks: 0
 
     signal followed(int id)
 
-    implicitHeight: Math.max(label.y + label.height, textY + (leads ? links.height : words.height))
+    onLinksChanged: mostLinks = Math.max(mostLinks, links.length)
+    implicitHeight: Math.max(label.y + label.height, textY + (leads ? flow.height : words.height))
     Accessible.role: Accessible.StaticText
-    Accessible.name: modelData.label + (leads ? "" : ": " + modelData.text)
+    Accessible.name: line.label + (leads ? "" : ": " + line.text)
 
     Text {
         id: label
@@ -30,7 +33,7 @@ Item {
         width: root.stacked ? root.width - 2 * root.inset : root.labelWidth - Theme.gap
         // In line with what is beside it.
         y: root.stacked ? 0 : root.leads ? Math.max(0, Math.round((Theme.touch - font.pixelSize * 1.4) / 2)) : 2
-        text: root.modelData.label
+        text: root.line.label
         color: Theme.textSecondary
         font.pixelSize: Theme.small + 1
         wrapMode: Text.Wrap
@@ -41,29 +44,31 @@ Item {
         y: root.textY
         width: root.width - x - root.inset
         visible: !root.leads
-        text: root.modelData.text
+        text: root.line.text
         color: Theme.text
         font.pixelSize: Theme.body - 1
         wrapMode: Text.Wrap
     }
     Flow {
-        id: links
+        id: flow
         x: words.x - Theme.gap
         y: root.textY
         width: root.width - x - root.inset
 
         Repeater {
-            model: root.modelData.links
+            // Those that another verb does not need stay, out of sight.
+            model: root.mostLinks
 
             LinkButton {
-                required property verbLink modelData
                 required property int index
+                readonly property var link: root.links[index] ?? null
 
-                objectName: "verbLink." + modelData.title
-                maximumWidth: links.width
-                text: modelData.title
+                visible: link !== null
+                objectName: "verbLink." + text
+                maximumWidth: flow.width
+                text: link?.title ?? ""
                 Accessible.onPressAction: clicked()
-                onClicked: root.followed(modelData.id)
+                onClicked: root.followed(link.id)
             }
         }
     }

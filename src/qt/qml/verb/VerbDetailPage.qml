@@ -18,6 +18,12 @@ ScreenPage {
     readonly property bool onTop: StackView.view?.currentItem === root
 
     barMenu: verb.selectTextHidden ? menu : null
+    reusable: asSquares
+    onReusing: other => (other as VerbDetailScreen).prepareCollection()
+    onReused: {
+        sheets.close();
+        (tenses.item as TenseGrid)?.start();
+    }
 
     MoodBar {
         id: moods
@@ -145,10 +151,7 @@ ScreenPage {
             onMovedTo: tense => root.verb.topTense = tense
             onFormAsked: (tense, line) => sheets.askForm(tense, line)
             onTenseAsked: tense => sheets.askTense(tense)
-            Component.onCompleted: {
-                root.verb.prepareCollection();
-                show(root.verb.topTense);
-            }
+            Component.onCompleted: start()
         }
     }
     Component {

@@ -23,6 +23,8 @@ BarButton {
         menu.menu.openBelow(root);
     }
 
+    onScreenChanged: menu.source = ""
+
     Loader {
         id: menu
 

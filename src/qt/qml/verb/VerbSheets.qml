@@ -36,6 +36,9 @@ Item {
                 "wide": wide
             });
     }
+    function close() {
+        sheet.sheet?.close();
+    }
     function show(page, given) {
         sheet.setSource("qrc:/Lumora/" + page + ".qml", given);
         sheet.sheet.open();
