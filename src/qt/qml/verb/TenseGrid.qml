@@ -37,6 +37,7 @@ Item {
     function start() {
         tenses.collection = collection;
         shown = false;
+        grid.cancelFlick();
         grid.currentIndex = 0;
         grid.positionViewAtBeginning();
         show(screen.topTense);
