@@ -154,6 +154,17 @@ Result<void> Database::open()
     // long table would push each other out at every search.
     sqlite3_exec(connection_, "PRAGMA temp_store = MEMORY; PRAGMA cache_size = -4000", nullptr,
                  nullptr, nullptr);
+    // With a write-ahead log a row need not reach the disk by itself. The file
+    // remembers its log, a connection has to be told.
+    const auto isWal = [](void* answer, int, char** values, char**) {
+        *static_cast<bool*>(answer) = values[0] != nullptr && std::string_view{values[0]} == "wal";
+        return 0;
+    };
+    bool writesAhead = false;
+    sqlite3_exec(connection_, "PRAGMA journal_mode", isWal, &writesAhead, nullptr);
+    if (writesAhead) {
+        sqlite3_exec(connection_, "PRAGMA synchronous = NORMAL", nullptr, nullptr, nullptr);
+    }
     return {};
 }
 
