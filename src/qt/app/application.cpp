@@ -11,11 +11,13 @@
 #include "settings/view_memory.h"
 
 #include <QCursor>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QScreen>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <chrono>
@@ -32,6 +34,13 @@ namespace {
 
 constexpr std::chrono::milliseconds kLongestWaitForAFrame{250};
 constexpr platform::Color kAccentPrimary{11 / 255.0, 78 / 255.0, 162 / 255.0, 1};
+
+/// Has the system's fonts looked through on another thread, which takes as long as
+/// building the window and is needed by its first text only.
+void prepareFonts()
+{
+    QThreadPool::globalInstance()->start([] { QFontDatabase::families(); });
+}
 
 } // namespace
 
@@ -66,6 +75,7 @@ Application::Application(ApplicationOptions options)
                 reviewPrompter_, mail_,      urlOpener_,    fileChooser_, viewMemory_},
       delegate_{services_, {options_.folders.data, options_.folders.data.string()}, kAccentPrimary}
 {
+    prepareFonts();
     storyboard_.setServices(services_);
     // Whether it could be made shows when the database is opened.
     static_cast<void>(platform::makePrivateFolder(options_.folders.data));
