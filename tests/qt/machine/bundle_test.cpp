@@ -99,6 +99,10 @@ std::set<std::string> keysInSources()
     std::set<std::string> keys;
     for (const auto& entry : std::filesystem::recursive_directory_iterator{LUMORA_SOURCES}) {
         const auto extension = entry.path().extension();
+        // The libraries of the page have names of their own.
+        if (entry.path().string().find("node_modules") != std::string::npos) {
+            continue;
+        }
         if (extension != ".cpp" && extension != ".qml" && extension != ".ts") {
             continue;
         }
