@@ -14,5 +14,6 @@ Text {
     color: Theme.text
     font.weight: marked ? Font.Medium : Font.DemiBold
     wrapMode: Text.Wrap
-    lineHeight: lineCount > 1 ? 0.85 : 1
+    // No binding: a text that is laid out anew in the middle of it would be a loop.
+    onLineCountChanged: lineHeight = lineCount > 1 ? 0.85 : 1
 }
