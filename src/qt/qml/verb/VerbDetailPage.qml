@@ -21,7 +21,7 @@ ScreenPage {
     reusable: asSquares
     onReusing: other => (other as VerbDetailScreen).prepareCollection()
     onReused: {
-        sheets.close();
+        sheets.forget();
         (tenses.item as TenseGrid)?.start();
     }
 

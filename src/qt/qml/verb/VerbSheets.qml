@@ -36,8 +36,9 @@ Item {
                 "wide": wide
             });
     }
-    function close() {
-        sheet.sheet?.close();
+    // Also one that is closed: it knows the screen that it was made for.
+    function forget() {
+        sheet.source = "";
     }
     function show(page, given) {
         sheet.setSource("qrc:/Lumora/" + page + ".qml", given);
