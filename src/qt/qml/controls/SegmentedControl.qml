@@ -103,7 +103,8 @@ Item {
                 checked: index === root.selected
                 topInset: root.inset
                 bottomInset: root.inset
-                focusPolicy: root.inTabOrder && checked ? Qt.TabFocus : Qt.NoFocus
+                // What has the keyboard keeps its place until it has gone on.
+                focusPolicy: activeFocus || root.inTabOrder && checked ? Qt.TabFocus : Qt.NoFocus
                 Accessible.name: text
                 Accessible.checked: checked
                 Accessible.onPressAction: root.choose(index)
