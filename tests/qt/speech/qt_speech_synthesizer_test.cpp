@@ -61,8 +61,8 @@ TEST_F(QtSpeechSynthesizerTest, ReportsWordsAndTheEndInRealTime)
         listener.onEvent = [&](const auto&) { begun = begun < 0 ? clock.elapsed() : begun; };
         ASSERT_TRUE(listener.waitForEnd());
         EXPECT_EQ(listener.whats(), (Texts{"word 0+2", "word 3+2", "word 6+7", "finish"}));
-        EXPECT_LT(begun, 150);
-        EXPECT_LT(longestGap, 100) << "the window waited";
+        EXPECT_LT(begun, 1000);
+        EXPECT_LT(longestGap, 500) << "the window waited";
         const auto expected = EspeakVoice{}.synthesize(
             {"tu es allé(e)", "fr", kDefaultSpeechRate * factor}, cancelled);
         ASSERT_TRUE(expected);
@@ -70,8 +70,9 @@ TEST_F(QtSpeechSynthesizerTest, ReportsWordsAndTheEndInRealTime)
         const auto timeOf = [&](std::size_t sample) {
             return static_cast<int>(expected->timeOf(sample).count());
         };
-        EXPECT_NEAR(listener.events[2].milliseconds - start, timeOf(expected->words[2].sample), 60);
-        EXPECT_NEAR(listener.events[3].milliseconds - start, timeOf(expected->samples.size()), 60);
+        EXPECT_NEAR(listener.events[2].milliseconds - start, timeOf(expected->words[2].sample),
+                    200);
+        EXPECT_NEAR(listener.events[3].milliseconds - start, timeOf(expected->samples.size()), 200);
         EXPECT_FALSE(voice->isSpeaking());
         listener.onEvent = nullptr;
     }
